@@ -1,0 +1,218 @@
+// The stand-in host: strings, objects and classes as the real host offers them to a plug-in, with
+// a ledger that knows every reference. One host lives in a process at a time.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "interface/host_interface.hpp"
+
+namespace standin {
+
+using host_interface::HostTextEncoding;
+using host_interface::Object;
+using host_interface::Routine;
+using host_interface::String;
+
+/// The release number of the host that is stood in for when nothing else is asked for.
+inline constexpr double CurrentHostVersion = 2023.04;
+
+/// What kind of host to be. The defaults are a current host in the development environment.
+struct HostOptions {
+    /// What "REALGetRBVersion" answers; without a value the host does not offer that function.
+    std::optional<double> version = CurrentHostVersion;
+    /// Names for which the resolver answers null, and declarations that
+    /// "REALLoadGlobalMethod" does not know.
+    std::set<std::string, std::less<>> missing;
+    /// What "REALinRuntime" answers.
+    bool builtApplication = false;
+    /// Whether "PluginNewInstance" runs the class's parameterless constructor.
+    bool newInstanceRunsConstructor = false;
+    /// Whether the byte after a string's text is something else than NUL.
+    bool unterminatedStrings = false;
+    /// Whether plug-in routines are called with a stack that is aligned to 4 bytes only.
+    bool misalignedStack = false;
+    /// Whether plug-in routines are called with an x87 control word of single precision and
+    /// rounding toward zero.
+    bool changedControlWord = false;
+};
+
+/// What can be made to fail: the n-th allocation from now (1 is the next), once or from then on.
+enum class Allocation { String, Object };
+
+/// How the words that a plug-in routine leaves in the registers are to be read.
+enum class ReturnKind { None, Word, TwoWords, Single, Double };
+
+/// What a plug-in routine returned: EAX and EDX, or ST(0).
+struct ReturnValue {
+    std::uint32_t low = 0;
+    std::uint32_t high = 0;
+    double real = 0.0;
+};
+
+/// One registered property, as the host read it from the plug-in's table.
+struct PropertyInfo {
+    std::string name;
+    std::string type;
+    std::uint32_t flags = 0;
+    Routine getter = nullptr;
+    Routine setter = nullptr;
+    std::int32_t parameter = 0;
+    std::vector<std::pair<std::string, std::string>> attributes;
+};
+
+/// One registered method, as the host read it from the plug-in's table.
+struct MethodInfo {
+    std::string declaration;
+    std::uint32_t flags = 0;
+    Routine function = nullptr;
+    Routine setter = nullptr;
+    std::vector<std::pair<std::string, std::string>> attributes;
+};
+
+/// One class the host knows: its own (RuntimeException and its kin) or a plug-in's.
+struct ClassInfo {
+    std::string name;
+    const ClassInfo* super = nullptr;
+    /// The plug-in's record; null for a class of the host's own.
+    host_interface::ClassDefinition* record = nullptr;
+    std::uint32_t version = 0;
+    std::uint32_t flags = 0;
+    std::uint32_t dataSize = 0;
+    std::uint32_t dataOffset = 0;
+    Routine destructor = nullptr;
+    std::vector<PropertyInfo> properties;
+    std::vector<MethodInfo> methods;
+    std::vector<PropertyInfo> sharedProperties;
+    std::vector<MethodInfo> sharedMethods;
+
+    /// Whether this class is `other` or descends from it.
+    bool IsA(const ClassInfo& other) const;
+};
+
+/// Numbers of the ledger, for `--ledger` and for tests.
+struct LedgerCounts {
+    std::uint64_t stringsMade = 0;
+    std::uint64_t stringsAlive = 0;
+    std::uint64_t objectsMade = 0;
+    std::uint64_t objectsAlive = 0;
+    std::uint64_t stringDataHeld = 0;
+};
+
+/// The host. Made before a plug-in is loaded, destroyed after it was unloaded.
+/// Every member that answers a handle gives one reference, which the caller releases.
+class Host {
+public:
+    explicit Host(HostOptions options = {});
+    ~Host();
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    /// The host of this process; there must be one.
+    static Host& Current();
+
+    const HostOptions& options() const;
+
+    /// The lookup handed to a plug-in's entry.
+    static void* Resolve(const char* name);
+    /// How often each name was asked of the resolver.
+    const std::map<std::string, int, std::less<>>& lookups() const;
+    /// The version that the plug-in told with "RegisterPluginVersion", if it did.
+    std::optional<std::int32_t> pluginInterfaceVersion() const;
+
+    // Classes --------------------------------------------------------------------------------
+    /// The class of that name, letter case ignored; null when unknown.
+    const ClassInfo* FindClass(std::string_view name) const;
+    /// The classes that the plug-in registered, in the order of registration.
+    std::vector<const ClassInfo*> RegisteredClasses() const;
+
+    // Strings --------------------------------------------------------------------------------
+    /// A new string; empty text gives null, the legal empty string. Null also when an allocation
+    /// failure was asked for.
+    String MakeString(std::string_view bytes, HostTextEncoding encoding);
+    /// The bytes of a string as they are; a null handle is empty.
+    std::string Bytes(String text);
+    HostTextEncoding Encoding(String text);
+    /// A new string with the same text in another encoding; null for null and on failure.
+    String Convert(String text, HostTextEncoding encoding);
+    /// The text of a string as UTF-8 (a failed conversion answers the bytes as they are).
+    std::string Utf8(String text);
+    void Lock(String text);
+    void Unlock(String text);
+
+    // Objects --------------------------------------------------------------------------------
+    /// A new object with zero-filled instance data; no constructor runs. Null when an allocation
+    /// failure was asked for.
+    Object MakeObject(const ClassInfo& type);
+    const ClassInfo& ClassOf(Object object);
+    void Lock(Object object);
+    /// Drops a reference; the last one runs the destructors, from the class up to its ancestors.
+    void Unlock(Object object);
+    /// The address of the instance data of an object's class.
+    void* InstanceData(Object object);
+    /// Properties that the host itself keeps, on exceptions "Message" and "ErrorNumber".
+    std::string Message(Object exception);
+    void SetMessage(Object exception, std::string_view utf8);
+    std::int32_t ErrorNumber(Object exception);
+    void SetErrorNumber(Object exception, std::int32_t number);
+
+    // Calls ----------------------------------------------------------------------------------
+    /// Calls a routine of the plug-in with these argument words, in the way `options()` tell.
+    ReturnValue Call(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind);
+    /// Takes over the exception that was raised since the last call of this, if any.
+    Object TakeException();
+
+    // Strictness -----------------------------------------------------------------------------
+    void FailAllocation(Allocation kind, int n, bool persistent);
+    void StopFailing();
+    LedgerCounts Counts() const;
+    /// What went wrong so far: over-release, use after free, double dispose, unknown handles.
+    std::vector<std::string> Violations() const;
+    /// The violations, and everything that is still alive, one line each with what it is.
+    std::vector<std::string> Leaks() const;
+    /// Forgets what was recorded so far; things alive now do not count as leaks later.
+    void ResetLedger();
+
+    // Debug log ------------------------------------------------------------------------------
+    /// Gets each debug-log line, as a debugger would see it. Without a sink lines are kept for
+    /// `TakeDebugLog`.
+    void SetDebugSink(std::function<void(std::string_view)> sink);
+    std::vector<std::string> TakeDebugLog();
+
+    struct State;
+    State& state();
+
+private:
+    std::unique_ptr<State> state_;
+};
+
+/// A plug-in library that is loaded: the DLL under Windows, the shared object under Linux.
+/// Needs a living `Host`. Unloads with its destruction.
+class PluginLibrary {
+public:
+    /// Loads the file and calls its entry, "REALPluginMain", with the host's resolver (or with
+    /// null when `withResolver` is false). Throws std::runtime_error with a clear message when the
+    /// file cannot be loaded or has no such entry.
+    explicit PluginLibrary(const std::string& path, bool withResolver = true);
+    ~PluginLibrary();
+    PluginLibrary(const PluginLibrary&) = delete;
+    PluginLibrary& operator=(const PluginLibrary&) = delete;
+
+    /// Calls the entry again, as no host is expected to.
+    void CallEntry(host_interface::Resolver resolver);
+
+private:
+    void* handle_ = nullptr;
+    void (*entry_)(host_interface::Resolver) = nullptr;
+};
+
+}  // namespace standin
