@@ -1,0 +1,54 @@
+# project_options: the language level, the warnings and the code generation that every target of
+# the project shares.
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(project_options INTERFACE)
+target_compile_features(project_options INTERFACE cxx_std_20)
+target_include_directories(project_options INTERFACE "${PROJECT_SOURCE_DIR}")
+
+target_compile_options(project_options INTERFACE
+  -Wall
+  -Wextra
+  -Wpedantic
+  -Wshadow
+  -Wconversion
+  -Wold-style-cast
+  -Wnon-virtual-dtor
+  -Woverloaded-virtual
+  -Wundef
+  -Wformat=2
+  $<$<BOOL:${BIGNUMBERVQZ_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# The same commit gives the same bytes wherever it is built: no path of the machine gets in.
+target_compile_options(project_options INTERFACE
+  "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
+  "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build")
+
+# A 32-bit host promises a stack aligned to 4 bytes only, and an x87 control word of any kind: each
+# function realigns its stack, and floating point is computed in SSE registers.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_options(project_options INTERFACE -mstackrealign -msse2 -mfpmath=sse)
+endif()
+
+if(BIGNUMBERVQZ_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_compile_options(project_options INTERFACE ${sanitizers} -fno-omit-frame-pointer -g1 -O1)
+  target_link_options(project_options INTERFACE ${sanitizers})
+endif()
+
+if(BIGNUMBERVQZ_COVERAGE)
+  target_compile_options(project_options INTERFACE --coverage -O0)
+  target_link_options(project_options INTERFACE --coverage)
+endif()
+
+# A program or library that carries its compiler runtimes with it. The sanitizers need the shared
+# ones, whose functions they intercept.
+add_library(self_contained INTERFACE)
+if(WIN32)
+  target_link_options(self_contained INTERFACE -static -static-libgcc -static-libstdc++)
+elseif(NOT BIGNUMBERVQZ_SANITIZE)
+  target_link_options(self_contained INTERFACE -static-libgcc -static-libstdc++)
+endif()

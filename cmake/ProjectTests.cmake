@@ -1,0 +1,47 @@
+# How tests are declared. Every test's name begins with the preset and the kind of test, such as
+# windows-x86/unit/number_tests, so that one run over all presets can be filtered by name.
+
+set(BIGNUMBERVQZ_TEST_PREFIX "" CACHE STRING "What the name of every test begins with")
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+# add_project_test(NAME kind/name COMMAND word...)
+#
+# One test, run in the source folder.
+function(add_project_test)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;TIMEOUT" "COMMAND")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 300)
+  endif()
+  string(REGEX REPLACE "^/" "" name "${BIGNUMBERVQZ_TEST_PREFIX}/${arg_NAME}")
+  add_test(NAME "${name}" COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+  set_tests_properties("${name}" PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
+
+# add_unit_tests(target SOURCES file... [LIBRARIES target...])
+#
+# A doctest program and the test that runs it. The framework's main function is added.
+function(add_unit_tests target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  add_executable(${target} ${arg_SOURCES})
+  target_link_libraries(${target}
+    PRIVATE ${arg_LIBRARIES} unit_test_main doctest_headers project_options self_contained)
+  add_project_test(NAME unit/${target} COMMAND ${target})
+endfunction()
+
+# The words with which a test starts the stand-in host: under Wine where that is needed.
+set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
+  --library "$<TARGET_FILE:BigNumberVQZ>")
+
+# add_program_tests(folder)
+#
+# One test for each program of the folder that has its expected output beside it;
+# tests/run_program.py says which files count.
+function(add_program_tests folder)
+  file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script")
+  foreach(program IN LISTS programs)
+    cmake_path(GET program STEM LAST_ONLY stem)
+    add_project_test(NAME "${folder}/${stem}"
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" "${program}"
+        -- ${standin_command})
+  endforeach()
+endfunction()
