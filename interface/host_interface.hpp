@@ -10,45 +10,6 @@
 
 namespace host_interface {
 
-/// A routine whose real type depends on the declaration it stands beside.
-using Routine = void (*)();
-
-/// The part of a host string that a plug-in may read without a call. The text begins one byte
-/// after `storage`, holds `length` bytes, and is not promised to be followed by a NUL.
-struct StringRecord {
-    void* hostWord0;
-    const char* storage;
-    void* hostWord2;
-    std::int32_t length;
-};
-
-/// A handle of a reference-counted host string; null is the legal empty string.
-using String = StringRecord*;
-
-struct ObjectRecord;
-/// A handle of a reference-counted host object (Variants and MemoryBlocks included); null is Nil.
-using Object = ObjectRecord*;
-
-struct ClassReferenceRecord;
-/// The host's reference of a class, as "pluginObjectType" answers it. Not counted.
-using ClassReference = ClassReferenceRecord*;
-
-/// A Boolean in a 4-byte slot of which only the low byte counts when a plug-in reads it.
-using BooleanWord = std::uint32_t;
-
-/// A signed amount times 10,000.
-using Currency = std::int64_t;
-
-/// The bytes of a host string in a requested encoding, filled by "PluginGetStringData", given back
-/// exactly once with "PluginDisposeStringData" and never copied.
-struct StringData {
-    const char* data;
-    std::size_t length;
-    std::uint32_t encoding;
-    void* hostPointer;
-    std::uint32_t hostWord;
-};
-
 /// Text-encoding codes: the base encoding in the low 16 bits, the format in the top 6.
 enum class HostTextEncoding : std::uint32_t {
     MacRoman = 0x00000000,
@@ -89,6 +50,45 @@ enum class VariantTypeCode : std::int32_t {
     Text = 37,
     DateTime = 38,
     ArrayBit = 4096,
+};
+
+/// A routine whose real type depends on the declaration it stands beside.
+using Routine = void (*)();
+
+/// The part of a host string that a plug-in may read without a call. The text begins one byte
+/// after `storage`, holds `length` bytes, and is not promised to be followed by a NUL.
+struct StringRecord {
+    void* hostWord0;
+    const char* storage;
+    void* hostWord2;
+    std::int32_t length;
+};
+
+/// A handle of a reference-counted host string; null is the legal empty string.
+using String = StringRecord*;
+
+struct ObjectRecord;
+/// A handle of a reference-counted host object (Variants and MemoryBlocks included); null is Nil.
+using Object = ObjectRecord*;
+
+struct ClassReferenceRecord;
+/// The host's reference of a class, as "pluginObjectType" answers it. Not counted.
+using ClassReference = ClassReferenceRecord*;
+
+/// A Boolean in a 4-byte slot of which only the low byte counts when a plug-in reads it.
+using BooleanWord = std::uint32_t;
+
+/// A signed amount times 10,000.
+using Currency = std::int64_t;
+
+/// The bytes of a host string in a requested encoding, filled by "PluginGetStringData", given back
+/// exactly once with "PluginDisposeStringData" and never copied.
+struct StringData {
+    const char* data;
+    std::size_t length;
+    std::uint32_t encoding;
+    void* hostPointer;
+    std::uint32_t hostWord;
 };
 
 /// Flag bits of classes, methods and properties.

@@ -1,0 +1,51 @@
+// Owners of one reference of a host string or object.
+#pragma once
+
+#include <utility>
+
+#include "plugin/host_functions.hpp"
+
+namespace vqz {
+
+/// Owns one reference of a host handle and drops it at the end. Not copyable.
+template <typename Handle, auto& LockFunction, auto& UnlockFunction>
+class HostReference {
+public:
+    HostReference() = default;
+    /// Takes over the one reference that came with `handle`; null owns nothing.
+    explicit HostReference(Handle handle) noexcept : handle_(handle) {}
+    HostReference(HostReference&& other) noexcept : handle_(other.Release()) {}
+    HostReference& operator=(HostReference&& other) noexcept {
+        std::swap(handle_, other.handle_);
+        return *this;
+    }
+    HostReference(const HostReference&) = delete;
+    HostReference& operator=(const HostReference&) = delete;
+    ~HostReference() {
+        if (handle_ != nullptr) {
+            UnlockFunction(handle_);
+        }
+    }
+
+    /// Adds a reference of its own to a handle that belongs to somebody else.
+    static HostReference Share(Handle handle) {
+        if (handle != nullptr) {
+            LockFunction(handle);
+        }
+        return HostReference(handle);
+    }
+
+    Handle Get() const noexcept { return handle_; }
+    explicit operator bool() const noexcept { return handle_ != nullptr; }
+
+    /// Hands the reference to the caller.
+    [[nodiscard]] Handle Release() noexcept { return std::exchange(handle_, nullptr); }
+
+private:
+    Handle handle_ = nullptr;
+};
+
+using StringReference = HostReference<host_interface::String, REALLockString, REALUnlockString>;
+using ObjectReference = HostReference<host_interface::Object, REALLockObject, REALUnlockObject>;
+
+}  // namespace vqz

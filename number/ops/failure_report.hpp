@@ -1,0 +1,59 @@
+// How a failed number operation tells which numbers it failed with.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+#include "host/debug_log.hpp"
+#include "host/exceptions.hpp"
+#include "host/strings.hpp"
+#include "number/number_object.hpp"
+#include "plugin/host_functions.hpp"
+
+namespace vqz {
+
+/// A number's text as messages show it: all digits in base 10, or "nil" for a missing one.
+template <typename Value>
+std::string ReportText(const Value* value) {
+    if (value == nullptr) {
+        return "nil";
+    }
+    std::string text;
+    value->ToString(text, ttmath::Conv());
+    return text;
+}
+
+/// Raises `BigNumberErrorExceptionVQZ` with the pieces joined in order.
+inline void RaiseNumberError(std::initializer_list<const char*> pieces) {
+    StringReference message;
+    for (const char* piece : pieces) {
+        const StringReference next = CString2RB(piece, HostTextEncoding::Ascii);
+        message = StringReference(RuntimeAddString(message.Get(), next.Get()));
+    }
+    RaiseHostExceptionWithString(NumberErrorClass, message.Get());
+}
+
+/// "NAME operation failed with number A."
+template <typename Value>
+void RaiseOverflowException(const char* operationName, Object number) {
+    if (DebugEnabled) {
+        LogMessage("RaiseOverflowException");
+        LogMessage("RaiseOverflowException");
+    }
+    const std::string text = ReportText(FindNumber<Value>(number));
+    RaiseNumberError({operationName, " operation failed with number ", text.c_str(), "."});
+}
+
+/// "NAME operation failed with numbers A and B."; a null value is a missing number.
+template <typename Value>
+void RaiseOverflowException(const char* operationName, const Value* first, const Value* second) {
+    if (DebugEnabled) {
+        LogMessage("RaiseOverflowException");
+    }
+    const std::string firstText = ReportText(first);
+    const std::string secondText = ReportText(second);
+    RaiseNumberError({operationName, " operation failed with numbers ", firstText.c_str(), " and ",
+                      secondText.c_str(), "."});
+}
+
+}  // namespace vqz

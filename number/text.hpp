@@ -1,0 +1,175 @@
+// Numbers to host text and back. Each function that answers a routine takes the debug-log name and
+// the name that a failure is reported under.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/exceptions.hpp"
+#include "host/rb_text.hpp"
+#include "host/strings.hpp"
+#include "host/terminated_text.hpp"
+#include "number/number_object.hpp"
+#include "number/ops/failure_report.hpp"
+#include "number/routine.hpp"
+
+namespace vqz {
+
+/// What a number is written with; ttmath's defaults are all digits in base 10.
+using TextFormat = ttmath::Conv;
+
+/// ttmath's defaults in another base. A base outside of 2 to 16 makes the formatting fail.
+inline TextFormat FormatWithBase(Integer base) {
+    TextFormat format;
+    format.base = static_cast<ttmath::uint>(base);
+    return format;
+}
+
+/// The decimal separator: the first byte of `comma`, or "." when there is none.
+inline char DecimalSeparator(String comma) {
+    constexpr char Default = '.';
+    rbText text(comma);
+    const char* bytes = text.Utf8Text();
+    return text.Utf8Length() > 0 && *bytes != '\0' ? *bytes : Default;
+}
+
+/// The number's text as a host string that the caller owns; null after a failure was raised.
+template <typename Value>
+String FormatNumber(Object self, const TextFormat& format, const char* failureName) {
+    std::string text;
+    if (ReadNumber<Value>(self).ToString(text, format) != 0) {
+        RaiseOverflowException<Value>(failureName, self);
+        return nullptr;
+    }
+    return REALBuildUnicodeString(text.data(), static_cast<std::int64_t>(text.size()),
+                                  HostTextEncoding::Utf8)
+        .Release();
+}
+
+/// Getter of the property "StringValue"; "Operator_Convert as String" is the same routine's body.
+template <typename Value, FixedString LogName, FixedString FailureName>
+String TextOf(Object self) {
+    return MethodBoundaryGuard([&] {
+        LogEntry<LogName>();
+        return FormatNumber<Value>(self, TextFormat(), FailureName.text);
+    });
+}
+
+/// The getter form of `TextOf`.
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine GetText() {
+    return AsRoutine(
+        [](Object self, Integer) { return TextOf<Value, LogName, FailureName>(self); });
+}
+
+/// The conversion operator form of `TextOf`.
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine ConvertToText() {
+    return AsRoutine([](Object self) { return TextOf<Value, LogName, FailureName>(self); });
+}
+
+/// Getter of "StringValue(Base)".
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine GetTextInBase() {
+    return AsRoutine([](Object self, Integer base) {
+        return MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            return FormatNumber<Value>(self, FormatWithBase(base), FailureName.text);
+        });
+    });
+}
+
+/// "GetStringValue" with all its options.
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine GetTextFormatted() {
+    return AsRoutine([](Object self, Integer base, BooleanWord scientific, Integer scientificFrom,
+                        Integer round, BooleanWord trimZeros, String comma) {
+        return MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            TextFormat format = FormatWithBase(base);
+            format.scient = IsTrue(scientific);
+            format.scient_from = scientificFrom;
+            format.round = round;
+            format.trim_zeroes = IsTrue(trimZeros);
+            // ttmath narrows the separator to a char again: the sign extension is harmless.
+            format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
+            return FormatNumber<Value>(self, format, FailureName.text);
+        });
+    });
+}
+
+/// Parses text into the object's value and reports a failure with it. The value is replaced by
+/// whatever was read, also after a failure.
+template <typename Value, FixedString FailureName>
+void ParseInto(Object self, String text, Integer base) {
+    Value value = NanValue<Value>();
+    const TerminatedText source(text);
+    if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
+        RaiseOverflowException<Value>(FailureName.text, self);
+    }
+    StoreNumberValue(self, value);
+}
+
+/// "Constructor(value as String)".
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine ConstructFromText() {
+    return AsRoutine([](Object self, String text) {
+        MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            ParseInto<Value, FailureName>(self, text, 10);
+        });
+    });
+}
+
+/// Setter of the property "StringValue".
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine SetText() {
+    return AsRoutine([](Object self, Integer, String text) {
+        MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            ParseInto<Value, FailureName>(self, text, 10);
+        });
+    });
+}
+
+/// Setter of "StringValue(Base)".
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine SetTextInBase() {
+    return AsRoutine([](Object self, Integer base, String text) {
+        MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            ParseInto<Value, FailureName>(self, text, base);
+        });
+    });
+}
+
+/// "SetStringValue": parses, and tells what was left of the text and whether digits were read.
+/// `text` is held from the start, so that one variable may be both it and `afterText`.
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine SetTextAndTellRest() {
+    return AsRoutine([](Object self, String text, Integer base, String* afterText,
+                        std::uint8_t* valueRead) {
+        MethodBoundaryGuard([&] {
+            LogEntry<LogName>();
+            const StringReference held = StringReference::Share(text);
+            const StringReference previous(std::exchange(*afterText, nullptr));
+            *valueRead = 0;
+
+            Value value = NanValue<Value>();
+            const TerminatedText source(text);
+            const char* after = source.begin();
+            bool digitsRead = false;
+            const bool failed = value.FromString(source.begin(), static_cast<ttmath::uint>(base),
+                                                 &after, &digitsRead) != 0;
+            *valueRead = digitsRead ? 1 : 0;
+            *afterText = REALBuildUnicodeString(after, source.end() - after, HostTextEncoding::Utf8)
+                             .Release();
+            if (failed) {
+                RaiseOverflowException<Value>(FailureName.text, self);
+            }
+            StoreNumberValue(self, value);
+        });
+    });
+}
+
+}  // namespace vqz

@@ -1,0 +1,46 @@
+// What the plug-in asks of the operating system and the language runtime, and nothing else.
+// platform_windows.cpp and platform_linux.cpp are the only files that know the difference.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(_WIN32) && !defined(_WIN64)
+/// Calling convention of the callback that the system's loader calls.
+#define VQZ_LOADER_CALL __stdcall
+#else
+#define VQZ_LOADER_CALL
+#endif
+
+#if defined(_WIN32)
+/// Marks the one function that the library offers by name.
+#define VQZ_EXPORT __declspec(dllexport)
+#else
+#define VQZ_EXPORT __attribute__((visibility("default")))
+#endif
+
+namespace vqz::platform {
+
+/// A zero-filled buffer of `byteCount` bytes, or null. Freed with `FreeBuffer`.
+void* AllocateZeroed(std::size_t byteCount) noexcept;
+
+/// Frees a buffer of `AllocateZeroed`; null is allowed.
+void FreeBuffer(void* buffer) noexcept;
+
+/// Hands one line to the debugger. Without a debugger facility the line goes to standard error;
+/// no line end is added.
+void WriteDebuggerLine(const char* line) noexcept;
+
+/// The system's random source. False when it reports a failure; `value` is then unspecified.
+bool SystemRandom(std::uint32_t& value) noexcept;
+
+/// Seeds the language runtime's pseudo-random generator with the calendar time in seconds.
+void SeedRuntimeRandom() noexcept;
+
+/// Whether two texts are equal without regard to ASCII letter case.
+bool EqualIgnoringCase(const char* left, const char* right) noexcept;
+
+/// Tells the loader not to call the library's load callback for threads.
+void DisableThreadCallbacks(void* module) noexcept;
+
+}  // namespace vqz::platform

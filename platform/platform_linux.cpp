@@ -1,0 +1,51 @@
+#if !defined(_WIN32)
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+#include <strings.h>
+#include <sys/random.h>
+
+#include "platform/platform.hpp"
+
+/// A process that offers this function acts as the debugger; in any other it is absent.
+extern "C" __attribute__((weak)) void OutputDebugStringA(const char* line);
+
+namespace vqz::platform {
+
+void* AllocateZeroed(std::size_t byteCount) noexcept {
+    return std::calloc(1, byteCount);
+}
+
+void FreeBuffer(void* buffer) noexcept {
+    std::free(buffer);
+}
+
+void WriteDebuggerLine(const char* line) noexcept {
+    if (OutputDebugStringA != nullptr) {
+        OutputDebugStringA(line);
+    } else {
+        std::fputs(line, stderr);
+    }
+}
+
+bool SystemRandom(std::uint32_t& value) noexcept {
+    return getrandom(&value, sizeof value, 0) == static_cast<ssize_t>(sizeof value);
+}
+
+void SeedRuntimeRandom() noexcept {
+    std::srand(static_cast<unsigned int>(std::time(nullptr)));
+}
+
+bool EqualIgnoringCase(const char* left, const char* right) noexcept {
+    return strcasecmp(left, right) == 0;
+}
+
+void DisableThreadCallbacks(void*) noexcept {
+    // Shared objects are not told of threads in the first place.
+}
+
+}  // namespace vqz::platform
+
+#endif

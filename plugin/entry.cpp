@@ -1,0 +1,107 @@
+#include "plugin/entry.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include "number/number_value.hpp"
+#include "plugin/class_tables.hpp"
+#include "plugin/host_functions.hpp"
+#include "plugin/registration.hpp"
+#include "plugin/startup_globals.hpp"
+
+namespace vqz {
+namespace {
+
+/// Hosts from here on know the type UInteger.
+constexpr double FirstVersionWithUInteger = 2015.0;
+
+/// A text search of the library file finds the version by this literal. It is never read, so the
+/// compiler is told not to drop it.
+const char* volatile VersionMarker = nullptr;
+
+template <typename Function>
+Function* LookUp(const char* name) {
+    return reinterpret_cast<Function*>(HostResolver(name));
+}
+
+bool AsksForDebugLog(const char* setting) {
+    constexpr std::array Words = {"1", "true", "yes"};
+    return setting != nullptr && std::ranges::any_of(Words, [setting](const char* word) {
+               return platform::EqualIgnoringCase(setting, word);
+           });
+}
+
+/// Hides the last shared method, whose declaration uses UInteger.
+template <typename Value>
+void HideUIntegerMethod() {
+    --NumberClass<Value>::Record.sharedMethodCount;
+}
+
+}  // namespace
+
+std::uint32_t InterfaceVersionOf(double hostVersion) {
+    struct Step {
+        double firstHostVersion;
+        std::uint32_t interfaceVersion;
+    };
+    constexpr Step Steps[] = {{2013.04, 13}, {2013.03, 12}, {2013.0, 11}, {2012.0, 10}};
+    constexpr std::uint32_t Oldest = 9;
+
+    for (const Step& step : Steps) {
+        if (hostVersion >= step.firstHostVersion) {
+            return step.interfaceVersion;
+        }
+    }
+    return Oldest;
+}
+
+void InitPlugin() {
+    VersionMarker = "$$ Plugin version: 21.3 (2021) $$";
+    if (AsksForDebugLog(std::getenv("VQZDEBUG"))) {
+        DebugEnabled = true;
+    }
+}
+
+void PluginStartup() {
+    InitPlugin();
+    if (HostVersion < FirstVersionWithUInteger) {
+        HideUIntegerMethod<BigNumberValue>();
+        HideUIntegerMethod<BiggerNumberValue>();
+    }
+    if (REALinRuntime()) {
+        platform::SeedRuntimeRandom();
+    }
+    RegisterClassDefinition(NumberClass<BigNumberValue>::Record);
+    RegisterClassDefinition(NumberClass<BiggerNumberValue>::Record);
+    RegisterClassDefinition(NumberErrorRecord);
+}
+
+}  // namespace vqz
+
+void REALPluginMain(host_interface::Resolver resolver) {
+    using namespace vqz;
+
+    HostResolver = resolver;
+    if (resolver != nullptr) {
+        if (auto* hostVersion = LookUp<functions::REALGetRBVersion>("REALGetRBVersion")) {
+            HostVersion = hostVersion();
+        }
+    }
+    PluginInterfaceVersion = InterfaceVersionOf(HostVersion);
+    if (resolver == nullptr) {
+        return;
+    }
+    // Every host that passes a resolver has this function.
+    LookUp<functions::RegisterPluginVersion>("RegisterPluginVersion")(
+        static_cast<std::int32_t>(PluginInterfaceVersion));
+    PluginStartup();
+}
+
+int VQZ_LOADER_CALL DllMain(void* module, std::uint32_t reason, void*) {
+    constexpr std::uint32_t ProcessAttach = 1;
+    if (reason == ProcessAttach) {
+        vqz::platform::DisableThreadCallbacks(module);
+    }
+    return 1;
+}

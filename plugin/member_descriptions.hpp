@@ -1,0 +1,319 @@
+// Every member of the number classes: its declaration as the host parses it, what it does, and
+// the routine behind it with its debug-log name, the name of its failure report and the call of
+// ttmath. One description serves both classes; '$' stands for the class's name.
+//
+// The order of the rows is the order of the tables that the host gets. A row without a routine
+// declares a member that is not built yet.
+#pragma once
+
+#include <array>
+
+#include "interface/host_interface.hpp"
+#include "number/lifecycle.hpp"
+#include "number/number_value.hpp"
+#include "number/ops/arithmetic.hpp"
+#include "number/routine.hpp"
+#include "number/text.hpp"
+
+namespace vqz {
+
+/// A property: name and type as the host reads them. Without a setter it is read-only.
+struct PropertyDescription {
+    const char* name;
+    const char* type;
+    const char* documentation;
+    Routine getter = nullptr;
+    Routine setter = nullptr;
+};
+
+/// A method. A setter makes it assignable. The host does not show a hidden one.
+struct MethodDescription {
+    const char* declaration;
+    const char* documentation;
+    Routine function = nullptr;
+    Routine setter = nullptr;
+    bool hidden = false;
+};
+
+/// A declaration with the class's name put in.
+template <typename Value, FixedString Pattern>
+inline constexpr const char* Declaration = Substituted<Pattern, NumberClass<Value>::Name>::Text;
+
+template <typename Value>
+auto NumberProperties() {
+    return std::array{
+        PropertyDescription{
+            "IsZero", "Boolean", "Whether the number is zero; also true of NaN and Nil.",
+            TestValue<Value, "IsZero">([](const auto& value) { return value.IsZero(); })},
+        PropertyDescription{
+            "IsNegative", "Boolean", "Whether the number is below zero.",
+            TestValue<Value, "IsSign">([](const auto& value) { return value.IsSign(); })},
+        PropertyDescription{
+            "IsNan", "Boolean", "Whether this is not a number; also true of Nil.",
+            TestValue<Value, "IsNan">([](const auto& value) { return value.IsNan(); })},
+        PropertyDescription{
+            "IsInteger", "Boolean", "Whether the number has no fraction.",
+            TestValue<Value, "IsInteger">([](const auto& value) { return value.IsInteger(); })},
+        PropertyDescription{"IntegerValue", "Integer", "The number as an Integer, fraction cut."},
+        PropertyDescription{"Int64Value", "Int64", "The number as an Int64, fraction cut."},
+        PropertyDescription{"UInt64Value", "UInt64", "The number as a UInt64, fraction cut."},
+        PropertyDescription{"DoubleValue", "Double", "The number as the nearest Double."},
+        PropertyDescription{"StringValue", "String",
+                            "The number as text in base 10, with all its digits.",
+                            GetText<Value, "GetStringValue", "StringValue">(),
+                            SetText<Value, "SetStringValue", "StringValue">()},
+        PropertyDescription{"CurrencyValue", "Currency",
+                            "The number as a Currency, rounded to four decimal places."},
+        PropertyDescription{
+            "VariantValue", "Variant",
+            "The number as a Variant: an Integer or Int64 when it is one, else text."},
+        PropertyDescription{"DataMantissa", "MemoryBlock",
+                            "The bytes of the mantissa, least significant first."},
+        PropertyDescription{"DataExponent", "MemoryBlock",
+                            "The bytes of the signed exponent, least significant first."},
+        PropertyDescription{"DataFlags", "Integer",
+                            "The flags: 128 negative, 64 not a number, 32 zero."},
+    };
+}
+
+/// The one shared property of both classes.
+inline auto NumberSharedProperties() {
+    return std::array{
+        PropertyDescription{"Debugging", "Boolean", "Whether the plug-in writes its debug log.",
+                            AsRoutine([]() -> BooleanWord { return AsBooleanWord(DebugEnabled); }),
+                            AsRoutine([](BooleanWord value) { DebugEnabled = IsTrue(value); })}};
+}
+
+template <typename Value>
+auto NumberMethods() {
+    const Routine constructFromText =
+        ConstructFromText<Value, "ConstructorString", "Constructor">();
+    // Operators on the right have the routine of their left form: the receiver stays the left
+    // operand.
+    const Routine operatorAdd = TwoNumbers<Value, "Operator_Add">(
+        [](auto& me, const auto& other) { return me.Add(other, true, true); });
+    const Routine operatorSubtract = TwoNumbers<Value, "Operator_Subtract">(
+        [](auto& me, const auto& other) { return me.Add(other, true, false); });
+    const Routine operatorMultiply = TwoNumbers<Value, "Operator_Multiply">(
+        [](auto& me, const auto& other) { return me.Mul(other, true); });
+    const Routine operatorDivide = TwoNumbers<Value, "Operator_Divide">(
+        [](auto& me, const auto& other) { return me.Div(other, true); });
+
+    return std::array{
+        MethodDescription{Declaration<Value, "Ceil as $">, "The next integer at or above."},
+        MethodDescription{Declaration<Value, "SkipFraction as $">,
+                          "The integer part, cut toward zero."},
+        MethodDescription{Declaration<Value, "Frac as $">, "The fraction, with the number's sign."},
+        MethodDescription{Declaration<Value, "Floor as $">, "The next integer at or below."},
+        MethodDescription{
+            "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as "
+            "Integer = 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = "
+            "\".\") as String",
+            "The number as text in a base of 2 to 16, with the options of the format.",
+            GetTextFormatted<Value, "GetStringValueExt", "DoubleValue">()},
+        MethodDescription{
+            "SetStringValue(Text As String, Base as Integer, byref AfterText as String, Byref "
+            "ValueRead as boolean)",
+            "Reads the number from text in a base; tells the rest of the text and whether there "
+            "were digits.",
+            SetTextAndTellRest<Value, "SetStringValueExt", "SetStringValue">()},
+        MethodDescription{"StringValue(Base as Integer) as String",
+                          "The number as text in a base of 2 to 16; can be assigned to.",
+                          GetTextInBase<Value, "GetStringValueBase", "StringValue">(),
+                          SetTextInBase<Value, "SetStringValueBase", "StringValue">()},
+        MethodDescription{Declaration<Value, "Round as $">,
+                          "The nearest integer, halves away from zero."},
+        MethodDescription{Declaration<Value, "Equals(other as $) as Boolean">,
+                          "Whether two numbers are equal.",
+                          TestTwoNumbers<Value, "Equals">(
+                              [](const auto& me, const auto& other) { return me == other; })},
+        MethodDescription{Declaration<Value, "Sqrt as $">, "The square root."},
+        MethodDescription{Declaration<Value, "Pow(other as $) as $">,
+                          "The number to the power of the other one."},
+        MethodDescription{"Modulate2 as Integer", "The remainder of the division by 2."},
+        MethodDescription{Declaration<Value, "Modulate(other as $) as $">,
+                          "The remainder of the division, with the number's sign."},
+        MethodDescription{Declaration<Value, "Divide(other as $, round as boolean = true) as $">,
+                          "The quotient.",
+                          TwoNumbers<Value, "Div">([](auto& me, const auto& other, bool round) {
+                              return me.Div(other, round);
+                          })},
+        MethodDescription{Declaration<Value, "Multiply(other as $, round as boolean = true) as $">,
+                          "The product.",
+                          TwoNumbers<Value, "Mul">([](auto& me, const auto& other, bool round) {
+                              return me.Mul(other, round);
+                          })},
+        MethodDescription{Declaration<Value, "Multiply(value as Integer) as $">,
+                          "The product with an Integer."},
+        MethodDescription{Declaration<Value, "Multiply(value as UInt32) as $">,
+                          "The product with a UInt32."},
+        MethodDescription{Declaration<Value, "BitXOr(other as $) as $">,
+                          "The bitwise exclusive or of two integers that are not negative."},
+        MethodDescription{Declaration<Value, "BitOr(other as $) as $">,
+                          "The bitwise or of two integers that are not negative."},
+        MethodDescription{Declaration<Value, "BitAnd(other as $) as $">,
+                          "The bitwise and of two integers that are not negative."},
+        MethodDescription{Declaration<Value, "Subtract(other as $, round as boolean = true) as $">,
+                          "The difference.",
+                          TwoNumbers<Value, "Sub">([](auto& me, const auto& other, bool round) {
+                              return me.Add(other, round, false);
+                          })},
+        MethodDescription{Declaration<Value, "Add(other as $, round as boolean = true) as $">,
+                          "The sum.",
+                          TwoNumbers<Value, "Add">([](auto& me, const auto& other, bool round) {
+                              return me.Add(other, round, true);
+                          })},
+        MethodDescription{Declaration<Value, "Abs as $">, "The magnitude."},
+        MethodDescription{Declaration<Value, "Negate as $">,
+                          "The number with the opposite sign; zero stays zero.",
+                          OneNumber<Value, "ChangeSign">([](auto& me) { me.ChangeSign(); })},
+        MethodDescription{"Constructor", "Makes 0.", ConstructEmpty<Value, "ConstructorEmpty">()},
+        MethodDescription{"Constructor(value as String)",
+                          "Makes the number that a text in base 10 shows.", constructFromText},
+        MethodDescription{"Constructor(value as Int32)", "Makes the number of an Int32."},
+        MethodDescription{"Constructor(value as Int64)", "Makes the number of an Int64."},
+        MethodDescription{"Constructor(value as UInt32)", "Makes the number of a UInt32."},
+        MethodDescription{"Constructor(value as UInt64)", "Makes the number of a UInt64."},
+        MethodDescription{"Constructor(value as Double)", "Makes the exact number of a Double."},
+        MethodDescription{"Constructor(value as Single)", "Makes the exact number of a Single."},
+        MethodDescription{"Constructor(value as Currency)", "Makes the number of a Currency."},
+        MethodDescription{Declaration<Value, "Constructor(other as $)">,
+                          "Makes a copy; Nil gives NaN.",
+                          ConstructCopy<Value, "ConstructorCopy">()},
+        MethodDescription{"Operator_Convert(value as String)",
+                          "Makes the number that a text in base 10 shows.", constructFromText},
+        MethodDescription{"Operator_Convert as String",
+                          "The number as text in base 10, with all its digits.",
+                          ConvertToText<Value, "GetStringValue", "StringValue">()},
+        MethodDescription{Declaration<Value, "Operator_Add(other as $) as $">, "me + other.",
+                          operatorAdd},
+        MethodDescription{Declaration<Value, "Operator_AddRight(other as $) as $">, "me + other.",
+                          operatorAdd},
+        MethodDescription{Declaration<Value, "Operator_Subtract(other as $) as $">, "me - other.",
+                          operatorSubtract},
+        MethodDescription{Declaration<Value, "Operator_SubtractRight(other as $) as $">,
+                          "me - other: the operands are not swapped.", operatorSubtract},
+        MethodDescription{Declaration<Value, "Operator_Multiply(other as $) as $">, "me * other.",
+                          operatorMultiply},
+        MethodDescription{Declaration<Value, "Operator_MultiplyRight(other as $) as $">,
+                          "me * other.", operatorMultiply},
+        MethodDescription{Declaration<Value, "Operator_Divide(other as $) as $">, "me / other.",
+                          operatorDivide},
+        MethodDescription{Declaration<Value, "Operator_DivideRight(other as $) as $">,
+                          "me / other: the operands are not swapped.", operatorDivide},
+        MethodDescription{Declaration<Value, "Operator_IntegerDivide(other as $) as $">,
+                          "The integer part of me / other."},
+        MethodDescription{Declaration<Value, "Operator_IntegerDivideRight(other as $) as $">,
+                          "The integer part of me / other: the operands are not swapped."},
+        MethodDescription{Declaration<Value, "Operator_Modulo(other as $) as $">,
+                          "The remainder of me / other."},
+        MethodDescription{Declaration<Value, "Operator_ModuloRight(other as $) as $">,
+                          "The remainder of me / other: the operands are not swapped."},
+        MethodDescription{Declaration<Value, "Operator_Negate as $">, "-me; zero stays zero.",
+                          OneNumber<Value, "Operator_Negate">([](auto& me) { me.ChangeSign(); })},
+        MethodDescription{Declaration<Value, "Operator_Power(other as $) as $">, "me ^ other."},
+        MethodDescription{Declaration<Value, "Operator_PowerRight(other as $) as $">,
+                          "me ^ other: the operands are not swapped."},
+        MethodDescription{Declaration<Value, "Operator_Compare(other as $) as Integer">,
+                          "-1, 0 or 1 as me is less than, equal to or greater than other; NaN and "
+                          "Nil compare as 0.",
+                          CompareTwoNumbers<Value, "Operator_Compare">()},
+    };
+}
+
+template <typename Value>
+auto NumberSharedMethods() {
+    return std::array{
+        MethodDescription{.declaration = "LibTypeStr as String",
+                          .documentation = "The name of the arithmetic library's build.",
+                          .hidden = true},
+        MethodDescription{Declaration<Value, "NumberWithInteger(value as Integer) as $">,
+                          "The number of an Integer."},
+        MethodDescription{Declaration<Value, "NumberWithInt64(value as Int64) as $">,
+                          "The number of an Int64."},
+        MethodDescription{Declaration<Value, "NumberWithInt32(value as Int32) as $">,
+                          "The number of an Int32."},
+        MethodDescription{Declaration<Value, "NumberWithUInt64(value as UInt64) as $">,
+                          "The number of a UInt64."},
+        MethodDescription{Declaration<Value, "NumberWithUInt32(value as UInt32) as $">,
+                          "The number of a UInt32."},
+        MethodDescription{Declaration<Value, "NumberWithVariant(value as variant) as $">,
+                          "The number of what a Variant holds; a Double counts as a Single."},
+        MethodDescription{Declaration<Value, "NumberWithSingle(value as single) as $">,
+                          "The exact number of a Single."},
+        MethodDescription{Declaration<Value, "NumberWithDouble(value as double) as $">,
+                          "The exact number of a Double."},
+        MethodDescription{Declaration<Value, "NumberWithCurrency(value as Currency) as $">,
+                          "The number of a Currency."},
+        MethodDescription{Declaration<Value, "NumberWithString(value as String) as $">,
+                          "The number that a text in base 10 shows."},
+        MethodDescription{Declaration<Value, "Abs(value as $) as $">, "The magnitude."},
+        MethodDescription{Declaration<Value, "Sgn(value as $) as $">,
+                          "-1, 0 or 1 by the sign; NaN stays NaN."},
+        MethodDescription{Declaration<Value, "Root(value as $, index as $) as $">,
+                          "The root of the given index."},
+        MethodDescription{Declaration<Value, "DegToDeg(d as $, m as $, s as $) as $">,
+                          "Degrees, minutes and seconds as decimal degrees."},
+        MethodDescription{Declaration<Value, "DegToRad(d as $, m as $, s as $) as $">,
+                          "Degrees, minutes and seconds as radians."},
+        MethodDescription{Declaration<Value, "DegToGrad(d as $, m as $, s as $) as $">,
+                          "Degrees, minutes and seconds as grads."},
+        MethodDescription{Declaration<Value, "DegToGrad(value as $) as $">, "Degrees as grads."},
+        MethodDescription{Declaration<Value, "GradToDeg(value as $) as $">, "Grads as degrees."},
+        MethodDescription{Declaration<Value, "GradToRad(value as $) as $">, "Grads as radians."},
+        MethodDescription{Declaration<Value, "RadToGrad(value as $) as $">, "Radians as grads."},
+        MethodDescription{Declaration<Value, "DegToRad(value as $) as $">, "Degrees as radians."},
+        MethodDescription{Declaration<Value, "RadToDeg(value as $) as $">, "Radians as degrees."},
+        MethodDescription{Declaration<Value, "ACoth(value as $) as $">,
+                          "The inverse hyperbolic cotangent."},
+        MethodDescription{Declaration<Value, "ATanh(value as $) as $">,
+                          "The inverse hyperbolic tangent."},
+        MethodDescription{Declaration<Value, "ACosh(value as $) as $">,
+                          "The inverse hyperbolic cosine."},
+        MethodDescription{Declaration<Value, "ASinh(value as $) as $">,
+                          "The inverse hyperbolic sine."},
+        MethodDescription{Declaration<Value, "Coth(value as $) as $">, "The hyperbolic cotangent."},
+        MethodDescription{Declaration<Value, "Tanh(value as $) as $">, "The hyperbolic tangent."},
+        MethodDescription{Declaration<Value, "Cosh(value as $) as $">, "The hyperbolic cosine."},
+        MethodDescription{Declaration<Value, "Sinh(value as $) as $">, "The hyperbolic sine."},
+        MethodDescription{Declaration<Value, "ACot(value as $) as $">,
+                          "The inverse cotangent, in radians."},
+        MethodDescription{Declaration<Value, "ATan(value as $) as $">,
+                          "The inverse tangent, in radians."},
+        MethodDescription{Declaration<Value, "ACos(value as $) as $">,
+                          "The inverse cosine, in radians."},
+        MethodDescription{Declaration<Value, "ASin(value as $) as $">,
+                          "The inverse sine, in radians."},
+        MethodDescription{Declaration<Value, "Cot(value as $) as $">,
+                          "The cotangent of an angle in radians."},
+        MethodDescription{Declaration<Value, "Tan(value as $) as $">,
+                          "The tangent of an angle in radians."},
+        MethodDescription{Declaration<Value, "Cos(value as $) as $">,
+                          "The cosine of an angle in radians."},
+        MethodDescription{Declaration<Value, "Sin(value as $) as $">,
+                          "The sine of an angle in radians."},
+        MethodDescription{Declaration<Value, "Log(value as $, base as $) as $">,
+                          "The logarithm to a base."},
+        MethodDescription{Declaration<Value, "Ln(value as $) as $">, "The natural logarithm."},
+        MethodDescription{Declaration<Value, "Exp(value as $) as $">, "e to the power of value."},
+        MethodDescription{Declaration<Value, "Min as $">, "The most negative finite number."},
+        MethodDescription{Declaration<Value, "Max as $">, "The largest finite number."},
+        MethodDescription{Declaration<Value, "Zero as $">, "0."},
+        MethodDescription{Declaration<Value, "One as $">, "1."},
+        MethodDescription{Declaration<Value, "Nan as $">, "Not a number."},
+        MethodDescription{Declaration<Value, "Pi as $">, "The circle constant."},
+        MethodDescription{Declaration<Value, "HalfPi as $">, "Half of the circle constant."},
+        MethodDescription{Declaration<Value, "TwoPi as $">, "Twice the circle constant."},
+        MethodDescription{Declaration<Value, "E as $">, "The base of the natural logarithm."},
+        MethodDescription{Declaration<Value, "Ln2 as $">, "The natural logarithm of 2."},
+        MethodDescription{Declaration<Value, "Ln10 as $">, "The natural logarithm of 10."},
+        MethodDescription{Declaration<Value, "Rand as $">,
+                          "A positive number of random mantissa and random exponent: anywhere in "
+                          "the class's range, not in [0, 1)."},
+        // The last row: hosts without UInteger are told of one shared method less.
+        MethodDescription{Declaration<Value, "NumberWithUInteger(value as UInteger) as $">,
+                          "The number of a UInteger."},
+    };
+}
+
+}  // namespace vqz

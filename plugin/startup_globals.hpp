@@ -1,0 +1,24 @@
+// Process-wide state that start-up fills in.
+#pragma once
+
+#include <cstdint>
+
+#include "interface/host_interface.hpp"
+
+namespace vqz {
+
+/// The host's lookup of its functions by name. Set once by the entry, never cleared.
+inline constinit host_interface::Resolver HostResolver = nullptr;
+
+/// The host's release number, such as 2013.04; 0.0 when the host does not tell it.
+inline constinit double HostVersion = 0.0;
+
+/// The plug-in interface version derived from `HostVersion` (9 to 13). The initial value is only
+/// what an unregistered class record carries.
+inline constexpr std::uint32_t UnregisteredInterfaceVersion = 15;
+inline constinit std::uint32_t PluginInterfaceVersion = UnregisteredInterfaceVersion;
+
+/// The debug-log switch.
+inline constinit bool DebugEnabled = false;
+
+}  // namespace vqz
