@@ -12,7 +12,7 @@ find_path(TTMATH_INCLUDE_DIR ttmath/ttmath.h
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Ttmath
   REQUIRED_VARS TTMATH_INCLUDE_DIR
-  REASON_FAILURE_MESSAGE "scripts/setup fetches it; or set TTMATH_INCLUDE_DIR to a copy of yours.")
+  REASON_FAILURE_MESSAGE "scripts/setup fetches it, or set TTMATH_INCLUDE_DIR to a copy of yours.")
 
 if(Ttmath_FOUND AND NOT TARGET ttmath)
   add_library(ttmath INTERFACE)

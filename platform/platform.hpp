@@ -12,13 +12,6 @@
 #define VQZ_LOADER_CALL
 #endif
 
-#if defined(_WIN32)
-/// Marks the one function that the library offers by name.
-#define VQZ_EXPORT __declspec(dllexport)
-#else
-#define VQZ_EXPORT __attribute__((visibility("default")))
-#endif
-
 namespace vqz::platform {
 
 /// A zero-filled buffer of `byteCount` bytes, or null. Freed with `FreeBuffer`.

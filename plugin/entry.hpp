@@ -7,7 +7,7 @@
 #include "platform/platform.hpp"
 
 /// The entry that the host calls once, right after loading the library.
-extern "C" VQZ_EXPORT void REALPluginMain(host_interface::Resolver resolver);
+extern "C" void REALPluginMain(host_interface::Resolver resolver);
 
 /// The loader's callback: asks not to be told of threads, and always answers 1.
 extern "C" int VQZ_LOADER_CALL DllMain(void* module, std::uint32_t reason, void* reserved);
