@@ -45,3 +45,30 @@ function(add_program_tests folder)
         -- ${standin_command})
   endforeach()
 endfunction()
+
+# add_golden_tests(folder)
+#
+# For each kind of host, what the library registers there compared with the dump that was kept.
+function(add_golden_tests folder)
+  foreach(version IN ITEMS none 2011.99 2012.0 2014.99 2015.0 2020.02)
+    add_project_test(NAME golden/host-${version}
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/compare_dump.py"
+        "${PROJECT_SOURCE_DIR}/${folder}/host-${version}.txt"
+        ${standin_command} --dump --host-version ${version})
+  endforeach()
+endfunction()
+
+# add_library_tests()
+#
+# What tests/delivered_library.py checks of the built library from outside.
+function(add_library_tests)
+  foreach(check IN ITEMS exports imports format protections marker paths reproducible)
+    add_project_test(NAME library/${check}
+      TIMEOUT 1200
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/delivered_library.py"
+        ${check} "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}"
+        "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
+        "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"
+        "-DTTMATH_INCLUDE_DIR=${TTMATH_INCLUDE_DIR}")
+  endforeach()
+endfunction()

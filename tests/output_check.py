@@ -1,0 +1,49 @@
+"""Runs a command and compares what it prints with what it is expected to print."""
+
+import difflib
+import os
+import subprocess
+import sys
+
+ENCODING = {"encoding": "utf-8", "errors": "backslashreplace"}
+
+
+def run(command: list[str]) -> subprocess.CompletedProcess:
+    """Runs the command without input and keeps its output as bytes."""
+    environment = {name: value for name, value in os.environ.items() if name != "VQZDEBUG"}
+    return subprocess.run(
+        command, stdin=subprocess.DEVNULL, capture_output=True, env=environment, check=False
+    )
+
+
+def difference(expected: bytes, actual: bytes) -> str:
+    """The lines that differ, or an empty text when the bytes are the same."""
+    if expected == actual:
+        return ""
+    lines = [text.decode(**ENCODING).splitlines(keepends=True) for text in (expected, actual)]
+    shown = (ascii_ending(line) for line in difflib.unified_diff(*lines, "expected", "actual"))
+    return "\n".join(shown) or "the outputs differ in bytes that are no UTF-8"
+
+
+def ascii_ending(line: str) -> str:
+    """A line with its end made visible where it is not a plain line feed."""
+    return line[:-1] if line.endswith("\n") and not line.endswith("\r\n") else repr(line)
+
+
+def first_missing_line(expected: str, actual: str) -> str | None:
+    """The first expected line that no actual line contains after the one before it was found."""
+    remaining = iter(actual.splitlines())
+    for wanted in expected.splitlines():
+        if not any(wanted in line for line in remaining):
+            return wanted
+    return None
+
+
+def report(problems: list[str], result: subprocess.CompletedProcess) -> None:
+    """Ends the test: quietly, or with the problems and what the command said."""
+    if not problems:
+        return
+    print("\n\n".join(problems))
+    print(f"\nstatus {result.returncode}, standard error:")
+    print(result.stderr.decode(**ENCODING))
+    sys.exit(1)

@@ -1,0 +1,135 @@
+"""Checks the rules about which source file may know which other.
+
+usage: source_rules.py SOURCE_FOLDER
+
+The layers of the plug-in, from the lowest: a file includes files of its own layer and of lower ones.
+The stand-in host and the plug-in know the binary interface and nothing of each other.
+"""
+
+import pathlib
+import re
+import sys
+
+INTERFACE = "interface"
+PLATFORM = "platform"
+
+# Folder or file name prefix of each layer, lowest first. The longest match decides.
+LAYERS = [
+    [INTERFACE],
+    [PLATFORM],
+    ["plugin/host_functions", "plugin/startup_globals"],
+    ["host"],
+    ["number"],
+    ["plugin"],
+]
+PLUGIN = [prefix for layer in LAYERS[1:] for prefix in layer]
+STANDIN_LAYERS = [[INTERFACE], ["standin/runtime"], ["standin/language"], ["standin"]]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+PLATFORM_TEST = re.compile(r"^\s*#.*\b(_WIN32|__MINGW32__|__linux__|__unix__)\b")
+
+
+def is_within(name: str, prefix: str) -> bool:
+    return name.startswith(prefix) and not name[len(prefix) : len(prefix) + 1].isalnum()
+
+
+def layer_of(name: str, layers: list[list[str]]) -> int | None:
+    """The layer of a file, or None when it belongs to none of them."""
+    matches = [
+        (len(prefix), index)
+        for index, layer in enumerate(layers)
+        for prefix in layer
+        if is_within(name, prefix)
+    ]
+    return max(matches)[1] if matches else None
+
+
+class Sources:
+    """The C++ files of the project, by their names relative to its folder."""
+
+    def __init__(self, root: pathlib.Path):
+        self.lines = {}
+        for folder in sorted({prefix.split("/")[0] for prefix in [*PLUGIN, INTERFACE, "standin"]}):
+            for path in sorted((root / folder).rglob("*.[ch]pp")):
+                name = path.relative_to(root).as_posix()
+                self.lines[name] = path.read_text(encoding="utf-8").splitlines()
+        self.includes = {name: [] for name in self.lines}
+        for name, number, bracket, target in self.all_includes():
+            if bracket == '"':
+                self.includes[name].append((number, target))
+
+    def all_includes(self):
+        for name, lines in self.lines.items():
+            for number, line in enumerate(lines, 1):
+                if match := INCLUDE.match(line):
+                    yield name, number, match[1], match[2]
+
+
+def unknown_includes(sources: Sources):
+    for name, includes in sources.includes.items():
+        for number, target in includes:
+            if target not in sources.lines:
+                yield f'{name}:{number}: "{target}" is no file of the project'
+
+
+def wrong_directions(sources: Sources):
+    for name, includes in sources.includes.items():
+        layers = STANDIN_LAYERS if name.startswith("standin/") else LAYERS
+        own = layer_of(name, layers)
+        for number, target in includes:
+            other = layer_of(target, layers)
+            if other is None:
+                yield f"{name}:{number}: {target} is none of its business"
+            elif other > own:
+                yield f"{name}:{number}: {target} lies in a layer above"
+
+
+def cycles(sources: Sources):
+    """One message for each include that closes a circle."""
+    state = {}
+
+    def visit(name: str, path: list[str]):
+        state[name] = "open"
+        for _, target in sources.includes.get(name, []):
+            if state.get(target) == "open":
+                circle = [*path[path.index(target) :], target]
+                yield "these files include each other: " + " -> ".join(circle)
+            elif target not in state:
+                yield from visit(target, [*path, target])
+        state[name] = "done"
+
+    for name in sources.lines:
+        if name not in state:
+            yield from visit(name, [name])
+
+
+def platform_leaks(sources: Sources):
+    """Only the platform layer of the plug-in knows which system it is built for."""
+    within = [name for name in sources.lines if not name.startswith("standin/")]
+    for name in within:
+        if is_within(name, PLATFORM):
+            continue
+        for number, line in enumerate(sources.lines[name], 1):
+            match = INCLUDE.match(line)
+            if PLATFORM_TEST.match(line) or (match and match[2].lower() == "windows.h"):
+                yield f"{name}:{number}: only {PLATFORM}/ knows the system"
+
+
+def missing_guards(sources: Sources):
+    for name, lines in sources.lines.items():
+        if name.endswith(".hpp") and "#pragma once" not in lines:
+            yield f"{name}: lacks #pragma once"
+
+
+RULES = [unknown_includes, wrong_directions, cycles, platform_leaks, missing_guards]
+
+
+def main() -> None:
+    sources = Sources(pathlib.Path(sys.argv[1]))
+    problems = [problem for rule in RULES for problem in rule(sources)]
+    print("\n".join(problems) or f"{len(sources.lines)} files keep the rules")
+    sys.exit(1 if problems else 0)
+
+
+if __name__ == "__main__":
+    main()
