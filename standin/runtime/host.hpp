@@ -12,11 +12,17 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "interface/host_interface.hpp"
 
 namespace standin {
+
+/// What can be made to fail: the n-th allocation from now (1 is the next), once or from then on.
+/// The buffers of "PluginGetStringData" count as strings; Variants and MemoryBlocks count as
+/// objects.
+enum class Allocation { String, Object };
 
 using host_interface::HostTextEncoding;
 using host_interface::Object;
@@ -30,8 +36,8 @@ inline constexpr double CurrentHostVersion = 2023.04;
 struct HostOptions {
     /// What "REALGetRBVersion" answers; without a value the host does not offer that function.
     std::optional<double> version = CurrentHostVersion;
-    /// Names for which the resolver answers null, and declarations that
-    /// "REALLoadGlobalMethod" does not know.
+    /// What the host lacks: functions by the name that the resolver is asked for, global methods by
+    /// declaration, and classes of its own by name.
     std::set<std::string, std::less<>> missing;
     /// What "REALinRuntime" answers.
     bool builtApplication = false;
@@ -44,10 +50,9 @@ struct HostOptions {
     /// Whether plug-in routines are called with an x87 control word of single precision and
     /// rounding toward zero.
     bool changedControlWord = false;
+    /// Whether new memory blocks have a size but no data pointer.
+    bool blocksWithoutData = false;
 };
-
-/// What can be made to fail: the n-th allocation from now (1 is the next), once or from then on.
-enum class Allocation { String, Object };
 
 /// How the words that a plug-in routine leaves in the registers are to be read.
 enum class ReturnKind { None, Word, TwoWords, Single, Double };
@@ -59,6 +64,9 @@ struct ReturnValue {
     double real = 0.0;
 };
 
+/// The attributes of an entry, name and value, in the plug-in's order.
+using Attributes = std::vector<std::pair<std::string, std::string>>;
+
 /// One registered property, as the host read it from the plug-in's table.
 struct PropertyInfo {
     std::string name;
@@ -67,7 +75,8 @@ struct PropertyInfo {
     Routine getter = nullptr;
     Routine setter = nullptr;
     std::int32_t parameter = 0;
-    std::vector<std::pair<std::string, std::string>> attributes;
+    Attributes attributes;
+    std::string group;
 };
 
 /// One registered method, as the host read it from the plug-in's table.
@@ -76,7 +85,15 @@ struct MethodInfo {
     std::uint32_t flags = 0;
     Routine function = nullptr;
     Routine setter = nullptr;
-    std::vector<std::pair<std::string, std::string>> attributes;
+    Attributes attributes;
+};
+
+/// One registered event or constant, as the host read it from the plug-in's table.
+struct DeclarationInfo {
+    std::string declaration;
+    /// Of a constant; events have none.
+    std::uint32_t flags = 0;
+    Attributes attributes;
 };
 
 /// One class the host knows: its own (RuntimeException and its kin) or a plug-in's.
@@ -94,10 +111,19 @@ struct ClassInfo {
     std::vector<MethodInfo> methods;
     std::vector<PropertyInfo> sharedProperties;
     std::vector<MethodInfo> sharedMethods;
+    /// The name of the superclass as registered; empty when the record had none.
+    std::string superName;
+    Routine constructor = nullptr;
+    std::vector<DeclarationInfo> events;
+    std::vector<DeclarationInfo> constants;
 
     /// Whether this class is `other` or descends from it.
     bool IsA(const ClassInfo& other) const;
 };
+
+/// What a Variant of the host holds. Integers of unsigned type are told apart from signed ones by
+/// the alternative; text is a string of the host, of which the Variant keeps a reference.
+using VariantValue = std::variant<std::monostate, std::int64_t, std::uint64_t, double, String>;
 
 /// Numbers of the ledger, for `--ledger` and for tests.
 struct LedgerCounts {
@@ -139,6 +165,8 @@ public:
     /// A new string; empty text gives null, the legal empty string. Null also when an allocation
     /// failure was asked for.
     String MakeString(std::string_view bytes, HostTextEncoding encoding);
+    /// A string of length zero that is not null, which is legal too. Null on a failing allocation.
+    String MakeEmptyString(HostTextEncoding encoding);
     /// The bytes of a string as they are; a null handle is empty.
     std::string Bytes(String text);
     HostTextEncoding Encoding(String text);
@@ -148,6 +176,8 @@ public:
     std::string Utf8(String text);
     void Lock(String text);
     void Unlock(String text);
+    /// How many references there are; 0 for null.
+    std::uint32_t References(String text);
 
     // Objects --------------------------------------------------------------------------------
     /// A new object with zero-filled instance data; no constructor runs. Null when an allocation
@@ -157,6 +187,8 @@ public:
     void Lock(Object object);
     /// Drops a reference; the last one runs the destructors, from the class up to its ancestors.
     void Unlock(Object object);
+    /// How many references there are; 0 for null.
+    std::uint32_t References(Object object);
     /// The address of the instance data of an object's class.
     void* InstanceData(Object object);
     /// Properties that the host itself keeps, on exceptions "Message" and "ErrorNumber".
@@ -165,11 +197,39 @@ public:
     std::int32_t ErrorNumber(Object exception);
     void SetErrorNumber(Object exception, std::int32_t number);
 
+    // Values in objects ----------------------------------------------------------------------
+    // All answer null on a failing allocation; the readers ask for an object of that kind.
+    /// A Variant of any type code, known or not. An unsigned integer makes one of the class
+    /// "_VariantUInt32" or "_VariantUInt64" where the host has it. Nil and objects need none: a
+    /// null handle is the Variant Nil, and an object is a Variant of itself.
+    Object MakeVariant(std::int32_t typeCode, VariantValue value);
+    /// The type code of any Variant: 0 for null, that of its class for an object.
+    std::int32_t VariantType(Object variant);
+    /// What a Variant holds; nothing for null and for an object that is a Variant of itself. A text
+    /// stays the Variant's.
+    VariantValue VariantContents(Object variant);
+    /// The Variant as each type of the language; what cannot be converted is 0 or null.
+    std::int64_t VariantAsInt64(Object variant);
+    double VariantAsDouble(Object variant);
+    host_interface::Currency VariantAsCurrency(Object variant);
+    String VariantAsString(Object variant);
+    Object MakeMemoryBlock(std::string_view bytes);
+    /// The bytes of a memory block, to read and to write.
+    std::span<std::byte> BlockBytes(Object block);
+    /// A "Date" with that "TotalSeconds".
+    Object MakeDate(double totalSeconds);
+    /// A "DateTime" with that "SecondsFrom1970".
+    Object MakeDateTime(double secondsFrom1970);
+    /// The seconds of either.
+    double Seconds(Object date);
+
     // Calls ----------------------------------------------------------------------------------
     /// Calls a routine of the plug-in with these argument words, in the way `options()` tell.
     ReturnValue Call(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind);
     /// Takes over the exception that was raised since the last call of this, if any.
     Object TakeException();
+    /// How often "RuntimeRaiseException" was called since the host was made.
+    std::uint64_t Raises() const;
 
     // Strictness -----------------------------------------------------------------------------
     void FailAllocation(Allocation kind, int n, bool persistent);
@@ -190,10 +250,15 @@ public:
 
     struct State;
     State& state();
+    const State& state() const;
 
 private:
     std::unique_ptr<State> state_;
 };
+
+/// Everything that the plug-in registered, as readable text: classes, flags, declarations, which
+/// entries have routines and which share one. Holds no address, so it is the same in every run.
+std::string DumpTables(const Host& host);
 
 /// A plug-in library that is loaded: the DLL under Windows, the shared object under Linux.
 /// Needs a living `Host`. Unloads with its destruction.

@@ -1,0 +1,365 @@
+#include "standin/runtime/host.hpp"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <utility>
+
+#include "standin/runtime/call.hpp"
+#include "standin/runtime/host_functions.hpp"
+#include "standin/runtime/platform.hpp"
+#include "standin/runtime/properties.hpp"
+#include "standin/runtime/state.hpp"
+#include "standin/runtime/variants.hpp"
+
+namespace standin {
+namespace {
+
+/// Who is named when the language, not the plug-in, uses a handle wrongly.
+constexpr const char* HostUser = "stand-in host";
+
+Host* current = nullptr;
+
+std::uintptr_t AsWord(Object object) {
+    return reinterpret_cast<std::uintptr_t>(object);
+}
+
+}  // namespace
+
+void DebugLog::Write(std::string_view line) {
+    if (sink) {
+        sink(line);
+    } else {
+        kept.emplace_back(line);
+    }
+}
+
+Host::State::State(Host& host, HostOptions hostOptions)
+    : options(std::move(hostOptions)),
+      classes(options.missing),
+      strings(options.unterminatedStrings, violations, failures, quarantine),
+      objects(strings, violations, failures, quarantine,
+              [&host](Routine destructor, Object object) {
+                  const std::array words = {AsWord(object)};
+                  host.Call(destructor, words, ReturnKind::None);
+              }) {}
+
+const ClassEntry& Host::State::Class(std::string_view name) const {
+    if (const ClassEntry* entry = classes.Find(name)) {
+        return *entry;
+    }
+    throw std::runtime_error("the host has no class \"" + std::string(name) + "\"");
+}
+
+bool Host::State::Lacks(std::string_view name) const {
+    if (options.missing.contains(name)) {
+        return true;
+    }
+    // Only a declaration has other spellings.
+    const std::string normal = NormalDeclaration(name);
+    for (const std::string& missing : options.missing) {
+        if (missing.find('(') != std::string::npos && NormalDeclaration(missing) == normal) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Host::Host(HostOptions options) {
+    if (current != nullptr) {
+        throw std::logic_error("a process has one host at a time");
+    }
+    state_ = std::make_unique<State>(*this, std::move(options));
+    current = this;
+    platform::CaptureDebugOutput(
+        [log = &state_->debugLog](std::string_view line) { log->Write(line); });
+}
+
+Host::~Host() {
+    platform::CaptureDebugOutput({});
+    current = nullptr;
+}
+
+Host& Host::Current() {
+    if (current == nullptr) {
+        std::fputs("the plug-in called a host that is gone\n", stderr);
+        std::abort();
+    }
+    return *current;
+}
+
+Host::State& Host::state() {
+    return *state_;
+}
+const Host::State& Host::state() const {
+    return *state_;
+}
+const HostOptions& Host::options() const {
+    return state_->options;
+}
+
+void* Host::Resolve(const char* name) {
+    State& state = Current().state();
+    const std::string_view asked = name == nullptr ? "" : name;
+    const auto lookup = state.lookups.try_emplace(std::string(asked), 0).first;
+    ++lookup->second;
+    if (state.Lacks(asked) || (asked == VersionFunctionName && !state.options.version)) {
+        return nullptr;
+    }
+    return FindHostFunction(asked);
+}
+
+const std::map<std::string, int, std::less<>>& Host::lookups() const {
+    return state_->lookups;
+}
+
+std::optional<std::int32_t> Host::pluginInterfaceVersion() const {
+    return state_->pluginInterfaceVersion;
+}
+
+// Classes ---------------------------------------------------------------------------------------
+
+const ClassInfo* Host::FindClass(std::string_view name) const {
+    return state_->classes.Find(name);
+}
+
+std::vector<const ClassInfo*> Host::RegisteredClasses() const {
+    return state_->classes.registered();
+}
+
+// Strings ---------------------------------------------------------------------------------------
+
+String Host::MakeString(std::string_view bytes, HostTextEncoding encoding) {
+    return state_->strings.Make(bytes, encoding);
+}
+
+String Host::MakeEmptyString(HostTextEncoding encoding) {
+    return state_->strings.MakeRecord({}, encoding);
+}
+
+std::string Host::Bytes(String text) {
+    return std::string(state_->strings.Bytes(text, HostUser));
+}
+
+HostTextEncoding Host::Encoding(String text) {
+    return state_->strings.Encoding(text, HostUser);
+}
+
+String Host::Convert(String text, HostTextEncoding encoding) {
+    return state_->strings.Convert(text, encoding, HostUser);
+}
+
+std::string Host::Utf8(String text) {
+    return state_->strings.BytesAs(text, HostTextEncoding::Utf8, HostUser).value_or(Bytes(text));
+}
+
+void Host::Lock(String text) {
+    state_->strings.Lock(text, HostUser);
+}
+void Host::Unlock(String text) {
+    state_->strings.Unlock(text, HostUser);
+}
+
+std::uint32_t Host::References(String text) {
+    return state_->strings.References(text, HostUser);
+}
+
+// Objects ---------------------------------------------------------------------------------------
+
+Object Host::MakeObject(const ClassInfo& type) {
+    return state_->objects.Make(static_cast<const ClassEntry&>(type));
+}
+
+const ClassInfo& Host::ClassOf(Object object) {
+    if (const ObjectEntry* entry = state_->objects.Find(object, HostUser)) {
+        return *entry->type;
+    }
+    throw std::logic_error("the class of an object that is not there");
+}
+
+void Host::Lock(Object object) {
+    state_->objects.Lock(object, HostUser);
+}
+void Host::Unlock(Object object) {
+    state_->objects.Unlock(object, HostUser);
+}
+
+std::uint32_t Host::References(Object object) {
+    const ObjectEntry* entry = state_->objects.Find(object, HostUser);
+    return entry == nullptr ? 0 : entry->references;
+}
+
+void* Host::InstanceData(Object object) {
+    const ObjectEntry* entry = state_->objects.Find(object, HostUser);
+    return entry == nullptr ? nullptr : entry->memory.data() + entry->type->dataOffset;
+}
+
+std::string Host::Message(Object exception) {
+    const auto* payload = state_->objects.PayloadOf<ExceptionPayload>(exception, HostUser);
+    return payload == nullptr ? std::string{} : Utf8(payload->message);
+}
+
+void Host::SetMessage(Object exception, std::string_view utf8) {
+    String text = MakeString(utf8, HostTextEncoding::Utf8);
+    WriteProperty(*this, exception, "Message", text, HostUser);
+    Unlock(text);
+}
+
+std::int32_t Host::ErrorNumber(Object exception) {
+    const auto* payload = state_->objects.PayloadOf<ExceptionPayload>(exception, HostUser);
+    return payload == nullptr ? 0 : payload->errorNumber;
+}
+
+void Host::SetErrorNumber(Object exception, std::int32_t number) {
+    WriteProperty(*this, exception, "ErrorNumber", number, HostUser);
+}
+
+// Values in objects -----------------------------------------------------------------------------
+
+Object Host::MakeVariant(std::int32_t typeCode, VariantValue value) {
+    using host_interface::VariantTypeCode;
+    const char* unsignedClass = "";
+    if (std::holds_alternative<std::uint64_t>(value)) {
+        if (typeCode == static_cast<std::int32_t>(VariantTypeCode::Int32)) {
+            unsignedClass = "_VariantUInt32";
+        } else if (typeCode == static_cast<std::int32_t>(VariantTypeCode::Int64)) {
+            unsignedClass = "_VariantUInt64";
+        }
+    }
+    const ClassEntry* type = state_->classes.Find(unsignedClass);
+    const String* text = std::get_if<String>(&value);
+    Object variant = state_->objects.Make(type == nullptr ? state_->Class("Variant") : *type,
+                                          VariantPayload{typeCode, value});
+    if (variant != nullptr && text != nullptr) {
+        Lock(*text);
+    }
+    return variant;
+}
+
+std::int32_t Host::VariantType(Object variant) {
+    return VariantTypeOf(*state_, variant, HostUser);
+}
+
+VariantValue Host::VariantContents(Object variant) {
+    const auto* payload = state_->objects.PayloadOf<VariantPayload>(variant, HostUser);
+    return payload == nullptr ? VariantValue{} : payload->value;
+}
+
+std::int64_t Host::VariantAsInt64(Object variant) {
+    return VariantInt64(*state_, variant, HostUser);
+}
+
+double Host::VariantAsDouble(Object variant) {
+    return VariantDouble(*state_, variant, HostUser);
+}
+
+host_interface::Currency Host::VariantAsCurrency(Object variant) {
+    return VariantCurrency(*state_, variant, HostUser);
+}
+
+String Host::VariantAsString(Object variant) {
+    return VariantText(*state_, variant, HostUser);
+}
+
+Object Host::MakeMemoryBlock(std::string_view bytes) {
+    BlockPayload payload{VisibleMemory(bytes.size()), !state_->options.blocksWithoutData};
+    bytes.copy(reinterpret_cast<char*>(payload.bytes.data()), bytes.size());
+    return state_->objects.Make(state_->Class("MemoryBlock"), std::move(payload));
+}
+
+std::span<std::byte> Host::BlockBytes(Object block) {
+    const auto* payload = state_->objects.PayloadOf<BlockPayload>(block, HostUser);
+    return payload == nullptr ? std::span<std::byte>{}
+                              : std::span(payload->bytes.data(), payload->bytes.size());
+}
+
+Object Host::MakeDate(double totalSeconds) {
+    return state_->objects.Make(state_->Class("Date"), DatePayload{totalSeconds});
+}
+
+Object Host::MakeDateTime(double secondsFrom1970) {
+    return state_->objects.Make(state_->Class("DateTime"), DatePayload{secondsFrom1970});
+}
+
+double Host::Seconds(Object date) {
+    const auto* payload = state_->objects.PayloadOf<DatePayload>(date, HostUser);
+    return payload == nullptr ? 0.0 : payload->seconds;
+}
+
+// Calls -----------------------------------------------------------------------------------------
+
+ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind) {
+    if (routine == nullptr) {
+        throw std::logic_error("a call of a routine that is not there");
+    }
+    // The stack of a host that keeps four bytes of alignment only is off by 4, 8 or 12.
+    constexpr std::uint32_t MisalignedBy = 4;
+    const CallConditions conditions{state_->options.misalignedStack ? MisalignedBy : 0,
+                                    state_->options.changedControlWord};
+    const CallResult result = CallRoutine(routine, words, kind, conditions);
+    if (result.faults.stackMoved) {
+        state_->violations.Add("a routine took its arguments off the stack");
+    }
+    if (result.faults.registersChanged) {
+        state_->violations.Add("a routine changed a register that it has to preserve");
+    }
+    if (result.faults.floatStackUnbalanced) {
+        state_->violations.Add("a routine left the x87 stack unbalanced");
+    }
+    return result.value;
+}
+
+Object Host::TakeException() {
+    return std::exchange(state_->raised, nullptr);
+}
+
+std::uint64_t Host::Raises() const {
+    return state_->raises;
+}
+
+// Strictness ------------------------------------------------------------------------------------
+
+void Host::FailAllocation(Allocation kind, int n, bool persistent) {
+    state_->failures.Arm(kind, n, persistent);
+}
+
+void Host::StopFailing() {
+    state_->failures.Disarm();
+}
+
+LedgerCounts Host::Counts() const {
+    LedgerCounts counts;
+    state_->strings.Count(counts);
+    state_->objects.Count(counts);
+    return counts;
+}
+
+std::vector<std::string> Host::Violations() const {
+    return state_->violations.Texts();
+}
+
+std::vector<std::string> Host::Leaks() const {
+    std::vector<std::string> lines = state_->violations.Texts();
+    state_->strings.AppendLeaks(lines);
+    state_->objects.AppendLeaks(lines);
+    return lines;
+}
+
+void Host::ResetLedger() {
+    state_->violations.Clear();
+    state_->strings.ResetLedger();
+    state_->objects.ResetLedger();
+}
+
+// Debug log -------------------------------------------------------------------------------------
+
+void Host::SetDebugSink(std::function<void(std::string_view)> sink) {
+    state_->debugLog.sink = std::move(sink);
+}
+
+std::vector<std::string> Host::TakeDebugLog() {
+    return std::exchange(state_->debugLog.kept, {});
+}
+
+}  // namespace standin

@@ -1,0 +1,282 @@
+#include "standin/runtime/string_store.hpp"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "standin/runtime/text_encoding.hpp"
+
+namespace standin {
+namespace {
+
+using host_interface::StringData;
+using host_interface::StringRecord;
+
+/// What fills bytes and words of a string that a plug-in has no business with.
+constexpr std::byte NoiseByte{0xEE};
+constexpr std::uintptr_t NoiseWord = 0x0BADF00D;
+/// The host's bytes in front of a text.
+constexpr std::size_t TextOffset = 1;
+
+std::string Describe(std::uint64_t serial, std::string_view bytes, HostTextEncoding encoding) {
+    return "string #" + std::to_string(serial) + " " + Quoted(bytes) + " (" +
+           EncodingName(encoding) + ", " + std::to_string(bytes.size()) + " bytes)";
+}
+
+std::string_view TextOf(const StringEntry& entry) {
+    return {reinterpret_cast<const char*>(entry.text.data()) + TextOffset, entry.length};
+}
+
+std::string Describe(const StringEntry& entry) {
+    return Describe(entry.serial, TextOf(entry), entry.encoding);
+}
+
+/// The encoding in which the joined bytes of two texts are both texts joined, if there is one.
+std::optional<HostTextEncoding> CommonEncoding(HostTextEncoding left, HostTextEncoding right) {
+    if (left == right || (right == HostTextEncoding::Ascii && ExtendsAscii(left))) {
+        return left;
+    }
+    if (left == HostTextEncoding::Ascii && ExtendsAscii(right)) {
+        return right;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+String StringStore::Make(std::string_view bytes, HostTextEncoding encoding) {
+    return bytes.empty() ? nullptr : MakeRecord(bytes, encoding);
+}
+
+String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding) {
+    if (failures_.FailsNow(Allocation::String)) {
+        return nullptr;
+    }
+    StringEntry entry;
+    entry.record = VisibleMemory(sizeof(StringRecord));
+    entry.text = MakeText(bytes, TextOffset);
+    entry.length = bytes.size();
+    entry.textHash = std::hash<std::string_view>{}(bytes);
+    entry.encoding = encoding;
+    entry.serial = ++lastSerial_;
+
+    auto* record = reinterpret_cast<StringRecord*>(entry.record.data());
+    record->hostWord0 = reinterpret_cast<void*>(NoiseWord);
+    record->storage = reinterpret_cast<const char*>(entry.text.data());
+    record->hostWord2 = reinterpret_cast<void*>(NoiseWord);
+    record->length = static_cast<std::int32_t>(bytes.size());
+    strings_.Add(record, std::move(entry));
+    return record;
+}
+
+String StringStore::Join(String left, String right, const char* user) {
+    if (left == nullptr || right == nullptr) {
+        String only = left == nullptr ? right : left;
+        return only == nullptr ? nullptr : MakeRecord(Bytes(only, user), Encoding(only, user));
+    }
+    const HostTextEncoding leftEncoding = Encoding(left, user);
+    const HostTextEncoding rightEncoding = Encoding(right, user);
+    if (const auto common = CommonEncoding(leftEncoding, rightEncoding)) {
+        return Make(std::string(Bytes(left, user)).append(Bytes(right, user)), *common);
+    }
+    const auto leftText = BytesAs(left, HostTextEncoding::Utf8, user);
+    const auto rightText = BytesAs(right, HostTextEncoding::Utf8, user);
+    if (leftText && rightText) {
+        return Make(*leftText + *rightText, HostTextEncoding::Utf8);
+    }
+    return Make(std::string(Bytes(left, user)).append(Bytes(right, user)),
+                HostTextEncoding::Unknown);
+}
+
+String StringStore::Convert(String text, HostTextEncoding encoding, const char* user) {
+    if (text == nullptr) {
+        return nullptr;
+    }
+    const auto bytes = BytesAs(text, encoding, user);
+    return bytes ? MakeRecord(*bytes, encoding) : nullptr;
+}
+
+std::string_view StringStore::Bytes(String text, const char* user) {
+    const StringEntry* entry = Find(text, user);
+    return entry == nullptr ? std::string_view{} : TextOf(*entry);
+}
+
+std::optional<std::string> StringStore::BytesAs(String text, HostTextEncoding encoding,
+                                                const char* user) {
+    if (text == nullptr) {
+        return std::string{};
+    }
+    const StringEntry* entry = Find(text, user);
+    if (entry == nullptr) {
+        return std::nullopt;
+    }
+    return ConvertText(TextOf(*entry), entry->encoding, encoding);
+}
+
+HostTextEncoding StringStore::Encoding(String text, const char* user) {
+    const StringEntry* entry = Find(text, user);
+    return entry == nullptr ? HostTextEncoding::Ascii : entry->encoding;
+}
+
+void StringStore::SetEncoding(String text, HostTextEncoding encoding, const char* user) {
+    if (StringEntry* entry = Find(text, user)) {
+        entry->encoding = encoding;
+    }
+}
+
+std::uint32_t StringStore::References(String text, const char* user) {
+    const StringEntry* entry = Find(text, user);
+    return entry == nullptr ? 0 : entry->references;
+}
+
+void StringStore::Lock(String text, const char* user) {
+    if (StringEntry* entry = Find(text, user)) {
+        ++entry->references;
+    }
+}
+
+void StringStore::Unlock(String text, const char* user) {
+    StringEntry* entry = Find(text, user);
+    if (entry == nullptr) {
+        return;
+    }
+    if (--entry->references == 0) {
+        Die(text, *entry, user);
+    }
+}
+
+bool StringStore::LendData(String text, HostTextEncoding encoding, StringData* record,
+                           const char* user) {
+    if (record == nullptr) {
+        violations_.Add(std::string(user) + ": no record to fill");
+        return false;
+    }
+    if (const auto held = lent_.find(record); held != lent_.end()) {
+        violations_.Add(std::string(user) + ": the record is filled again, but " +
+                        held->second.description + " was not given back");
+        lent_.erase(held);
+    }
+    const auto bytes = encoding == HostTextEncoding::Unknown
+                           ? std::optional<std::string>(Bytes(text, user))
+                           : BytesAs(text, encoding, user);
+    if (!bytes || failures_.FailsNow(Allocation::String)) {
+        return false;
+    }
+    LentData data;
+    data.bytes = MakeText(*bytes, 0);
+    data.serial = ++lastLentSerial_;
+    data.description = "string data #" + std::to_string(data.serial) + " " + Quoted(*bytes) + " (" +
+                       EncodingName(encoding) + ", " + std::to_string(bytes->size()) + " bytes)";
+    record->data = reinterpret_cast<const char*>(data.bytes.data());
+    record->length = bytes->size();
+    record->encoding = static_cast<std::uint32_t>(encoding);
+    record->hostPointer = data.bytes.data();
+    record->hostWord = data.serial;
+    lent_.insert_or_assign(record, std::move(data));
+    return true;
+}
+
+void StringStore::ReturnData(StringData* record, const char* user) {
+    const auto complain = [&](const std::string& what) {
+        violations_.Add(std::string(user) + ": " + what);
+    };
+    if (record == nullptr) {
+        complain("no record to give back");
+        return;
+    }
+    const auto held = lent_.find(record);
+    if (held != lent_.end() && held->second.serial == record->hostWord) {
+        quarantine_.Add(std::move(held->second.bytes));
+        lent_.erase(held);
+        return;
+    }
+    if (held != lent_.end()) {
+        complain("the record of " + held->second.description + " was overwritten");
+        return;
+    }
+    const auto original = std::ranges::find_if(
+        lent_, [&](const auto& lent) { return lent.second.serial == record->hostWord; });
+    if (original != lent_.end()) {
+        complain("a copy of the record of " + original->second.description + " is given back");
+    } else if (record->hostWord > 0 && record->hostWord <= lastLentSerial_) {
+        complain("string data #" + std::to_string(record->hostWord) + " was given back before");
+    } else {
+        complain("a record that the host never filled is given back");
+    }
+}
+
+void StringStore::Count(LedgerCounts& counts) const {
+    counts.stringsMade = lastSerial_ - resetSerial_;
+    counts.stringsAlive = static_cast<std::uint64_t>(std::ranges::count_if(
+        strings_.living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
+    counts.stringDataHeld = static_cast<std::uint64_t>(std::ranges::count_if(
+        lent_, [&](const auto& item) { return item.second.serial > resetLentSerial_; }));
+}
+
+void StringStore::AppendLeaks(std::vector<std::string>& lines) const {
+    std::vector<std::pair<std::uint64_t, std::string>> found;
+    for (const auto& [handle, entry] : strings_.living()) {
+        if (entry.serial > resetSerial_) {
+            found.emplace_back(entry.serial, "still alive: " + Describe(entry) + ", references: " +
+                                                 std::to_string(entry.references));
+        }
+    }
+    std::ranges::sort(found);
+    const std::size_t stringCount = found.size();
+    for (const auto& [record, data] : lent_) {
+        if (data.serial > resetLentSerial_) {
+            found.emplace_back(data.serial, "not given back: " + data.description);
+        }
+    }
+    std::sort(found.begin() + static_cast<std::ptrdiff_t>(stringCount), found.end());
+    for (auto& [serial, line] : found) {
+        lines.push_back(std::move(line));
+    }
+}
+
+void StringStore::ResetLedger() {
+    resetSerial_ = lastSerial_;
+    resetLentSerial_ = lastLentSerial_;
+}
+
+StringEntry* StringStore::Find(String text, const char* user) {
+    if (text == nullptr) {
+        return nullptr;
+    }
+    if (StringEntry* entry = strings_.Find(text)) {
+        return entry;
+    }
+    const std::string_view epitaph = strings_.Epitaph(text);
+    violations_.Add(epitaph.empty()
+                        ? std::string(user) + ": the handle is no string of this host"
+                        : std::string(user) + ": " + std::string(epitaph) + " was released before");
+    return nullptr;
+}
+
+/// The bytes of a text with the host's own in front and one behind it.
+VisibleMemory StringStore::MakeText(std::string_view bytes, std::size_t before) const {
+    VisibleMemory memory(before + bytes.size() + 1);
+    std::fill_n(memory.data(), before, NoiseByte);
+    bytes.copy(reinterpret_cast<char*>(memory.data()) + before, bytes.size());
+    memory.data()[before + bytes.size()] = unterminated_ ? NoiseByte : std::byte{0};
+    return memory;
+}
+
+void StringStore::Die(String text, const StringEntry& entry, const char* user) {
+    CheckUnchanged(entry, user);
+    StringEntry dead = strings_.Bury(text, Describe(entry));
+    quarantine_.Add(std::move(dead.text));
+    quarantine_.Add(std::move(dead.record));
+}
+
+void StringStore::CheckUnchanged(const StringEntry& entry, const char* user) {
+    const auto* record = reinterpret_cast<const StringRecord*>(entry.record.data());
+    const bool recordKept = record->storage == reinterpret_cast<const char*>(entry.text.data()) &&
+                            record->length == static_cast<std::int32_t>(entry.length);
+    if (!recordKept || std::hash<std::string_view>{}(TextOf(entry)) != entry.textHash) {
+        violations_.Add(std::string(user) + ": " + Describe(entry) +
+                        " was changed, but strings belong to the host");
+    }
+}
+
+}  // namespace standin
