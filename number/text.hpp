@@ -100,35 +100,31 @@ Routine GetTextFormatted() {
 
 /// Parses text into the object's value and reports a failure with it. The value is replaced by
 /// whatever was read, also after a failure.
-template <typename Value, FixedString FailureName>
-void ParseInto(Object self, String text, Integer base) {
-    Value value = NanValue<Value>();
-    const TerminatedText source(text);
-    if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
-        RaiseOverflowException<Value>(FailureName.text, self);
-    }
-    StoreNumberValue(self, value);
-}
-
-/// "Constructor(value as String)".
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine ConstructFromText() {
-    return AsRoutine([](Object self, String text) {
-        MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            ParseInto<Value, FailureName>(self, text, 10);
-        });
+void SetTextOf(Object self, String text, Integer base) {
+    MethodBoundaryGuard([&] {
+        LogEntry<LogName>();
+        Value value = NanValue<Value>();
+        const TerminatedText source(text);
+        if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
+            RaiseOverflowException<Value>(FailureName.text, self);
+        }
+        StoreNumberValue(self, value);
     });
 }
 
-/// Setter of the property "StringValue".
+/// "Constructor(value as String)": text in base 10.
+template <typename Value, FixedString LogName, FixedString FailureName>
+Routine ConstructFromText() {
+    return AsRoutine(
+        [](Object self, String text) { SetTextOf<Value, LogName, FailureName>(self, text, 10); });
+}
+
+/// Setter of the property "StringValue": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
 Routine SetText() {
     return AsRoutine([](Object self, Integer, String text) {
-        MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            ParseInto<Value, FailureName>(self, text, 10);
-        });
+        SetTextOf<Value, LogName, FailureName>(self, text, 10);
     });
 }
 
@@ -136,10 +132,7 @@ Routine SetText() {
 template <typename Value, FixedString LogName, FixedString FailureName>
 Routine SetTextInBase() {
     return AsRoutine([](Object self, Integer base, String text) {
-        MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            ParseInto<Value, FailureName>(self, text, base);
-        });
+        SetTextOf<Value, LogName, FailureName>(self, text, base);
     });
 }
 

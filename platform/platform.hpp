@@ -27,6 +27,9 @@ void WriteDebuggerLine(const char* line) noexcept;
 /// The system's random source. False when it reports a failure; `value` is then unspecified.
 bool SystemRandom(std::uint32_t& value) noexcept;
 
+/// The next number of the language runtime's pseudo-random generator.
+std::uint32_t RuntimeRandom() noexcept;
+
 /// Seeds the language runtime's pseudo-random generator with the calendar time in seconds.
 void SeedRuntimeRandom() noexcept;
 

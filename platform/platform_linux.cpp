@@ -34,6 +34,10 @@ bool SystemRandom(std::uint32_t& value) noexcept {
     return getrandom(&value, sizeof value, 0) == static_cast<ssize_t>(sizeof value);
 }
 
+std::uint32_t RuntimeRandom() noexcept {
+    return static_cast<std::uint32_t>(std::rand());
+}
+
 void SeedRuntimeRandom() noexcept {
     std::srand(static_cast<unsigned int>(std::time(nullptr)));
 }

@@ -32,6 +32,10 @@ bool SystemRandom(std::uint32_t& value) noexcept {
     return succeeded;
 }
 
+std::uint32_t RuntimeRandom() noexcept {
+    return static_cast<std::uint32_t>(rand());
+}
+
 void SeedRuntimeRandom() noexcept {
     srand(static_cast<unsigned int>(_time64(nullptr)));
 }

@@ -1,0 +1,97 @@
+// The bytes of a number as they lie in memory. These routines carry no guard, and they are the only
+// ones that refuse an object without a value.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "host/byte_view.hpp"
+#include "host/debug_log.hpp"
+#include "host/exceptions.hpp"
+#include "host/memory_blocks.hpp"
+#include "host/strings.hpp"
+#include "number/number_object.hpp"
+#include "number/routine.hpp"
+
+namespace vqz {
+
+/// The object's value to be read or written in place; null after "Not initialized" was raised.
+template <typename Value>
+Value* RequireNumber(Object self) {
+    Value* value = self == nullptr ? nullptr : InstanceOf<Value>(self).ref;
+    if (value == nullptr) {
+        if (DebugEnabled) {
+            LogText("me->ref", "is nil");
+        }
+        RaiseHostException("NilObjectException", "Not initialized");
+    }
+    return value;
+}
+
+/// Getter of the bytes of one part, the mantissa or the exponent: least significant word first.
+template <typename Value, auto Part>
+Routine GetPart() {
+    return AsRoutine([](Object self, Integer) -> Object {
+        const Value* value = RequireNumber<Value>(self);
+        if (value == nullptr) {
+            return nullptr;
+        }
+        const auto& words = (value->*Part).table;
+        return REALBuildMemoryblock(words, sizeof words).Release();
+    });
+}
+
+/// Setter of the bytes of one part, in place. Takes a block of exactly the part's size, with any
+/// content. Both parts report a wrong size under the one name `methodName`.
+template <typename Value, auto Part, FixedString MethodName>
+Routine SetPart() {
+    return AsRoutine([](Object self, Integer, Object block) {
+        Value* value = RequireNumber<Value>(self);
+        if (value == nullptr) {
+            return;
+        }
+        if (block == nullptr) {
+            if (DebugEnabled) {
+                LogText("mem", "is nil");
+            }
+            RaiseHostException("NilObjectException", "MemoryBlock is nil");
+            return;
+        }
+        auto& words = (value->*Part).table;
+        const ByteView bytes(block);
+        if (bytes.length() != static_cast<std::int32_t>(sizeof words)) {
+            RaiseParameterOutOfBounds(bytes.length(), sizeof words, sizeof words + 1,
+                                      "MemoryBlock.Size", MethodName.text);
+            return;
+        }
+        std::memcpy(words, bytes.data(), sizeof words);
+    });
+}
+
+/// Getter of the flag byte.
+template <typename Value>
+Routine GetFlags() {
+    return AsRoutine([](Object self, Integer) -> Integer {
+        const Value* value = RequireNumber<Value>(self);
+        return value == nullptr ? 0 : value->info;
+    });
+}
+
+/// Setter of the flag byte: the low 8 bits, in place.
+template <typename Value>
+Routine SetFlags() {
+    return AsRoutine([](Object self, Integer, Integer flags) {
+        if (Value* value = RequireNumber<Value>(self)) {
+            value->info = static_cast<unsigned char>(flags & 0xFF);
+        }
+    });
+}
+
+/// "LibTypeStr": the name of ttmath's build.
+template <typename Value>
+Routine GetLibraryType() {
+    return AsRoutine(
+        [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); });
+}
+
+}  // namespace vqz
