@@ -17,6 +17,8 @@ find_package_handle_standard_args(Ttmath
 if(Ttmath_FOUND AND NOT TARGET ttmath)
   add_library(ttmath INTERFACE)
   target_include_directories(ttmath SYSTEM INTERFACE "${TTMATH_INCLUDE_DIR}")
-  target_compile_definitions(ttmath INTERFACE TTMATH_NOASM)
+  # ttmath would leave the words of a new number unset; clearing them keeps every byte that raw access
+  # can show defined.
+  target_compile_definitions(ttmath INTERFACE TTMATH_NOASM TTMATH_BIG_DEFAULT_CLEAR)
   target_compile_options(ttmath INTERFACE "-ffile-prefix-map=${TTMATH_INCLUDE_DIR}=.")
 endif()

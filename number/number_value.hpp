@@ -30,8 +30,8 @@ struct NumberClass<BiggerNumberValue> {
     static host_interface::ClassDefinition Record;
 };
 
-/// A value of 0 with the NaN flag: what computations start from. ttmath's own default leaves words
-/// unset, which raw access would show.
+/// A value of 0 with the NaN flag: what computations start from. (The build has ttmath clear its
+/// new numbers too, so that raw access never shows a byte that nobody wrote.)
 template <typename Value>
 Value NanValue() {
     Value value;

@@ -3,9 +3,12 @@
 // failure message. Operands are never changed: an operation works on a copy.
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include "host/exceptions.hpp"
+#include "number/conversions.hpp"
 #include "number/number_object.hpp"
 #include "number/ops/failure_report.hpp"
 #include "number/routine.hpp"
@@ -60,6 +63,85 @@ Routine TwoNumbers(Operation) {
             return ComputeWithTwoNumbers<Value, LogName, FailureName>(self, other, Operation{});
         });
     }
+}
+
+/// A new object with the result of `operation` on a copy of the number, or null and the one-number
+/// report when it answers a carry or an error code.
+template <typename Value, FixedString LogName, typename Operation>
+Routine OneNumberOrFailure(Operation) {
+    return AsRoutine([](Object number) {
+        return MethodBoundaryGuard([&]() -> Object {
+            LogEntry<LogName>();
+            Value result = ReadNumber<Value>(number);
+            if (Operation{}(result) == 0) {
+                return NewNumberObject(result);
+            }
+            RaiseOverflowException<Value>(LogName.text, number);
+            return nullptr;
+        });
+    });
+}
+
+/// The integer part of a quotient. A failure reports the quotient as it was left, not the receiver.
+template <typename Value, FixedString LogName>
+Routine IntegerDivide() {
+    return AsRoutine([](Object self, Object other) {
+        return MethodBoundaryGuard([&]() -> Object {
+            LogEntry<LogName>();
+            Value quotient = ReadNumber<Value>(self);
+            const auto carry = quotient.Div(ReadNumber<Value>(other), true);
+            quotient.SkipFraction();
+            if (carry == 0) {
+                return NewNumberObject(quotient);
+            }
+            RaiseOverflowException(LogName.text, &quotient, FindNumber<Value>(other));
+            return nullptr;
+        });
+    });
+}
+
+template <typename Value>
+ttmath::uint MultiplyBy(Value& me, std::uint32_t factor) {
+    return me.MulUInt(factor);
+}
+
+template <typename Value>
+ttmath::uint MultiplyBy(Value& me, std::int32_t factor) {
+    if (factor != std::numeric_limits<std::int32_t>::min()) {
+        return me.MulInt(factor);
+    }
+    // ttmath negates the factor, which this one does not survive: its magnitude is taken instead.
+    if (!me.IsNan()) {
+        me.ChangeSign();
+    }
+    return me.MulUInt(std::uint32_t{1} << 31);
+}
+
+/// A product with a machine integer. A failure reports the product as it was left, not the
+/// receiver.
+template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
+Routine MultiplyByInteger() {
+    return AsRoutine([](Object self, Host factor) {
+        return MethodBoundaryGuard([&]() -> Object {
+            LogEntry<LogName>();
+            Value product = ReadNumber<Value>(self);
+            if (MultiplyBy(product, factor) == 0) {
+                return NewNumberObject(product);
+            }
+            const auto shownFactor = NumberFrom<Value>(factor);
+            RaiseOverflowException(FailureName.text, &product, &shownFactor);
+            return nullptr;
+        });
+    });
+}
+
+/// The remainder of the division by 2, as an Integer. Carries no guard: nothing here can throw.
+template <typename Value, FixedString LogName>
+Routine RemainderOfTwo() {
+    return AsRoutine([](Object self) -> Integer {
+        LogEntry<LogName>();
+        return static_cast<Integer>(ReadNumber<Value>(self).Mod2());
+    });
 }
 
 /// -1, 0 or 1 as one number is less than, equal to or greater than the other. NaN is not looked
