@@ -1,0 +1,43 @@
+// The words that the command is called with.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "standin/runtime/host.hpp"
+
+namespace standin {
+
+/// The call of the command is wrong; `what` says how.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What to do with the plug-in library.
+enum class Task { Run, List, Dump, Help };
+
+struct CommandLine {
+    Task task = Task::Run;
+    std::string library;
+    HostOptions host;
+    /// The program: a file's name, `-` for standard input, or the text itself.
+    std::optional<std::string> file;
+    std::optional<std::string> text;
+    bool showsDebugLog = false;
+    bool showsLedger = false;
+    /// Which allocation of the running program fails, counted from 1.
+    std::optional<int> failingString;
+    std::optional<int> failingObject;
+};
+
+/// Reads the words after the command's own name. Throws UsageError.
+CommandLine ReadCommandLine(const std::vector<std::string>& words);
+
+/// How the command is called, for people.
+extern const std::string_view UsageText;
+
+}  // namespace standin

@@ -1,0 +1,281 @@
+#include "standin/language/builtins.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <string>
+#include <utility>
+
+#include "standin/language/parser.hpp"
+#include "standin/language/text.hpp"
+#include "standin/language/unicode.hpp"
+
+namespace standin::language {
+namespace {
+
+using Arguments = std::vector<Value>;
+
+// Text of values ---------------------------------------------------------------------------------
+
+template <typename T>
+Value TextOfNumber(const Arguments& arguments, const Machine& machine) {
+    const auto value = arguments[0].Get<T>();
+    if constexpr (std::floating_point<T>) {
+        return machine.MakeText(ShortestText(value));
+    } else if constexpr (std::same_as<T, CurrencyAmount>) {
+        return machine.MakeText(TextOf(value));
+    } else {
+        return machine.MakeText(std::to_string(value));
+    }
+}
+
+Value TextOfBoolean(const Arguments& arguments, const Machine& machine) {
+    return machine.MakeText(TextOf(arguments[0].IsTrue()));
+}
+
+Value TextItself(const Arguments& arguments, const Machine& /*machine*/) {
+    return arguments[0];
+}
+
+template <std::unsigned_integral T, int Base>
+Value Digits(const Arguments& arguments, const Machine& machine) {
+    std::array<char, 64> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                      arguments[0].Get<T>(), Base);
+    std::string text(buffer.data(), result.ptr);
+    std::ranges::transform(text, text.begin(), [](char digit) {
+        return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
+    });
+    return machine.MakeText(text);
+}
+
+Value Val(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(NumberIn(machine.host().Utf8(arguments[0].text())));
+}
+
+// Parts of text ----------------------------------------------------------------------------------
+
+/// How a text is cut: into the characters of its encoding, or into bytes.
+enum class Unit : std::uint8_t { Character, Byte };
+
+/// The bytes of a text and its units in it.
+class Units {
+public:
+    Units(const Value& text, Unit unit, const Machine& machine)
+        : bytes_(machine.host().Bytes(text.text())),
+          encoding_(machine.host().Encoding(text.text())),
+          bounds_(unit == Unit::Byte ? std::vector<std::size_t>{}
+                                     : CharacterBounds(bytes_, encoding_)) {}
+
+    std::size_t count() const { return bounds_.empty() ? bytes_.size() : bounds_.size() - 1; }
+
+    /// `length` units from the one with that index, as far as they are there. Negative numbers
+    /// count as 0.
+    Value Cut(std::int64_t start, std::int64_t length, const Machine& machine) const {
+        const auto end = static_cast<std::int64_t>(count());
+        const auto first = std::clamp<std::int64_t>(start, 0, end);
+        const auto last = first + std::clamp<std::int64_t>(length, 0, end - first);
+        const auto from = ByteOffset(first);
+        return machine.MakeText(std::string_view(bytes_).substr(from, ByteOffset(last) - from),
+                                encoding_);
+    }
+
+private:
+    std::size_t ByteOffset(std::int64_t index) const {
+        const auto unit = static_cast<std::size_t>(index);
+        return bounds_.empty() ? unit : bounds_[unit];
+    }
+
+    std::string bytes_;
+    HostTextEncoding encoding_;
+    std::vector<std::size_t> bounds_;
+};
+
+template <Unit By>
+Value Length(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(Units(arguments[0], By, machine).count());
+}
+
+template <Unit By>
+Value Left(const Arguments& arguments, const Machine& machine) {
+    return Units(arguments[0], By, machine).Cut(0, arguments[1].Get<std::int32_t>(), machine);
+}
+
+template <Unit By>
+Value Right(const Arguments& arguments, const Machine& machine) {
+    const Units units(arguments[0], By, machine);
+    const auto length = std::max<std::int64_t>(arguments[1].Get<std::int32_t>(), 0);
+    return units.Cut(static_cast<std::int64_t>(units.count()) - length, length, machine);
+}
+
+/// The first unit has the number 1.
+template <Unit By>
+Value Middle(const Arguments& arguments, const Machine& machine) {
+    const Units units(arguments[0], By, machine);
+    const std::int64_t start = std::max(arguments[1].Get<std::int32_t>(), 1);
+    const std::int64_t length = arguments[2].Get<std::int32_t>();
+    return units.Cut(start - 1, length, machine);
+}
+
+// Characters and encodings -----------------------------------------------------------------------
+
+Value Chr(const Arguments& arguments, const Machine& machine) {
+    const auto codePoint = arguments[0].Get<std::int32_t>();
+    return machine.MakeText(EncodeUtf8(static_cast<char32_t>(codePoint)));
+}
+
+Value ChrByte(const Arguments& arguments, const Machine& machine) {
+    const auto byte = static_cast<char>(arguments[0].Get<std::int32_t>());
+    return machine.MakeText(std::string_view(&byte, 1), HostTextEncoding::Unknown);
+}
+
+Value Asc(const Arguments& arguments, const Machine& machine) {
+    const auto text = machine.host().Utf8(arguments[0].text());
+    if (text.empty()) {
+        return Value::Of(0);
+    }
+    const auto firstByte = static_cast<unsigned char>(text.front());
+    const auto character = DecodeUtf8(text, 0).value_or(DecodedCharacter{firstByte, 1});
+    return Value::Of(character.codePoint);
+}
+
+Value AscByte(const Arguments& arguments, const Machine& machine) {
+    const auto bytes = machine.host().Bytes(arguments[0].text());
+    return Value::Of(bytes.empty() ? 0 : static_cast<unsigned char>(bytes.front()));
+}
+
+HostTextEncoding EncodingIn(const Value& value) {
+    return static_cast<HostTextEncoding>(value.Get<std::uint32_t>());
+}
+
+Value ConvertEncoding(const Arguments& arguments, const Machine& machine) {
+    if (arguments[0].text() == nullptr) {
+        return arguments[0];
+    }
+    auto text = Value::Adopt(machine.host().Convert(arguments[0].text(), EncodingIn(arguments[1])));
+    if (text.text() == nullptr) {
+        machine.Raise("RuntimeException", "The text cannot be converted to that encoding.");
+    }
+    return text;
+}
+
+Value DefineEncoding(const Arguments& arguments, const Machine& machine) {
+    return machine.MakeText(machine.host().Bytes(arguments[0].text()), EncodingIn(arguments[1]));
+}
+
+Value EncodingOf(const Arguments& arguments, const Machine& machine) {
+    const auto encoding = machine.host().Encoding(arguments[0].text());
+    return Value::Of(static_cast<std::uint32_t>(encoding));
+}
+
+/// The code of a base encoding in a format, whether anybody knows it or not.
+Value GetTextEncoding(const Arguments& arguments, const Machine& /*machine*/) {
+    const auto base = arguments[0].Get<std::uint32_t>() & 0xFFFFU;
+    const auto variant = arguments[1].Get<std::uint32_t>() & 0x3FFU;
+    const auto format = arguments[2].Get<std::uint32_t>() & 0x3FU;
+    return Value::Of(base | variant << 16U | format << 26U);
+}
+
+struct BuiltInRow {
+    const char* declaration;
+    code::BuiltInFunction function;
+};
+
+constexpr auto Rows = std::to_array<BuiltInRow>({
+    {"Str(value As Int32) As String", TextOfNumber<std::int32_t>},
+    {"Str(value As UInt32) As String", TextOfNumber<std::uint32_t>},
+    {"Str(value As Int64) As String", TextOfNumber<std::int64_t>},
+    {"Str(value As UInt64) As String", TextOfNumber<std::uint64_t>},
+    {"Str(value As Single) As String", TextOfNumber<float>},
+    {"Str(value As Double) As String", TextOfNumber<double>},
+    {"Str(value As Currency) As String", TextOfNumber<CurrencyAmount>},
+    {"Str(value As Boolean) As String", TextOfBoolean},
+    {"Val(text As String) As Double", Val},
+    {"Hex(value As Int32) As String", Digits<std::uint32_t, 16>},
+    {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},
+    {"Hex(value As Int64) As String", Digits<std::uint64_t, 16>},
+    {"Hex(value As UInt64) As String", Digits<std::uint64_t, 16>},
+    {"Oct(value As Int32) As String", Digits<std::uint32_t, 8>},
+    {"Oct(value As UInt32) As String", Digits<std::uint32_t, 8>},
+    {"Oct(value As Int64) As String", Digits<std::uint64_t, 8>},
+    {"Oct(value As UInt64) As String", Digits<std::uint64_t, 8>},
+    {"Bin(value As Int32) As String", Digits<std::uint32_t, 2>},
+    {"Bin(value As UInt32) As String", Digits<std::uint32_t, 2>},
+    {"Bin(value As Int64) As String", Digits<std::uint64_t, 2>},
+    {"Bin(value As UInt64) As String", Digits<std::uint64_t, 2>},
+    {"Len(text As String) As Integer", Length<Unit::Character>},
+    {"LenB(text As String) As Integer", Length<Unit::Byte>},
+    {"Left(text As String, length As Integer) As String", Left<Unit::Character>},
+    {"LeftB(text As String, length As Integer) As String", Left<Unit::Byte>},
+    {"Right(text As String, length As Integer) As String", Right<Unit::Character>},
+    {"RightB(text As String, length As Integer) As String", Right<Unit::Byte>},
+    {"Mid(text As String, start As Integer, length As Integer = 2147483647) As String",
+     Middle<Unit::Character>},
+    {"MidB(text As String, start As Integer, length As Integer = 2147483647) As String",
+     Middle<Unit::Byte>},
+    {"Chr(codePoint As Integer) As String", Chr},
+    {"ChrB(byte As Integer) As String", ChrByte},
+    {"Asc(text As String) As Integer", Asc},
+    {"AscB(text As String) As Integer", AscByte},
+    {"ConvertEncoding(text As String, encoding As TextEncoding) As String", ConvertEncoding},
+    {"DefineEncoding(text As String, encoding As TextEncoding) As String", DefineEncoding},
+    {"Encoding(text As String) As TextEncoding", EncodingOf},
+    {"GetTextEncoding(base As Integer, variant As Integer = 0, format As Integer = 0)"
+     " As TextEncoding",
+     GetTextEncoding},
+});
+
+struct EncodingName {
+    std::string_view name;
+    HostTextEncoding encoding;
+};
+
+constexpr auto EncodingNames = std::to_array<EncodingName>({
+    {"ASCII", HostTextEncoding::Ascii},
+    {"UTF8", HostTextEncoding::Utf8},
+    {"UTF16", HostTextEncoding::Utf16},
+    {"UTF16BE", HostTextEncoding::Utf16BigEndian},
+    {"UTF16LE", HostTextEncoding::Utf16LittleEndian},
+    {"UTF32", HostTextEncoding::Utf32},
+    {"UTF32BE", HostTextEncoding::Utf32BigEndian},
+    {"UTF32LE", HostTextEncoding::Utf32LittleEndian},
+    {"ISOLatin1", HostTextEncoding::Latin1},
+    {"WindowsANSI", HostTextEncoding::WindowsAnsi},
+    {"WindowsLatin1", HostTextEncoding::WindowsAnsi},
+    {"MacRoman", HostTextEncoding::MacRoman},
+});
+
+}  // namespace
+
+std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
+    std::vector<BuiltIn> builtIns;
+    for (const auto& row : Rows) {
+        builtIns.push_back(
+            {types.Resolve(ParseDeclaration(row.declaration), row.declaration), row.function});
+    }
+    return builtIns;
+}
+
+code::BuiltInFunction FindTextFunction(Kind kind) {
+    if (kind == Kind::Text) {
+        return TextItself;
+    }
+    if (kind == Kind::Boolean) {
+        return TextOfBoolean;
+    }
+    if (!IsNumber(kind)) {
+        return nullptr;
+    }
+    return WithNumberType(kind, []<typename T>(std::type_identity<T>) -> code::BuiltInFunction {
+        return TextOfNumber<T>;
+    });
+}
+
+std::optional<HostTextEncoding> FindEncoding(std::string_view name) {
+    const auto* found = std::ranges::find_if(
+        EncodingNames, [name](const EncodingName& row) { return SameName(row.name, name); });
+    return found == EncodingNames.end() ? std::nullopt : std::optional(found->encoding);
+}
+
+}  // namespace standin::language

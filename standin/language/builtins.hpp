@@ -1,0 +1,32 @@
+// The functions that are part of the language.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "standin/language/class_model.hpp"
+#include "standin/language/code_expressions.hpp"
+
+namespace standin::language {
+
+/// A function with its declaration, from which overloads are chosen as for a plug-in's methods.
+struct BuiltIn {
+    Signature signature;
+    code::BuiltInFunction function;
+};
+
+/// All functions of the language.
+std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types);
+
+/// The function that answers a value of that kind as text; null where there is none.
+code::BuiltInFunction FindTextFunction(Kind kind);
+
+/// The module whose members are the text encodings.
+inline constexpr std::string_view EncodingsModule = "Encodings";
+
+/// The encoding of that name in the module.
+std::optional<HostTextEncoding> FindEncoding(std::string_view name);
+
+}  // namespace standin::language

@@ -1,0 +1,207 @@
+#include "standin/language/class_model.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "standin/language/parser.hpp"
+
+namespace standin::language {
+namespace {
+
+constexpr std::string_view ExceptionRoot = "RuntimeException";
+
+/// Classes of the host's own that a program can name.
+constexpr std::string_view HostClassNames[] = {
+    "Object",
+    ExceptionRoot,
+    "OutOfBoundsException",
+    "OutOfMemoryException",
+    "IllegalCastException",
+    "NilObjectException",
+    "UnsupportedOperationException",
+    "StackOverflowException",
+    "TypeMismatchException",
+    "Variant",
+    "MemoryBlock",
+    "Date",
+    "DateTime",
+};
+
+std::vector<const Method*> Named(const std::vector<Method>& methods, std::string_view name) {
+    std::vector<const Method*> found;
+    for (const auto& method : methods) {
+        if (SameName(method.signature.name, name)) {
+            found.push_back(&method);
+        }
+    }
+    return found;
+}
+
+const Property* Named(const std::vector<Property>& properties, std::string_view name) {
+    const auto found = std::ranges::find_if(properties, [name](const Property& property) {
+        return SameName(property.name, name);
+    });
+    return found == properties.end() ? nullptr : &*found;
+}
+
+/// The first class, from `model` to its ancestors, for which `find` has an answer.
+template <typename Find>
+auto FirstAnswer(const ClassModel* model, Find find) -> decltype(find(*model)) {
+    for (; model != nullptr; model = model->super()) {
+        const auto answer = find(*model);
+        if (answer != decltype(find(*model)){}) {
+            return answer;
+        }
+    }
+    return {};
+}
+
+/// The name that a declaration begins with, for one that does not parse.
+std::string LeadingName(std::string_view declaration) {
+    return std::string(declaration.substr(0, declaration.find_first_of(" (\t")));
+}
+
+}  // namespace
+
+bool ClassModel::IsA(const ClassModel& other) const {
+    return FirstAnswer(this, [&other](const ClassModel& model) { return &model == &other; });
+}
+
+bool ClassModel::IsException() const {
+    return FirstAnswer(
+        this, [](const ClassModel& model) { return SameName(model.name(), ExceptionRoot); });
+}
+
+std::vector<const Method*> ClassModel::FindMethods(std::string_view name) const {
+    return FirstAnswer(this,
+                       [name](const ClassModel& model) { return Named(model.methods, name); });
+}
+
+std::vector<const Method*> ClassModel::FindSharedMethods(std::string_view name) const {
+    return FirstAnswer(
+        this, [name](const ClassModel& model) { return Named(model.sharedMethods, name); });
+}
+
+const Property* ClassModel::FindProperty(std::string_view name) const {
+    return FirstAnswer(this,
+                       [name](const ClassModel& model) { return Named(model.properties, name); });
+}
+
+const Property* ClassModel::FindSharedProperty(std::string_view name) const {
+    return FirstAnswer(
+        this, [name](const ClassModel& model) { return Named(model.sharedProperties, name); });
+}
+
+TypeTable::TypeTable(const Host& host) {
+    for (const auto name : HostClassNames) {
+        if (const auto* info = host.FindClass(name)) {
+            AddClass(*info);
+        }
+    }
+    for (const auto* info : host.RegisteredClasses()) {
+        AddClass(*info);
+    }
+    for (auto& [name, model] : classes_) {
+        AddMembers(*model);
+    }
+}
+
+ClassModel& TypeTable::AddClass(const ClassInfo& info) {
+    if (const auto found = classes_.find(info.name); found != classes_.end()) {
+        return *found->second;
+    }
+    const ClassModel* super = info.super == nullptr ? nullptr : &AddClass(*info.super);
+    return *classes_.emplace(info.name, std::make_unique<ClassModel>(info, super)).first->second;
+}
+
+void TypeTable::AddMembers(ClassModel& model) const {
+    const auto& info = model.info();
+    const auto readMethod = [this](const MethodInfo& method) { return ReadMethod(method); };
+    const auto readProperty = [this](const PropertyInfo& property) {
+        return ReadProperty(property);
+    };
+    std::ranges::transform(info.methods, std::back_inserter(model.methods), readMethod);
+    std::ranges::transform(info.sharedMethods, std::back_inserter(model.sharedMethods), readMethod);
+    std::ranges::transform(info.properties, std::back_inserter(model.properties), readProperty);
+    std::ranges::transform(info.sharedProperties, std::back_inserter(model.sharedProperties),
+                           readProperty);
+    if (SameName(model.name(), ExceptionRoot)) {
+        const auto addHostProperty = [&model](const char* name, Kind kind, HostProperty property) {
+            const Type type{kind};
+            model.properties.push_back({.name = name,
+                                        .type = type,
+                                        .declaration = std::string(name) + " As " + NameOf(type),
+                                        .problem = {},
+                                        .hostProperty = property});
+        };
+        addHostProperty("Message", Kind::Text, HostProperty::Message);
+        addHostProperty("ErrorNumber", Kind::Int32, HostProperty::ErrorNumber);
+    }
+}
+
+Method TypeTable::ReadMethod(const MethodInfo& info) const {
+    Method method{{}, info.function, info.setter};
+    try {
+        method.signature = Resolve(ParseDeclaration(info.declaration), info.declaration);
+    } catch (const ProgramError& error) {
+        method.signature.name = LeadingName(info.declaration);
+        method.signature.declaration = info.declaration;
+        method.signature.problem = error.what();
+    }
+    return method;
+}
+
+Property TypeTable::ReadProperty(const PropertyInfo& info) const {
+    Property property{.name = info.name,
+                      .type = {},
+                      .declaration = info.name + " as " + info.type,
+                      .problem = {},
+                      .getter = info.getter,
+                      .setter = info.setter,
+                      .parameter = info.parameter};
+    try {
+        property.type = Require(ParseTypeName(info.type));
+    } catch (const ProgramError& error) {
+        property.problem = error.what();
+    }
+    return property;
+}
+
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration) const {
+    Signature signature;
+    signature.name = std::move(syntax.name);
+    signature.declaration = std::move(declaration);
+    for (auto& parameter : syntax.parameters) {
+        signature.parameters.push_back({std::move(parameter.name), Require(parameter.type),
+                                        parameter.byRef, std::move(parameter.defaultValue)});
+    }
+    if (syntax.result) {
+        signature.result = Require(*syntax.result);
+    }
+    return signature;
+}
+
+std::optional<Type> TypeTable::Find(std::string_view name) const {
+    if (const auto kind = FindKind(name)) {
+        return Type{*kind};
+    }
+    if (const auto* model = FindClass(name)) {
+        return Type{Kind::Instance, model};
+    }
+    return std::nullopt;
+}
+
+const ClassModel* TypeTable::FindClass(std::string_view name) const {
+    const auto found = classes_.find(name);
+    return found == classes_.end() ? nullptr : found->second.get();
+}
+
+Type TypeTable::Require(const syntax::TypeName& name) const {
+    const auto type = Find(name.name);
+    if (!type) {
+        throw ProgramError(name.at, "there is no type " + Quoted(name.name));
+    }
+    return *type;
+}
+
+}  // namespace standin::language

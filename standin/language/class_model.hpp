@@ -1,0 +1,116 @@
+// What a program can use: the types and classes of the host and of the plug-in, with the members
+// that the plug-in's declarations tell.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "standin/language/names.hpp"
+#include "standin/language/syntax.hpp"
+#include "standin/language/types.hpp"
+#include "standin/runtime/host.hpp"
+
+namespace standin::language {
+
+struct Parameter {
+    std::string name;
+    Type type;
+    bool byRef = false;
+    /// The literal that fills a missing argument; null when the argument must be given.
+    std::shared_ptr<const syntax::Expression> defaultValue;
+};
+
+/// The head of anything that is called with arguments.
+struct Signature {
+    std::string name;
+    std::vector<Parameter> parameters;
+    /// Kind::None when nothing is returned.
+    Type result;
+    /// The declaration as written, for messages.
+    std::string declaration;
+    /// Why the declaration cannot be used (a type that the language does not know, a mistake in
+    /// it); empty when it can.
+    std::string problem;
+};
+
+/// A method of a plug-in's class.
+struct Method {
+    Signature signature;
+    Routine function = nullptr;
+    Routine setter = nullptr;
+};
+
+/// Properties of exceptions that the host itself keeps.
+enum class HostProperty : std::uint8_t { None, Message, ErrorNumber };
+
+/// A property of a plug-in's class or of an exception.
+struct Property {
+    std::string name;
+    Type type;
+    /// `Name As Type` as registered, for messages.
+    std::string declaration;
+    std::string problem;
+    Routine getter = nullptr;
+    Routine setter = nullptr;
+    std::int32_t parameter = 0;
+    HostProperty hostProperty = HostProperty::None;
+};
+
+/// One class. Members are looked up from the class to its ancestors; the nearest class that has
+/// the name answers.
+class ClassModel {
+public:
+    ClassModel(const ClassInfo& info, const ClassModel* super) : info_(&info), super_(super) {}
+
+    const std::string& name() const { return info_->name; }
+    const ClassInfo& info() const { return *info_; }
+    const ClassModel* super() const { return super_; }
+    bool IsA(const ClassModel& other) const;
+    /// Whether objects of this class can be raised.
+    bool IsException() const;
+
+    std::vector<const Method*> FindMethods(std::string_view name) const;
+    std::vector<const Method*> FindSharedMethods(std::string_view name) const;
+    const Property* FindProperty(std::string_view name) const;
+    const Property* FindSharedProperty(std::string_view name) const;
+
+    std::vector<Method> methods;
+    std::vector<Method> sharedMethods;
+    std::vector<Property> properties;
+    std::vector<Property> sharedProperties;
+
+private:
+    const ClassInfo* info_;
+    const ClassModel* super_;
+};
+
+/// Every type by its name.
+class TypeTable {
+public:
+    /// Reads the classes of the host: its own and those that the plug-in registered.
+    explicit TypeTable(const Host& host);
+    TypeTable(const TypeTable&) = delete;
+    TypeTable& operator=(const TypeTable&) = delete;
+
+    std::optional<Type> Find(std::string_view name) const;
+    const ClassModel* FindClass(std::string_view name) const;
+    /// The type of a written name; throws ProgramError when there is none.
+    Type Require(const syntax::TypeName& name) const;
+    /// Fills a signature from its syntax. An unknown type throws ProgramError.
+    Signature Resolve(syntax::Signature signature, std::string declaration) const;
+
+private:
+    ClassModel& AddClass(const ClassInfo& info);
+    void AddMembers(ClassModel& model) const;
+    Method ReadMethod(const MethodInfo& info) const;
+    Property ReadProperty(const PropertyInfo& info) const;
+
+    std::map<std::string, std::unique_ptr<ClassModel>, NameLess> classes_;
+};
+
+}  // namespace standin::language

@@ -1,0 +1,153 @@
+// The resolved program: a tree whose nodes run themselves. The checker builds it; every name is a
+// slot by then, every overload chosen, every conversion a node of its own.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "standin/language/source.hpp"
+#include "standin/language/value.hpp"
+#include "standin/runtime/host.hpp"
+
+namespace standin::language {
+
+/// An exception of the language on its way to a Catch.
+class Thrown : public std::exception {
+public:
+    Thrown(Value exception, Position at) : exception_(std::move(exception)), at_(at) {}
+
+    /// The exception object; never Nil.
+    const Value& exception() const { return exception_; }
+    /// The statement that was running when it was raised.
+    Position position() const { return at_; }
+    const char* what() const noexcept override { return "an exception of the program"; }
+
+private:
+    Value exception_;
+    Position at_;
+};
+
+/// The program could not go on at all: not even an exception object could be made. No Catch of
+/// the program sees this.
+class OutOfObjects : public std::exception {
+public:
+    explicit OutOfObjects(Position at) : at_(at) {}
+    Position position() const { return at_; }
+    const char* what() const noexcept override { return "the host could not make an object"; }
+
+private:
+    Position at_;
+};
+
+/// What a running program needs around it.
+class Machine {
+public:
+    using Output = std::function<void(std::string_view utf8)>;
+
+    Machine(Host& host, Output print) : host_(host), print_(std::move(print)) {}
+
+    Host& host() const { return host_; }
+    void Print(std::string_view utf8) const { print_(utf8); }
+
+    /// The statement that runs now; exceptions carry it.
+    Position position = 0;
+    /// Routines that are being called, one in another.
+    std::size_t depth = 0;
+    /// Where the native stack stood at the first of them.
+    std::size_t stackBase = 0;
+
+    /// Throws `exception`, an object that must not be Nil.
+    [[noreturn]] void Throw(Value exception) const;
+    /// Throws a new exception of one of the host's classes.
+    [[noreturn]] void Raise(std::string_view className, std::string_view message) const;
+    /// Raises NilObjectException unless there is an object.
+    void RequireObject(const Value& object) const;
+
+    /// A new object of a class, without a constructor run. Raises OutOfMemoryException.
+    Value MakeObject(const ClassInfo& info) const;
+    /// A new string. Raises OutOfMemoryException.
+    Value MakeText(std::string_view bytes, HostTextEncoding encoding) const;
+    Value MakeText(std::string_view utf8) const;
+
+private:
+    Host& host_;
+    Output print_;
+};
+
+/// The variables of one call of a routine, or of the main program.
+struct Frame {
+    Frame(Machine& runningMachine, std::size_t slotCount, Frame* mainFrame = nullptr)
+        : machine(runningMachine), slots(slotCount), main(mainFrame == nullptr ? *this : *mainFrame) {}
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    Machine& machine;
+    std::vector<Value> slots;
+    /// The main program's frame, whose variables every routine sees.
+    Frame& main;
+    /// What Return left.
+    Value result;
+    /// Loops still to be left after the innermost one, while an Exit or Continue is under way.
+    int outerLoops = 0;
+};
+
+/// How a statement ended.
+enum class Flow : std::uint8_t { Next, Exit, Continue, Return };
+
+namespace code {
+
+class Expression {
+public:
+    Expression() = default;
+    virtual ~Expression() = default;
+    Expression(const Expression&) = delete;
+    Expression& operator=(const Expression&) = delete;
+
+    virtual Value Evaluate(Frame& frame) const = 0;
+    /// Where the value of a variable is kept; null for every other expression.
+    virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }
+};
+
+class Statement {
+public:
+    explicit Statement(Position at) : at_(at) {}
+    virtual ~Statement() = default;
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+
+    virtual Flow Execute(Frame& frame) const = 0;
+    Position at() const { return at_; }
+
+private:
+    Position at_;
+};
+
+using ExpressionPtr = std::unique_ptr<Expression>;
+using StatementPtr = std::unique_ptr<Statement>;
+
+/// Statements in a row. The slots from `firstSlot` up to `endSlot` are its own variables, which it
+/// lets go of when it ends in whatever way.
+struct Block {
+    std::vector<StatementPtr> statements;
+    std::size_t firstSlot = 0;
+    std::size_t endSlot = 0;
+
+    Flow Execute(Frame& frame) const;
+};
+
+/// A routine of the program. Its parameters are the first slots.
+struct Routine {
+    std::size_t slotCount = 0;
+    Block body;
+    /// What a routine returns that ends without Return.
+    Type result;
+};
+
+}  // namespace code
+}  // namespace standin::language

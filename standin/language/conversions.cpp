@@ -1,0 +1,172 @@
+#include "standin/language/conversions.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "standin/language/code_expressions.hpp"
+
+namespace standin::language {
+namespace {
+
+constexpr std::string_view ConvertOperator = "Operator_Convert";
+
+/// How well a value fits without any Operator_Convert.
+Fit PlainFit(const Checked& value, Type to) {
+    const Type from = value.type;
+    if (from == to) {
+        return Fit::Exact;
+    }
+    if (from.kind == Kind::Nil) {
+        const bool takesNil = to.kind == Kind::Instance || to.kind == Kind::TextEncoding;
+        return takesNil ? Fit::Exact : Fit::None;
+    }
+    if (from.kind == Kind::Instance && to.kind == Kind::Instance) {
+        return from.model->IsA(*to.model) ? Fit::Widening : Fit::None;
+    }
+    if (IsNumber(from.kind) && IsNumber(to.kind)) {
+        return Widens(from.kind, to.kind) ? Fit::Widening : Fit::Narrowing;
+    }
+    return Fit::None;
+}
+
+/// The Operator_Convert that makes an object of the class from the value: the one whose parameter
+/// fits best, if one does without loss.
+const Method* FindConversionIn(const Checked& value, const ClassModel& model) {
+    const Method* best = nullptr;
+    auto bestFit = Fit::Converting;
+    for (const auto* method : model.FindMethods(ConvertOperator)) {
+        const auto& signature = method->signature;
+        if (!signature.problem.empty() || signature.parameters.size() != 1) {
+            continue;
+        }
+        const auto fit = PlainFit(value, signature.parameters.front().type);
+        if (fit < bestFit) {
+            best = method;
+            bestFit = fit;
+        }
+    }
+    return best;
+}
+
+/// The Operator_Convert that answers an object as a value of that type.
+const Method* FindConversionOut(Type from, Type to) {
+    if (from.kind != Kind::Instance) {
+        return nullptr;
+    }
+    const auto methods = from.model->FindMethods(ConvertOperator);
+    const auto found = std::ranges::find_if(methods, [to](const Method* method) {
+        return method->signature.parameters.empty() && method->signature.result == to;
+    });
+    return found == methods.end() ? nullptr : *found;
+}
+
+std::string LabelOf(const ClassModel& model, const Method& method) {
+    return model.name() + "." + method.signature.declaration;
+}
+
+Checked ConvertIn(Checked value, Type to, const Method& method) {
+    const Position at = value.at;
+    RequireRoutine(method.function, method.signature.declaration, at);
+    auto argument = ConvertTo(std::move(value), method.signature.parameters.front().type);
+    std::vector<code::Argument> arguments;
+    arguments.push_back({std::move(argument.code), argument.type.kind, false});
+    code::PluginCall call(LabelOf(*to.model, method), method.function, std::move(arguments),
+                          Kind::None);
+    return {std::make_unique<code::NewObject>(to.model->info(), std::move(call)), to, at, {}, false};
+}
+
+Checked ConvertOut(Checked value, Type to, const Method& method) {
+    const Position at = value.at;
+    RequireRoutine(method.function, method.signature.declaration, at);
+    code::PluginCall call(LabelOf(*value.type.model, method), method.function, {}, to.kind);
+    return {std::make_unique<code::InstanceCall>(std::move(value.code), std::move(call),
+                                                 code::NilReceiver::Passed),
+            to, at, {}, false};
+}
+
+/// A whole literal becomes one of the other kind at once.
+Checked ConvertNumber(Checked value, Type to) {
+    const auto conversion = FindConversion(value.type.kind, to.kind);
+    const auto literal = IsInteger(to.kind) ? value.literal : std::nullopt;
+    return {std::make_unique<code::UnaryOperation>(conversion, std::move(value.code)), to, value.at,
+            literal, false};
+}
+
+Checked ConvertPlain(Checked value, Type to) {
+    if (value.type == to) {
+        return value;
+    }
+    if (value.type.kind == Kind::Nil) {
+        return {std::make_unique<code::Constant>(Value::DefaultOf(to)), to, value.at, {}, false};
+    }
+    if (IsNumber(to.kind)) {
+        return ConvertNumber(std::move(value), to);
+    }
+    return {std::move(value.code), to, value.at, {}, false};
+}
+
+std::string HintFor(Type from, Type to) {
+    if (IsNumber(from.kind) && to.kind == Kind::Text) {
+        return "; use Str";
+    }
+    if (from.kind == Kind::Text && IsNumber(to.kind)) {
+        return "; use Val";
+    }
+    if (from.kind == Kind::Instance && to.kind == Kind::Instance && to.model->IsA(*from.model)) {
+        return "; use CType";
+    }
+    return {};
+}
+
+}  // namespace
+
+Fit FitOf(const Checked& value, Type to) {
+    const auto fit = PlainFit(value, to);
+    if (fit != Fit::None) {
+        return fit;
+    }
+    const bool convertsIn =
+        to.kind == Kind::Instance && FindConversionIn(value, *to.model) != nullptr;
+    return convertsIn || FindConversionOut(value.type, to) != nullptr ? Fit::Converting : Fit::None;
+}
+
+Fit FitOf(const Checked& argument, const Parameter& parameter) {
+    if (!parameter.byRef) {
+        return FitOf(argument, parameter.type);
+    }
+    return argument.isVariable && argument.type == parameter.type ? Fit::Exact : Fit::None;
+}
+
+Checked ConvertTo(Checked value, Type to) {
+    if (PlainFit(value, to) != Fit::None) {
+        return ConvertPlain(std::move(value), to);
+    }
+    if (to.kind == Kind::Instance) {
+        if (const auto* method = FindConversionIn(value, *to.model)) {
+            return ConvertIn(std::move(value), to, *method);
+        }
+    }
+    if (const auto* method = FindConversionOut(value.type, to)) {
+        return ConvertOut(std::move(value), to, *method);
+    }
+    throw ProgramError(value.at, "expected " + NameOf(to) + ", this is " + NameOf(value.type) +
+                                     HintFor(value.type, to));
+}
+
+void RequireUsable(const std::string& declaration, const std::string& problem, Position at) {
+    if (!problem.empty()) {
+        throw ProgramError(at, "cannot use " + Quoted(declaration) + ": " + problem);
+    }
+}
+
+void RequireRoutine(host_interface::Routine routine, const std::string& declaration, Position at) {
+    if (routine == nullptr) {
+        throw ProgramError(at, "no routine for " + Quoted(declaration));
+    }
+}
+
+bool HasTextForm(Type type) {
+    return FindConversionOut(type, Type{Kind::Text}) != nullptr;
+}
+
+}  // namespace standin::language

@@ -1,0 +1,468 @@
+#include "standin/language/expression_checker.hpp"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "standin/language/parser.hpp"
+
+namespace standin::language {
+namespace {
+
+constexpr std::string_view ConstructorName = "Constructor";
+
+Checked MakeConstant(Value value, Type type, Position at) {
+    return {std::make_unique<code::Constant>(std::move(value)), type, at, {}, false};
+}
+
+/// A whole literal is Integer; Int64 where that is too small; UInt64 where that is too small.
+Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at) {
+    constexpr auto LargestInt64 = std::uint64_t{std::numeric_limits<std::int64_t>::max()};
+    if (magnitude > LargestInt64 + (isNegative ? 1 : 0)) {
+        if (isNegative) {
+            throw ProgramError(at, "the number does not fit in 64 bits");
+        }
+        return MakeConstant(Value::Of(magnitude), {Kind::UInt64}, at);
+    }
+    const auto value = static_cast<std::int64_t>(isNegative ? 0U - magnitude : magnitude);
+    const bool isInteger = std::in_range<std::int32_t>(value);
+    auto constant = MakeConstant(Value::Of(value), {isInteger ? Kind::Int32 : Kind::Int64}, at);
+    constant.literal = value;
+    return constant;
+}
+
+std::string LabelOf(const ClassModel& model, const std::string& declaration) {
+    return model.name() + "." + declaration;
+}
+
+/// A call of a plug-in's routine as code; shared members have no receiver.
+Checked MakeCall(std::optional<Checked> receiver, code::PluginCall call, code::NilReceiver nil,
+                 Type result, Position at) {
+    if (!receiver) {
+        return {std::make_unique<code::SharedCall>(std::move(call)), result, at, {}, false};
+    }
+    return {std::make_unique<code::InstanceCall>(std::move(receiver->code), std::move(call), nil),
+            result, at, {}, false};
+}
+
+[[noreturn]] void FailWithoutMember(const ClassModel& model, const std::string& name, Position at) {
+    throw ProgramError(at, model.name() + " has no member " + Quoted(name));
+}
+
+}  // namespace
+
+Checked ExpressionChecker::MakeBoolean(code::ExpressionPtr code, Position at) {
+    return {std::move(code), {Kind::Boolean}, at, {}, false};
+}
+
+// Literals, names, members -----------------------------------------------------------------------
+
+Checked ExpressionChecker::Check(const syntax::Expression& expression) {
+    auto checked = CheckCall(expression);
+    if (checked.type.kind == Kind::None) {
+        throw ProgramError(expression.at, "this returns no value");
+    }
+    return checked;
+}
+
+Checked ExpressionChecker::CheckCall(const syntax::Expression& expression) {
+    return std::visit([&](const auto& node) { return CheckNode(node, expression.at); },
+                      expression.node);
+}
+
+code::ExpressionPtr ExpressionChecker::CheckAs(const syntax::Expression& expression, Type type) {
+    return ConvertTo(Check(expression), type).code;
+}
+
+code::ExpressionPtr ExpressionChecker::CheckAsText(const syntax::Expression& expression) {
+    auto value = Check(expression);
+    if (HasTextForm(value.type)) {
+        return ConvertTo(std::move(value), {Kind::Text}).code;
+    }
+    const auto function = FindTextFunction(value.type.kind);
+    if (function == nullptr) {
+        throw ProgramError(value.at, NameOf(value.type) + " cannot be printed");
+    }
+    std::vector<code::Argument> arguments;
+    arguments.push_back({std::move(value.code), value.type.kind, false});
+    return std::make_unique<code::BuiltInCall>(function, std::move(arguments));
+}
+
+Checked ExpressionChecker::CheckDefault(const syntax::Expression& literal, Position at) {
+    auto checked = Check(literal);
+    checked.at = at;
+    return checked;
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::IntegerLiteral& literal, Position at) {
+    return MakeInteger(literal.value, false, at);
+}
+
+Checked ExpressionChecker::CheckNegativeLiteral(std::uint64_t magnitude, Position at) {
+    return MakeInteger(magnitude, true, at);
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::RealLiteral& literal, Position at) {
+    return MakeConstant(Value::Of(literal.value), {Kind::Double}, at);
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::TextLiteral& literal, Position at) {
+    return {std::make_unique<code::TextConstant>(literal.value), {Kind::Text}, at, {}, false};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::BooleanLiteral& literal, Position at) {
+    return MakeConstant(Value::Of(literal.value), {Kind::Boolean}, at);
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::NilLiteral& /*literal*/, Position at) {
+    return MakeConstant(Value::Adopt(Object{}), {Kind::Nil}, at);
+}
+
+const Variable* ExpressionChecker::FindVariable(const syntax::Expression& expression) const {
+    const auto* name = std::get_if<syntax::Name>(&expression.node);
+    return name == nullptr ? nullptr : scope_.Find(name->name);
+}
+
+Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
+    using enum code::VariableKind;
+    code::ExpressionPtr code;
+    switch (variable.kind) {
+        case Local:
+            code = std::make_unique<code::Variable<Local>>(variable.slot);
+            break;
+        case Main:
+            code = std::make_unique<code::Variable<Main>>(variable.slot);
+            break;
+        case Reference:
+            code = std::make_unique<code::Variable<Reference>>(variable.slot);
+            break;
+    }
+    return {std::move(code), variable.type, at, {}, !variable.isConstant};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Name& name, Position at) {
+    if (const auto* variable = scope_.Find(name.name)) {
+        return MakeVariable(*variable, at);
+    }
+    return CheckNamedCall(name.name, {}, at);
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Member& member, Position at) {
+    const auto* module = std::get_if<syntax::Name>(&member.object->node);
+    if (module != nullptr && SameName(module->name, EncodingsModule) &&
+        scope_.Find(module->name) == nullptr) {
+        const auto encoding = FindEncoding(member.name);
+        if (!encoding) {
+            throw ProgramError(at, "there is no encoding " + Quoted(member.name));
+        }
+        return MakeConstant(Value::Of(static_cast<std::uint32_t>(*encoding)), {Kind::TextEncoding},
+                            at);
+    }
+    return CheckMember(CheckReceiver(*member.object), member.name, at);
+}
+
+ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expression& expression) {
+    if (const auto* name = std::get_if<syntax::Name>(&expression.node)) {
+        const auto* model = types_.FindClass(name->name);
+        if (model != nullptr && scope_.Find(name->name) == nullptr) {
+            return {std::nullopt, model};
+        }
+    }
+    auto value = Check(expression);
+    if (value.type.kind != Kind::Instance) {
+        throw ProgramError(expression.at, NameOf(value.type) + " has no members");
+    }
+    const auto* model = value.type.model;
+    return {std::move(value), model};
+}
+
+/// A name after a dot without arguments: a property first, else a method.
+Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& name, Position at) {
+    if (receiver.value) {
+        if (const auto* property = receiver.model->FindProperty(name)) {
+            return ReadProperty(std::move(receiver), *property, false, at);
+        }
+    }
+    if (const auto* property = receiver.model->FindSharedProperty(name)) {
+        return ReadProperty(std::move(receiver), *property, true, at);
+    }
+    return CheckMemberCall(std::move(receiver), name, {}, at);
+}
+
+Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string& name,
+                                           Arguments arguments, Position at) {
+    const auto& model = *receiver.model;
+    if (receiver.value) {
+        const auto methods = model.FindMethods(name);
+        if (!methods.empty()) {
+            return CallMethod(std::move(receiver), methods, false, std::move(arguments), at);
+        }
+    }
+    const auto shared = model.FindSharedMethods(name);
+    if (!shared.empty()) {
+        return CallMethod(std::move(receiver), shared, true, std::move(arguments), at);
+    }
+    const bool isProperty =
+        model.FindProperty(name) != nullptr || model.FindSharedProperty(name) != nullptr;
+    if (isProperty && receiver.value && arguments.empty()) {
+        return CheckMember(std::move(receiver), name, at);
+    }
+    if (isProperty && receiver.value) {
+        throw ProgramError(at, Quoted(name) + " is a property and takes no arguments");
+    }
+    if (isProperty || !model.FindMethods(name).empty()) {
+        throw ProgramError(at, Quoted(name) + " needs an object of " + model.name());
+    }
+    FailWithoutMember(model, name, at);
+}
+
+Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
+                                        Position at) {
+    RequireUsable(property.declaration, property.problem, at);
+    if (property.hostProperty != HostProperty::None) {
+        return {std::make_unique<code::ReadHostProperty>(std::move(receiver.value->code),
+                                                         property.hostProperty),
+                property.type, at, {}, false};
+    }
+    RequireRoutine(property.getter, property.declaration, at);
+    const auto parameter = isShared ? std::nullopt : std::optional(property.parameter);
+    code::PluginCall call(LabelOf(*receiver.model, property.declaration), property.getter, {},
+                          property.type.kind, parameter);
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    code::NilReceiver::Passed, property.type, at);
+}
+
+Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const Method*>& methods,
+                                      bool isShared, Arguments arguments, Position at) {
+    const auto& name = methods.front()->signature.name;
+    const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    auto call = MakePluginCall(*receiver.model, method, std::move(arguments), at);
+    // What returns nothing is there for what it does to the object.
+    const Type result = method.signature.result;
+    const bool reads = result.kind != Kind::None;
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    reads ? code::NilReceiver::Passed : code::NilReceiver::Refused, result, at);
+}
+
+code::PluginCall ExpressionChecker::MakePluginCall(const ClassModel& model, const Method& method,
+                                                   Arguments arguments, Position at) {
+    const auto& signature = method.signature;
+    RequireRoutine(method.function, signature.declaration, at);
+    return {LabelOf(model, signature.declaration), method.function,
+            Fill(signature, std::move(arguments), at, *this), signature.result.kind};
+}
+
+// Calls ------------------------------------------------------------------------------------------
+
+ExpressionChecker::Arguments ExpressionChecker::CheckArguments(
+    const syntax::Expressions& expressions) {
+    Arguments arguments;
+    for (const auto& expression : expressions) {
+        arguments.push_back(Check(*expression));
+    }
+    return arguments;
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
+    if (const auto* member = std::get_if<syntax::Member>(&call.callee->node)) {
+        auto receiver = CheckReceiver(*member->object);
+        return CheckMemberCall(std::move(receiver), member->name, CheckArguments(call.arguments),
+                               at);
+    }
+    const auto* name = std::get_if<syntax::Name>(&call.callee->node);
+    if (name == nullptr || scope_.Find(name->name) != nullptr) {
+        throw ProgramError(at, "this is not something that takes arguments");
+    }
+    return CheckNamedCall(name->name, CheckArguments(call.arguments), at);
+}
+
+Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arguments,
+                                          Position at) {
+    Candidates candidates;
+    std::vector<const code::Routine*> routines;
+    for (const auto& routine : callables_.routines) {
+        if (SameName(routine.signature.name, name)) {
+            candidates.push_back(&routine.signature);
+            routines.push_back(routine.code);
+        }
+    }
+    if (!candidates.empty()) {
+        const auto index = RequireOverload(name, candidates, arguments, at);
+        const auto& signature = *candidates[index];
+        return {std::make_unique<code::RoutineCall>(
+                    *routines[index], Fill(signature, std::move(arguments), at, *this)),
+                signature.result, at, {}, false};
+    }
+    std::vector<code::BuiltInFunction> functions;
+    for (const auto& builtIn : callables_.builtIns) {
+        if (SameName(builtIn.signature.name, name)) {
+            candidates.push_back(&builtIn.signature);
+            functions.push_back(builtIn.function);
+        }
+    }
+    if (!candidates.empty()) {
+        const auto index = RequireOverload(name, candidates, arguments, at);
+        const auto& signature = *candidates[index];
+        return {std::make_unique<code::BuiltInCall>(
+                    functions[index], Fill(signature, std::move(arguments), at, *this)),
+                signature.result, at, {}, false};
+    }
+    if (const auto type = types_.Find(name)) {
+        if (arguments.size() == 1) {
+            return CastTo(std::move(arguments.front()), *type, at);
+        }
+        throw ProgramError(at, Quoted(name) + " is a type, not a value");
+    }
+    throw ProgramError(at, "there is nothing named " + Quoted(name));
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Cast& cast, Position at) {
+    return CastTo(Check(*cast.value), types_.Require(cast.type), at);
+}
+
+Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
+    const bool isDowncast = value.type.kind == Kind::Instance && type.kind == Kind::Instance &&
+                            type.model->IsA(*value.type.model);
+    if (!isDowncast) {
+        auto converted = ConvertTo(std::move(value), type);
+        converted.at = at;
+        converted.literal.reset();
+        converted.isVariable = false;
+        return converted;
+    }
+    return {std::make_unique<code::ClassCast>(std::move(value.code), type.model->info()), type, at,
+            {}, false};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at) {
+    auto value = Check(*test.value);
+    const auto type = types_.Require(test.type);
+    const bool isObject = value.type.kind == Kind::Instance || value.type.kind == Kind::Nil;
+    if (!isObject || type.kind != Kind::Instance) {
+        throw ProgramError(at, "\"IsA\" stands between an object and a class");
+    }
+    return MakeBoolean(
+        std::make_unique<code::ClassTest>(std::move(value.code), type.model->info()), at);
+}
+
+// New --------------------------------------------------------------------------------------------
+
+Checked ExpressionChecker::CheckNode(const syntax::New& creation, Position at) {
+    const auto type = types_.Require(creation.type);
+    if (type.kind != Kind::Instance) {
+        throw ProgramError(at, NameOf(type) + " is not a class");
+    }
+    return Construct(*type.model, CheckArguments(creation.arguments), at);
+}
+
+Checked ExpressionChecker::Construct(const ClassModel& model, Arguments arguments, Position at) {
+    const Type type{Kind::Instance, &model};
+    const auto constructors = model.FindMethods(ConstructorName);
+    if (constructors.empty() && model.IsException()) {
+        return ConstructException(model, std::move(arguments), at);
+    }
+    if (constructors.empty()) {
+        if (!arguments.empty()) {
+            throw ProgramError(at, model.name() + " has no constructor that takes arguments");
+        }
+        return {std::make_unique<code::NewObject>(model.info(), std::nullopt), type, at, {}, false};
+    }
+    const auto index = RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments,
+                                       at);
+    auto call = MakePluginCall(model, *constructors[index], std::move(arguments), at);
+    return {std::make_unique<code::NewObject>(model.info(), std::move(call)), type, at, {}, false};
+}
+
+Checked ExpressionChecker::ConstructException(const ClassModel& model, Arguments arguments,
+                                              Position at) {
+    static constexpr auto Declaration =
+        "Constructor(message As String = \"\", errorNumber As Integer = 0)";
+    const auto signature = types_.Resolve(ParseDeclaration(Declaration), Declaration);
+    RequireOverload("New " + model.name(), {&signature}, arguments, at);
+    auto filled = Fill(signature, std::move(arguments), at, *this);
+    return {std::make_unique<code::NewException>(model.info(), std::move(filled[0].value),
+                                                 std::move(filled[1].value)),
+            {Kind::Instance, &model}, at, {}, false};
+}
+
+// Setters ----------------------------------------------------------------------------------------
+
+code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& target,
+                                                   const syntax::Expression& value) {
+    const auto* call = std::get_if<syntax::Call>(&target.node);
+    const auto& named = call == nullptr ? target : *call->callee;
+    const auto* member = std::get_if<syntax::Member>(&named.node);
+    if (member == nullptr) {
+        throw ProgramError(target.at, "this cannot be assigned to");
+    }
+    const Position at = named.at;
+    auto receiver = CheckReceiver(*member->object);
+    const auto& model = *receiver.model;
+    if (call == nullptr) {
+        const auto* property = receiver.value ? model.FindProperty(member->name) : nullptr;
+        if (property != nullptr) {
+            return WriteProperty(std::move(receiver), *property, false, Check(value), at);
+        }
+        if (const auto* shared = model.FindSharedProperty(member->name)) {
+            return WriteProperty(std::move(receiver), *shared, true, Check(value), at);
+        }
+    }
+    auto arguments = call == nullptr ? Arguments{} : CheckArguments(call->arguments);
+    const auto methods = receiver.value ? model.FindMethods(member->name)
+                                        : std::vector<const Method*>{};
+    if (!methods.empty()) {
+        return CallMethodSetter(std::move(receiver), methods, false, std::move(arguments),
+                                Check(value), at);
+    }
+    const auto shared = model.FindSharedMethods(member->name);
+    if (!shared.empty()) {
+        return CallMethodSetter(std::move(receiver), shared, true, std::move(arguments),
+                                Check(value), at);
+    }
+    FailWithoutMember(model, member->name, at);
+}
+
+code::ExpressionPtr ExpressionChecker::WriteProperty(Receiver receiver, const Property& property,
+                                                     bool isShared, Checked value, Position at) {
+    RequireUsable(property.declaration, property.problem, at);
+    auto converted = ConvertTo(std::move(value), property.type);
+    if (property.hostProperty != HostProperty::None) {
+        return std::make_unique<code::WriteHostProperty>(
+            std::move(receiver.value->code), property.hostProperty, std::move(converted.code));
+    }
+    if (property.setter == nullptr && property.getter != nullptr) {
+        throw ProgramError(at, Quoted(property.declaration) + " is read-only");
+    }
+    RequireRoutine(property.setter, property.declaration, at);
+    std::vector<code::Argument> arguments;
+    arguments.push_back({std::move(converted.code), property.type.kind, false});
+    const auto parameter = isShared ? std::nullopt : std::optional(property.parameter);
+    code::PluginCall call(LabelOf(*receiver.model, property.declaration), property.setter,
+                          std::move(arguments), Kind::None, parameter);
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    code::NilReceiver::Refused, {Kind::None}, at)
+        .code;
+}
+
+code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
+                                                        const std::vector<const Method*>& methods,
+                                                        bool isShared, Arguments arguments,
+                                                        Checked value, Position at) {
+    const auto& name = methods.front()->signature.name;
+    const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    const auto& signature = method.signature;
+    if (method.setter == nullptr && method.function != nullptr) {
+        throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
+    }
+    RequireRoutine(method.setter, signature.declaration, at);
+    auto filled = Fill(signature, std::move(arguments), at, *this);
+    auto converted = ConvertTo(std::move(value), signature.result);
+    filled.push_back({std::move(converted.code), signature.result.kind, false});
+    code::PluginCall call(LabelOf(*receiver.model, signature.declaration), method.setter,
+                          std::move(filled), Kind::None);
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    code::NilReceiver::Refused, {Kind::None}, at)
+        .code;
+}
+
+}  // namespace standin::language

@@ -1,0 +1,125 @@
+// Gives every expression of a program its type and turns it into code.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "standin/language/builtins.hpp"
+#include "standin/language/class_model.hpp"
+#include "standin/language/conversions.hpp"
+#include "standin/language/overloads.hpp"
+#include "standin/language/scope.hpp"
+#include "standin/language/syntax.hpp"
+
+namespace standin::language {
+
+/// A routine of the program, known before any body is checked.
+struct DeclaredRoutine {
+    Signature signature;
+    const code::Routine* code;
+};
+
+/// What a program can call without a receiver.
+struct Callables {
+    std::vector<BuiltIn> builtIns;
+    std::vector<DeclaredRoutine> routines;
+};
+
+/// Checks the expressions that see one scope. Every function throws ProgramError at the first
+/// mistake.
+class ExpressionChecker final : public DefaultSource {
+public:
+    ExpressionChecker(const TypeTable& types, const Callables& callables, const Scope& scope)
+        : types_(types), callables_(callables), scope_(scope) {}
+
+    /// An expression whose value is wanted.
+    Checked Check(const syntax::Expression& expression);
+    /// The same, converted to a type.
+    code::ExpressionPtr CheckAs(const syntax::Expression& expression, Type type);
+    /// An expression for what it does, which may answer nothing.
+    Checked CheckCall(const syntax::Expression& expression);
+    /// A value as text, as Print shows it.
+    code::ExpressionPtr CheckAsText(const syntax::Expression& expression);
+    /// What assigns to a property or an assignable method. Variables are not handled here.
+    code::ExpressionPtr CheckSetter(const syntax::Expression& target,
+                                    const syntax::Expression& value);
+    /// The variable that an expression names, if it is one.
+    const Variable* FindVariable(const syntax::Expression& expression) const;
+    static Checked MakeVariable(const Variable& variable, Position at);
+    /// A binary operator on operands that are checked already.
+    Checked Apply(syntax::BinaryOperator operation, Checked left, Checked right, Position at);
+
+    Checked CheckDefault(const syntax::Expression& literal, Position at) override;
+
+private:
+    using Arguments = std::vector<Checked>;
+
+    /// What stands before a dot: a value, or a class whose shared members are meant.
+    struct Receiver {
+        std::optional<Checked> value;
+        const ClassModel* model;
+    };
+
+    Checked CheckNode(const syntax::IntegerLiteral& literal, Position at);
+    Checked CheckNode(const syntax::RealLiteral& literal, Position at);
+    Checked CheckNode(const syntax::TextLiteral& literal, Position at);
+    Checked CheckNode(const syntax::BooleanLiteral& literal, Position at);
+    Checked CheckNode(const syntax::NilLiteral& literal, Position at);
+    Checked CheckNode(const syntax::Name& name, Position at);
+    Checked CheckNode(const syntax::Member& member, Position at);
+    Checked CheckNode(const syntax::Call& call, Position at);
+    Checked CheckNode(const syntax::New& creation, Position at);
+    Checked CheckNode(const syntax::Cast& cast, Position at);
+    Checked CheckNode(const syntax::ClassTest& test, Position at);
+    Checked CheckNode(const syntax::Unary& unary, Position at);
+    Checked CheckNode(const syntax::Binary& binary, Position at);
+
+    static Checked MakeBoolean(code::ExpressionPtr code, Position at);
+    /// An integer literal after a minus sign.
+    static Checked CheckNegativeLiteral(std::uint64_t magnitude, Position at);
+    Arguments CheckArguments(const syntax::Expressions& expressions);
+    Receiver CheckReceiver(const syntax::Expression& expression);
+    Checked CheckMember(Receiver receiver, const std::string& name, Position at);
+    Checked CheckMemberCall(Receiver receiver, const std::string& name, Arguments arguments,
+                            Position at);
+    Checked CheckNamedCall(const std::string& name, Arguments arguments, Position at);
+    Checked CastTo(Checked value, Type type, Position at);
+
+    /// The call of a method's routine, of which there must be one.
+    code::PluginCall MakePluginCall(const ClassModel& model, const Method& method,
+                                    Arguments arguments, Position at);
+    Checked ReadProperty(Receiver receiver, const Property& property, bool isShared, Position at);
+    code::ExpressionPtr WriteProperty(Receiver receiver, const Property& property, bool isShared,
+                                      Checked value, Position at);
+    Checked CallMethod(Receiver receiver, const std::vector<const Method*>& methods, bool isShared,
+                       Arguments arguments, Position at);
+    code::ExpressionPtr CallMethodSetter(Receiver receiver, const std::vector<const Method*>& methods,
+                                         bool isShared, Arguments arguments, Checked value,
+                                         Position at);
+    Checked Construct(const ClassModel& model, Arguments arguments, Position at);
+    Checked ConstructException(const ClassModel& model, Arguments arguments, Position at);
+
+    Checked ApplyToNumbers(syntax::BinaryOperator operation, Checked left, Checked right,
+                           Position at);
+    Checked Compare(syntax::BinaryOperator operation, Checked left, Checked right, Position at);
+    Checked CompareIdentity(syntax::BinaryOperator operation, Checked left, Checked right,
+                            Position at);
+    /// Operator_… of the left operand, else Operator_…Right of the right one. Nothing when neither
+    /// class has an operator that takes the other operand.
+    std::optional<Checked> TryOperator(syntax::BinaryOperator operation, Checked& left,
+                                       Checked& right, Position at);
+    std::optional<Checked> TryCompareOperator(syntax::BinaryOperator operation, Checked& left,
+                                              Checked& right, Position at);
+    /// Calls the operator of `receiver` that takes `argument`, both moved from when it is there.
+    std::optional<Checked> TryOperatorOf(const std::string& name, Checked& receiver,
+                                         Checked& argument, bool isReceiverRight, Position at);
+
+    const TypeTable& types_;
+    const Callables& callables_;
+    const Scope& scope_;
+};
+
+}  // namespace standin::language

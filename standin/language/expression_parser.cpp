@@ -1,0 +1,304 @@
+#include "standin/language/expression_parser.hpp"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+using syntax::ExpressionPtr;
+using syntax::Expressions;
+using syntax::UnaryOperator;
+
+/// Binary operators but `^`, which binds tighter than the unary ones. A higher level binds tighter.
+struct BinaryRow {
+    TokenKind token;
+    BinaryOperator operation;
+    int level;
+};
+
+constexpr int LowestLevel = 0;
+constexpr int ComparisonLevel = 2;
+
+constexpr auto BinaryOperators = std::to_array<BinaryRow>({
+    {TokenKind::Or, BinaryOperator::Or, LowestLevel},
+    {TokenKind::Xor, BinaryOperator::Xor, LowestLevel},
+    {TokenKind::And, BinaryOperator::And, 1},
+    {TokenKind::Equal, BinaryOperator::Equal, ComparisonLevel},
+    {TokenKind::NotEqual, BinaryOperator::NotEqual, ComparisonLevel},
+    {TokenKind::Less, BinaryOperator::Less, ComparisonLevel},
+    {TokenKind::LessEqual, BinaryOperator::LessEqual, ComparisonLevel},
+    {TokenKind::Greater, BinaryOperator::Greater, ComparisonLevel},
+    {TokenKind::GreaterEqual, BinaryOperator::GreaterEqual, ComparisonLevel},
+    {TokenKind::Is, BinaryOperator::Is, ComparisonLevel},
+    {TokenKind::Plus, BinaryOperator::Add, 3},
+    {TokenKind::Minus, BinaryOperator::Subtract, 3},
+    {TokenKind::Star, BinaryOperator::Multiply, 4},
+    {TokenKind::Slash, BinaryOperator::Divide, 4},
+    {TokenKind::Backslash, BinaryOperator::IntegerDivide, 4},
+    {TokenKind::Mod, BinaryOperator::Modulo, 4},
+});
+
+const BinaryRow* FindBinary(TokenKind token) {
+    const auto* row = std::ranges::find(BinaryOperators, token, &BinaryRow::token);
+    return row == BinaryOperators.end() ? nullptr : row;
+}
+
+std::optional<UnaryOperator> UnaryOf(TokenKind token) {
+    switch (token) {
+        case TokenKind::Plus:
+            return UnaryOperator::Plus;
+        case TokenKind::Minus:
+            return UnaryOperator::Minus;
+        case TokenKind::Not:
+            return UnaryOperator::Not;
+        default:
+            return std::nullopt;
+    }
+}
+
+std::size_t HeightOf(const ExpressionPtr& expression) {
+    return expression ? expression->height : 0;
+}
+
+std::size_t HeightOf(const Expressions& expressions) {
+    std::size_t height = 0;
+    for (const auto& expression : expressions) {
+        height = std::max(height, expression->height);
+    }
+    return height;
+}
+
+ExpressionPtr Make(Position at, std::size_t heightBelow, syntax::Expression::Node node) {
+    if (heightBelow >= MaximumExpressionHeight) {
+        throw ProgramError(at, "the expression has more than " +
+                                   std::to_string(MaximumExpressionHeight) +
+                                   " levels; compute it in several steps");
+    }
+    return std::make_unique<syntax::Expression>(
+        syntax::Expression{at, heightBelow + 1, std::move(node)});
+}
+
+ExpressionPtr MakeUnary(Position at, UnaryOperator operation, ExpressionPtr operand) {
+    const auto height = HeightOf(operand);
+    return Make(at, height, syntax::Unary{operation, std::move(operand)});
+}
+
+ExpressionPtr MakeBinary(Position at, BinaryOperator operation, ExpressionPtr left,
+                         ExpressionPtr right) {
+    const auto height = std::max(HeightOf(left), HeightOf(right));
+    return Make(at, height, syntax::Binary{operation, std::move(left), std::move(right)});
+}
+
+}  // namespace
+
+ExpressionPtr ExpressionParser::ParseExpression() {
+    const NestingGuard guard(depth_, cursor_.At());
+    return ParseBinary(LowestLevel);
+}
+
+ExpressionPtr ExpressionParser::ParseBinary(int level) {
+    auto left = ParseUnary();
+    for (;;) {
+        if (cursor_.IsAt(TokenKind::IsA) && level <= ComparisonLevel) {
+            left = ParseClassTest(std::move(left));
+            continue;
+        }
+        const auto* row = FindBinary(cursor_.Kind());
+        if (row == nullptr || row->level < level) {
+            return left;
+        }
+        const Position at = cursor_.Take().at;
+        left = MakeBinary(at, row->operation, std::move(left), ParseBinary(row->level + 1));
+    }
+}
+
+ExpressionPtr ExpressionParser::ParseClassTest(ExpressionPtr value) {
+    const Position at = cursor_.Take().at;
+    const auto height = HeightOf(value);
+    return Make(at, height, syntax::ClassTest{std::move(value), ParseTypeName()});
+}
+
+ExpressionPtr ExpressionParser::ParseUnary() {
+    const auto operation = UnaryOf(cursor_.Kind());
+    if (!operation) {
+        return ParsePower();
+    }
+    const NestingGuard guard(depth_, cursor_.At());
+    const Position at = cursor_.Take().at;
+    return MakeUnary(at, *operation, ParseUnary());
+}
+
+ExpressionPtr ExpressionParser::ParsePower() {
+    auto left = ParsePostfix();
+    while (cursor_.IsAt(TokenKind::Caret)) {
+        const Position at = cursor_.Take().at;
+        left = MakeBinary(at, BinaryOperator::Power, std::move(left), ParseExponent());
+    }
+    return left;
+}
+
+/// An exponent may carry signs of its own: `2 ^ -1`.
+ExpressionPtr ExpressionParser::ParseExponent() {
+    const auto operation = UnaryOf(cursor_.Kind());
+    if (!operation) {
+        return ParsePostfix();
+    }
+    const NestingGuard guard(depth_, cursor_.At());
+    const Position at = cursor_.Take().at;
+    return MakeUnary(at, *operation, ParseExponent());
+}
+
+ExpressionPtr ExpressionParser::ParsePostfix() {
+    auto expression = ParsePrimary();
+    for (;;) {
+        const auto height = HeightOf(expression);
+        if (cursor_.TryTake(TokenKind::Dot)) {
+            const auto member = cursor_.ExpectWord();
+            expression =
+                Make(member.at, height, syntax::Member{std::move(expression), member.text});
+        } else if (cursor_.IsAt(TokenKind::OpenParenthesis)) {
+            const Position at = expression->at;
+            auto arguments = ParseOptionalArguments();
+            const auto tallest = std::max(height, HeightOf(arguments));
+            expression =
+                Make(at, tallest, syntax::Call{std::move(expression), std::move(arguments)});
+        } else {
+            return expression;
+        }
+    }
+}
+
+ExpressionPtr ExpressionParser::ParsePrimary() {
+    const Position at = cursor_.At();
+    switch (cursor_.Kind()) {
+        case TokenKind::Integer:
+            return Make(at, 0, syntax::IntegerLiteral{cursor_.Take().integer});
+        case TokenKind::Real:
+            return Make(at, 0, syntax::RealLiteral{cursor_.Take().real});
+        case TokenKind::Text:
+            return Make(at, 0, syntax::TextLiteral{cursor_.Take().text});
+        case TokenKind::True:
+        case TokenKind::False:
+            return Make(at, 0, syntax::BooleanLiteral{cursor_.Take().kind == TokenKind::True});
+        case TokenKind::Nil:
+            cursor_.Take();
+            return Make(at, 0, syntax::NilLiteral{});
+        case TokenKind::Name:
+            return Make(at, 0, syntax::Name{cursor_.Take().text});
+        case TokenKind::New:
+            return ParseNew();
+        case TokenKind::CType:
+            return ParseCast();
+        case TokenKind::OpenParenthesis:
+            return ParseParenthesis();
+        default:
+            cursor_.Fail("an expression");
+    }
+}
+
+ExpressionPtr ExpressionParser::ParseParenthesis() {
+    cursor_.Expect(TokenKind::OpenParenthesis);
+    auto inner = ParseExpression();
+    cursor_.Expect(TokenKind::CloseParenthesis);
+    return inner;
+}
+
+ExpressionPtr ExpressionParser::ParseNew() {
+    cursor_.Expect(TokenKind::New);
+    auto type = ParseTypeName();
+    const Position at = type.at;
+    auto arguments = ParseOptionalArguments();
+    const auto height = HeightOf(arguments);
+    return Make(at, height, syntax::New{std::move(type), std::move(arguments)});
+}
+
+ExpressionPtr ExpressionParser::ParseCast() {
+    const Position at = cursor_.Expect(TokenKind::CType).at;
+    cursor_.Expect(TokenKind::OpenParenthesis);
+    auto value = ParseExpression();
+    cursor_.Expect(TokenKind::Comma);
+    auto type = ParseTypeName();
+    cursor_.Expect(TokenKind::CloseParenthesis);
+    const auto height = HeightOf(value);
+    return Make(at, height, syntax::Cast{std::move(value), std::move(type)});
+}
+
+Expressions ExpressionParser::ParseExpressions() {
+    Expressions expressions;
+    do {
+        expressions.push_back(ParseExpression());
+    } while (cursor_.TryTake(TokenKind::Comma));
+    return expressions;
+}
+
+Expressions ExpressionParser::ParseOptionalArguments() {
+    Expressions arguments;
+    if (!cursor_.TryTake(TokenKind::OpenParenthesis)) {
+        return arguments;
+    }
+    if (!cursor_.IsAt(TokenKind::CloseParenthesis)) {
+        arguments = ParseExpressions();
+    }
+    cursor_.Expect(TokenKind::CloseParenthesis);
+    return arguments;
+}
+
+syntax::TypeName ExpressionParser::ParseTypeName() {
+    if (!IsWord(cursor_.Current())) {
+        cursor_.Fail("the name of a type");
+    }
+    const auto name = cursor_.Take();
+    return {name.text, name.at};
+}
+
+syntax::Signature ExpressionParser::ParseSignature() {
+    syntax::Signature signature;
+    const auto name = cursor_.ExpectWord();
+    signature.name = name.text;
+    signature.at = name.at;
+    if (cursor_.TryTake(TokenKind::OpenParenthesis)) {
+        if (!cursor_.IsAt(TokenKind::CloseParenthesis)) {
+            do {
+                signature.parameters.push_back(ParseParameter());
+            } while (cursor_.TryTake(TokenKind::Comma));
+        }
+        cursor_.Expect(TokenKind::CloseParenthesis);
+    }
+    if (cursor_.TryTake(TokenKind::As)) {
+        signature.result = ParseTypeName();
+    }
+    return signature;
+}
+
+syntax::Parameter ExpressionParser::ParseParameter() {
+    syntax::Parameter parameter;
+    // A parameter may itself be called like one of the words that can precede it.
+    for (;;) {
+        const bool isName = cursor_.Following().kind == TokenKind::As;
+        if (isName || !cursor_.IsAtAny({TokenKind::ByRef, TokenKind::ByVal, TokenKind::Optional})) {
+            break;
+        }
+        parameter.byRef = cursor_.Take().kind == TokenKind::ByRef || parameter.byRef;
+    }
+    const auto name = cursor_.ExpectWord();
+    parameter.name = name.text;
+    parameter.at = name.at;
+    cursor_.Expect(TokenKind::As);
+    parameter.type = ParseTypeName();
+    if (cursor_.TryTake(TokenKind::Equal)) {
+        parameter.defaultValue = ParseExpression();
+    }
+    return parameter;
+}
+
+bool ExpressionParser::AtExpression() const {
+    return cursor_.IsAtAny({TokenKind::Integer, TokenKind::Real, TokenKind::Text, TokenKind::True,
+                            TokenKind::False, TokenKind::Nil, TokenKind::Name, TokenKind::New,
+                            TokenKind::CType, TokenKind::OpenParenthesis, TokenKind::Plus,
+                            TokenKind::Minus, TokenKind::Not});
+}
+
+}  // namespace standin::language

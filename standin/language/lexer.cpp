@@ -1,0 +1,382 @@
+#include "standin/language/lexer.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <system_error>
+
+#include "standin/language/names.hpp"
+
+namespace standin::language {
+namespace {
+
+struct Spelling {
+    std::string_view text;
+    TokenKind kind;
+};
+
+/// Longer punctuation stands before its own beginnings.
+constexpr auto Punctuation = std::to_array<Spelling>({
+    {"<>", TokenKind::NotEqual},
+    {"<=", TokenKind::LessEqual},
+    {">=", TokenKind::GreaterEqual},
+    {"<", TokenKind::Less},
+    {">", TokenKind::Greater},
+    {"=", TokenKind::Equal},
+    {"+", TokenKind::Plus},
+    {"-", TokenKind::Minus},
+    {"*", TokenKind::Star},
+    {"/", TokenKind::Slash},
+    {"\\", TokenKind::Backslash},
+    {"^", TokenKind::Caret},
+    {"(", TokenKind::OpenParenthesis},
+    {")", TokenKind::CloseParenthesis},
+    {",", TokenKind::Comma},
+    {".", TokenKind::Dot},
+});
+
+constexpr auto ReservedWords = std::to_array<Spelling>({
+    {"And", TokenKind::And},
+    {"As", TokenKind::As},
+    {"ByRef", TokenKind::ByRef},
+    {"ByVal", TokenKind::ByVal},
+    {"Call", TokenKind::Call},
+    {"Case", TokenKind::Case},
+    {"Catch", TokenKind::Catch},
+    {"Const", TokenKind::Const},
+    {"Continue", TokenKind::Continue},
+    {"CType", TokenKind::CType},
+    {"Dim", TokenKind::Dim},
+    {"Do", TokenKind::Do},
+    {"DownTo", TokenKind::DownTo},
+    {"Else", TokenKind::Else},
+    {"ElseIf", TokenKind::ElseIf},
+    {"End", TokenKind::End},
+    {"Exit", TokenKind::Exit},
+    {"False", TokenKind::False},
+    {"Finally", TokenKind::Finally},
+    {"For", TokenKind::For},
+    {"Function", TokenKind::Function},
+    {"If", TokenKind::If},
+    {"Is", TokenKind::Is},
+    {"IsA", TokenKind::IsA},
+    {"Loop", TokenKind::Loop},
+    {"Mod", TokenKind::Mod},
+    {"New", TokenKind::New},
+    {"Next", TokenKind::Next},
+    {"Nil", TokenKind::Nil},
+    {"Not", TokenKind::Not},
+    {"Optional", TokenKind::Optional},
+    {"Or", TokenKind::Or},
+    {"Print", TokenKind::Print},
+    {"Raise", TokenKind::Raise},
+    {"Return", TokenKind::Return},
+    {"Select", TokenKind::Select},
+    {"Step", TokenKind::Step},
+    {"Sub", TokenKind::Sub},
+    {"Then", TokenKind::Then},
+    {"To", TokenKind::To},
+    {"True", TokenKind::True},
+    {"Try", TokenKind::Try},
+    {"Until", TokenKind::Until},
+    {"Var", TokenKind::Var},
+    {"Wend", TokenKind::Wend},
+    {"While", TokenKind::While},
+    {"Xor", TokenKind::Xor},
+});
+
+constexpr bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Letters of every script may stand in a name: all bytes of a multi-byte character count.
+constexpr bool IsNameStart(char character) {
+    const char folded = FoldCase(character);
+    return (folded >= 'a' && folded <= 'z') || static_cast<unsigned char>(character) >= 0x80;
+}
+
+constexpr bool IsNamePart(char character) {
+    return IsNameStart(character) || IsDigit(character) || character == '_';
+}
+
+constexpr bool IsBlank(char character) {
+    return character == ' ' || character == '\t';
+}
+
+/// The number base of `&h`, `&b` and `&o` literals.
+constexpr std::optional<int> BaseOfPrefix(char letter) {
+    switch (FoldCase(letter)) {
+        case 'h':
+            return 16;
+        case 'b':
+            return 2;
+        case 'o':
+            return 8;
+        default:
+            return std::nullopt;
+    }
+}
+
+class Lexer {
+public:
+    explicit Lexer(std::string_view text) : text_(text) {}
+
+    std::vector<Token> Run() {
+        while (SkipBlanks()) {
+            Next();
+        }
+        Add(TokenKind::EndOfLine, 0);
+        Add(TokenKind::EndOfText, 0);
+        return std::move(tokens_);
+    }
+
+private:
+    std::string_view Rest() const { return text_.substr(offset_); }
+    char Peek(std::size_t ahead = 0) const {
+        return offset_ + ahead < text_.size() ? text_[offset_ + ahead] : '\0';
+    }
+
+    Token& Add(TokenKind kind, std::size_t size) {
+        tokens_.push_back({kind, offset_, std::string(text_.substr(offset_, size)), 0, 0.0});
+        offset_ += size;
+        return tokens_.back();
+    }
+
+    /// Skips blanks, comments and continued line ends. False at the end of the text.
+    bool SkipBlanks() {
+        for (;;) {
+            while (IsBlank(Peek())) {
+                ++offset_;
+            }
+            if (AtComment()) {
+                SkipLine();
+            } else if (!SkipContinuation()) {
+                return offset_ < text_.size();
+            }
+        }
+    }
+
+    bool AtComment() const {
+        if (Peek() == '\'' || Rest().starts_with("//")) {
+            return true;
+        }
+        constexpr std::string_view Remark = "rem";
+        return SameName(Rest().substr(0, Remark.size()), Remark) && !IsNamePart(Peek(Remark.size()));
+    }
+
+    void SkipLine() { offset_ = std::min(text_.find_first_of("\r\n", offset_), text_.size()); }
+
+    /// A lone underscore at the end of a line (blanks and a comment may follow it).
+    bool SkipContinuation() {
+        if (Peek() != '_' || IsNamePart(Peek(1))) {
+            return false;
+        }
+        const std::size_t start = offset_++;
+        while (IsBlank(Peek())) {
+            ++offset_;
+        }
+        if (AtComment()) {
+            SkipLine();
+        }
+        if (LineEndSize() == 0) {
+            throw ProgramError(start, "\"_\" continues a line only at the line's end");
+        }
+        offset_ += LineEndSize();
+        return true;
+    }
+
+    std::size_t LineEndSize() const {
+        if (Rest().starts_with("\r\n")) {
+            return 2;
+        }
+        return Peek() == '\n' || Peek() == '\r' ? 1 : 0;
+    }
+
+    void Next() {
+        const char first = Peek();
+        if (const std::size_t size = LineEndSize(); size > 0) {
+            Add(TokenKind::EndOfLine, size);
+        } else if (IsNameStart(first)) {
+            ReadWord();
+        } else if (IsDigit(first) || (first == '.' && IsDigit(Peek(1)))) {
+            ReadNumber();
+        } else if (first == '&') {
+            ReadPrefixedInteger();
+        } else if (first == '"') {
+            ReadText();
+        } else {
+            ReadPunctuation();
+        }
+    }
+
+    void ReadWord() {
+        std::size_t size = 1;
+        while (IsNamePart(Peek(size))) {
+            ++size;
+        }
+        const auto word = Rest().substr(0, size);
+        const auto* found = std::ranges::find_if(
+            ReservedWords, [word](const Spelling& reserved) { return SameName(reserved.text, word); });
+        Add(found == ReservedWords.end() ? TokenKind::Name : found->kind, size);
+    }
+
+    void ReadNumber() {
+        std::size_t size = SkipDigits(0);
+        bool isReal = false;
+        if (Peek(size) == '.' && IsDigit(Peek(size + 1))) {
+            isReal = true;
+            size = SkipDigits(size + 1);
+        }
+        if (FoldCase(Peek(size)) == 'e') {
+            const bool isSigned = Peek(size + 1) == '+' || Peek(size + 1) == '-';
+            const std::size_t digits = size + (isSigned ? 2 : 1);
+            if (IsDigit(Peek(digits))) {
+                isReal = true;
+                size = SkipDigits(digits);
+            }
+        }
+        if (IsNamePart(Peek(size))) {
+            throw ProgramError(offset_ + size, "a number is directly followed by " +
+                                                   Quoted(std::string(1, Peek(size))));
+        }
+        if (isReal) {
+            AddReal(size);
+        } else {
+            AddInteger(size, Rest().substr(0, size), 10);
+        }
+    }
+
+    std::size_t SkipDigits(std::size_t ahead) const {
+        while (IsDigit(Peek(ahead))) {
+            ++ahead;
+        }
+        return ahead;
+    }
+
+    void AddReal(std::size_t size) {
+        const auto digits = Rest().substr(0, size);
+        double value = 0.0;
+        const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+        if (result.ec != std::errc{}) {
+            throw ProgramError(offset_, "the number " + std::string(digits) +
+                                            " is outside the range of Double");
+        }
+        Add(TokenKind::Real, size).real = value;
+    }
+
+    void AddInteger(std::size_t size, std::string_view digits, int base) {
+        std::uint64_t value = 0;
+        const auto* const end = digits.data() + digits.size();
+        const auto result = std::from_chars(digits.data(), end, value, base);
+        if (result.ec == std::errc::result_out_of_range) {
+            throw ProgramError(offset_, "the number " + std::string(Rest().substr(0, size)) +
+                                            " does not fit in 64 bits");
+        }
+        if (result.ec != std::errc{} || result.ptr != end) {
+            throw ProgramError(offset_, Quoted(Rest().substr(0, size)) + " is not a number");
+        }
+        Add(TokenKind::Integer, size).integer = value;
+    }
+
+    void ReadPrefixedInteger() {
+        const auto base = BaseOfPrefix(Peek(1));
+        if (!base) {
+            throw ProgramError(offset_, "\"&\" begins a number in the forms &h, &o and &b only");
+        }
+        std::size_t size = 2;
+        while (IsNamePart(Peek(size))) {
+            ++size;
+        }
+        AddInteger(size, Rest().substr(2, size - 2), *base);
+    }
+
+    void ReadText() {
+        const std::size_t start = offset_;
+        std::string value;
+        std::size_t end = offset_ + 1;
+        for (;; ++end) {
+            if (end >= text_.size() || text_[end] == '\n' || text_[end] == '\r') {
+                throw ProgramError(start, "the text is not closed with a quotation mark");
+            }
+            if (text_[end] == '"') {
+                const bool isDoubled = end + 1 < text_.size() && text_[end + 1] == '"';
+                if (!isDoubled) {
+                    break;
+                }
+                ++end;
+            }
+            value += text_[end];
+        }
+        Add(TokenKind::Text, end + 1 - start).text = std::move(value);
+    }
+
+    void ReadPunctuation() {
+        for (const auto& [text, kind] : Punctuation) {
+            if (Rest().starts_with(text)) {
+                Add(kind, text.size());
+                return;
+            }
+        }
+        throw ProgramError(offset_, Unexpected(Peek()));
+    }
+
+    static std::string Unexpected(char character) {
+        const auto code = static_cast<unsigned char>(character);
+        if (code >= 0x20 && code < 0x7F) {
+            return "unexpected character " + Quoted(std::string(1, character));
+        }
+        return "unexpected character with the code " + std::to_string(code);
+    }
+
+    std::string_view text_;
+    std::size_t offset_ = 0;
+    std::vector<Token> tokens_;
+};
+
+}  // namespace
+
+std::string Describe(TokenKind kind) {
+    switch (kind) {
+        case TokenKind::EndOfText:
+            return "the end of the program";
+        case TokenKind::EndOfLine:
+            return "the end of the line";
+        case TokenKind::Name:
+            return "a name";
+        case TokenKind::Integer:
+        case TokenKind::Real:
+            return "a number";
+        case TokenKind::Text:
+            return "a text";
+        default:
+            break;
+    }
+    const auto hasKind = [kind](const Spelling& spelling) { return spelling.kind == kind; };
+    if (const auto* word = std::ranges::find_if(ReservedWords, hasKind);
+        word != ReservedWords.end()) {
+        return Quoted(word->text);
+    }
+    return Quoted(std::ranges::find_if(Punctuation, hasKind)->text);
+}
+
+std::string Describe(const Token& token) {
+    switch (token.kind) {
+        case TokenKind::EndOfText:
+        case TokenKind::EndOfLine:
+        case TokenKind::Text:
+            return Describe(token.kind);
+        default:
+            return Quoted(token.text);
+    }
+}
+
+bool IsWord(const Token& token) {
+    return !token.text.empty() && token.kind != TokenKind::Text && IsNameStart(token.text.front());
+}
+
+std::vector<Token> Tokenize(std::string_view text) {
+    return Lexer(text).Run();
+}
+
+}  // namespace standin::language

@@ -1,0 +1,109 @@
+// Tokens of the host's language.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "standin/language/source.hpp"
+
+namespace standin::language {
+
+/// What a token is: punctuation, a literal, a name, or one of the reserved words.
+enum class TokenKind : std::uint8_t {
+    EndOfText,
+    EndOfLine,
+    Name,
+    Integer,
+    Real,
+    Text,
+    // Punctuation.
+    Plus,
+    Minus,
+    Star,
+    Slash,
+    Backslash,
+    Caret,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
+    OpenParenthesis,
+    CloseParenthesis,
+    Comma,
+    Dot,
+    // Reserved words.
+    And,
+    As,
+    ByRef,
+    ByVal,
+    Call,
+    Case,
+    Catch,
+    Const,
+    Continue,
+    CType,
+    Dim,
+    Do,
+    DownTo,
+    Else,
+    ElseIf,
+    End,
+    Exit,
+    False,
+    Finally,
+    For,
+    Function,
+    If,
+    Is,
+    IsA,
+    Loop,
+    Mod,
+    New,
+    Next,
+    Nil,
+    Not,
+    Optional,
+    Or,
+    Print,
+    Raise,
+    Return,
+    Select,
+    Step,
+    Sub,
+    Then,
+    To,
+    True,
+    Try,
+    Until,
+    Var,
+    Wend,
+    While,
+    Xor,
+};
+
+/// One token with its place and, for literals, its value.
+struct Token {
+    TokenKind kind = TokenKind::EndOfText;
+    Position at = 0;
+    /// The token as written; for a text literal its value.
+    std::string text;
+    std::uint64_t integer = 0;
+    double real = 0.0;
+};
+
+/// How messages speak of a token kind: `"Then"`, `a name`, `the end of the line`.
+std::string Describe(TokenKind kind);
+/// How messages speak of one token that was found: `"foo"`, `the end of the line`.
+std::string Describe(const Token& token);
+/// Whether a token has the shape of a name: a name or a reserved word.
+bool IsWord(const Token& token);
+
+/// The tokens of a text, the last one being EndOfText with an EndOfLine before it. Throws
+/// ProgramError for characters and literals that the language does not have.
+std::vector<Token> Tokenize(std::string_view text);
+
+}  // namespace standin::language

@@ -1,0 +1,50 @@
+#include <string>
+
+#include "standin/language/code.hpp"
+
+namespace standin::language {
+
+void Machine::Throw(Value exception) const {
+    throw Thrown(std::move(exception), position);
+}
+
+void Machine::Raise(std::string_view className, std::string_view message) const {
+    const ClassInfo* info = host_.FindClass(className);
+    if (info == nullptr) {
+        info = host_.FindClass("RuntimeException");
+    }
+    auto exception = info == nullptr ? Value::Adopt(Object{}) : Value::Adopt(host_.MakeObject(*info));
+    if (exception.object() == nullptr) {
+        throw OutOfObjects(position);
+    }
+    host_.SetMessage(exception.object(), message);
+    Throw(std::move(exception));
+}
+
+void Machine::RequireObject(const Value& object) const {
+    if (object.object() == nullptr) {
+        Raise("NilObjectException", "An object that is Nil was used.");
+    }
+}
+
+Value Machine::MakeObject(const ClassInfo& info) const {
+    auto object = Value::Adopt(host_.MakeObject(info));
+    if (object.object() == nullptr) {
+        Raise("OutOfMemoryException", "There is no memory for a new " + info.name + ".");
+    }
+    return object;
+}
+
+Value Machine::MakeText(std::string_view bytes, HostTextEncoding encoding) const {
+    auto text = Value::Adopt(host_.MakeString(bytes, encoding));
+    if (text.text() == nullptr && !bytes.empty()) {
+        Raise("OutOfMemoryException", "There is no memory for a new string.");
+    }
+    return text;
+}
+
+Value Machine::MakeText(std::string_view utf8) const {
+    return MakeText(utf8, HostTextEncoding::Utf8);
+}
+
+}  // namespace standin::language

@@ -1,0 +1,34 @@
+// Names of the host's language: letters count without regard to case.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace standin::language {
+
+/// The lower-case form of an ASCII letter; every other character as it is.
+constexpr char FoldCase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+
+/// Whether two names are the same to the language.
+constexpr bool SameName(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, {}, FoldCase, FoldCase);
+}
+
+/// Orders names so that the same name in another letter case is equal; for maps and sets.
+struct NameLess {
+    using is_transparent = void;
+    constexpr bool operator()(std::string_view left, std::string_view right) const {
+        return std::ranges::lexicographical_compare(left, right, {}, FoldCase, FoldCase);
+    }
+};
+
+/// The text in double quotes, as messages show what the user wrote.
+inline std::string Quoted(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+}  // namespace standin::language

@@ -1,0 +1,336 @@
+#include "standin/language/operations.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <concepts>
+#include <functional>
+#include <limits>
+#include <utility>
+
+#include "standin/language/names.hpp"
+#include "standin/language/text.hpp"
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+
+// Numbers ----------------------------------------------------------------------------------------
+
+template <std::integral Limits>
+Limits Saturate(double value) {
+    // One beyond the largest number: a power of two, which Double holds exactly.
+    constexpr auto End = 2.0 * static_cast<double>(std::numeric_limits<Limits>::max() / 2 + 1);
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value >= End) {
+        return std::numeric_limits<Limits>::max();
+    }
+    if (value <= static_cast<double>(std::numeric_limits<Limits>::min())) {
+        return std::numeric_limits<Limits>::min();
+    }
+    return static_cast<Limits>(value);
+}
+
+template <typename To>
+To Cast(CurrencyAmount amount) {
+    if constexpr (std::same_as<To, CurrencyAmount>) {
+        return amount;
+    } else if constexpr (std::integral<To>) {
+        return static_cast<To>(amount.scaled / CurrencyScale);
+    } else {
+        return static_cast<To>(static_cast<double>(amount.scaled) / CurrencyScale);
+    }
+}
+
+template <typename To, std::integral From>
+To Cast(From value) {
+    if constexpr (std::same_as<To, CurrencyAmount>) {
+        return {static_cast<std::int64_t>(static_cast<std::uint64_t>(value) * CurrencyScale)};
+    } else {
+        return static_cast<To>(value);
+    }
+}
+
+template <typename To, std::floating_point From>
+To Cast(From value) {
+    if constexpr (std::same_as<To, CurrencyAmount>) {
+        return {Saturate<std::int64_t>(std::nearbyint(static_cast<double>(value) * CurrencyScale))};
+    } else if constexpr (std::same_as<To, std::uint64_t>) {
+        return value < 0 ? static_cast<To>(Saturate<std::int64_t>(static_cast<double>(value)))
+                         : Saturate<std::uint64_t>(static_cast<double>(value));
+    } else if constexpr (std::integral<To>) {
+        return static_cast<To>(Saturate<std::int64_t>(static_cast<double>(value)));
+    } else {
+        return static_cast<To>(value);
+    }
+}
+
+template <typename From, typename To>
+Value Convert(const Value& value, const Machine& /*machine*/) {
+    return Value::Of(Cast<To>(value.Get<From>()));
+}
+
+/// Runs an operation of integers without sign and brings the result back: it wraps.
+template <std::integral T, typename Operation>
+T Wrapping(T left, T right, Operation operation) {
+    using Unsigned = std::make_unsigned_t<T>;
+    return static_cast<T>(operation(static_cast<Unsigned>(left), static_cast<Unsigned>(right)));
+}
+
+template <std::floating_point T, typename Operation>
+T Wrapping(T left, T right, Operation operation) {
+    return operation(left, right);
+}
+
+template <typename Operation>
+CurrencyAmount Wrapping(CurrencyAmount left, CurrencyAmount right, Operation operation) {
+    return {Wrapping(left.scaled, right.scaled, operation)};
+}
+
+template <typename T, typename Operation>
+Value Compute(const Value& left, const Value& right, const Machine& /*machine*/) {
+    return Value::Of(Wrapping(left.Get<T>(), right.Get<T>(), Operation{}));
+}
+
+template <std::floating_point T>
+Value RaiseToPower(const Value& left, const Value& right, const Machine& /*machine*/) {
+    return Value::Of(std::pow(left.Get<T>(), right.Get<T>()));
+}
+
+template <std::floating_point T>
+Value DivideReal(const Value& left, const Value& right, const Machine& /*machine*/) {
+    static_assert(std::numeric_limits<T>::is_iec559, "division by 0 gives infinity or NaN");
+    return Value::Of(left.Get<T>() / right.Get<T>());
+}
+
+/// The most negative number divided by -1 has no room for its result: it wraps to itself.
+template <std::integral T>
+bool IsNegation(T divisor) {
+    return std::signed_integral<T> && divisor == static_cast<T>(-1);
+}
+
+template <std::integral T>
+T RequireDivisor(const Value& value, const Machine& machine) {
+    const T divisor = value.Get<T>();
+    if (divisor == 0) {
+        machine.Raise("RuntimeException", "Division by zero.");
+    }
+    return divisor;
+}
+
+template <std::integral T>
+Value DivideInteger(const Value& left, const Value& right, const Machine& machine) {
+    const T divisor = RequireDivisor<T>(right, machine);
+    const T dividend = left.Get<T>();
+    return Value::Of(IsNegation(divisor) ? Wrapping(T{0}, dividend, std::minus<>{})
+                                         : static_cast<T>(dividend / divisor));
+}
+
+template <std::integral T>
+Value Remainder(const Value& left, const Value& right, const Machine& machine) {
+    const T divisor = RequireDivisor<T>(right, machine);
+    return Value::Of(IsNegation(divisor) ? T{0} : static_cast<T>(left.Get<T>() % divisor));
+}
+
+template <typename T>
+BinaryFunction FindNumberOperation(BinaryOperator operation) {
+    if (operation == BinaryOperator::Add) {
+        return Compute<T, std::plus<>>;
+    }
+    if (operation == BinaryOperator::Subtract) {
+        return Compute<T, std::minus<>>;
+    }
+    if constexpr (!std::same_as<T, CurrencyAmount>) {
+        if (operation == BinaryOperator::Multiply) {
+            return Compute<T, std::multiplies<>>;
+        }
+    }
+    if constexpr (std::floating_point<T>) {
+        if (operation == BinaryOperator::Divide) {
+            return DivideReal<T>;
+        }
+        if (operation == BinaryOperator::Power) {
+            return RaiseToPower<T>;
+        }
+    }
+    if constexpr (std::integral<T>) {
+        switch (operation) {
+            case BinaryOperator::IntegerDivide:
+                return DivideInteger<T>;
+            case BinaryOperator::Modulo:
+                return Remainder<T>;
+            case BinaryOperator::And:
+                return Compute<T, std::bit_and<>>;
+            case BinaryOperator::Or:
+                return Compute<T, std::bit_or<>>;
+            case BinaryOperator::Xor:
+                return Compute<T, std::bit_xor<>>;
+            default:
+                break;
+        }
+    }
+    return nullptr;
+}
+
+template <typename T>
+Value Negate(const Value& value, const Machine& machine) {
+    if constexpr (std::floating_point<T>) {
+        return Value::Of(-value.Get<T>());
+    } else {
+        return Compute<T, std::minus<>>(Value::Of(0), value, machine);
+    }
+}
+
+template <std::integral T>
+Value Complement(const Value& value, const Machine& /*machine*/) {
+    return Value::Of(static_cast<T>(~value.Get<T>()));
+}
+
+Value NotBoolean(const Value& value, const Machine& /*machine*/) {
+    return Value::Of(!value.IsTrue());
+}
+
+/// The numbers in the types in which they are compared: mixed signs by value, everything else in
+/// the common type of C++, which is exact enough for what meets here.
+template <typename Left, typename Right>
+std::partial_ordering OrderNumbers(const Value& left, const Value& right) {
+    if constexpr (std::same_as<Left, CurrencyAmount> || std::same_as<Right, CurrencyAmount>) {
+        if constexpr (std::same_as<Left, Right>) {
+            return left.Get<Left>().scaled <=> right.Get<Right>().scaled;
+        } else {
+            return Cast<double>(left.Get<Left>()) <=> Cast<double>(right.Get<Right>());
+        }
+    } else if constexpr (std::integral<Left> && std::integral<Right>) {
+        const auto a = left.Get<Left>();
+        const auto b = right.Get<Right>();
+        if (std::cmp_equal(a, b)) {
+            return std::partial_ordering::equivalent;
+        }
+        return std::cmp_less(a, b) ? std::partial_ordering::less : std::partial_ordering::greater;
+    } else {
+        return static_cast<double>(left.Get<Left>()) <=> static_cast<double>(right.Get<Right>());
+    }
+}
+
+// Booleans and text ------------------------------------------------------------------------------
+
+template <typename Operation>
+Value ComputeBoolean(const Value& left, const Value& right, const Machine& /*machine*/) {
+    return Value::Of(Operation{}(left.IsTrue(), right.IsTrue()) ? 1 : 0);
+}
+
+std::partial_ordering OrderWords(const Value& left, const Value& right) {
+    return left.Get<std::int64_t>() <=> right.Get<std::int64_t>();
+}
+
+Value JoinText(const Value& left, const Value& right, const Machine& machine) {
+    return Join(left, right, machine);
+}
+
+std::partial_ordering OrderText(const Value& left, const Value& right) {
+    Host& host = Host::Current();
+    const auto a = host.Utf8(left.text());
+    const auto b = host.Utf8(right.text());
+    return std::lexicographical_compare_three_way(
+        a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+            return static_cast<unsigned char>(FoldCase(x)) <=>
+                   static_cast<unsigned char>(FoldCase(y));
+        });
+}
+
+}  // namespace
+
+UnaryFunction FindConversion(Kind from, Kind to) {
+    return WithNumberType(from, [to]<typename From>(std::type_identity<From>) {
+        return WithNumberType(to, []<typename To>(std::type_identity<To>) -> UnaryFunction {
+            return Convert<From, To>;
+        });
+    });
+}
+
+UnaryFunction FindNegation(Kind kind) {
+    if (!IsNumber(kind)) {
+        return nullptr;
+    }
+    return WithNumberType(
+        kind, []<typename T>(std::type_identity<T>) -> UnaryFunction { return Negate<T>; });
+}
+
+UnaryFunction FindComplement(Kind kind) {
+    if (kind == Kind::Boolean) {
+        return NotBoolean;
+    }
+    if (!IsInteger(kind)) {
+        return nullptr;
+    }
+    return WithNumberType(kind, []<typename T>(std::type_identity<T>) -> UnaryFunction {
+        if constexpr (std::integral<T>) {
+            return Complement<T>;
+        } else {
+            return nullptr;
+        }
+    });
+}
+
+BinaryFunction FindOperation(BinaryOperator operation, Kind kind) {
+    if (IsNumber(kind)) {
+        return WithNumberType(kind, [operation]<typename T>(std::type_identity<T>) {
+            return FindNumberOperation<T>(operation);
+        });
+    }
+    if (kind == Kind::Text && operation == BinaryOperator::Add) {
+        return JoinText;
+    }
+    if (kind == Kind::Boolean) {
+        switch (operation) {
+            case BinaryOperator::And:
+                return ComputeBoolean<std::logical_and<>>;
+            case BinaryOperator::Or:
+                return ComputeBoolean<std::logical_or<>>;
+            case BinaryOperator::Xor:
+                return ComputeBoolean<std::not_equal_to<>>;
+            default:
+                break;
+        }
+    }
+    return nullptr;
+}
+
+OrderFunction FindOrder(Kind left, Kind right) {
+    if (IsNumber(left) && IsNumber(right)) {
+        return WithNumberType(left, [right]<typename Left>(std::type_identity<Left>) {
+            return WithNumberType(
+                right, []<typename Right>(std::type_identity<Right>) -> OrderFunction {
+                    return OrderNumbers<Left, Right>;
+                });
+        });
+    }
+    if (left != right) {
+        return nullptr;
+    }
+    if (left == Kind::Text) {
+        return OrderText;
+    }
+    return left == Kind::Boolean || left == Kind::TextEncoding ? OrderWords : nullptr;
+}
+
+bool Fulfils(std::partial_ordering order, BinaryOperator comparison) {
+    switch (comparison) {
+        case BinaryOperator::Equal:
+            return order == 0;
+        case BinaryOperator::NotEqual:
+            return order != 0;
+        case BinaryOperator::Less:
+            return order < 0;
+        case BinaryOperator::LessEqual:
+            return order <= 0;
+        case BinaryOperator::Greater:
+            return order > 0;
+        default:
+            return order >= 0;
+    }
+}
+
+}  // namespace standin::language

@@ -1,0 +1,36 @@
+// What the operators of the language compute on numbers, Booleans and text.
+#pragma once
+
+#include <compare>
+
+#include "standin/language/code.hpp"
+#include "standin/language/syntax.hpp"
+
+namespace standin::language {
+
+using UnaryFunction = Value (*)(const Value&, const Machine&);
+using BinaryFunction = Value (*)(const Value&, const Value&, const Machine&);
+using OrderFunction = std::partial_ordering (*)(const Value&, const Value&);
+
+/// From one number kind to another. Integers wrap at their width; a real number loses its fraction
+/// and stops at the ends of 64 bits, NaN becomes 0; Currency rounds to four places.
+UnaryFunction FindConversion(Kind from, Kind to);
+
+/// `-value`; null where the kind has none.
+UnaryFunction FindNegation(Kind kind);
+/// `Not value`: logical on Booleans, bitwise on integers; null on other kinds.
+UnaryFunction FindComplement(Kind kind);
+
+/// An operator on two values of one kind: arithmetic (integers wrap; `\` and `Mod` raise a
+/// RuntimeException for a divisor of 0), `And`, `Or` and `Xor`, and `+` of text. Null where the
+/// operator is not one of the kind's.
+BinaryFunction FindOperation(syntax::BinaryOperator operation, Kind kind);
+
+/// How two values are ordered: numbers by value whatever their kinds, text without regard to the
+/// case of ASCII letters. Null for kinds that have no order.
+OrderFunction FindOrder(Kind left, Kind right);
+
+/// Whether an order fulfils a comparison: Less for `<`, and so on. NaN fulfils `<>` only.
+bool Fulfils(std::partial_ordering order, syntax::BinaryOperator comparison);
+
+}  // namespace standin::language

@@ -1,0 +1,305 @@
+// The operators of the expression checker: which of them are the language's, and which a class has.
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "standin/language/expression_checker.hpp"
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+
+constexpr std::string_view CompareOperator = "Operator_Compare";
+constexpr std::string_view NegateOperator = "Operator_Negate";
+constexpr std::string_view NotOperator = "Operator_Not";
+constexpr std::string_view RightSuffix = "Right";
+
+struct OperatorRow {
+    BinaryOperator operation;
+    std::string_view sign;
+    /// The operator that a class may have; comparisons share one, identity is nobody's.
+    std::string_view method;
+};
+
+constexpr auto Operators = std::to_array<OperatorRow>({
+    {BinaryOperator::Power, "^", "Operator_Power"},
+    {BinaryOperator::Multiply, "*", "Operator_Multiply"},
+    {BinaryOperator::Divide, "/", "Operator_Divide"},
+    {BinaryOperator::IntegerDivide, "\\", "Operator_IntegerDivide"},
+    {BinaryOperator::Modulo, "Mod", "Operator_Modulo"},
+    {BinaryOperator::Add, "+", "Operator_Add"},
+    {BinaryOperator::Subtract, "-", "Operator_Subtract"},
+    {BinaryOperator::Equal, "=", CompareOperator},
+    {BinaryOperator::NotEqual, "<>", CompareOperator},
+    {BinaryOperator::Less, "<", CompareOperator},
+    {BinaryOperator::LessEqual, "<=", CompareOperator},
+    {BinaryOperator::Greater, ">", CompareOperator},
+    {BinaryOperator::GreaterEqual, ">=", CompareOperator},
+    {BinaryOperator::Is, "Is", {}},
+    {BinaryOperator::And, "And", "Operator_And"},
+    {BinaryOperator::Or, "Or", "Operator_Or"},
+    {BinaryOperator::Xor, "Xor", "Operator_XOr"},
+});
+
+const OperatorRow& RowOf(BinaryOperator operation) {
+    return *std::ranges::find(Operators, operation, &OperatorRow::operation);
+}
+
+bool IsComparison(BinaryOperator operation) {
+    return RowOf(operation).method == CompareOperator;
+}
+
+bool IsObject(const Checked& value) {
+    return value.type.kind == Kind::Instance || value.type.kind == Kind::Nil;
+}
+
+/// Why an operator cannot stand between two operands.
+[[noreturn]] void FailOperator(BinaryOperator operation, const Checked& left, const Checked& right,
+                               Position at) {
+    const auto& row = RowOf(operation);
+    std::string message = Quoted(row.sign) + " cannot stand between " + NameOf(left.type) +
+                          " and " + NameOf(right.type);
+    for (const auto* operand : {&left, &right}) {
+        if (operand->type.kind != Kind::Instance || row.method.empty()) {
+            continue;
+        }
+        for (const auto* method : operand->type.model->FindMethods(row.method)) {
+            message += "; there is " + Quoted(method->signature.declaration);
+        }
+        break;
+    }
+    const bool isText = left.type.kind == Kind::Text || right.type.kind == Kind::Text;
+    const bool isNumber = IsNumber(left.type.kind) || IsNumber(right.type.kind);
+    if (isText && isNumber && operation == BinaryOperator::Add) {
+        message += "; use Str";
+    }
+    throw ProgramError(at, message);
+}
+
+/// The kind in which the language itself computes an operator on numbers.
+Kind WorkingKind(BinaryOperator operation, Kind common) {
+    switch (operation) {
+        case BinaryOperator::Power:
+            return Kind::Double;
+        case BinaryOperator::Divide:
+            return common == Kind::Single ? Kind::Single : Kind::Double;
+        case BinaryOperator::Multiply:
+            return common == Kind::Currency ? Kind::Double : common;
+        case BinaryOperator::IntegerDivide:
+        case BinaryOperator::Modulo:
+            return IsInteger(common) ? common : Kind::Int64;
+        default:
+            return common;
+    }
+}
+
+bool FitsIn(std::int64_t literal, Kind kind) {
+    return WithNumberType(kind, [literal]<typename T>(std::type_identity<T>) {
+        if constexpr (std::is_integral_v<T>) {
+            return std::in_range<T>(literal);
+        } else {
+            return false;
+        }
+    });
+}
+
+/// The kind in which two numbers meet. A whole literal takes the integer kind of the other operand
+/// where it fits.
+Kind MeetingKind(const Checked& left, const Checked& right) {
+    const Kind leftKind = left.type.kind;
+    const Kind rightKind = right.type.kind;
+    const bool isRightOnlyLiteral = right.literal && !left.literal;
+    const bool isLeftOnlyLiteral = left.literal && !right.literal;
+    if (isRightOnlyLiteral && FitsIn(*right.literal, leftKind)) {
+        return leftKind;
+    }
+    if (isLeftOnlyLiteral && FitsIn(*left.literal, rightKind)) {
+        return rightKind;
+    }
+    return CommonKind(leftKind, rightKind);
+}
+
+}  // namespace
+
+Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
+    auto operand = Check(*unary.operand);
+    const Type type = operand.type;
+    if (unary.operation == syntax::UnaryOperator::Plus) {
+        if (!IsNumber(type.kind)) {
+            throw ProgramError(at, "\"+\" cannot stand before " + NameOf(type));
+        }
+        operand.isVariable = false;
+        return operand;
+    }
+    const bool isMinus = unary.operation == syntax::UnaryOperator::Minus;
+    if (type.kind == Kind::Instance) {
+        const auto methods = type.model->FindMethods(isMinus ? NegateOperator : NotOperator);
+        if (!methods.empty()) {
+            return CallMethod({std::move(operand), type.model}, methods, false, {}, at);
+        }
+    }
+    const auto* literal = std::get_if<syntax::IntegerLiteral>(&unary.operand->node);
+    if (isMinus && literal != nullptr) {
+        return CheckNegativeLiteral(literal->value, at);
+    }
+    const auto function = isMinus ? FindNegation(type.kind) : FindComplement(type.kind);
+    if (function == nullptr) {
+        throw ProgramError(at, std::string(isMinus ? "\"-\"" : "\"Not\"") +
+                                   " cannot stand before " + NameOf(type));
+    }
+    return {std::make_unique<code::UnaryOperation>(function, std::move(operand.code)), type, at, {},
+            false};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Binary& binary, Position at) {
+    auto left = Check(*binary.left);
+    return Apply(binary.operation, std::move(left), Check(*binary.right), at);
+}
+
+Checked ExpressionChecker::Apply(BinaryOperator operation, Checked left, Checked right,
+                                 Position at) {
+    if (operation == BinaryOperator::Is) {
+        if (!IsObject(left) || !IsObject(right)) {
+            throw ProgramError(at, "\"Is\" stands between objects");
+        }
+        return CompareIdentity(operation, std::move(left), std::move(right), at);
+    }
+    if (IsComparison(operation)) {
+        return Compare(operation, std::move(left), std::move(right), at);
+    }
+    if (IsObject(left) || IsObject(right)) {
+        if (auto result = TryOperator(operation, left, right, at)) {
+            return std::move(*result);
+        }
+    }
+    // A class without the operator takes part in joining text where it has a text form.
+    const Type text{Kind::Text};
+    if (operation == BinaryOperator::Add && (left.type == text || right.type == text) &&
+        FitOf(left, text) != Fit::None && FitOf(right, text) != Fit::None) {
+        left = ConvertTo(std::move(left), text);
+        right = ConvertTo(std::move(right), text);
+    }
+    if (IsNumber(left.type.kind) && IsNumber(right.type.kind)) {
+        return ApplyToNumbers(operation, std::move(left), std::move(right), at);
+    }
+    const auto function =
+        left.type == right.type ? FindOperation(operation, left.type.kind) : nullptr;
+    if (function == nullptr) {
+        FailOperator(operation, left, right, at);
+    }
+    const Type type = left.type;
+    const bool isBoolean = type.kind == Kind::Boolean;
+    if (isBoolean && operation != BinaryOperator::Xor) {
+        return MakeBoolean(
+            std::make_unique<code::ShortCircuit>(operation == BinaryOperator::Or,
+                                                 std::move(left.code), std::move(right.code)),
+            at);
+    }
+    return {std::make_unique<code::BinaryOperation>(function, std::move(left.code),
+                                                    std::move(right.code)),
+            type, at, {}, false};
+}
+
+Checked ExpressionChecker::ApplyToNumbers(BinaryOperator operation, Checked left, Checked right,
+                                          Position at) {
+    const Kind kind = WorkingKind(operation, MeetingKind(left, right));
+    const auto function = FindOperation(operation, kind);
+    if (function == nullptr) {
+        FailOperator(operation, left, right, at);
+    }
+    auto leftCode = ConvertTo(std::move(left), {kind}).code;
+    auto rightCode = ConvertTo(std::move(right), {kind}).code;
+    return {std::make_unique<code::BinaryOperation>(function, std::move(leftCode),
+                                                    std::move(rightCode)),
+            {kind}, at, {}, false};
+}
+
+Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Checked right,
+                                   Position at) {
+    if (auto result = TryCompareOperator(operation, left, right, at)) {
+        return std::move(*result);
+    }
+    const bool isEquality =
+        operation == BinaryOperator::Equal || operation == BinaryOperator::NotEqual;
+    if (isEquality && IsObject(left) && IsObject(right)) {
+        return CompareIdentity(operation, std::move(left), std::move(right), at);
+    }
+    if (left.type.kind == Kind::TextEncoding || right.type.kind == Kind::TextEncoding) {
+        const Type encoding{Kind::TextEncoding};
+        if (isEquality && FitOf(left, encoding) != Fit::None &&
+            FitOf(right, encoding) != Fit::None) {
+            left = ConvertTo(std::move(left), encoding);
+            right = ConvertTo(std::move(right), encoding);
+        }
+    }
+    const bool isOrdered = isEquality || left.type.kind == Kind::Text ||
+                           (IsNumber(left.type.kind) && IsNumber(right.type.kind));
+    const auto order = FindOrder(left.type.kind, right.type.kind);
+    if (order == nullptr || !isOrdered) {
+        FailOperator(operation, left, right, at);
+    }
+    return MakeBoolean(std::make_unique<code::Comparison>(order, operation, std::move(left.code),
+                                                          std::move(right.code)),
+                       at);
+}
+
+Checked ExpressionChecker::CompareIdentity(BinaryOperator operation, Checked left, Checked right,
+                                           Position at) {
+    const bool wanted = operation != BinaryOperator::NotEqual;
+    return MakeBoolean(
+        std::make_unique<code::Identity>(wanted, std::move(left.code), std::move(right.code)), at);
+}
+
+std::optional<Checked> ExpressionChecker::TryOperator(BinaryOperator operation, Checked& left,
+                                                      Checked& right, Position at) {
+    const auto name = std::string(RowOf(operation).method);
+    if (auto result = TryOperatorOf(name, left, right, false, at)) {
+        return result;
+    }
+    return TryOperatorOf(name + std::string(RightSuffix), right, left, true, at);
+}
+
+std::optional<Checked> ExpressionChecker::TryCompareOperator(BinaryOperator operation,
+                                                             Checked& left, Checked& right,
+                                                             Position at) {
+    const std::string name(CompareOperator);
+    bool isMirrored = false;
+    auto call = TryOperatorOf(name, left, right, false, at);
+    if (!call) {
+        isMirrored = true;
+        call = TryOperatorOf(name, right, left, true, at);
+    }
+    if (!call) {
+        return std::nullopt;
+    }
+    auto result = ConvertTo(std::move(*call), {Kind::Int32});
+    return MakeBoolean(std::make_unique<code::ComparedByOperator>(std::move(result.code), operation,
+                                                                  isMirrored),
+                       at);
+}
+
+std::optional<Checked> ExpressionChecker::TryOperatorOf(const std::string& name, Checked& receiver,
+                                                        Checked& argument, bool isReceiverRight,
+                                                        Position at) {
+    if (receiver.type.kind != Kind::Instance) {
+        return std::nullopt;
+    }
+    const auto& model = *receiver.type.model;
+    const auto methods = model.FindMethods(name);
+    std::vector<Checked> arguments;
+    arguments.push_back(std::move(argument));
+    const auto candidates = SignaturesOf(methods);
+    const auto overload = FindOverload(candidates, arguments);
+    if (overload.outcome == Overload::Outcome::NoneFits) {
+        argument = std::move(arguments.front());
+        return std::nullopt;
+    }
+    const auto& method = *methods[RequireOverload(name, candidates, arguments, at)];
+    auto call = MakePluginCall(model, method, std::move(arguments), at);
+    return Checked{std::make_unique<code::InstanceCall>(std::move(receiver.code), std::move(call),
+                                                        code::NilReceiver::Passed, isReceiverRight),
+                   method.signature.result, at, {}, false};
+}
+
+}  // namespace standin::language

@@ -1,0 +1,413 @@
+#include "standin/language/parser.hpp"
+
+#include <utility>
+
+#include "standin/language/expression_parser.hpp"
+#include "standin/language/names.hpp"
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+using syntax::Block;
+using syntax::LoopKind;
+
+class StatementParser {
+public:
+    explicit StatementParser(std::string_view text) : cursor_(text), expressions_(cursor_) {}
+
+    syntax::Program ParseProgram() {
+        syntax::Program program;
+        for (cursor_.SkipEmptyLines(); !cursor_.IsAt(TokenKind::EndOfText);
+             cursor_.SkipEmptyLines()) {
+            if (cursor_.IsAtAny({TokenKind::Function, TokenKind::Sub})) {
+                program.routines.push_back(ParseRoutine());
+            } else {
+                program.main.push_back(ParseStatement());
+            }
+        }
+        return program;
+    }
+
+private:
+    using Statement = syntax::Statement::Node;
+
+    /// Statements up to a word that ends the block, which is left for the caller.
+    Block ParseBlock(std::initializer_list<TokenKind> ends, TokenKind opener, Position openerAt) {
+        const NestingGuard guard(depth_, cursor_.At());
+        Block block;
+        for (cursor_.SkipEmptyLines(); !cursor_.IsAtAny(ends); cursor_.SkipEmptyLines()) {
+            if (cursor_.IsAt(TokenKind::EndOfText)) {
+                throw ProgramError(openerAt, "this " + Describe(opener) + " is never closed");
+            }
+            block.push_back(ParseStatement());
+        }
+        return block;
+    }
+
+    syntax::StatementPtr ParseStatement() {
+        auto statement = ParseUnended();
+        cursor_.ExpectEndOfLine();
+        return statement;
+    }
+
+    /// A statement without the end of its line.
+    syntax::StatementPtr ParseUnended() {
+        const Position at = cursor_.At();
+        auto node = ParseNode();
+        return std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)});
+    }
+
+    Statement ParseNode() {
+        switch (cursor_.Kind()) {
+            case TokenKind::Dim:
+            case TokenKind::Var:
+                return ParseDim();
+            case TokenKind::Const:
+                return ParseConst();
+            case TokenKind::If:
+                return ParseIf();
+            case TokenKind::Select:
+                return ParseSelect();
+            case TokenKind::For:
+                return ParseFor();
+            case TokenKind::While:
+                return ParseWhile();
+            case TokenKind::Do:
+                return ParseDo();
+            case TokenKind::Exit:
+                cursor_.Take();
+                return syntax::Exit{ParseLoopKind()};
+            case TokenKind::Continue:
+                cursor_.Take();
+                return syntax::Continue{ParseLoopKind()};
+            case TokenKind::Try:
+                return ParseTry();
+            case TokenKind::Raise:
+                cursor_.Take();
+                return syntax::Raise{expressions_.ParseExpression()};
+            case TokenKind::Return:
+                cursor_.Take();
+                return syntax::Return{ParseOptionalExpression()};
+            case TokenKind::Print:
+                cursor_.Take();
+                return syntax::Print{ParseOptionalExpression()};
+            case TokenKind::Call:
+                cursor_.Take();
+                return syntax::CallStatement{expressions_.ParsePostfix()};
+            case TokenKind::Function:
+            case TokenKind::Sub:
+                throw ProgramError(cursor_.At(), "a " + Describe(cursor_.Kind()) +
+                                                     " cannot stand inside another block");
+            default:
+                return ParseAssignmentOrCall();
+        }
+    }
+
+    syntax::ExpressionPtr ParseOptionalExpression() {
+        return expressions_.AtExpression() ? expressions_.ParseExpression() : nullptr;
+    }
+
+    Statement ParseAssignmentOrCall() {
+        if (!cursor_.IsAtAny({TokenKind::Name, TokenKind::OpenParenthesis, TokenKind::CType})) {
+            cursor_.Fail("a statement");
+        }
+        auto target = expressions_.ParsePostfix();
+        if (cursor_.TryTake(TokenKind::Equal)) {
+            return syntax::Assignment{std::move(target), expressions_.ParseExpression()};
+        }
+        // The arguments of a call that stands alone need no parentheses.
+        const bool hasArguments = std::holds_alternative<syntax::Call>(target->node);
+        if (!hasArguments && expressions_.AtExpression()) {
+            const Position at = target->at;
+            const auto height = target->height;
+            syntax::Call call{std::move(target), expressions_.ParseExpressions()};
+            target = std::make_unique<syntax::Expression>(
+                syntax::Expression{at, height + 1, std::move(call)});
+        }
+        return syntax::CallStatement{std::move(target)};
+    }
+
+    Statement ParseDim() {
+        cursor_.Take();
+        syntax::Dim dim;
+        do {
+            ParseDeclarators(dim.declarators);
+        } while (cursor_.TryTake(TokenKind::Comma));
+        return dim;
+    }
+
+    /// Names that share one `As`: `a, b As Integer = 1`. Each gets a value of its own.
+    void ParseDeclarators(std::vector<syntax::Declarator>& declarators) {
+        std::vector<Token> names;
+        do {
+            names.push_back(cursor_.ExpectName());
+        } while (cursor_.TryTake(TokenKind::Comma));
+        cursor_.Expect(TokenKind::As);
+        const auto typeStart = cursor_.Mark();
+        for (const auto& name : names) {
+            cursor_.Rewind(typeStart);
+            declarators.push_back(ParseDeclaredType(name));
+        }
+    }
+
+    syntax::Declarator ParseDeclaredType(const Token& name) {
+        syntax::Declarator declarator{name.text, name.at, {}, nullptr};
+        if (cursor_.IsAt(TokenKind::New)) {
+            declarator.initialiser = expressions_.ParseNew();
+            declarator.type = std::get<syntax::New>(declarator.initialiser->node).type;
+            return declarator;
+        }
+        declarator.type = expressions_.ParseTypeName();
+        if (cursor_.TryTake(TokenKind::Equal)) {
+            declarator.initialiser = expressions_.ParseExpression();
+        }
+        return declarator;
+    }
+
+    Statement ParseConst() {
+        cursor_.Take();
+        syntax::Const constant;
+        constant.name = cursor_.ExpectName().text;
+        if (cursor_.TryTake(TokenKind::As)) {
+            constant.type = expressions_.ParseTypeName();
+        }
+        cursor_.Expect(TokenKind::Equal);
+        constant.value = expressions_.ParseExpression();
+        return constant;
+    }
+
+    Statement ParseIf() {
+        const Position at = cursor_.Take().at;
+        syntax::If result;
+        auto condition = expressions_.ParseExpression();
+        cursor_.Expect(TokenKind::Then);
+        if (!cursor_.IsAt(TokenKind::EndOfLine)) {
+            return ParseSingleLineIf(std::move(condition));
+        }
+        const auto ends = {TokenKind::ElseIf, TokenKind::Else, TokenKind::End};
+        result.branches.push_back({std::move(condition), ParseBlock(ends, TokenKind::If, at)});
+        while (cursor_.TryTake(TokenKind::ElseIf)) {
+            condition = expressions_.ParseExpression();
+            cursor_.Expect(TokenKind::Then);
+            result.branches.push_back({std::move(condition), ParseBlock(ends, TokenKind::If, at)});
+        }
+        if (cursor_.TryTake(TokenKind::Else)) {
+            result.otherwise = ParseBlock({TokenKind::End}, TokenKind::If, at);
+        }
+        ExpectEnd(TokenKind::If);
+        return result;
+    }
+
+    Statement ParseSingleLineIf(syntax::ExpressionPtr condition) {
+        const NestingGuard guard(depth_, cursor_.At());
+        syntax::If result;
+        result.branches.push_back({std::move(condition), {}});
+        result.branches.front().body.push_back(ParseUnended());
+        if (cursor_.TryTake(TokenKind::Else)) {
+            result.otherwise.push_back(ParseUnended());
+        }
+        return result;
+    }
+
+    void ExpectEnd(TokenKind what) {
+        cursor_.Expect(TokenKind::End);
+        cursor_.Expect(what);
+    }
+
+    Statement ParseSelect() {
+        const Position at = cursor_.Take().at;
+        cursor_.Expect(TokenKind::Case);
+        syntax::Select select;
+        select.subject = expressions_.ParseExpression();
+        cursor_.ExpectEndOfLine();
+        cursor_.SkipEmptyLines();
+        const auto ends = {TokenKind::Case, TokenKind::Else, TokenKind::End};
+        while (cursor_.IsAt(TokenKind::Case) && cursor_.Following().kind != TokenKind::Else) {
+            cursor_.Take();
+            auto tests = ParseCaseTests();
+            select.branches.push_back({std::move(tests), ParseBlock(ends, TokenKind::Select, at)});
+        }
+        cursor_.TryTake(TokenKind::Case);
+        if (cursor_.TryTake(TokenKind::Else)) {
+            select.otherwise = ParseBlock({TokenKind::End}, TokenKind::Select, at);
+        }
+        ExpectEnd(TokenKind::Select);
+        return select;
+    }
+
+    std::vector<syntax::Select::Test> ParseCaseTests() {
+        std::vector<syntax::Select::Test> tests;
+        do {
+            syntax::Select::Test test{BinaryOperator::Equal, nullptr, nullptr};
+            if (cursor_.TryTake(TokenKind::Is)) {
+                test.comparison = ParseComparison();
+            }
+            test.value = expressions_.ParseExpression();
+            if (cursor_.TryTake(TokenKind::To)) {
+                test.last = expressions_.ParseExpression();
+            }
+            tests.push_back(std::move(test));
+        } while (cursor_.TryTake(TokenKind::Comma));
+        return tests;
+    }
+
+    BinaryOperator ParseComparison() {
+        switch (cursor_.Take().kind) {
+            case TokenKind::Equal:
+                return BinaryOperator::Equal;
+            case TokenKind::NotEqual:
+                return BinaryOperator::NotEqual;
+            case TokenKind::Less:
+                return BinaryOperator::Less;
+            case TokenKind::LessEqual:
+                return BinaryOperator::LessEqual;
+            case TokenKind::Greater:
+                return BinaryOperator::Greater;
+            case TokenKind::GreaterEqual:
+                return BinaryOperator::GreaterEqual;
+            default:
+                cursor_.Fail("a comparison after \"Is\"");
+        }
+    }
+
+    Statement ParseFor() {
+        const Position at = cursor_.Take().at;
+        const auto variable = cursor_.ExpectName();
+        syntax::For loop{variable.text, variable.at, {}, {}, {}, {}, false, {}};
+        if (cursor_.TryTake(TokenKind::As)) {
+            loop.type = expressions_.ParseTypeName();
+        }
+        cursor_.Expect(TokenKind::Equal);
+        loop.first = expressions_.ParseExpression();
+        if (!cursor_.IsAtAny({TokenKind::To, TokenKind::DownTo})) {
+            cursor_.Fail("\"To\" or \"DownTo\"");
+        }
+        loop.isDownward = cursor_.Take().kind == TokenKind::DownTo;
+        loop.last = expressions_.ParseExpression();
+        if (cursor_.TryTake(TokenKind::Step)) {
+            loop.step = expressions_.ParseExpression();
+        }
+        loop.body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
+        cursor_.Take();
+        if (cursor_.IsAt(TokenKind::Name)) {
+            const auto name = cursor_.Take();
+            if (!SameName(name.text, loop.variable)) {
+                throw ProgramError(name.at, "\"Next\" names " + Quoted(name.text) +
+                                                ", but the loop counts " + Quoted(loop.variable));
+            }
+        }
+        return loop;
+    }
+
+    Statement ParseWhile() {
+        const Position at = cursor_.Take().at;
+        auto condition = expressions_.ParseExpression();
+        auto body = ParseBlock({TokenKind::Wend}, TokenKind::While, at);
+        cursor_.Take();
+        return syntax::While{std::move(condition), std::move(body)};
+    }
+
+    Statement ParseDo() {
+        const Position at = cursor_.Take().at;
+        syntax::Do loop;
+        if (cursor_.TryTake(TokenKind::Until)) {
+            loop.untilBefore = expressions_.ParseExpression();
+        }
+        loop.body = ParseBlock({TokenKind::Loop}, TokenKind::Do, at);
+        cursor_.Take();
+        if (cursor_.TryTake(TokenKind::Until)) {
+            loop.untilAfter = expressions_.ParseExpression();
+        }
+        return loop;
+    }
+
+    LoopKind ParseLoopKind() {
+        if (cursor_.TryTake(TokenKind::For)) {
+            return LoopKind::For;
+        }
+        if (cursor_.TryTake(TokenKind::While)) {
+            return LoopKind::While;
+        }
+        return cursor_.TryTake(TokenKind::Do) ? LoopKind::Do : LoopKind::Any;
+    }
+
+    Statement ParseTry() {
+        const Position at = cursor_.Take().at;
+        const auto ends = {TokenKind::Catch, TokenKind::Finally, TokenKind::End};
+        syntax::Try result;
+        result.body = ParseBlock(ends, TokenKind::Try, at);
+        while (cursor_.IsAt(TokenKind::Catch)) {
+            syntax::Try::Catch handler{{}, cursor_.Take().at, {}, {}};
+            if (cursor_.IsAt(TokenKind::Name)) {
+                handler.at = cursor_.At();
+                handler.name = cursor_.Take().text;
+                if (cursor_.TryTake(TokenKind::As)) {
+                    handler.type = expressions_.ParseTypeName();
+                }
+            }
+            handler.body = ParseBlock(ends, TokenKind::Try, at);
+            result.catches.push_back(std::move(handler));
+        }
+        const bool hasFinally = cursor_.TryTake(TokenKind::Finally);
+        if (hasFinally) {
+            result.finally = ParseBlock({TokenKind::End}, TokenKind::Try, at);
+        }
+        if (result.catches.empty() && !hasFinally) {
+            cursor_.Fail("\"Catch\" or \"Finally\"");
+        }
+        ExpectEnd(TokenKind::Try);
+        return result;
+    }
+
+    syntax::Routine ParseRoutine() {
+        const auto head = cursor_.Take();
+        if (!cursor_.IsAt(TokenKind::Name)) {
+            cursor_.Fail("a name");
+        }
+        syntax::Routine routine{expressions_.ParseSignature(), {}};
+        const bool isFunction = head.kind == TokenKind::Function;
+        if (isFunction != routine.signature.result.has_value()) {
+            throw ProgramError(cursor_.At(), isFunction ? "a Function needs \"As\" and its type"
+                                                        : "a Sub returns nothing");
+        }
+        cursor_.ExpectEndOfLine();
+        routine.body = ParseBlock({TokenKind::End}, head.kind, head.at);
+        ExpectEnd(head.kind);
+        cursor_.ExpectEndOfLine();
+        return routine;
+    }
+
+    TokenCursor cursor_;
+    ExpressionParser expressions_;
+    std::size_t depth_ = 0;
+};
+
+/// Runs a parser over a text that must hold nothing else.
+template <typename Parse>
+auto ParseWhole(std::string_view text, Parse parse) {
+    TokenCursor cursor(text);
+    ExpressionParser expressions(cursor);
+    auto result = parse(expressions);
+    cursor.SkipEmptyLines();
+    if (!cursor.IsAt(TokenKind::EndOfText)) {
+        cursor.Fail("the end of the declaration");
+    }
+    return result;
+}
+
+}  // namespace
+
+syntax::Program ParseProgram(std::string_view text) {
+    return StatementParser(text).ParseProgram();
+}
+
+syntax::Signature ParseDeclaration(std::string_view text) {
+    return ParseWhole(text, [](ExpressionParser& parser) { return parser.ParseSignature(); });
+}
+
+syntax::TypeName ParseTypeName(std::string_view text) {
+    return ParseWhole(text, [](ExpressionParser& parser) { return parser.ParseTypeName(); });
+}
+
+}  // namespace standin::language

@@ -1,0 +1,20 @@
+// From text to syntax tree: programs, and the declarations that a plug-in registers.
+#pragma once
+
+#include <string_view>
+
+#include "standin/language/syntax.hpp"
+
+namespace standin::language {
+
+/// Parses a whole program. Throws ProgramError at the first mistake.
+syntax::Program ParseProgram(std::string_view text);
+
+/// Parses a declaration such as `Add(other As Number, round As Boolean = True) As Number`.
+/// Throws ProgramError with a position inside the declaration.
+syntax::Signature ParseDeclaration(std::string_view text);
+
+/// Parses the type of a property. Throws ProgramError with a position inside the text.
+syntax::TypeName ParseTypeName(std::string_view text);
+
+}  // namespace standin::language

@@ -1,0 +1,298 @@
+#include "standin/language/plugin_call.hpp"
+
+#include <array>
+#include <bit>
+#include <cstring>
+#include <deque>
+#include <utility>
+
+namespace standin::language {
+namespace {
+
+const char* currentLabel = nullptr;
+
+using Word = std::uintptr_t;
+using Words = std::vector<Word>;
+
+void AppendWide(Words& words, std::uint64_t value) {
+    words.push_back(static_cast<Word>(value));
+    if constexpr (sizeof(Word) == 4) {
+        words.push_back(static_cast<Word>(value >> 32U));
+    }
+}
+
+Word HandleWord(const void* handle) {
+    return std::bit_cast<Word>(handle);
+}
+
+void Append(Words& words, const Value& value, Kind kind) {
+    switch (kind) {
+        case Kind::Int64:
+        case Kind::UInt64:
+        case Kind::Currency:
+            AppendWide(words, value.Get<std::uint64_t>());
+            break;
+        case Kind::Double:
+            AppendWide(words, std::bit_cast<std::uint64_t>(value.Get<double>()));
+            break;
+        case Kind::Single:
+            words.push_back(std::bit_cast<std::uint32_t>(value.Get<float>()));
+            break;
+        case Kind::Text:
+            words.push_back(HandleWord(value.text()));
+            break;
+        case Kind::Instance:
+        case Kind::Nil:
+            words.push_back(HandleWord(value.object()));
+            break;
+        default:
+            words.push_back(static_cast<Word>(value.Get<std::int64_t>()));
+            break;
+    }
+}
+
+template <typename T>
+void Store(std::array<std::byte, 8>& bytes, T value) {
+    std::memcpy(bytes.data(), &value, sizeof value);
+}
+
+template <typename T>
+T Load(const std::array<std::byte, 8>& bytes) {
+    T value;
+    std::memcpy(&value, bytes.data(), sizeof value);
+    return value;
+}
+
+/// The memory that a ByRef argument points at: the variable's value moves in before the call and
+/// back into the variable after it, a string or object together with its reference.
+class ByRefCell {
+public:
+    ByRefCell(Value& variable, Kind kind) : variable_(variable), kind_(kind) { Fill(); }
+    ~ByRefCell() { Empty(); }
+    ByRefCell(const ByRefCell&) = delete;
+    ByRefCell& operator=(const ByRefCell&) = delete;
+
+    bool IsFor(const Value& variable) const { return &variable_ == &variable; }
+    Word Address() const { return HandleWord(bytes_.data()); }
+
+private:
+    void Fill() {
+        switch (kind_) {
+            case Kind::Boolean:
+                return Store(bytes_, static_cast<std::uint8_t>(variable_.IsTrue()));
+            case Kind::Text:
+                return Store(bytes_, variable_.ReleaseText());
+            case Kind::Instance:
+                return Store(bytes_, variable_.ReleaseObject());
+            default:
+                return WithNumberType(kind_, [this]<typename T>(std::type_identity<T>) {
+                    Store(bytes_, variable_.Get<T>());
+                });
+        }
+    }
+
+    void Empty() {
+        switch (kind_) {
+            case Kind::Boolean:
+                variable_ = Value::Of(Load<std::uint8_t>(bytes_) != 0);
+                break;
+            case Kind::Text:
+                variable_ = Value::Adopt(Load<String>(bytes_));
+                break;
+            case Kind::Instance:
+                variable_ = Value::Adopt(Load<Object>(bytes_));
+                break;
+            default:
+                WithNumberType(kind_, [this]<typename T>(std::type_identity<T>) {
+                    variable_ = Value::Of(Load<T>(bytes_));
+                });
+                break;
+        }
+    }
+
+    Value& variable_;
+    Kind kind_;
+    alignas(8) std::array<std::byte, 8> bytes_{};
+};
+
+/// The cells of one call. A variable that is passed twice has one cell, as it has one address.
+class ByRefCells {
+public:
+    Word AddressFor(Value& variable, Kind kind) {
+        for (const auto& cell : cells_) {
+            if (cell.IsFor(variable)) {
+                return cell.Address();
+            }
+        }
+        return cells_.emplace_back(variable, kind).Address();
+    }
+
+private:
+    std::deque<ByRefCell> cells_;
+};
+
+template <typename Handle>
+Handle HandleFrom(const ReturnValue& returned) {
+    auto word = static_cast<Word>(returned.low);
+    if constexpr (sizeof(Word) == 8) {
+        word |= static_cast<Word>(std::uint64_t{returned.high} << 32U);
+    }
+    return std::bit_cast<Handle>(word);
+}
+
+}  // namespace
+
+CallLabel::CallLabel(const char* label)
+    : outer_(std::exchange(currentLabel, label)) {}
+
+CallLabel::~CallLabel() {
+    currentLabel = outer_;
+}
+
+const char* CallLabel::Current() {
+    return currentLabel;
+}
+
+namespace code {
+
+PluginCall::PluginCall(std::string label, host_interface::Routine routine,
+                       std::vector<Argument> arguments, Kind result,
+                       std::optional<std::int32_t> parameter)
+    : label_(std::move(label)),
+      routine_(routine),
+      arguments_(std::move(arguments)),
+      result_(result),
+      parameter_(parameter) {}
+
+std::vector<Value> PluginCall::EvaluateArguments(Frame& frame) const {
+    std::vector<Value> values;
+    values.reserve(arguments_.size());
+    for (const auto& argument : arguments_) {
+        values.push_back(argument.byRef ? Value() : argument.value->Evaluate(frame));
+    }
+    return values;
+}
+
+Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Object* self) const {
+    // A variable's own reference is all that an argument has in the host, so it is all it has here:
+    // a routine that drops the variable it got by reference drops the argument too.
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const Value* storage = arguments_[i].byRef ? nullptr : arguments_[i].value->Storage(frame);
+        if (storage != nullptr) {
+            arguments[i].BorrowFrom(*storage);
+        }
+    }
+    Words words;
+    if (self != nullptr) {
+        words.push_back(HandleWord(*self));
+    }
+    if (parameter_) {
+        words.push_back(static_cast<Word>(*parameter_));
+    }
+    ReturnValue returned;
+    {
+        ByRefCells cells;
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            const auto& argument = arguments_[i];
+            if (argument.byRef) {
+                words.push_back(cells.AddressFor(*argument.value->Storage(frame), argument.kind));
+            } else {
+                Append(words, arguments[i], argument.kind);
+            }
+        }
+        const CallLabel label(label_.c_str());
+        returned = frame.machine.host().Call(routine_, words, HowToReturn());
+    }
+    auto result = ToValue(returned);
+    if (auto* exception = frame.machine.host().TakeException()) {
+        frame.machine.Throw(Value::Adopt(exception));
+    }
+    return result;
+}
+
+ReturnKind PluginCall::HowToReturn() const {
+    switch (result_) {
+        case Kind::None:
+            return ReturnKind::None;
+        case Kind::Int64:
+        case Kind::UInt64:
+        case Kind::Currency:
+            return ReturnKind::TwoWords;
+        case Kind::Single:
+            return ReturnKind::Single;
+        case Kind::Double:
+            return ReturnKind::Double;
+        case Kind::Text:
+        case Kind::Instance:
+            return sizeof(Word) == 8 ? ReturnKind::TwoWords : ReturnKind::Word;
+        default:
+            return ReturnKind::Word;
+    }
+}
+
+Value PluginCall::ToValue(const ReturnValue& returned) const {
+    switch (result_) {
+        case Kind::None:
+            return {};
+        case Kind::Boolean:
+            return Value::Of((returned.low & 0xFFU) != 0);
+        case Kind::Int32:
+            return Value::Of(static_cast<std::int32_t>(returned.low));
+        case Kind::Int64:
+        case Kind::UInt64:
+        case Kind::Currency:
+            return Value::Of((std::uint64_t{returned.high} << 32U) | returned.low);
+        case Kind::Single:
+        case Kind::Double:
+            return Value::Of(returned.real);
+        case Kind::Text:
+            return Value::Adopt(HandleFrom<String>(returned));
+        case Kind::Instance:
+            return Value::Adopt(HandleFrom<Object>(returned));
+        default:
+            return Value::Of(returned.low);
+    }
+}
+
+InstanceCall::InstanceCall(ExpressionPtr receiver, PluginCall call, NilReceiver nilReceiver,
+                           bool argumentsFirst)
+    : receiver_(std::move(receiver)),
+      call_(std::move(call)),
+      nilReceiver_(nilReceiver),
+      argumentsFirst_(argumentsFirst) {}
+
+Value InstanceCall::Evaluate(Frame& frame) const {
+    std::vector<Value> arguments;
+    if (argumentsFirst_) {
+        arguments = call_.EvaluateArguments(frame);
+    }
+    const auto receiver = receiver_->Evaluate(frame);
+    if (!argumentsFirst_) {
+        arguments = call_.EvaluateArguments(frame);
+    }
+    if (nilReceiver_ == NilReceiver::Refused) {
+        frame.machine.RequireObject(receiver);
+    }
+    auto* const self = receiver.object();
+    return call_.Invoke(frame, std::move(arguments), &self);
+}
+
+Value SharedCall::Evaluate(Frame& frame) const {
+    return call_.Invoke(frame, call_.EvaluateArguments(frame), nullptr);
+}
+
+Value NewObject::Evaluate(Frame& frame) const {
+    std::vector<Value> arguments;
+    if (constructor_) {
+        arguments = constructor_->EvaluateArguments(frame);
+    }
+    auto object = frame.machine.MakeObject(info_);
+    if (constructor_) {
+        auto* const self = object.object();
+        constructor_->Invoke(frame, std::move(arguments), &self);
+    }
+    return object;
+}
+
+}  // namespace code
+}  // namespace standin::language

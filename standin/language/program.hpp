@@ -1,0 +1,28 @@
+// A program of the host's language, from its text to its run.
+#pragma once
+
+#include <memory>
+
+#include "standin/language/class_model.hpp"
+#include "standin/language/code.hpp"
+#include "standin/language/source.hpp"
+
+namespace standin::language {
+
+/// A program that was found right and can run.
+class Program {
+public:
+    /// Parses and checks; throws ProgramError at the first mistake. The types must outlive the
+    /// program.
+    Program(const Source& source, const TypeTable& types);
+
+    /// Runs the program from its first statement. Throws Thrown for an exception that nothing
+    /// caught, and OutOfObjects. Every reference is given back by then, but the exception's own.
+    void Run(Host& host, const Machine::Output& print) const;
+
+private:
+    std::vector<std::unique_ptr<code::Routine>> routines_;
+    code::Routine main_;
+};
+
+}  // namespace standin::language

@@ -1,0 +1,55 @@
+#include "standin/language/scope.hpp"
+
+#include <algorithm>
+#include <ranges>
+
+namespace standin::language {
+
+void Scope::EnterBlock() {
+    levels_.push_back({{}, nextSlot_});
+}
+
+void Scope::LeaveBlock(code::Block& block) {
+    block.firstSlot = levels_.back().firstSlot;
+    block.endSlot = nextSlot_;
+    nextSlot_ = block.firstSlot;
+    if (levels_.size() == 1) {
+        shared_ = std::move(levels_.back().variables);
+        for (auto& [name, variable] : shared_) {
+            variable.kind = code::VariableKind::Main;
+        }
+    }
+    levels_.pop_back();
+}
+
+Variable Scope::Declare(const std::string& name, Type type, Position at, bool isConstant) {
+    const Variable variable{type, nextSlot_, code::VariableKind::Local, isConstant};
+    if (!levels_.back().variables.emplace(name, variable).second) {
+        throw ProgramError(at, Quoted(name) + " is declared already");
+    }
+    ++nextSlot_;
+    slotCount_ = std::max(slotCount_, nextSlot_);
+    return variable;
+}
+
+void Scope::DeclareParameter(const std::string& name, Type type, bool byRef, Position at) {
+    Declare(name, type, at);
+    if (byRef) {
+        levels_.back().variables.find(name)->second.kind = code::VariableKind::Reference;
+    }
+}
+
+const Variable* Scope::Find(std::string_view name) const {
+    for (const auto& level : levels_ | std::views::reverse) {
+        if (const auto found = level.variables.find(name); found != level.variables.end()) {
+            return &found->second;
+        }
+    }
+    if (main_ == nullptr) {
+        return nullptr;
+    }
+    const auto found = main_->shared_.find(name);
+    return found == main_->shared_.end() ? nullptr : &found->second;
+}
+
+}  // namespace standin::language

@@ -1,0 +1,61 @@
+// The variables that can be seen at a place of a program.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "standin/language/code.hpp"
+#include "standin/language/code_expressions.hpp"
+#include "standin/language/names.hpp"
+#include "standin/language/types.hpp"
+
+namespace standin::language {
+
+/// A variable or constant, and the slot that holds it.
+struct Variable {
+    Type type;
+    std::size_t slot = 0;
+    code::VariableKind kind = code::VariableKind::Local;
+    bool isConstant = false;
+};
+
+/// The blocks around a place, from the routine's parameters to the innermost block. Variables of
+/// blocks that follow each other share slots.
+class Scope {
+public:
+    /// `main` holds the main program's variables, which a routine sees behind its own; null in
+    /// the main program itself.
+    explicit Scope(const Scope* main = nullptr) : main_(main) {}
+
+    void EnterBlock();
+    /// Ends the innermost block and tells `block` the slots that were its own.
+    void LeaveBlock(code::Block& block);
+
+    /// Adds a variable to the innermost block. Throws ProgramError when the block has that name.
+    Variable Declare(const std::string& name, Type type, Position at, bool isConstant = false);
+    /// Adds a parameter; ByRef ones refer to the caller's variable.
+    void DeclareParameter(const std::string& name, Type type, bool byRef, Position at);
+    /// The nearest variable of that name; null when there is none.
+    const Variable* Find(std::string_view name) const;
+
+    /// Slots that a frame needs.
+    std::size_t slotCount() const { return slotCount_; }
+
+private:
+    struct Level {
+        std::map<std::string, Variable, NameLess> variables;
+        std::size_t firstSlot;
+    };
+
+    std::vector<Level> levels_;
+    /// What of the main program's variables a routine may see: those of its outermost block.
+    std::map<std::string, Variable, NameLess> shared_;
+    const Scope* main_;
+    std::size_t nextSlot_ = 0;
+    std::size_t slotCount_ = 0;
+};
+
+}  // namespace standin::language

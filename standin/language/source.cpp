@@ -1,0 +1,107 @@
+#include "standin/language/source.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "standin/language/unicode.hpp"
+
+namespace standin::language {
+namespace {
+
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+/// A line of the report is never longer than this, in characters, so that a program of one huge
+/// line still gives a readable message.
+constexpr std::size_t LongestShownLine = 200;
+
+constexpr bool IsLineEnd(char character) {
+    return character == '\n' || character == '\r';
+}
+
+/// Where the line begins that holds `position`. A carriage return alone ends a line as well.
+std::size_t LineStart(std::string_view text, Position position) {
+    while (position > 0 && !IsLineEnd(text[position - 1])) {
+        --position;
+    }
+    return position;
+}
+
+/// Line ends before `end`; CR LF counts once.
+std::size_t CountLineEnds(std::string_view text, std::size_t end) {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < end; ++i) {
+        const bool pairFollows = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        count += IsLineEnd(text[i]) && !pairFollows ? 1 : 0;
+    }
+    return count;
+}
+
+/// One character of a line as the report shows it: what is not UTF-8 becomes a question mark.
+struct ShownCharacter {
+    std::string_view bytes;
+    std::size_t size;
+};
+
+ShownCharacter ShowCharacter(std::string_view line, std::size_t offset) {
+    if (const auto character = DecodeUtf8(line, offset)) {
+        return {line.substr(offset, character->size), character->size};
+    }
+    return {"?", 1};
+}
+
+}  // namespace
+
+Source::Source(std::string name, std::string text) : name_(std::move(name)), text_(std::move(text)) {
+    if (text_.starts_with(ByteOrderMark)) {
+        text_.erase(0, ByteOrderMark.size());
+    }
+}
+
+void Source::Validate() const {
+    if (text_.size() > MaximumProgramSize) {
+        throw ProgramError(0, "the program is larger than " +
+                                  std::to_string(MaximumProgramSize / 1024 / 1024) + " MB");
+    }
+    if (const auto invalid = FindInvalidUtf8(text_)) {
+        throw ProgramError(*invalid, "the program is not UTF-8 text");
+    }
+}
+
+Place Source::Locate(Position position) const {
+    const std::string_view text = text_;
+    position = std::min(position, text.size());
+    const std::size_t start = LineStart(text, position);
+    const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+    Place place{CountLineEnds(text, start) + 1, 1, std::string(text.substr(start, end - start))};
+    for (std::size_t offset = start; offset < position;) {
+        offset += ShowCharacter(text, offset).size;
+        ++place.column;
+    }
+    return place;
+}
+
+std::string Source::Describe(const ProgramError& error) const {
+    const Place place = Locate(error.position());
+    std::string line;
+    std::string caret;
+    std::size_t column = 1;
+    const std::size_t firstShown =
+        place.column > LongestShownLine ? place.column - LongestShownLine / 2 : 1;
+    for (std::size_t offset = 0;
+         offset < place.lineText.size() && column < firstShown + LongestShownLine; ++column) {
+        const auto shown = ShowCharacter(place.lineText, offset);
+        offset += shown.size;
+        if (column < firstShown) {
+            continue;
+        }
+        line += shown.bytes;
+        if (column < place.column) {
+            // Tabs stay tabs so that the caret stands right however wide they are shown.
+            caret += shown.bytes == "\t" ? '\t' : ' ';
+        }
+    }
+    return name_ + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) +
+           ": error: " + error.what() + "\n  " + line + "\n  " + caret + "^\n";
+}
+
+}  // namespace standin::language

@@ -1,0 +1,300 @@
+#include "standin/language/statement_checker.hpp"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+using syntax::LoopKind;
+
+/// No program can write this name.
+constexpr auto HiddenName = "(Select Case)";
+
+template <typename Node, typename... Parts>
+void Append(code::Block& block, Position at, Parts&&... parts) {
+    block.statements.push_back(std::make_unique<Node>(at, std::forward<Parts>(parts)...));
+}
+
+/// Code that gives a variable its value.
+void AppendAssign(code::Block& block, Position at, const Variable& variable,
+                  code::ExpressionPtr value) {
+    Append<code::Assign>(block, at, ExpressionChecker::MakeVariable(variable, at).code,
+                         std::move(value));
+}
+
+code::ExpressionPtr MakeDefault(Type type) {
+    return std::make_unique<code::Constant>(Value::DefaultOf(type));
+}
+
+std::string NameOf(LoopKind kind) {
+    constexpr auto Names = std::to_array<std::string_view>({"", "For", "While", "Do"});
+    return Quoted(Names[static_cast<std::size_t>(kind)]);
+}
+
+}  // namespace
+
+code::Block StatementChecker::CheckBody(const syntax::Block& body,
+                                        const std::vector<Parameter>& parameters,
+                                        const std::vector<syntax::Parameter>& places) {
+    return CheckBlock(body, [&] {
+        for (std::size_t i = 0; i < parameters.size(); ++i) {
+            const auto& parameter = parameters[i];
+            scope_.DeclareParameter(parameter.name, parameter.type, parameter.byRef, places[i].at);
+        }
+    });
+}
+
+template <typename Before>
+code::Block StatementChecker::CheckBlock(const syntax::Block& block, Before before) {
+    code::Block code;
+    scope_.EnterBlock();
+    before();
+    for (const auto& statement : block) {
+        Add(code, *statement);
+    }
+    scope_.LeaveBlock(code);
+    return code;
+}
+
+code::Block StatementChecker::CheckBlock(const syntax::Block& block) {
+    return CheckBlock(block, [] {});
+}
+
+code::Block StatementChecker::CheckLoopBody(const syntax::Block& block, LoopKind kind) {
+    loops_.push_back(kind);
+    auto code = CheckBlock(block);
+    loops_.pop_back();
+    return code;
+}
+
+code::ExpressionPtr StatementChecker::CheckCondition(const syntax::ExpressionPtr& condition) {
+    return condition ? expressions_.CheckAs(*condition, {Kind::Boolean}) : nullptr;
+}
+
+void StatementChecker::Add(code::Block& block, const syntax::Statement& statement) {
+    std::visit([&](const auto& node) { AddNode(block, node, statement.at); }, statement.node);
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Dim& dim, Position at) {
+    for (const auto& declarator : dim.declarators) {
+        const auto type = types_.Require(declarator.type);
+        // The value cannot see the variable yet.
+        auto value = declarator.initialiser ? expressions_.CheckAs(*declarator.initialiser, type)
+                                            : MakeDefault(type);
+        const auto variable = scope_.Declare(declarator.name, type, declarator.at);
+        AppendAssign(block, at, variable, std::move(value));
+    }
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant, Position at) {
+    auto value = expressions_.Check(*constant.value);
+    if (constant.type) {
+        value = ConvertTo(std::move(value), types_.Require(*constant.type));
+    }
+    const auto variable = scope_.Declare(constant.name, value.type, at, true);
+    AppendAssign(block, at, variable, std::move(value.code));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Assignment& assignment,
+                               Position at) {
+    const auto* variable = expressions_.FindVariable(*assignment.target);
+    if (variable == nullptr) {
+        Append<code::Perform>(block, at,
+                              expressions_.CheckSetter(*assignment.target, *assignment.value));
+        return;
+    }
+    if (variable->isConstant) {
+        throw ProgramError(at, "a constant cannot be assigned to");
+    }
+    AppendAssign(block, at, *variable, expressions_.CheckAs(*assignment.value, variable->type));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::CallStatement& statement,
+                               Position at) {
+    const bool isCall = !std::holds_alternative<syntax::New>(statement.call->node) &&
+                        expressions_.FindVariable(*statement.call) == nullptr;
+    if (!isCall) {
+        throw ProgramError(at, "this does nothing; a statement is a call or an assignment");
+    }
+    Append<code::Perform>(block, at, expressions_.CheckCall(*statement.call).code);
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Print& print, Position at) {
+    auto text = print.value ? expressions_.CheckAsText(*print.value) : MakeDefault({Kind::Text});
+    Append<code::Print>(block, at, std::move(text));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::If& statement, Position at) {
+    std::vector<code::Branches::Branch> branches;
+    for (const auto& branch : statement.branches) {
+        auto condition = CheckCondition(branch.condition);
+        branches.push_back({std::move(condition), CheckBlock(branch.body)});
+    }
+    if (!statement.otherwise.empty()) {
+        branches.push_back({nullptr, CheckBlock(statement.otherwise)});
+    }
+    Append<code::Branches>(block, at, std::move(branches));
+}
+
+/// The subject is computed once, into a variable that the tests compare.
+void StatementChecker::AddNode(code::Block& block, const syntax::Select& select, Position at) {
+    code::Block code;
+    scope_.EnterBlock();
+    auto subject = expressions_.Check(*select.subject);
+    const auto variable = scope_.Declare(HiddenName, subject.type, at);
+    AppendAssign(code, at, variable, std::move(subject.code));
+    std::vector<code::Branches::Branch> branches;
+    for (const auto& branch : select.branches) {
+        code::ExpressionPtr condition;
+        for (const auto& test : branch.tests) {
+            auto fulfilled = CheckCaseTest(test, variable);
+            condition = condition ? std::make_unique<code::ShortCircuit>(true, std::move(condition),
+                                                                         std::move(fulfilled))
+                                  : std::move(fulfilled);
+        }
+        branches.push_back({std::move(condition), CheckBlock(branch.body)});
+    }
+    if (!select.otherwise.empty()) {
+        branches.push_back({nullptr, CheckBlock(select.otherwise)});
+    }
+    Append<code::Branches>(code, at, std::move(branches));
+    scope_.LeaveBlock(code);
+    Append<code::Compound>(block, at, std::move(code));
+}
+
+code::ExpressionPtr StatementChecker::CheckCaseTest(const syntax::Select::Test& test,
+                                                    const Variable& subject) {
+    const Position at = test.value->at;
+    const auto compare = [&](BinaryOperator comparison, const syntax::Expression& value) {
+        return expressions_
+            .Apply(comparison, ExpressionChecker::MakeVariable(subject, at),
+                   expressions_.Check(value), at)
+            .code;
+    };
+    if (!test.last) {
+        return compare(test.comparison, *test.value);
+    }
+    auto isFromFirst = compare(BinaryOperator::GreaterEqual, *test.value);
+    return std::make_unique<code::ShortCircuit>(false, std::move(isFromFirst),
+                                                compare(BinaryOperator::LessEqual, *test.last));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Position at) {
+    code::Block code;
+    scope_.EnterBlock();
+    code::ForParts parts;
+    parts.isDownward = loop.isDownward;
+    Variable variable;
+    if (loop.type) {
+        const auto type = types_.Require(*loop.type);
+        parts.first = expressions_.CheckAs(*loop.first, type);
+        variable = scope_.Declare(loop.variable, type, loop.variableAt);
+    } else {
+        const auto* found = scope_.Find(loop.variable);
+        if (found == nullptr) {
+            throw ProgramError(loop.variableAt, "there is no variable " + Quoted(loop.variable));
+        }
+        variable = *found;
+        parts.first = expressions_.CheckAs(*loop.first, variable.type);
+    }
+    if (!IsNumber(variable.type.kind) || variable.isConstant) {
+        throw ProgramError(loop.variableAt, "a loop counts in a variable of a number type");
+    }
+    parts.variable = ExpressionChecker::MakeVariable(variable, loop.variableAt).code;
+    parts.last = expressions_.CheckAs(*loop.last, variable.type);
+    const auto one = std::make_unique<syntax::Expression>(
+        syntax::Expression{at, 1, syntax::IntegerLiteral{1}});
+    parts.step = expressions_.CheckAs(loop.step ? *loop.step : *one, variable.type);
+    parts.body = CheckLoopBody(loop.body, LoopKind::For);
+    code.statements.push_back(code::MakeForLoop(at, variable.type.kind, std::move(parts)));
+    scope_.LeaveBlock(code);
+    Append<code::Compound>(block, at, std::move(code));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::While& loop, Position at) {
+    auto condition = CheckCondition(loop.condition);
+    Append<code::ConditionalLoop>(block, at, std::move(condition), true,
+                                  CheckLoopBody(loop.body, LoopKind::While), nullptr);
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Do& loop, Position at) {
+    auto before = CheckCondition(loop.untilBefore);
+    auto body = CheckLoopBody(loop.body, LoopKind::Do);
+    Append<code::ConditionalLoop>(block, at, std::move(before), false, std::move(body),
+                                  CheckCondition(loop.untilAfter));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Exit& exit, Position at) {
+    block.statements.push_back(MakeLeave(Flow::Exit, exit.loop, at));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Continue& statement, Position at) {
+    block.statements.push_back(MakeLeave(Flow::Continue, statement.loop, at));
+}
+
+code::StatementPtr StatementChecker::MakeLeave(Flow flow, LoopKind kind, Position at) const {
+    const auto found = kind == LoopKind::Any
+                           ? loops_.rbegin()
+                           : std::find(loops_.rbegin(), loops_.rend(), kind);
+    if (found == loops_.rend()) {
+        throw ProgramError(at, kind == LoopKind::Any
+                                   ? "there is no loop around this"
+                                   : "there is no " + NameOf(kind) + " loop around this");
+    }
+    return std::make_unique<code::LeaveLoop>(at, flow, static_cast<int>(found - loops_.rbegin()));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Try& statement, Position at) {
+    auto body = CheckBlock(statement.body);
+    std::vector<code::Try::Catch> catches;
+    for (const auto& handler : statement.catches) {
+        catches.push_back(CheckCatch(handler));
+    }
+    Append<code::Try>(block, at, std::move(body), std::move(catches),
+                      CheckBlock(statement.finally));
+}
+
+code::Try::Catch StatementChecker::CheckCatch(const syntax::Try::Catch& handler) {
+    const auto type = types_.Require(
+        handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
+    if (type.kind != Kind::Instance || !type.model->IsException()) {
+        throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
+    }
+    code::Try::Catch result{{}, &type.model->info(), {}};
+    result.body = CheckBlock(handler.body, [&] {
+        if (!handler.name.empty()) {
+            result.slot = scope_.Declare(handler.name, type, handler.at).slot;
+        }
+    });
+    return result;
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Raise& raise, Position at) {
+    auto exception = expressions_.Check(*raise.exception);
+    const bool isException =
+        exception.type.kind == Kind::Nil ||
+        (exception.type.kind == Kind::Instance && exception.type.model->IsException());
+    if (!isException) {
+        throw ProgramError(raise.exception->at,
+                           language::NameOf(exception.type) + " is not an exception");
+    }
+    Append<code::Raise>(block, at, std::move(exception.code));
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::Return& statement, Position at) {
+    const auto type = result_.value_or(Type{});
+    const bool wantsValue = type.kind != Kind::None;
+    if (!wantsValue && statement.value) {
+        throw ProgramError(statement.value->at, "only a Function returns a value");
+    }
+    if (wantsValue && !statement.value) {
+        throw ProgramError(at, "a Function returns a value, here " + language::NameOf(type));
+    }
+    Append<code::Return>(block, at,
+                         wantsValue ? expressions_.CheckAs(*statement.value, type) : nullptr);
+}
+
+}  // namespace standin::language

@@ -1,0 +1,63 @@
+// Checks the statements of one routine, or of the main program, and turns them into code.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "standin/language/code_statements.hpp"
+#include "standin/language/expression_checker.hpp"
+#include "standin/language/scope.hpp"
+#include "standin/language/syntax.hpp"
+
+namespace standin::language {
+
+class StatementChecker {
+public:
+    /// `result` is what the routine returns; missing in the main program, which returns nothing.
+    StatementChecker(const TypeTable& types, const Callables& callables, Scope& scope,
+                     std::optional<Type> result)
+        : types_(types), scope_(scope), expressions_(types, callables, scope), result_(result) {}
+
+    /// The whole body with its parameters, which take the first slots.
+    code::Block CheckBody(const syntax::Block& body, const std::vector<Parameter>& parameters,
+                          const std::vector<syntax::Parameter>& places);
+
+private:
+    /// Statements, in a block of their own that `before` can put variables into.
+    template <typename Before>
+    code::Block CheckBlock(const syntax::Block& block, Before before);
+    code::Block CheckBlock(const syntax::Block& block);
+    /// The body of a loop, from which Exit and Continue can lead.
+    code::Block CheckLoopBody(const syntax::Block& block, syntax::LoopKind kind);
+    code::ExpressionPtr CheckCondition(const syntax::ExpressionPtr& condition);
+
+    void Add(code::Block& block, const syntax::Statement& statement);
+    void AddNode(code::Block& block, const syntax::Dim& dim, Position at);
+    void AddNode(code::Block& block, const syntax::Const& constant, Position at);
+    void AddNode(code::Block& block, const syntax::Assignment& assignment, Position at);
+    void AddNode(code::Block& block, const syntax::CallStatement& statement, Position at);
+    void AddNode(code::Block& block, const syntax::Print& print, Position at);
+    void AddNode(code::Block& block, const syntax::If& statement, Position at);
+    void AddNode(code::Block& block, const syntax::Select& select, Position at);
+    void AddNode(code::Block& block, const syntax::For& loop, Position at);
+    void AddNode(code::Block& block, const syntax::While& loop, Position at);
+    void AddNode(code::Block& block, const syntax::Do& loop, Position at);
+    void AddNode(code::Block& block, const syntax::Exit& exit, Position at);
+    void AddNode(code::Block& block, const syntax::Continue& statement, Position at);
+    void AddNode(code::Block& block, const syntax::Try& statement, Position at);
+    void AddNode(code::Block& block, const syntax::Raise& raise, Position at);
+    void AddNode(code::Block& block, const syntax::Return& statement, Position at);
+
+    code::ExpressionPtr CheckCaseTest(const syntax::Select::Test& test, const Variable& subject);
+    code::Try::Catch CheckCatch(const syntax::Try::Catch& handler);
+    code::StatementPtr MakeLeave(Flow flow, syntax::LoopKind kind, Position at) const;
+
+    const TypeTable& types_;
+    Scope& scope_;
+    ExpressionChecker expressions_;
+    std::optional<Type> result_;
+    /// The loops around the current statement, the innermost last.
+    std::vector<syntax::LoopKind> loops_;
+};
+
+}  // namespace standin::language

@@ -1,0 +1,92 @@
+// Static types of the language.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+namespace standin::language {
+
+class ClassModel;
+
+/// What a value is made of. Integer is Int32 and UInteger is UInt32: the host is a 32-bit one.
+enum class Kind : std::uint8_t {
+    /// Of a routine that returns nothing.
+    None,
+    /// Of the literal Nil, before it meets a type.
+    Nil,
+    Boolean,
+    Int32,
+    UInt32,
+    Int64,
+    UInt64,
+    Single,
+    Double,
+    Currency,
+    /// The type String.
+    Text,
+    /// A text encoding, as `Encodings` hands them out.
+    TextEncoding,
+    /// An object of a class.
+    Instance,
+};
+
+/// A kind, and for objects their class.
+struct Type {
+    Kind kind = Kind::None;
+    const ClassModel* model = nullptr;
+
+    friend bool operator==(const Type&, const Type&) = default;
+};
+
+/// An amount of money: the number times 10,000.
+struct CurrencyAmount {
+    std::int64_t scaled;
+};
+inline constexpr int CurrencyScale = 10'000;
+
+/// The type's name as messages show it.
+std::string NameOf(Type type);
+/// The built-in type of that name, letter case ignored.
+std::optional<Kind> FindKind(std::string_view name);
+
+bool IsInteger(Kind kind);
+bool IsReal(Kind kind);
+/// Whether the kind counts: integers, real numbers and Currency.
+bool IsNumber(Kind kind);
+bool IsSigned(Kind integer);
+
+/// Whether every value of `from` is a value of the other number kind `to` as well.
+bool Widens(Kind from, Kind to);
+/// The kind in which two numbers meet for arithmetic: the narrowest that holds both, the
+/// larger one where none does (Double, UInt64).
+Kind CommonKind(Kind left, Kind right);
+
+/// Calls `action` with `std::type_identity` of the C++ type that holds a number kind.
+template <typename Action>
+decltype(auto) WithNumberType(Kind kind, Action&& action) {
+    switch (kind) {
+        case Kind::Int32:
+            return std::forward<Action>(action)(std::type_identity<std::int32_t>{});
+        case Kind::UInt32:
+            return std::forward<Action>(action)(std::type_identity<std::uint32_t>{});
+        case Kind::Int64:
+            return std::forward<Action>(action)(std::type_identity<std::int64_t>{});
+        case Kind::UInt64:
+            return std::forward<Action>(action)(std::type_identity<std::uint64_t>{});
+        case Kind::Single:
+            return std::forward<Action>(action)(std::type_identity<float>{});
+        case Kind::Double:
+            return std::forward<Action>(action)(std::type_identity<double>{});
+        case Kind::Currency:
+            return std::forward<Action>(action)(std::type_identity<CurrencyAmount>{});
+        default:
+            throw std::logic_error("not a number kind");
+    }
+}
+
+}  // namespace standin::language

@@ -1,0 +1,27 @@
+// Characters of UTF-8 text, code point by code point.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace standin::language {
+
+/// One decoded character and the number of bytes it takes.
+struct DecodedCharacter {
+    char32_t codePoint;
+    std::size_t size;
+};
+
+/// The character that begins at `offset`, which must be inside the text. No value when the bytes
+/// there are not well-formed UTF-8 (overlong forms, surrogates and cut sequences included).
+std::optional<DecodedCharacter> DecodeUtf8(std::string_view text, std::size_t offset);
+
+/// The UTF-8 bytes of a code point; U+FFFD for what is not a Unicode scalar value.
+std::string EncodeUtf8(char32_t codePoint);
+
+/// The offset of the first byte that is not part of well-formed UTF-8, if there is one.
+std::optional<std::size_t> FindInvalidUtf8(std::string_view text);
+
+}  // namespace standin::language

@@ -1,0 +1,46 @@
+#include "standin/language/value.hpp"
+
+namespace standin::language {
+
+Value Value::DefaultOf(Type type) noexcept {
+    switch (type.kind) {
+        case Kind::Text:
+            return Adopt(String{});
+        case Kind::Instance:
+            return Adopt(Object{});
+        case Kind::Single:
+        case Kind::Double:
+            return Of(0.0);
+        case Kind::TextEncoding:
+            return Of(static_cast<std::uint32_t>(HostTextEncoding::Unknown));
+        default:
+            return Of(0);
+    }
+}
+
+void Value::BorrowFrom(const Value& owner) noexcept {
+    const bool isSameText = owns_ == Owns::Text && payload_.text == owner.payload_.text;
+    const bool isSameObject = owns_ == Owns::Instance && payload_.object == owner.payload_.object;
+    if (owns_ == owner.owns_ && (isSameText || isSameObject)) {
+        Unlock();
+        owns_ = Owns::Nothing;
+    }
+}
+
+void Value::Lock() const noexcept {
+    if (owns_ == Owns::Text && payload_.text != nullptr) {
+        Host::Current().Lock(payload_.text);
+    } else if (owns_ == Owns::Instance && payload_.object != nullptr) {
+        Host::Current().Lock(payload_.object);
+    }
+}
+
+void Value::Unlock() noexcept {
+    if (owns_ == Owns::Text && payload_.text != nullptr) {
+        Host::Current().Unlock(payload_.text);
+    } else if (owns_ == Owns::Instance && payload_.object != nullptr) {
+        Host::Current().Unlock(payload_.object);
+    }
+}
+
+}  // namespace standin::language
