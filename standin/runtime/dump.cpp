@@ -14,6 +14,10 @@ std::string Hex(std::uint32_t value) {
     return text.data();
 }
 
+std::string InQuotes(const std::string& text) {
+    return "\"" + text + "\"";
+}
+
 /// Writes the dump and remembers at which entry each routine was seen first.
 class TableDump {
 public:
@@ -53,10 +57,10 @@ private:
         int number = 0;
         for (const PropertyInfo& property : properties) {
             const std::string place = kind + " " + std::to_string(++number);
-            Entry(number, property.name + " as " + property.type, property.flags,
-                  property.attributes);
+            Entry(number, InQuotes(property.name) + " as " + InQuotes(property.type),
+                  property.flags, property.attributes);
             if (!property.group.empty()) {
-                Line("      group \"" + property.group + "\"");
+                Line("      group " + InQuotes(property.group));
             }
             if (property.parameter != 0) {
                 Line("      parameter " + std::to_string(property.parameter));
@@ -72,7 +76,7 @@ private:
         int number = 0;
         for (const MethodInfo& method : methods) {
             const std::string place = kind + " " + std::to_string(++number);
-            Entry(number, method.declaration, method.flags, method.attributes);
+            Entry(number, InQuotes(method.declaration), method.flags, method.attributes);
             Line("      function: " + Seen(method.function, place));
             if (method.setter != nullptr) {
                 Line("      setter: " + Seen(method.setter, "setter of " + place));
@@ -84,7 +88,7 @@ private:
         Heading(heading, entries.size());
         int number = 0;
         for (const DeclarationInfo& entry : entries) {
-            Entry(++number, entry.declaration, entry.flags, entry.attributes);
+            Entry(++number, InQuotes(entry.declaration), entry.flags, entry.attributes);
         }
     }
 
@@ -94,10 +98,9 @@ private:
 
     void Entry(int number, const std::string& what, std::uint32_t flags,
                const Attributes& attributes) {
-        std::string line =
-            "    " + std::to_string(number) + ". \"" + what + "\", flags " + Hex(flags);
+        std::string line = "    " + std::to_string(number) + ". " + what + ", flags " + Hex(flags);
         for (const auto& [name, value] : attributes) {
-            line += ", attribute " + name + " = \"" + value + "\"";
+            line += ", attribute " + name + " = " + InQuotes(value);
         }
         Line(line);
     }

@@ -38,7 +38,7 @@ struct HostOptions {
     std::optional<double> version = CurrentHostVersion;
     /// What the host lacks: functions by the name that the resolver is asked for, global methods by
     /// declaration, and classes of its own by name.
-    std::set<std::string, std::less<>> missing;
+    std::set<std::string, std::less<>> missing = {};
     /// What "REALinRuntime" answers.
     bool builtApplication = false;
     /// Whether "PluginNewInstance" runs the class's parameterless constructor.
