@@ -18,5 +18,7 @@ if(Doctest_FOUND AND NOT TARGET doctest_headers)
   file(CREATE_LINK "${DOCTEST_INCLUDE_DIR}/doctest" "${link_dir}/doctest" SYMBOLIC)
   add_library(doctest_headers INTERFACE)
   target_include_directories(doctest_headers SYSTEM INTERFACE "${link_dir}")
+  # The tests run on one thread, and the cross compiler's thread model has no mutexes.
+  target_compile_definitions(doctest_headers INTERFACE DOCTEST_CONFIG_NO_MULTITHREADING)
   unset(link_dir)
 endif()
