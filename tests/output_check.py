@@ -8,9 +8,11 @@ import sys
 ENCODING = {"encoding": "utf-8", "errors": "backslashreplace"}
 
 
-def run(command: list[str]) -> subprocess.CompletedProcess:
-    """Runs the command without input and keeps its output as bytes."""
+def run(command: list[str], settings: dict[str, str] | None = None) -> subprocess.CompletedProcess:
+    """Runs the command without input, with more settings in its environment, and keeps its output
+    as bytes."""
     environment = {name: value for name, value in os.environ.items() if name != "VQZDEBUG"}
+    environment |= settings or {}
     return subprocess.run(
         command, stdin=subprocess.DEVNULL, capture_output=True, env=environment, check=False
     )

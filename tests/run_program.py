@@ -6,56 +6,116 @@ The files bear the program's name, and lie beside it or in a folder `expected` t
 
   .expected   standard output, byte for byte
   .status     the exit status, where it is not 0
-  .stderr     lines, or parts of lines, that standard error holds in this order; without the file a
-              program that ends with status 0 leaves standard error empty
-  .options    words for the command line
+  .stderr     lines, or parts of lines, that standard error holds in this order
+  .log        standard error, line for line
+  .options    words for the command line, after NAME=VALUE words for its environment; every line is
+              a run of its own, and all of them do the same
+
+A program that ends with status 0 and has neither .stderr nor .log leaves standard error empty.
+
+A program with a comment line that begins "' In both precisions" runs a second time with the other
+number class in the first one's place, in the program as well as in what is expected.
 """
 
+import dataclasses
 import pathlib
+import re
 import shlex
 import sys
+import tempfile
 
 import output_check
 
+SMALLER, BIGGER = "BigNumberVQZ", "BiggerNumberVQZ"
+IN_BOTH_PRECISIONS = re.compile(r"^' In both precisions\b", re.MULTILINE)
+SETTING = re.compile(r"\w+=.*", re.DOTALL)
 
-def companion(program: pathlib.Path, suffix: str) -> pathlib.Path | None:
-    """The file of that suffix that belongs to the program, if there is one."""
+
+@dataclasses.dataclass
+class Expectation:
+    """What a run is expected to do; a missing text stands for "not looked at"."""
+
+    output: str
+    status: int
+    error_lines: str | None
+    log: str | None
+
+    def in_precision(self, name: str) -> "Expectation":
+        """The same of the program that has this class in the smaller one's place."""
+        texts = [self.output, self.error_lines, self.log]
+        output, error_lines, log = (text and text.replace(SMALLER, name) for text in texts)
+        return Expectation(output, self.status, error_lines, log)
+
+    def problems(self, result) -> list[str]:
+        """What a finished run did otherwise, each with what was expected."""
+        problems = [output_check.difference(self.output.encode(), result.stdout)]
+        if result.returncode != self.status:
+            problems.append(f"the status is {result.returncode} instead of {self.status}")
+
+        errors = result.stderr.decode(**output_check.ENCODING)
+        if self.error_lines is not None:
+            missing = output_check.first_missing_line(self.error_lines, errors)
+            if missing is not None:
+                problems.append(f"standard error lacks the line: {missing}")
+        if self.log is not None:
+            lines = "\n".join(errors.splitlines()) + "\n"
+            problems.append(output_check.difference(self.log.encode(), lines.encode()))
+        if self.error_lines is None and self.log is None and self.status == 0 and errors:
+            problems.append("standard error is not empty")
+        return [problem for problem in problems if problem]
+
+
+def companion(program: pathlib.Path, suffix: str) -> str | None:
+    """The text of the file with that suffix that belongs to the program, if there is one."""
     beside = program.with_suffix(suffix)
     aside = program.parent / "expected" / beside.name
-    return next((path for path in (beside, aside) if path.exists()), None)
+    found = next((path for path in (beside, aside) if path.exists()), None)
+    return None if found is None else found.read_bytes().decode("utf-8")
+
+
+def expectation_of(program: pathlib.Path) -> Expectation:
+    output = companion(program, ".expected")
+    if output is None:
+        sys.exit(f"{program} has no expected output beside it")
+    status = int(companion(program, ".status") or 0)
+    return Expectation(output, status, companion(program, ".stderr"), companion(program, ".log"))
+
+
+def settings_and_words(line: str) -> tuple[dict[str, str], list[str]]:
+    """The environment's settings at the head of a line of options, and the words after them."""
+    words = shlex.split(line)
+    settings = {}
+    while words and SETTING.fullmatch(words[0]):
+        name, value = words.pop(0).split("=", 1)
+        settings[name] = value
+    return settings, words
+
+
+def check_runs(command: list[str], program: pathlib.Path, options: list[str],
+               expectation: Expectation) -> None:
+    """Runs the program with each line of options; ends the test at the first that goes wrong."""
+    for line in options:
+        settings, words = settings_and_words(line)
+        result = output_check.run([*command, *words, str(program)], settings)
+        problems = expectation.problems(result)
+        if problems and line:
+            problems.insert(0, f"with the options: {line}")
+        output_check.report(problems, result)
 
 
 def main() -> None:
     program = pathlib.Path(sys.argv[1])
     command = sys.argv[3:]
-    expected = companion(program, ".expected")
-    status = companion(program, ".status")
-    stderr = companion(program, ".stderr")
-    options = companion(program, ".options")
-    if expected is None:
-        sys.exit(f"{program} has no expected output beside it")
+    expectation = expectation_of(program)
+    options = (companion(program, ".options") or "\n").splitlines()
+    check_runs(command, program, options, expectation)
 
-    words = shlex.split(options.read_text("utf-8")) if options else []
-    result = output_check.run([*command, *words, str(program)])
-    problems = []
-
-    difference = output_check.difference(expected.read_bytes(), result.stdout)
-    if difference:
-        problems.append(difference)
-
-    wanted_status = int(status.read_text()) if status else 0
-    if result.returncode != wanted_status:
-        problems.append(f"the status is {result.returncode} instead of {wanted_status}")
-
-    errors = result.stderr.decode(**output_check.ENCODING)
-    if stderr:
-        missing = output_check.first_missing_line(stderr.read_text("utf-8"), errors)
-        if missing is not None:
-            problems.append(f"standard error lacks the line: {missing}")
-    elif wanted_status == 0 and errors:
-        problems.append("standard error is not empty")
-
-    output_check.report(problems, result)
+    text = program.read_bytes()
+    if IN_BOTH_PRECISIONS.search(text.decode(**output_check.ENCODING)):
+        with tempfile.TemporaryDirectory() as folder:
+            bigger = pathlib.Path(folder) / program.name
+            bigger.write_bytes(text.replace(SMALLER.encode(), BIGGER.encode()))
+            check_runs(command, bigger, options, expectation.in_precision(BIGGER))
 
 
 if __name__ == "__main__":
