@@ -1,5 +1,6 @@
 #include "standin/runtime/host.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -37,6 +38,7 @@ void DebugLog::Write(std::string_view line) {
 
 Host::State::State(Host& host, HostOptions hostOptions)
     : options(std::move(hostOptions)),
+      quarantine(violations),
       classes(options.missing),
       strings(options.unterminatedStrings, violations, failures, quarantine),
       objects(strings, violations, failures, quarantine,
@@ -58,12 +60,9 @@ bool Host::State::Lacks(std::string_view name) const {
     }
     // Only a declaration has other spellings.
     const std::string normal = NormalDeclaration(name);
-    for (const std::string& missing : options.missing) {
-        if (missing.find('(') != std::string::npos && NormalDeclaration(missing) == normal) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(options.missing, [&](const std::string& missing) {
+        return missing.find('(') != std::string::npos && NormalDeclaration(missing) == normal;
+    });
 }
 
 Host::Host(HostOptions options) {
@@ -293,10 +292,14 @@ ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, R
     if (routine == nullptr) {
         throw std::logic_error("a call of a routine that is not there");
     }
-    // The stack of a host that keeps four bytes of alignment only is off by 4, 8 or 12.
-    constexpr std::uint32_t MisalignedBy = 4;
-    const CallConditions conditions{state_->options.misalignedStack ? MisalignedBy : 0,
-                                    state_->options.changedControlWord};
+    // The stack of a host that keeps four bytes of alignment only is off by 4, 8 or 12: by each in
+    // turn.
+    constexpr std::uint32_t AlignmentKept = 4;
+    CallConditions conditions;
+    conditions.changedControlWord = state_->options.changedControlWord;
+    if (state_->options.misalignedStack) {
+        conditions.stackOffset = AlignmentKept * (1 + state_->calls++ % 3);
+    }
     const CallResult result = CallRoutine(routine, words, kind, conditions);
     if (result.faults.stackMoved) {
         state_->violations.Add("a routine took its arguments off the stack");
@@ -336,17 +339,22 @@ LedgerCounts Host::Counts() const {
 }
 
 std::vector<std::string> Host::Violations() const {
+    state_->quarantine.Check();
     return state_->violations.Texts();
 }
 
 std::vector<std::string> Host::Leaks() const {
-    std::vector<std::string> lines = state_->violations.Texts();
+    std::vector<std::string> lines = Violations();
+    if (state_->raised != nullptr) {
+        lines.emplace_back("a raised exception was not taken");
+    }
     state_->strings.AppendLeaks(lines);
     state_->objects.AppendLeaks(lines);
     return lines;
 }
 
 void Host::ResetLedger() {
+    state_->quarantine.Check();
     state_->violations.Clear();
     state_->strings.ResetLedger();
     state_->objects.ResetLedger();

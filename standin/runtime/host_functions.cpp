@@ -52,17 +52,19 @@ std::string_view TextOrEmpty(const char* text) {
     return text == nullptr ? "" : text;
 }
 
+// An exception of the host's own must not end up in the plug-in: none of these lets one out.
+
 // Version and registration ----------------------------------------------------------------------
 
-double GetVersion() {
+double GetVersion() noexcept {
     return Current().options.version.value_or(0.0);
 }
 
-void RegisterVersion(std::int32_t version) {
+void RegisterVersion(std::int32_t version) noexcept {
     Current().pluginInterfaceVersion = version;
 }
 
-void RegisterClass(ClassDefinition* definition) {
+void RegisterClass(ClassDefinition* definition) noexcept {
     if (definition == nullptr) {
         Violation("PluginRegisterClass", "no record");
         return;
@@ -71,7 +73,7 @@ void RegisterClass(ClassDefinition* definition) {
     state.classes.Register(*definition, state.pluginInterfaceVersion, state.violations);
 }
 
-BooleanWord InRuntime() {
+BooleanWord InRuntime() noexcept {
     return InLowByte(Current().options.builtApplication);
 }
 
@@ -89,64 +91,65 @@ String BuildStringAs(const char* bytes, std::int32_t length, HostTextEncoding en
     return Current().strings.Make({bytes, static_cast<std::size_t>(length)}, encoding);
 }
 
-String BuildString(const char* bytes, std::int32_t length) {
+String BuildString(const char* bytes, std::int32_t length) noexcept {
     return BuildStringAs(bytes, length, HostTextEncoding::Unknown, "REALBuildString");
 }
 
-String BuildStringWithEncoding(const char* bytes, std::int32_t byteCount, std::uint32_t encoding) {
+String BuildStringWithEncoding(const char* bytes, std::int32_t byteCount,
+                               std::uint32_t encoding) noexcept {
     return BuildStringAs(bytes, byteCount, static_cast<HostTextEncoding>(encoding),
                          "REALBuildStringWithEncoding");
 }
 
-String AddString(String left, String right) {
+String AddString(String left, String right) noexcept {
     return Current().strings.Join(left, right, "RuntimeAddString");
 }
 
-String ConvertString(String text, std::uint32_t encoding) {
+String ConvertString(String text, std::uint32_t encoding) noexcept {
     return Current().strings.Convert(text, static_cast<HostTextEncoding>(encoding),
                                      "REALConvertString");
 }
 
-BooleanWord GetStringData(String text, std::uint32_t encoding, StringData* out) {
+BooleanWord GetStringData(String text, std::uint32_t encoding, StringData* out) noexcept {
     return InLowByte(Current().strings.LendData(text, static_cast<HostTextEncoding>(encoding), out,
                                                 "PluginGetStringData"));
 }
 
-void DisposeStringData(StringData* data) {
+void DisposeStringData(StringData* data) noexcept {
     Current().strings.ReturnData(data, "PluginDisposeStringData");
 }
 
-std::uint32_t GetStringEncoding(String text) {
+std::uint32_t GetStringEncoding(String text) noexcept {
     return static_cast<std::uint32_t>(Current().strings.Encoding(text, "REALGetStringEncoding"));
 }
 
-void SetStringEncoding(String text, std::uint32_t encoding) {
+void SetStringEncoding(String text, std::uint32_t encoding) noexcept {
     Current().strings.SetEncoding(text, static_cast<HostTextEncoding>(encoding),
                                   "REALSetStringEncoding");
 }
 
-void LockString(String text) {
+void LockString(String text) noexcept {
     Current().strings.Lock(text, "REALLockString");
 }
-void UnlockString(String text) {
+void UnlockString(String text) noexcept {
     Current().strings.Unlock(text, "REALUnlockString");
 }
 
 // Objects and classes ---------------------------------------------------------------------------
 
-void LockObject(Object object) {
+void LockObject(Object object) noexcept {
     Current().objects.Lock(object, "REALLockObject");
 }
-void UnlockObject(Object object) {
+void UnlockObject(Object object) noexcept {
     Current().objects.Unlock(object, "REALUnlockObject");
 }
 
-ClassReference ObjectType(const char* className) {
+ClassReference ObjectType(const char* className) noexcept {
     const ClassEntry* type = Current().classes.Find(TextOrEmpty(className));
     return type == nullptr ? nullptr : ClassTable::ReferenceOf(*type);
 }
 
-BooleanWord ObjectIsa(Object object, ClassReference classReference) {
+BooleanWord ObjectIsa(Object object, ClassReference classReference) noexcept {
     const char* user = "RuntimeObjectIsa";
     const ObjectEntry* entry = Current().objects.Find(object, user);
     const ClassEntry* type = Current().classes.FromReference(classReference);
@@ -164,7 +167,7 @@ Routine EmptyConstructor(const ClassEntry& type) {
     return found == type.methods.end() ? nullptr : found->function;
 }
 
-Object NewInstance(const char* className) {
+Object NewInstance(const char* className) noexcept {
     Host::State& state = Current();
     const ClassEntry* type = state.classes.Find(TextOrEmpty(className));
     if (type == nullptr) {
@@ -180,7 +183,7 @@ Object NewInstance(const char* className) {
 }
 
 /// The host keeps the first exception; one that is raised while it is on its way is dropped.
-void RaiseException(Object exception) {
+void RaiseException(Object exception) noexcept {
     const char* user = "RuntimeRaiseException";
     Host::State& state = Current();
     ++state.raises;
@@ -197,23 +200,23 @@ void RaiseException(Object exception) {
     }
 }
 
-void* LoadGlobalMethod(const char* /*module*/, const char* declaration) {
+void* LoadGlobalMethod(const char* /*module*/, const char* declaration) noexcept {
     return FindGlobalMethod(TextOrEmpty(declaration));
 }
 
 // Memory blocks ---------------------------------------------------------------------------------
 
-void* BlockPointer(Object block) {
+void* BlockPointer(Object block) noexcept {
     const auto* payload = Current().objects.PayloadOf<BlockPayload>(block, "memoryBlockGetPtr");
     return payload == nullptr || !payload->hasData ? nullptr : payload->bytes.data();
 }
 
-std::int32_t BlockSize(Object block) {
+std::int32_t BlockSize(Object block) noexcept {
     const auto* payload = Current().objects.PayloadOf<BlockPayload>(block, "memoryBlockGetSize");
     return payload == nullptr ? 0 : static_cast<std::int32_t>(payload->bytes.size());
 }
 
-Object NewBlock(std::int32_t byteCount) {
+Object NewBlock(std::int32_t byteCount) noexcept {
     // More than this host has, whatever the machine could give.
     constexpr std::int32_t MostBytes = 256 << 20;
     if (byteCount < 0 || byteCount > MostBytes) {
@@ -231,55 +234,55 @@ Object NewBlock(std::int32_t byteCount) {
 
 // Variants --------------------------------------------------------------------------------------
 
-Object BoxInt32(std::int32_t value) {
+Object BoxInt32(std::int32_t value) noexcept {
     return Host::Current().MakeVariant(
         static_cast<std::int32_t>(host_interface::VariantTypeCode::Int32), std::int64_t{value});
 }
 
-Object BoxInt64(std::int64_t value) {
+Object BoxInt64(std::int64_t value) noexcept {
     return Host::Current().MakeVariant(
         static_cast<std::int32_t>(host_interface::VariantTypeCode::Int64), value);
 }
 
-Object BoxUInt64(std::uint64_t value) {
+Object BoxUInt64(std::uint64_t value) noexcept {
     return Host::Current().MakeVariant(
         static_cast<std::int32_t>(host_interface::VariantTypeCode::Int64), value);
 }
 
-Object BoxString(String value) {
+Object BoxString(String value) noexcept {
     return Host::Current().MakeVariant(
         static_cast<std::int32_t>(host_interface::VariantTypeCode::String), value);
 }
 
-double UnboxDouble(Object variant) {
+double UnboxDouble(Object variant) noexcept {
     return VariantDouble(Current(), variant, "VariantToDouble");
 }
 
-float UnboxSingle(Object variant) {
+float UnboxSingle(Object variant) noexcept {
     return static_cast<float>(VariantDouble(Current(), variant, "VariantToSingle"));
 }
 
-std::int32_t UnboxInt32(Object variant) {
+std::int32_t UnboxInt32(Object variant) noexcept {
     return static_cast<std::int32_t>(VariantInt64(Current(), variant, "VariantToInt32"));
 }
 
-std::int64_t UnboxInt64(Object variant) {
+std::int64_t UnboxInt64(Object variant) noexcept {
     return VariantInt64(Current(), variant, "VariantToInt64");
 }
 
-std::uint32_t UnboxUInt32(Object variant) {
+std::uint32_t UnboxUInt32(Object variant) noexcept {
     return static_cast<std::uint32_t>(VariantUInt64(Current(), variant, "VariantToUInt32"));
 }
 
-std::uint64_t UnboxUInt64(Object variant) {
+std::uint64_t UnboxUInt64(Object variant) noexcept {
     return VariantUInt64(Current(), variant, "VariantToUInt64");
 }
 
-String UnboxString(Object variant) {
+String UnboxString(Object variant) noexcept {
     return VariantText(Current(), variant, "VariantToString");
 }
 
-std::int32_t TypeOf(Object variant) {
+std::int32_t TypeOf(Object variant) noexcept {
     return VariantTypeOf(Current(), variant, "VarType");
 }
 
@@ -287,7 +290,7 @@ std::int32_t TypeOf(Object variant) {
 
 /// "REALGetPropValue…" for properties of the type T; a Boolean result in the form of `Answer`.
 template <FunctionName Name, typename T, BooleanWord (*Answer)(bool)>
-BooleanWord GetProperty(Object object, const char* name, T* out) {
+BooleanWord GetProperty(Object object, const char* name, T* out) noexcept {
     Host& host = Host::Current();
     const auto value = ReadProperty(host, object, TextOrEmpty(name), Name.text);
     if (!value) {
@@ -306,7 +309,7 @@ BooleanWord GetProperty(Object object, const char* name, T* out) {
 
 /// "REALSetPropValue…" for properties of the type T.
 template <FunctionName Name, typename T>
-BooleanWord SetProperty(Object object, const char* name, T value) {
+BooleanWord SetProperty(Object object, const char* name, T value) noexcept {
     return InLowByte(
         WriteProperty(Host::Current(), object, TextOrEmpty(name), PropertyValue(value), Name.text));
 }

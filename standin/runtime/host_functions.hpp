@@ -11,8 +11,7 @@ void* FindHostFunction(std::string_view name);
 /// The address of a global method of the host; null for a declaration that it does not know.
 void* FindGlobalMethod(std::string_view declaration);
 
-/// Every name that `FindHostFunction` knows is offered by "REALGetRBVersion" too, but not by a host
-/// without a version.
+/// The function that a host without a version does not offer.
 inline constexpr std::string_view VersionFunctionName = "REALGetRBVersion";
 
 }  // namespace standin

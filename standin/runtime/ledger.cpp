@@ -1,5 +1,6 @@
 #include "standin/runtime/ledger.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -60,12 +61,22 @@ VisibleMemory::~VisibleMemory() {
 }
 
 void VisibleMemory::Poison() {
-    if (data_ == nullptr || poisoned_) {
+    if (data_ == nullptr) {
         return;
     }
     std::memset(data_, PoisonByte, size_);
     ForbidAccess(data_, size_);
     poisoned_ = true;
+}
+
+bool VisibleMemory::PoisonBroken() const {
+#if defined(__SANITIZE_ADDRESS__)
+    return false;
+#else
+    return poisoned_ && std::any_of(data_, data_ + size_, [](std::byte byte) {
+               return byte != static_cast<std::byte>(PoisonByte);
+           });
+#endif
 }
 
 void VisibleMemory::Release() {
@@ -76,13 +87,28 @@ void VisibleMemory::Release() {
     data_ = nullptr;
 }
 
-void Quarantine::Add(VisibleMemory memory) {
+void Quarantine::Add(VisibleMemory memory, const char* what, std::uint64_t serial) {
     memory.Poison();
     bytes_ += memory.size();
-    memories_.push_back(std::move(memory));
-    while (memories_.size() > QuarantinedMemories || bytes_ > QuarantinedBytes) {
-        bytes_ -= memories_.front().size();
-        memories_.pop_front();
+    released_.push_back({std::move(memory), what, serial});
+    while (released_.size() > QuarantinedMemories || bytes_ > QuarantinedBytes) {
+        Check(released_.front());
+        bytes_ -= released_.front().memory.size();
+        released_.pop_front();
+    }
+}
+
+void Quarantine::Check() {
+    for (Released& released : released_) {
+        Check(released);
+    }
+}
+
+void Quarantine::Check(Released& released) {
+    if (released.memory.PoisonBroken()) {
+        violations_.Add(std::string(released.what) + " #" + std::to_string(released.serial) +
+                        " was written to after its release");
+        released.memory.Poison();
     }
 }
 

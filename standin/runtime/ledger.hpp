@@ -30,6 +30,9 @@ public:
 
     /// Makes the bytes worthless: overwritten, and reported by an address sanitizer when touched.
     void Poison();
+    /// Whether poisoned bytes were written to since. An address sanitizer reports that by itself,
+    /// and then this answers no.
+    bool PoisonBroken() const;
 
 private:
     void Release();
@@ -37,17 +40,6 @@ private:
     std::byte* data_ = nullptr;
     std::size_t size_ = 0;
     bool poisoned_ = false;
-};
-
-/// Keeps released memory for a while, poisoned, so that its address is not used again soon and
-/// reading through an old pointer does not find the old bytes.
-class Quarantine {
-public:
-    void Add(VisibleMemory memory);
-
-private:
-    std::deque<VisibleMemory> memories_;
-    std::size_t bytes_ = 0;
 };
 
 /// The violations so far. Repetitions beyond a limit are only counted, so that a plug-in that goes
@@ -61,6 +53,30 @@ public:
 private:
     std::vector<std::string> texts_;
     std::uint64_t dropped_ = 0;
+};
+
+/// Keeps released memory for a while, poisoned, so that its address is not used again soon, reading
+/// through an old pointer does not find the old bytes, and writing through one is noticed.
+class Quarantine {
+public:
+    explicit Quarantine(ViolationList& violations) : violations_(violations) {}
+
+    /// `what` and the serial number say in a report whose memory it was: "string", 5.
+    void Add(VisibleMemory memory, const char* what, std::uint64_t serial);
+    /// Reports what was written to; each memory once.
+    void Check();
+
+private:
+    struct Released {
+        VisibleMemory memory;
+        const char* what = "";
+        std::uint64_t serial = 0;
+    };
+    void Check(Released& released);
+
+    ViolationList& violations_;
+    std::deque<Released> released_;
+    std::size_t bytes_ = 0;
 };
 
 /// Decides which allocations fail.

@@ -137,9 +137,9 @@ void ObjectStore::Die(Object object, ObjectEntry& entry, const char* user) {
     ReleasePayload(entry.payload, user);
     ObjectEntry dead = objects_.Bury(object, Describe(entry));
     if (auto* block = std::get_if<BlockPayload>(&dead.payload)) {
-        quarantine_.Add(std::move(block->bytes));
+        quarantine_.Add(std::move(block->bytes), "memory block", dead.serial);
     }
-    quarantine_.Add(std::move(dead.memory));
+    quarantine_.Add(std::move(dead.memory), "object", dead.serial);
 }
 
 void ObjectStore::ReleasePayload(ObjectPayload& payload, const char* user) {

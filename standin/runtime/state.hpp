@@ -46,6 +46,8 @@ struct Host::State {
     std::optional<std::int32_t> pluginInterfaceVersion;
     Object raised = nullptr;
     std::uint64_t raises = 0;
+    /// Calls with a misaligned stack.
+    std::uint32_t calls = 0;
 };
 
 }  // namespace standin

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 #include <utility>
 
 #include "standin/runtime/text_encoding.hpp"
@@ -53,8 +54,12 @@ String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding
         return nullptr;
     }
     StringEntry entry;
-    entry.record = VisibleMemory(sizeof(StringRecord));
-    entry.text = MakeText(bytes, TextOffset);
+    try {
+        entry.record = VisibleMemory(sizeof(StringRecord));
+        entry.text = MakeText(bytes, TextOffset);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
     entry.length = bytes.size();
     entry.textHash = std::hash<std::string_view>{}(bytes);
     entry.encoding = encoding;
@@ -186,7 +191,7 @@ void StringStore::ReturnData(StringData* record, const char* user) {
     }
     const auto held = lent_.find(record);
     if (held != lent_.end() && held->second.serial == record->hostWord) {
-        quarantine_.Add(std::move(held->second.bytes));
+        quarantine_.Add(std::move(held->second.bytes), "string data", held->second.serial);
         lent_.erase(held);
         return;
     }
@@ -265,8 +270,8 @@ VisibleMemory StringStore::MakeText(std::string_view bytes, std::size_t before) 
 void StringStore::Die(String text, const StringEntry& entry, const char* user) {
     CheckUnchanged(entry, user);
     StringEntry dead = strings_.Bury(text, Describe(entry));
-    quarantine_.Add(std::move(dead.text));
-    quarantine_.Add(std::move(dead.record));
+    quarantine_.Add(std::move(dead.text), "string", dead.serial);
+    quarantine_.Add(std::move(dead.record), "string", dead.serial);
 }
 
 void StringStore::CheckUnchanged(const StringEntry& entry, const char* user) {

@@ -37,7 +37,7 @@ public:
 
     /// A new string; null for an empty text and for a failing allocation.
     String Make(std::string_view bytes, HostTextEncoding encoding);
-    /// A new string that may be empty; null for a failing allocation.
+    /// A new string that may be empty; null for a failing allocation, also one of the machine's.
     String MakeRecord(std::string_view bytes, HostTextEncoding encoding);
     /// A new string with the texts of both, in an encoding that has room for both.
     String Join(String left, String right, const char* user);

@@ -31,6 +31,10 @@ Routine AsRoutine(Function* function) {
 
 using Words = std::vector<std::uintptr_t>;
 
+/// Where the build put the libraries that are loaded here.
+constexpr const char* SmallLibrary = STANDIN_TESTS_SMALL_LIBRARY;
+constexpr const char* LibraryWithoutEntry = STANDIN_TESTS_LIBRARY_WITHOUT_ENTRY;
+
 extern "C" {
 std::uint32_t WeighedSum(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d,
                          std::uint32_t e, std::uint32_t f, std::uint32_t g, std::uint32_t h,
@@ -127,7 +131,7 @@ extern "C" __attribute__((stdcall)) std::uint32_t TakesItsArguments(std::uint32_
 
 }  // namespace
 
-TEST_CASE("the stack is aligned, or off by 4 where that is asked for") {
+TEST_CASE("the stack is aligned, or off by 4, 8 and 12 in turn where that is asked for") {
     {
         Host host;
         for (std::size_t count = 0; count < 9; ++count) {
@@ -135,8 +139,8 @@ TEST_CASE("the stack is aligned, or off by 4 where that is asked for") {
         }
     }
     Host host(HostOptions{.misalignedStack = true});
-    for (std::size_t count = 0; count < 9; ++count) {
-        CHECK(StackOffset(host, Words(count, 7)) == 4);
+    for (std::uint32_t count = 0; count < 9; ++count) {
+        CHECK(StackOffset(host, Words(count, 7)) == 4 * (1 + count % 3));
     }
     CHECK(
         host.Call(AsRoutine(WeighedSum), Words{1, 2, 3, 4, 5, 6, 7, 8, 9}, ReturnKind::Word).low ==
@@ -205,4 +209,26 @@ TEST_CASE("a library that cannot be loaded is told clearly") {
                    "cannot load the plug-in library \"no/such/library\""));
     CHECK(Contains(message("no/such/library"), "Build it first"));
     CHECK(Contains(message("nolibrary"), "cannot load"));
+    CHECK(Contains(message(LibraryWithoutEntry), "does not export REALPluginMain"));
+}
+
+TEST_CASE("a library's entry gets the resolver, or null where that is asked for") {
+    {
+        Host host;
+        const PluginLibrary library(SmallLibrary, false);
+        CHECK(host.TakeDebugLog() == std::vector<std::string>{"entered without a resolver"});
+        CHECK(host.lookups().empty());
+        CHECK(host.RegisteredClasses().empty());
+    }
+    Host host(HostOptions{.misalignedStack = true, .changedControlWord = true});
+    PluginLibrary library(SmallLibrary);
+    CHECK(host.TakeDebugLog() == std::vector<std::string>{"entered with a resolver"});
+    CHECK(host.pluginInterfaceVersion() == 13);
+    REQUIRE(host.FindClass("Small") != nullptr);
+    CHECK(host.FindClass("Small")->dataSize == 16);
+    library.CallEntry(&Host::Resolve);
+    CHECK(host.TakeDebugLog() == std::vector<std::string>{"entered with a resolver"});
+    CHECK(host.RegisteredClasses().size() == 1);
+    CHECK(host.lookups().at("PluginRegisterClass") == 2);
+    CHECK(host.Leaks().empty());
 }

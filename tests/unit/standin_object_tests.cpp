@@ -294,6 +294,7 @@ TEST_CASE("the host keeps the first raised exception until it is taken") {
     Unlock(second);
     CHECK(host.Raises() == 2);
     CHECK(host.Counts().objectsAlive == 1);
+    CHECK(host.Leaks().front() == "a raised exception was not taken");
     Object taken = host.TakeException();
     CHECK(taken == first);
     CHECK(host.TakeException() == nullptr);

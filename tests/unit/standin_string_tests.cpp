@@ -200,6 +200,22 @@ TEST_CASE("the old text cannot be read after the release") {
     strings.unlock(text);
     CHECK(std::memcmp(bytes, "secret", 6) != 0);
 }
+
+TEST_CASE("writing through an old pointer is noticed") {
+    Host host;
+    const StringFunctions strings;
+    String text = strings.build("abc", 3);
+    auto* bytes = const_cast<char*>(text->storage);
+    strings.unlock(text);
+    CHECK(host.Violations().empty());
+    bytes[1] = 'X';
+    CHECK(Only(host.Violations()) == "string #1 was written to after its release");
+    // Each once.
+    CHECK(Only(TakeViolations(host)) == "string #1 was written to after its release");
+    text->length = 5;
+    CHECK(Only(TakeViolations(host)) == "string #1 was written to after its release");
+    CHECK(host.Violations().empty());
+}
 #endif
 
 TEST_CASE("string data is the text in the asked encoding, held until it is given back") {
