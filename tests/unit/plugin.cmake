@@ -1,0 +1,32 @@
+# The plug-in: its own routines, called directly, and its library, driven by the tables that it
+# registers.
+add_library(unit_test_support OBJECT support/host_values.cpp)
+target_link_libraries(unit_test_support PUBLIC doctest_headers project_options standin_runtime)
+
+add_unit_tests(plugin_tests
+  SOURCES
+    plugin/debug_log_tests.cpp
+    plugin/direct_host.cpp
+    plugin/exceptions_tests.cpp
+    plugin/failing_memory.cpp
+    plugin/host_functions_tests.cpp
+    plugin/number_objects_tests.cpp
+    plugin/rb_text_tests.cpp
+    plugin/registration_tests.cpp
+    plugin/start_up_tests.cpp
+    plugin/string_building_tests.cpp
+  LIBRARIES plugin_objects unit_test_support standin_runtime)
+
+# Tests make the plug-in's buffers fail: its calls of these two functions go through the test's own.
+target_link_options(plugin_tests PRIVATE
+  "LINKER:--wrap=_ZN3vqz8platform14AllocateZeroedEj"
+  "LINKER:--wrap=_ZN3vqz8platform10FreeBufferEPv")
+
+add_unit_tests(table_tests
+  SOURCES
+    tables/loaded_plugin.cpp
+    tables/table_contents_tests.cpp
+  LIBRARIES unit_test_support standin_runtime)
+target_compile_definitions(table_tests PRIVATE
+  "BIGNUMBERVQZ_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
+add_dependencies(table_tests BigNumberVQZ)

@@ -1,0 +1,218 @@
+// From the entry to the registered classes.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <doctest/doctest.h>
+
+#include "number/number_value.hpp"
+#include "plugin/class_tables.hpp"
+#include "plugin/entry.hpp"
+#include "plugin/startup_globals.hpp"
+#include "tests/unit/plugin/direct_host.hpp"
+#include "tests/unit/support/environment.hpp"
+
+namespace {
+
+using tests::DirectHost;
+using tests::EnvironmentVariable;
+
+constexpr const char* DebugVariable = "VQZDEBUG";
+
+host_interface::ClassDefinition& BigNumberRecord() {
+    return vqz::NumberClass<vqz::BigNumberValue>::Record;
+}
+
+host_interface::ClassDefinition& BiggerNumberRecord() {
+    return vqz::NumberClass<vqz::BiggerNumberValue>::Record;
+}
+
+/// Starts the plug-in as if nothing of it had run before.
+void Start(host_interface::Resolver resolver) {
+    vqz::HostResolver = nullptr;
+    vqz::HostVersion = 0.0;
+    vqz::PluginInterfaceVersion = vqz::UnregisteredInterfaceVersion;
+    REALPluginMain(resolver);
+}
+
+std::vector<std::string> NamesOf(const std::vector<const standin::ClassInfo*>& classes) {
+    std::vector<std::string> names;
+    for (const standin::ClassInfo* info : classes) {
+        names.push_back(info->name);
+    }
+    return names;
+}
+
+}  // namespace
+
+TEST_CASE("The interface version follows the host's release") {
+    struct Row {
+        double hostVersion;
+        std::uint32_t interfaceVersion;
+    };
+    constexpr double Infinity = std::numeric_limits<double>::infinity();
+    const Row rows[] = {
+        {2013.04, 13},
+        {std::nextafter(2013.04, 0.0), 12},
+        {2013.03, 12},
+        {std::nextafter(2013.03, 0.0), 11},
+        {2013.0, 11},
+        {std::nextafter(2013.0, 0.0), 10},
+        {2012.0, 10},
+        {std::nextafter(2012.0, 0.0), 9},
+        {2011.99, 9},
+        {0.0, 9},
+        {-1.0, 9},
+        {2023.04, 13},
+        {Infinity, 13},
+        {-Infinity, 9},
+        {std::numeric_limits<double>::quiet_NaN(), 9},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.hostVersion);
+        CHECK(vqz::InterfaceVersionOf(row.hostVersion) == row.interfaceVersion);
+    }
+}
+
+TEST_CASE("The debug log is on when VQZDEBUG is 1, true or yes, in any letter case") {
+    struct Row {
+        std::optional<std::string> value;
+        bool expected;
+    };
+    const Row rows[] = {
+        {"1", true},    {"true", true},   {"TRUE", true},      {"True", true},
+        {"tRuE", true}, {"yes", true},    {"YES", true},       {"Yes", true},
+        {"on", false},  {"2", false},     {"", false},         {"0", false},
+        {"no", false},  {"false", false}, {" true", false},    {"true ", false},
+        {"1 ", false},  {"\tyes", false}, {"truetrue", false}, {"tru", false},
+        {"11", false},  {"yes\n", false}, {"y", false},        {std::nullopt, false}};
+    for (const Row& row : rows) {
+        CAPTURE(row.value.value_or("(not set)"));
+        const DirectHost host;
+        const EnvironmentVariable variable(DebugVariable, row.value);
+        vqz::InitPlugin();
+        CHECK(vqz::DebugEnabled == row.expected);
+    }
+}
+
+TEST_CASE("The environment never switches the debug log off") {
+    const DirectHost host;
+    vqz::DebugEnabled = true;
+    const EnvironmentVariable variable(DebugVariable, "no");
+    vqz::InitPlugin();
+    CHECK(vqz::DebugEnabled);
+}
+
+TEST_CASE("A start without resolver leaves everything as it was built") {
+    const DirectHost host;
+    const EnvironmentVariable variable(DebugVariable, "1");
+    Start(nullptr);
+    CHECK((vqz::HostResolver == nullptr));
+    CHECK(vqz::HostVersion == 0.0);
+    CHECK(vqz::PluginInterfaceVersion == 9);
+    CHECK_FALSE(vqz::DebugEnabled);
+    CHECK(host.RegisteredClasses().empty());
+    CHECK_FALSE(host.pluginInterfaceVersion().has_value());
+    CHECK(host.lookups().empty());
+    for (const auto* record : {&BigNumberRecord(), &BiggerNumberRecord()}) {
+        CHECK(record->version == 15);
+        CHECK(record->dataSize == sizeof(void*));
+        CHECK(record->instanceDataOffset == 0);
+        CHECK(record->sharedMethodCount == 55);
+    }
+    CHECK(vqz::NumberErrorRecord.version == 15);
+    CHECK(vqz::NumberErrorRecord.dataSize == 0);
+}
+
+TEST_CASE("A start registers the three classes in order and tells the interface version first") {
+    DirectHost host(2013.03);
+    Start(&standin::Host::Resolve);
+    CHECK((vqz::HostResolver == &standin::Host::Resolve));
+    CHECK(vqz::HostVersion == 2013.03);
+    CHECK(vqz::PluginInterfaceVersion == 12);
+    CHECK(host.pluginInterfaceVersion() == 12);
+    CHECK(tests::Joined(NamesOf(host.RegisteredClasses())) ==
+          "BigNumberVQZ\nBiggerNumberVQZ\nBigNumberErrorExceptionVQZ\n");
+    CHECK(BigNumberRecord().version == 12);
+    CHECK(BigNumberRecord().dataSize == 16);
+    CHECK(vqz::NumberErrorRecord.dataSize == 0);
+    CHECK(host.TakeDebugLog().empty());
+}
+
+TEST_CASE("A host that does not tell its version counts as an old one") {
+    DirectHost host(standin::HostOptions{.version = std::nullopt});
+    Start(&standin::Host::Resolve);
+    CHECK(vqz::HostVersion == 0.0);
+    CHECK(host.pluginInterfaceVersion() == 9);
+    CHECK(BigNumberRecord().version == 9);
+    CHECK(BigNumberRecord().sharedMethodCount == 54);
+}
+
+TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") {
+    struct Row {
+        double hostVersion;
+        std::size_t sharedMethods;
+    };
+    constexpr Row Rows[] = {{2015.0, 55}, {2014.99, 54}, {2011.99, 54}, {2023.04, 55}};
+    for (const Row& row : Rows) {
+        CAPTURE(row.hostVersion);
+        DirectHost host(row.hostVersion);
+        Start(&standin::Host::Resolve);
+        for (const char* name : {"BigNumberVQZ", "BiggerNumberVQZ"}) {
+            REQUIRE(host.FindClass(name) != nullptr);
+            CHECK(host.FindClass(name)->sharedMethods.size() == row.sharedMethods);
+            CHECK(host.FindClass(name)->sharedMethods[53].declaration ==
+                  std::string("Rand as ") + name);
+        }
+        CHECK(host.FindClass("BigNumberErrorExceptionVQZ")->sharedMethods.empty());
+    }
+}
+
+TEST_CASE("A second start runs every step again") {
+    DirectHost host(2014.99);
+    Start(&standin::Host::Resolve);
+    REALPluginMain(&standin::Host::Resolve);
+    CHECK(BigNumberRecord().sharedMethodCount == 53);
+    CHECK(BiggerNumberRecord().sharedMethodCount == 53);
+    CHECK(BigNumberRecord().dataSize == 16);
+    CHECK(host.RegisteredClasses().size() == 3);
+}
+
+TEST_CASE("Only a built application seeds the random generator, with the time") {
+    constexpr unsigned OwnSeed = 12345;
+    const auto firstDrawAfter = [](unsigned seed) {
+        std::srand(seed);
+        return std::rand();
+    };
+    SUBCASE("in the development environment the sequence goes on") {
+        const DirectHost host;
+        const int expected = firstDrawAfter(OwnSeed);
+        std::srand(OwnSeed);
+        Start(&standin::Host::Resolve);
+        CHECK(std::rand() == expected);
+    }
+    SUBCASE("in a built application it starts with the current second") {
+        const DirectHost host(standin::HostOptions{.builtApplication = true});
+        const auto before = static_cast<unsigned>(std::time(nullptr));
+        Start(&standin::Host::Resolve);
+        const int drawn = std::rand();
+        const auto after = static_cast<unsigned>(std::time(nullptr));
+        bool matches = false;
+        for (unsigned seed = before; seed <= after; ++seed) {
+            matches = matches || firstDrawAfter(seed) == drawn;
+        }
+        CHECK(matches);
+    }
+}
+
+TEST_CASE("The load callback answers 1 for every reason") {
+    for (const std::uint32_t reason : {0U, 1U, 2U, 3U, 4U, 0xFFFFFFFFU}) {
+        CAPTURE(reason);
+        CHECK(DllMain(nullptr, reason, nullptr) == 1);
+    }
+}
