@@ -40,6 +40,9 @@ Exit status: 0; 1 for an exception nobody caught; 2 for an error in the program 
 3 when strings or objects were leaked or released too often; 4 when the plug-in crashed.
 )";
 
+const std::string_view UsageHint =
+    "usage: ./run [options] [PROGRAM | - | -e TEXT]; ./run --help tells more\n";
+
 namespace {
 
 double ReadVersion(const std::string& word) {
@@ -93,17 +96,18 @@ struct Setting {
 
 constexpr auto Settings = std::to_array<Setting>({
     {"--library", [](CommandLine& line, const std::string& value) { line.library = value; }},
-    {"--without", [](CommandLine& line, const std::string& value) {
-         line.host.missing.insert(value);
+    {"--without",
+     [](CommandLine& line, const std::string& value) { line.host.missing.insert(value); }},
+    {"--host-version",
+     [](CommandLine& line, const std::string& value) {
+         line.host.version = value == "none" ? std::nullopt : std::optional(ReadVersion(value));
      }},
-    {"--host-version", [](CommandLine& line, const std::string& value) {
-         line.host.version =
-             value == "none" ? std::nullopt : std::optional(ReadVersion(value));
-     }},
-    {"--fail-string", [](CommandLine& line, const std::string& value) {
+    {"--fail-string",
+     [](CommandLine& line, const std::string& value) {
          line.failingString = ReadCount("--fail-string", value);
      }},
-    {"--fail-object", [](CommandLine& line, const std::string& value) {
+    {"--fail-object",
+     [](CommandLine& line, const std::string& value) {
          line.failingObject = ReadCount("--fail-object", value);
      }},
     {"-e", [](CommandLine& line, const std::string& value) { line.text = value; }},

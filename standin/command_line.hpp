@@ -37,7 +37,8 @@ struct CommandLine {
 /// Reads the words after the command's own name. Throws UsageError.
 CommandLine ReadCommandLine(const std::vector<std::string>& words);
 
-/// How the command is called, for people.
+/// How the command is called, for people; and the short form, for who called it wrongly.
 extern const std::string_view UsageText;
+extern const std::string_view UsageHint;
 
 }  // namespace standin

@@ -72,8 +72,8 @@ Status RunProgram(Host& host, const Source& source, const language::TypeTable& t
         return Status::Unhandled;
     } catch (const language::OutOfObjects& error) {
         WriteError("Unhandled OutOfMemoryException: " + std::string(error.what()) + "\n  at " +
-                   source.name() + ":" +
-                   std::to_string(source.Locate(error.position()).line) + "\n");
+                   source.name() + ":" + std::to_string(source.Locate(error.position()).line) +
+                   "\n");
         return Status::Unhandled;
     }
     return Status::Good;
@@ -84,10 +84,10 @@ bool ReportLedger(const Host& host, bool showsCounts) {
     if (showsCounts) {
         const auto counts = host.Counts();
         WriteError("strings: " + std::to_string(counts.stringsMade) + " made, " +
-                   std::to_string(counts.stringsAlive) + " alive\nobjects: " +
-                   std::to_string(counts.objectsMade) + " made, " +
-                   std::to_string(counts.objectsAlive) + " alive\nstring data: " +
-                   std::to_string(counts.stringDataHeld) + " held\n");
+                   std::to_string(counts.stringsAlive) +
+                   " alive\nobjects: " + std::to_string(counts.objectsMade) + " made, " +
+                   std::to_string(counts.objectsAlive) +
+                   " alive\nstring data: " + std::to_string(counts.stringDataHeld) + " held\n");
     }
     const auto leaks = host.Leaks();
     if (!leaks.empty()) {
@@ -132,7 +132,7 @@ Status Main(const std::vector<std::string>& words) {
         }
         return Perform(line);
     } catch (const UsageError& error) {
-        WriteError(std::string(error.what()) + "\n\n" + std::string(UsageText));
+        WriteError(std::string(error.what()) + "\n" + std::string(UsageHint));
     } catch (const std::exception& error) {
         WriteError(std::string(error.what()) + "\n");
     }

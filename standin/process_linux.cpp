@@ -1,6 +1,3 @@
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -9,6 +6,9 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "standin/process.hpp"
 #include "standin/process_output.hpp"

@@ -1,16 +1,16 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 // <windows.h> comes first: the others build on it.
-#include <fcntl.h>
-#include <io.h>
-#include <shellapi.h>
-
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
+
+#include <fcntl.h>
+#include <io.h>
+#include <shellapi.h>
 
 #include "standin/process.hpp"
 #include "standin/process_output.hpp"

@@ -41,8 +41,8 @@ Value TextItself(const Arguments& arguments, const Machine& /*machine*/) {
 template <std::unsigned_integral T, int Base>
 Value Digits(const Arguments& arguments, const Machine& machine) {
     std::array<char, 64> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
-                                      arguments[0].Get<T>(), Base);
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), arguments[0].Get<T>(), Base);
     std::string text(buffer.data(), result.ptr);
     std::ranges::transform(text, text.begin(), [](char digit) {
         return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
@@ -250,6 +250,7 @@ constexpr auto EncodingNames = std::to_array<EncodingName>({
 
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     std::vector<BuiltIn> builtIns;
+    builtIns.reserve(Rows.size());
     for (const auto& row : Rows) {
         builtIns.push_back(
             {types.Resolve(ParseDeclaration(row.declaration), row.declaration), row.function});

@@ -38,9 +38,8 @@ std::vector<const Method*> Named(const std::vector<Method>& methods, std::string
 }
 
 const Property* Named(const std::vector<Property>& properties, std::string_view name) {
-    const auto found = std::ranges::find_if(properties, [name](const Property& property) {
-        return SameName(property.name, name);
-    });
+    const auto found = std::ranges::find_if(
+        properties, [name](const Property& property) { return SameName(property.name, name); });
     return found == properties.end() ? nullptr : &*found;
 }
 
@@ -48,7 +47,7 @@ const Property* Named(const std::vector<Property>& properties, std::string_view 
 template <typename Find>
 auto FirstAnswer(const ClassModel* model, Find find) -> decltype(find(*model)) {
     for (; model != nullptr; model = model->super()) {
-        const auto answer = find(*model);
+        auto answer = find(*model);
         if (answer != decltype(find(*model)){}) {
             return answer;
         }

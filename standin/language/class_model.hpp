@@ -102,7 +102,7 @@ public:
     /// The type of a written name; throws ProgramError when there is none.
     Type Require(const syntax::TypeName& name) const;
     /// Fills a signature from its syntax. An unknown type throws ProgramError.
-    Signature Resolve(syntax::Signature signature, std::string declaration) const;
+    Signature Resolve(syntax::Signature syntax, std::string declaration) const;
 
 private:
     ClassModel& AddClass(const ClassInfo& info);

@@ -83,7 +83,9 @@ private:
 /// The variables of one call of a routine, or of the main program.
 struct Frame {
     Frame(Machine& runningMachine, std::size_t slotCount, Frame* mainFrame = nullptr)
-        : machine(runningMachine), slots(slotCount), main(mainFrame == nullptr ? *this : *mainFrame) {}
+        : machine(runningMachine),
+          slots(slotCount),
+          main(mainFrame == nullptr ? *this : *mainFrame) {}
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
 

@@ -25,9 +25,9 @@ public:
         }
         if (machine.depth >= MaximumDepth ||
             machine.stackBase - StackAddress() > MaximumStackBytes) {
-            machine.Raise("StackOverflowException",
-                          "Routines call each other more than " + std::to_string(MaximumDepth) +
-                              " levels deep.");
+            machine.Raise("StackOverflowException", "Routines call each other more than " +
+                                                        std::to_string(MaximumDepth) +
+                                                        " levels deep.");
         }
         ++machine.depth;
     }

@@ -139,8 +139,7 @@ private:
 
 class Raise final : public Statement {
 public:
-    Raise(Position at, ExpressionPtr exception)
-        : Statement(at), exception_(std::move(exception)) {}
+    Raise(Position at, ExpressionPtr exception) : Statement(at), exception_(std::move(exception)) {}
     Flow Execute(Frame& frame) const override;
 
 private:

@@ -72,7 +72,8 @@ Checked ConvertIn(Checked value, Type to, const Method& method) {
     arguments.push_back({std::move(argument.code), argument.type.kind, false});
     code::PluginCall call(LabelOf(*to.model, method), method.function, std::move(arguments),
                           Kind::None);
-    return {std::make_unique<code::NewObject>(to.model->info(), std::move(call)), to, at, {}, false};
+    return {
+        std::make_unique<code::NewObject>(to.model->info(), std::move(call)), to, at, {}, false};
 }
 
 Checked ConvertOut(Checked value, Type to, const Method& method) {
@@ -81,7 +82,10 @@ Checked ConvertOut(Checked value, Type to, const Method& method) {
     code::PluginCall call(LabelOf(*value.type.model, method), method.function, {}, to.kind);
     return {std::make_unique<code::InstanceCall>(std::move(value.code), std::move(call),
                                                  code::NilReceiver::Passed),
-            to, at, {}, false};
+            to,
+            at,
+            {},
+            false};
 }
 
 /// A whole literal becomes one of the other kind at once.

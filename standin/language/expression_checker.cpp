@@ -42,7 +42,10 @@ Checked MakeCall(std::optional<Checked> receiver, code::PluginCall call, code::N
         return {std::make_unique<code::SharedCall>(std::move(call)), result, at, {}, false};
     }
     return {std::make_unique<code::InstanceCall>(std::move(receiver->code), std::move(call), nil),
-            result, at, {}, false};
+            result,
+            at,
+            {},
+            false};
 }
 
 [[noreturn]] void FailWithoutMember(const ClassModel& model, const std::string& name, Position at) {
@@ -222,7 +225,10 @@ Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& prope
     if (property.hostProperty != HostProperty::None) {
         return {std::make_unique<code::ReadHostProperty>(std::move(receiver.value->code),
                                                          property.hostProperty),
-                property.type, at, {}, false};
+                property.type,
+                at,
+                {},
+                false};
     }
     RequireRoutine(property.getter, property.declaration, at);
     const auto parameter = isShared ? std::nullopt : std::optional(property.parameter);
@@ -291,7 +297,10 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
         const auto& signature = *candidates[index];
         return {std::make_unique<code::RoutineCall>(
                     *routines[index], Fill(signature, std::move(arguments), at, *this)),
-                signature.result, at, {}, false};
+                signature.result,
+                at,
+                {},
+                false};
     }
     std::vector<code::BuiltInFunction> functions;
     for (const auto& builtIn : callables_.builtIns) {
@@ -305,7 +314,10 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
         const auto& signature = *candidates[index];
         return {std::make_unique<code::BuiltInCall>(
                     functions[index], Fill(signature, std::move(arguments), at, *this)),
-                signature.result, at, {}, false};
+                signature.result,
+                at,
+                {},
+                false};
     }
     if (const auto type = types_.Find(name)) {
         if (arguments.size() == 1) {
@@ -330,8 +342,11 @@ Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
         converted.isVariable = false;
         return converted;
     }
-    return {std::make_unique<code::ClassCast>(std::move(value.code), type.model->info()), type, at,
-            {}, false};
+    return {std::make_unique<code::ClassCast>(std::move(value.code), type.model->info()),
+            type,
+            at,
+            {},
+            false};
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at) {
@@ -341,8 +356,8 @@ Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at)
     if (!isObject || type.kind != Kind::Instance) {
         throw ProgramError(at, "\"IsA\" stands between an object and a class");
     }
-    return MakeBoolean(
-        std::make_unique<code::ClassTest>(std::move(value.code), type.model->info()), at);
+    return MakeBoolean(std::make_unique<code::ClassTest>(std::move(value.code), type.model->info()),
+                       at);
 }
 
 // New --------------------------------------------------------------------------------------------
@@ -367,8 +382,8 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
         }
         return {std::make_unique<code::NewObject>(model.info(), std::nullopt), type, at, {}, false};
     }
-    const auto index = RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments,
-                                       at);
+    const auto index =
+        RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at);
     auto call = MakePluginCall(model, *constructors[index], std::move(arguments), at);
     return {std::make_unique<code::NewObject>(model.info(), std::move(call)), type, at, {}, false};
 }
@@ -382,7 +397,10 @@ Checked ExpressionChecker::ConstructException(const ClassModel& model, Arguments
     auto filled = Fill(signature, std::move(arguments), at, *this);
     return {std::make_unique<code::NewException>(model.info(), std::move(filled[0].value),
                                                  std::move(filled[1].value)),
-            {Kind::Instance, &model}, at, {}, false};
+            {Kind::Instance, &model},
+            at,
+            {},
+            false};
 }
 
 // Setters ----------------------------------------------------------------------------------------
@@ -408,8 +426,8 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
         }
     }
     auto arguments = call == nullptr ? Arguments{} : CheckArguments(call->arguments);
-    const auto methods = receiver.value ? model.FindMethods(member->name)
-                                        : std::vector<const Method*>{};
+    const auto methods =
+        receiver.value ? model.FindMethods(member->name) : std::vector<const Method*>{};
     if (!methods.empty()) {
         return CallMethodSetter(std::move(receiver), methods, false, std::move(arguments),
                                 Check(value), at);

@@ -96,9 +96,9 @@ private:
                                       Checked value, Position at);
     Checked CallMethod(Receiver receiver, const std::vector<const Method*>& methods, bool isShared,
                        Arguments arguments, Position at);
-    code::ExpressionPtr CallMethodSetter(Receiver receiver, const std::vector<const Method*>& methods,
-                                         bool isShared, Arguments arguments, Checked value,
-                                         Position at);
+    code::ExpressionPtr CallMethodSetter(Receiver receiver,
+                                         const std::vector<const Method*>& methods, bool isShared,
+                                         Arguments arguments, Checked value, Position at);
     Checked Construct(const ClassModel& model, Arguments arguments, Position at);
     Checked ConstructException(const ClassModel& model, Arguments arguments, Position at);
 

@@ -17,8 +17,8 @@ public:
     NestingGuard(std::size_t& depth, Position at) : depth_(depth) {
         if (++depth_ > MaximumNesting) {
             --depth_;
-            throw ProgramError(at, "nested more than " + std::to_string(MaximumNesting) +
-                                       " levels deep");
+            throw ProgramError(
+                at, "nested more than " + std::to_string(MaximumNesting) + " levels deep");
         }
     }
     ~NestingGuard() { --depth_; }

@@ -162,7 +162,8 @@ private:
             return true;
         }
         constexpr std::string_view Remark = "rem";
-        return SameName(Rest().substr(0, Remark.size()), Remark) && !IsNamePart(Peek(Remark.size()));
+        return SameName(Rest().substr(0, Remark.size()), Remark) &&
+               !IsNamePart(Peek(Remark.size()));
     }
 
     void SkipLine() { offset_ = std::min(text_.find_first_of("\r\n", offset_), text_.size()); }
@@ -216,8 +217,9 @@ private:
             ++size;
         }
         const auto word = Rest().substr(0, size);
-        const auto* found = std::ranges::find_if(
-            ReservedWords, [word](const Spelling& reserved) { return SameName(reserved.text, word); });
+        const auto* found = std::ranges::find_if(ReservedWords, [word](const Spelling& reserved) {
+            return SameName(reserved.text, word);
+        });
         Add(found == ReservedWords.end() ? TokenKind::Name : found->kind, size);
     }
 
@@ -259,8 +261,8 @@ private:
         double value = 0.0;
         const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
         if (result.ec != std::errc{}) {
-            throw ProgramError(offset_, "the number " + std::string(digits) +
-                                            " is outside the range of Double");
+            throw ProgramError(
+                offset_, "the number " + std::string(digits) + " is outside the range of Double");
         }
         Add(TokenKind::Real, size).real = value;
     }

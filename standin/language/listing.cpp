@@ -47,7 +47,7 @@ std::string ListClasses(const Host& host, const TypeTable& types) {
     for (const auto* info : host.RegisteredClasses()) {
         const auto& model = *types.FindClass(info->name);
         text += "Class " + model.name();
-        text += model.super() == nullptr ? "\n" : ", inherits " + model.super()->name() + "\n";
+        text += info->superName.empty() ? "\n" : ", inherits " + info->superName + "\n";
         AppendMembers(text, "Property", model.properties);
         AppendMembers(text, "Method", model.methods);
         AppendMembers(text, "Shared Property", model.sharedProperties);

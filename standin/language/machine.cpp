@@ -13,7 +13,8 @@ void Machine::Raise(std::string_view className, std::string_view message) const 
     if (info == nullptr) {
         info = host_.FindClass("RuntimeException");
     }
-    auto exception = info == nullptr ? Value::Adopt(Object{}) : Value::Adopt(host_.MakeObject(*info));
+    auto exception =
+        info == nullptr ? Value::Adopt(Object{}) : Value::Adopt(host_.MakeObject(*info));
     if (exception.object() == nullptr) {
         throw OutOfObjects(position);
     }

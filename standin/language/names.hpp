@@ -20,7 +20,7 @@ constexpr bool SameName(std::string_view left, std::string_view right) {
 
 /// Orders names so that the same name in another letter case is equal; for maps and sets.
 struct NameLess {
-    using is_transparent = void;
+    using is_transparent = void;  // NOLINT(readability-identifier-naming): the library's name
     constexpr bool operator()(std::string_view left, std::string_view right) const {
         return std::ranges::lexicographical_compare(left, right, {}, FoldCase, FoldCase);
     }

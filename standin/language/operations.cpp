@@ -301,10 +301,10 @@ BinaryFunction FindOperation(BinaryOperator operation, Kind kind) {
 OrderFunction FindOrder(Kind left, Kind right) {
     if (IsNumber(left) && IsNumber(right)) {
         return WithNumberType(left, [right]<typename Left>(std::type_identity<Left>) {
-            return WithNumberType(
-                right, []<typename Right>(std::type_identity<Right>) -> OrderFunction {
-                    return OrderNumbers<Left, Right>;
-                });
+            return WithNumberType(right,
+                                  []<typename Right>(std::type_identity<Right>) -> OrderFunction {
+                                      return OrderNumbers<Left, Right>;
+                                  });
         });
     }
     if (left != right) {

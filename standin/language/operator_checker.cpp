@@ -148,7 +148,10 @@ Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
         throw ProgramError(at, std::string(isMinus ? "\"-\"" : "\"Not\"") +
                                    " cannot stand before " + NameOf(type));
     }
-    return {std::make_unique<code::UnaryOperation>(function, std::move(operand.code)), type, at, {},
+    return {std::make_unique<code::UnaryOperation>(function, std::move(operand.code)),
+            type,
+            at,
+            {},
             false};
 }
 
@@ -198,7 +201,10 @@ Checked ExpressionChecker::Apply(BinaryOperator operation, Checked left, Checked
     }
     return {std::make_unique<code::BinaryOperation>(function, std::move(left.code),
                                                     std::move(right.code)),
-            type, at, {}, false};
+            type,
+            at,
+            {},
+            false};
 }
 
 Checked ExpressionChecker::ApplyToNumbers(BinaryOperator operation, Checked left, Checked right,
@@ -212,7 +218,10 @@ Checked ExpressionChecker::ApplyToNumbers(BinaryOperator operation, Checked left
     auto rightCode = ConvertTo(std::move(right), {kind}).code;
     return {std::make_unique<code::BinaryOperation>(function, std::move(leftCode),
                                                     std::move(rightCode)),
-            {kind}, at, {}, false};
+            {kind},
+            at,
+            {},
+            false};
 }
 
 Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Checked right,
@@ -274,9 +283,9 @@ std::optional<Checked> ExpressionChecker::TryCompareOperator(BinaryOperator oper
         return std::nullopt;
     }
     auto result = ConvertTo(std::move(*call), {Kind::Int32});
-    return MakeBoolean(std::make_unique<code::ComparedByOperator>(std::move(result.code), operation,
-                                                                  isMirrored),
-                       at);
+    return MakeBoolean(
+        std::make_unique<code::ComparedByOperator>(std::move(result.code), operation, isMirrored),
+        at);
 }
 
 std::optional<Checked> ExpressionChecker::TryOperatorOf(const std::string& name, Checked& receiver,
@@ -299,7 +308,10 @@ std::optional<Checked> ExpressionChecker::TryOperatorOf(const std::string& name,
     auto call = MakePluginCall(model, method, std::move(arguments), at);
     return Checked{std::make_unique<code::InstanceCall>(std::move(receiver.code), std::move(call),
                                                         code::NilReceiver::Passed, isReceiverRight),
-                   method.signature.result, at, {}, false};
+                   method.signature.result,
+                   at,
+                   {},
+                   false};
 }
 
 }  // namespace standin::language

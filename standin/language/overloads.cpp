@@ -21,8 +21,7 @@ std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked
     }
     const bool areMissingOptional =
         std::all_of(parameters.begin() + static_cast<std::ptrdiff_t>(arguments.size()),
-                    parameters.end(),
-                    [](const Parameter& parameter) {
+                    parameters.end(), [](const Parameter& parameter) {
                         return parameter.defaultValue != nullptr && !parameter.byRef;
                     });
     const bool doAllFit = std::ranges::find(fits, Fit::None) == fits.end();
@@ -31,8 +30,7 @@ std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked
 
 /// Whether `left` fits at least as well in every argument, and better in one.
 bool IsBetter(const Fits& left, const Fits& right) {
-    return left != right &&
-           std::ranges::equal(left, right, [](Fit a, Fit b) { return a <= b; });
+    return left != right && std::ranges::equal(left, right, [](Fit a, Fit b) { return a <= b; });
 }
 
 std::string TypesOf(const std::vector<Checked>& arguments) {
@@ -64,8 +62,9 @@ std::string WantedType(const Parameter& parameter) {
         if (FitOf(arguments[i], parameters[i]) == Fit::None) {
             throw ProgramError(arguments[i].at,
                                Quoted(signature.declaration) + " expects " +
-                                   WantedType(parameters[i]) + " for " + Quoted(parameters[i].name) +
-                                   ", this is " + (arguments[i].isVariable ? "" : "a value of type ") +
+                                   WantedType(parameters[i]) + " for " +
+                                   Quoted(parameters[i].name) + ", this is " +
+                                   (arguments[i].isVariable ? "" : "a value of type ") +
                                    NameOf(arguments[i].type));
         }
     }
@@ -114,8 +113,9 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
         case Overload::Outcome::One:
             return overload.best.front();
         case Overload::Outcome::Tie:
-            throw ProgramError(at, Quoted(name) + " with " + TypesOf(arguments) +
-                                       " fits equally well: " + ListOf(candidates, overload.best));
+            throw ProgramError(
+                at, Quoted(name) + " with " + TypesOf(arguments) +
+                        " fits several equally well: " + ListOf(candidates, overload.best));
         case Overload::Outcome::NoneFits:
             break;
     }

@@ -142,8 +142,7 @@ Handle HandleFrom(const ReturnValue& returned) {
 
 }  // namespace
 
-CallLabel::CallLabel(const char* label)
-    : outer_(std::exchange(currentLabel, label)) {}
+CallLabel::CallLabel(const char* label) : outer_(std::exchange(currentLabel, label)) {}
 
 CallLabel::~CallLabel() {
     currentLabel = outer_;

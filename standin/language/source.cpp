@@ -51,7 +51,8 @@ ShownCharacter ShowCharacter(std::string_view line, std::size_t offset) {
 
 }  // namespace
 
-Source::Source(std::string name, std::string text) : name_(std::move(name)), text_(std::move(text)) {
+Source::Source(std::string name, std::string text)
+    : name_(std::move(name)), text_(std::move(text)) {
     if (text_.starts_with(ByteOrderMark)) {
         text_.erase(0, ByteOrderMark.size());
     }

@@ -205,8 +205,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Posi
     }
     parts.variable = ExpressionChecker::MakeVariable(variable, loop.variableAt).code;
     parts.last = expressions_.CheckAs(*loop.last, variable.type);
-    const auto one = std::make_unique<syntax::Expression>(
-        syntax::Expression{at, 1, syntax::IntegerLiteral{1}});
+    const auto one =
+        std::make_unique<syntax::Expression>(syntax::Expression{at, 1, syntax::IntegerLiteral{1}});
     parts.step = expressions_.CheckAs(loop.step ? *loop.step : *one, variable.type);
     parts.body = CheckLoopBody(loop.body, LoopKind::For);
     code.statements.push_back(code::MakeForLoop(at, variable.type.kind, std::move(parts)));
@@ -236,9 +236,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Continue& state
 }
 
 code::StatementPtr StatementChecker::MakeLeave(Flow flow, LoopKind kind, Position at) const {
-    const auto found = kind == LoopKind::Any
-                           ? loops_.rbegin()
-                           : std::find(loops_.rbegin(), loops_.rend(), kind);
+    const auto found =
+        kind == LoopKind::Any ? loops_.rbegin() : std::find(loops_.rbegin(), loops_.rend(), kind);
     if (found == loops_.rend()) {
         throw ProgramError(at, kind == LoopKind::Any
                                    ? "there is no loop around this"
@@ -258,8 +257,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Try& statement,
 }
 
 code::Try::Catch StatementChecker::CheckCatch(const syntax::Try::Catch& handler) {
-    const auto type = types_.Require(
-        handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
+    const auto type =
+        types_.Require(handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
     if (type.kind != Kind::Instance || !type.model->IsException()) {
         throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
     }

@@ -32,8 +32,7 @@ std::size_t Utf16CharacterSize(std::string_view bytes, std::size_t offset,
         return at + 2 <= bytes.size() && UnitAt(bytes, at, encoding) >= first &&
                UnitAt(bytes, at, encoding) <= last;
     };
-    const bool isPair =
-        isBetween(offset, 0xD800, 0xDBFF) && isBetween(offset + 2, 0xDC00, 0xDFFF);
+    const bool isPair = isBetween(offset, 0xD800, 0xDBFF) && isBetween(offset + 2, 0xDC00, 0xDFFF);
     return isPair ? 4 : 2;
 }
 

@@ -85,9 +85,8 @@ bool IsSigned(Kind integer) {
 }
 
 bool Widens(Kind from, Kind to) {
-    return std::ranges::any_of(Widenings, [from, to](const Widening& row) {
-        return row.from == from && row.to == to;
-    });
+    return std::ranges::any_of(
+        Widenings, [from, to](const Widening& row) { return row.from == from && row.to == to; });
 }
 
 Kind CommonKind(Kind left, Kind right) {

@@ -1,0 +1,3 @@
+Dim s As New Sample
+Print "before"
+s.Abort

@@ -1,0 +1,2 @@
+Print "ok"
+Print "aÿb"

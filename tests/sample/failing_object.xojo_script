@@ -1,0 +1,7 @@
+Dim s As New Sample
+Try
+  s = New Sample
+Catch e As OutOfMemoryException
+  Print e.Message
+End Try
+Print s.Value

@@ -1,0 +1,3 @@
+Dim s As New Sample
+s.LeakString
+Print "on"

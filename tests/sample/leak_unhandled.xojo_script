@@ -1,0 +1,3 @@
+Dim s As New Sample
+s.LeakString
+Raise New SampleException("gone wrong")

@@ -1,0 +1,2 @@
+Dim s As New Sample("5")
+Print s

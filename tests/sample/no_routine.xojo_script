@@ -1,0 +1,3 @@
+Dim s As New Sample
+Print "never"
+Print s.Missing(1)

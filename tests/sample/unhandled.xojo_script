@@ -1,0 +1,4 @@
+Dim s As New Sample
+Print "before"
+
+Call s.Fail("no way")

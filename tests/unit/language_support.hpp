@@ -1,0 +1,79 @@
+// What the tests of the language share: a host with the sample plug-in, and programs run in it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <doctest/doctest.h>
+
+#include "interface/host_interface.hpp"
+#include "standin/language/class_model.hpp"
+#include "standin/language/code.hpp"
+#include "standin/language/program.hpp"
+#include "standin/language/source.hpp"
+#include "standin/runtime/host.hpp"
+
+extern "C" void REALPluginMain(host_interface::Resolver resolver);
+
+namespace language_tests {
+
+/// A host in which the sample plug-in is registered. Its end checks that the ledger is clean.
+class SampleHost {
+public:
+    explicit SampleHost(standin::HostOptions options = {}) : host_(std::move(options)) {
+        REALPluginMain(standin::Host::Resolve);
+        types_ = std::make_unique<standin::language::TypeTable>(host_);
+    }
+    ~SampleHost() {
+        for (const auto& leak : host_.Leaks()) {
+            FAIL_CHECK(leak);
+        }
+    }
+    SampleHost(const SampleHost&) = delete;
+    SampleHost& operator=(const SampleHost&) = delete;
+
+    standin::Host& host() { return host_; }
+    const standin::language::TypeTable& types() const { return *types_; }
+
+    /// What a program prints, a line each; an exception that it does not catch, and the line that
+    /// raised it, come last. An error in the program comes instead, with its line and column.
+    std::string Run(const std::string& text) {
+        const standin::language::Source source("test", text);
+        std::string output;
+        try {
+            const standin::language::Program program(source, *types_);
+            program.Run(host_, [&output](std::string_view line) {
+                output += line;
+                output += '\n';
+            });
+        } catch (const standin::language::ProgramError& error) {
+            const auto place = source.Locate(error.position());
+            return std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
+                   error.what();
+        } catch (const standin::language::Thrown& thrown) {
+            auto* const exception = thrown.exception().object();
+            output += "Unhandled " + host_.ClassOf(exception).name + ": " +
+                      host_.Message(exception) + " (line " +
+                      std::to_string(source.Locate(thrown.position()).line) + ")\n";
+        } catch (const standin::language::OutOfObjects&) {
+            output += "Out of objects\n";
+        }
+        return output;
+    }
+
+    /// What one expression prints, without the end of the line.
+    std::string Show(const std::string& expression) {
+        auto output = Run("Print " + expression);
+        if (output.ends_with('\n')) {
+            output.pop_back();
+        }
+        return output;
+    }
+
+private:
+    standin::Host host_;
+    std::unique_ptr<standin::language::TypeTable> types_;
+};
+
+}  // namespace language_tests
