@@ -118,6 +118,7 @@ For i As Integer = 1 To operations
   End Select
   BigNumberVQZ.Debugging = False
 Next
+result = Nil
 BigNumberVQZ.Debugging = True
 result = x Mod y
 result = Nil
