@@ -13,6 +13,9 @@ The files bear the program's name, and lie beside it or in a folder `expected` t
 
 A program that ends with status 0 and has neither .stderr nor .log leaves standard error empty.
 
+A file PROGRAM.VARIANT.options gives further runs. What they do otherwise than the plain ones lies in
+files with that variant in their name as well, such as PROGRAM.VARIANT.log.
+
 A program with a comment line that begins "' In both precisions" runs a second time with the other
 number class in the first one's place, in the program as well as in what is expected.
 """
@@ -65,20 +68,41 @@ class Expectation:
         return [problem for problem in problems if problem]
 
 
-def companion(program: pathlib.Path, suffix: str) -> str | None:
-    """The text of the file with that suffix that belongs to the program, if there is one."""
-    beside = program.with_suffix(suffix)
-    aside = program.parent / "expected" / beside.name
-    found = next((path for path in (beside, aside) if path.exists()), None)
-    return None if found is None else found.read_bytes().decode("utf-8")
+class Companions:
+    """The files that belong to a program, or to a variant of its runs."""
 
+    def __init__(self, program: pathlib.Path):
+        self.folders = [program.parent, program.parent / "expected"]
+        self.stem = program.stem
 
-def expectation_of(program: pathlib.Path) -> Expectation:
-    output = companion(program, ".expected")
-    if output is None:
-        sys.exit(f"{program} has no expected output beside it")
-    status = int(companion(program, ".status") or 0)
-    return Expectation(output, status, companion(program, ".stderr"), companion(program, ".log"))
+    def variants(self) -> list[str]:
+        """What stands between the program's name and the suffix of the options: "", then others."""
+        names = (path.name for folder in self.folders for path in folder.glob("*.options"))
+        pattern = re.compile(re.escape(self.stem) + r"(\.\w+)\.options")
+        found = (match[1] for match in map(pattern.fullmatch, names) if match)
+        return ["", *sorted(found)]
+
+    def text(self, variant: str, suffix: str) -> str | None:
+        """The text of the file with that suffix, if there is one."""
+        paths = (folder / f"{self.stem}{variant}{suffix}" for folder in self.folders)
+        found = next((path for path in paths if path.exists()), None)
+        return None if found is None else found.read_bytes().decode("utf-8")
+
+    def options(self, variant: str) -> list[str]:
+        return (self.text(variant, ".options") or "\n").splitlines()
+
+    def expectation(self, variant: str) -> Expectation:
+        """What the runs of a variant do; where it says nothing, they do what the plain ones do."""
+
+        def own_or_plain(suffix: str) -> str | None:
+            own = self.text(variant, suffix)
+            return self.text("", suffix) if own is None else own
+
+        output = own_or_plain(".expected")
+        if output is None:
+            sys.exit(f"{self.stem} has no expected output beside it")
+        status = int(own_or_plain(".status") or 0)
+        return Expectation(output, status, own_or_plain(".stderr"), own_or_plain(".log"))
 
 
 def settings_and_words(line: str) -> tuple[dict[str, str], list[str]]:
@@ -106,16 +130,18 @@ def check_runs(command: list[str], program: pathlib.Path, options: list[str],
 def main() -> None:
     program = pathlib.Path(sys.argv[1])
     command = sys.argv[3:]
-    expectation = expectation_of(program)
-    options = (companion(program, ".options") or "\n").splitlines()
-    check_runs(command, program, options, expectation)
-
+    companions = Companions(program)
     text = program.read_bytes()
-    if IN_BOTH_PRECISIONS.search(text.decode(**output_check.ENCODING)):
-        with tempfile.TemporaryDirectory() as folder:
-            bigger = pathlib.Path(folder) / program.name
-            bigger.write_bytes(text.replace(SMALLER.encode(), BIGGER.encode()))
-            check_runs(command, bigger, options, expectation.in_precision(BIGGER))
+    in_both = IN_BOTH_PRECISIONS.search(text.decode(**output_check.ENCODING))
+    with tempfile.TemporaryDirectory() as folder:
+        bigger = pathlib.Path(folder) / program.name
+        bigger.write_bytes(text.replace(SMALLER.encode(), BIGGER.encode()))
+        for variant in companions.variants():
+            options = companions.options(variant)
+            expectation = companions.expectation(variant)
+            check_runs(command, program, options, expectation)
+            if in_both:
+                check_runs(command, bigger, options, expectation.in_precision(BIGGER))
 
 
 if __name__ == "__main__":
