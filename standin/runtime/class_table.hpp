@@ -24,7 +24,7 @@ struct ClassEntry : ClassInfo {
     /// Bytes from an object's address to the end of the instance data of this class.
     std::size_t objectSize = 0;
 
-    const ClassEntry* superEntry() const { return static_cast<const ClassEntry*>(super); }
+    const ClassEntry* SuperEntry() const { return static_cast<const ClassEntry*>(super); }
 };
 
 /// Whether two names are the same for the host, which ignores the case of ASCII letters.
@@ -32,7 +32,7 @@ bool SameName(std::string_view left, std::string_view right);
 
 /// Orders names without regard to the case of ASCII letters.
 struct NameLess {
-    using is_transparent = void;
+    using is_transparent = void;  // NOLINT(readability-identifier-naming): the standard's name
     bool operator()(std::string_view left, std::string_view right) const;
 };
 
@@ -58,7 +58,7 @@ public:
     const ClassEntry* FromReference(host_interface::ClassReference reference) const;
     static host_interface::ClassReference ReferenceOf(const ClassEntry& entry);
     /// The plug-in's classes in the order of registration.
-    const std::vector<const ClassInfo*>& registered() const { return registered_; }
+    const std::vector<const ClassInfo*>& Registered() const { return registered_; }
 
 private:
     ClassEntry& Add(std::string_view name);

@@ -28,7 +28,7 @@ constexpr std::array<std::uint32_t, 1> StackOffsets = {8};
 constexpr std::array<std::uint32_t, 3> StackOffsets = {4, 8, 12};
 #endif
 
-Host* current = nullptr;
+Host* TheHost = nullptr;
 
 std::uintptr_t AsWord(Object object) {
     return reinterpret_cast<std::uintptr_t>(object);
@@ -74,26 +74,26 @@ bool Host::State::Lacks(std::string_view name) const {
 }
 
 Host::Host(HostOptions options) {
-    if (current != nullptr) {
+    if (TheHost != nullptr) {
         throw std::logic_error("a process has one host at a time");
     }
     state_ = std::make_unique<State>(*this, std::move(options));
-    current = this;
+    TheHost = this;
     platform::CaptureDebugOutput(
         [log = &state_->debugLog](std::string_view line) { log->Write(line); });
 }
 
 Host::~Host() {
     platform::CaptureDebugOutput({});
-    current = nullptr;
+    TheHost = nullptr;
 }
 
 Host& Host::Current() {
-    if (current == nullptr) {
+    if (TheHost == nullptr) {
         std::fputs("the plug-in called a host that is gone\n", stderr);
         std::abort();
     }
-    return *current;
+    return *TheHost;
 }
 
 Host::State& Host::state() {
@@ -132,7 +132,7 @@ const ClassInfo* Host::FindClass(std::string_view name) const {
 }
 
 std::vector<const ClassInfo*> Host::RegisteredClasses() const {
-    return state_->classes.registered();
+    return state_->classes.Registered();
 }
 
 // Strings ---------------------------------------------------------------------------------------

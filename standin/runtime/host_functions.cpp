@@ -43,7 +43,7 @@ BooleanWord InWholeWord(bool value) {
 /// The name of a host function as a template argument.
 template <std::size_t Size>
 struct FunctionName {
-    // Not explicit: a literal stands where the argument is written.
+    // NOLINTNEXTLINE(google-explicit-constructor): a literal stands where the argument is written.
     constexpr FunctionName(const char (&literal)[Size]) { std::ranges::copy(literal, text); }
     char text[Size]{};
 };
@@ -411,7 +411,7 @@ const auto& HostFunctions() {
 
 void* FindHostFunction(std::string_view name) {
     const auto& table = HostFunctions();
-    const auto found = std::ranges::find(table, name, &HostFunction::name);
+    const auto* found = std::ranges::find(table, name, &HostFunction::name);
     return found == table.end() ? nullptr : found->address;
 }
 

@@ -144,8 +144,8 @@ public:
     /// What a handle that is not living stood for; empty when it never was one of this kind.
     std::string_view Epitaph(const void* handle) const { return dead_.Find(handle); }
 
-    const std::unordered_map<const void*, Entry>& living() const { return living_; }
-    std::unordered_map<const void*, Entry>& living() { return living_; }
+    const std::unordered_map<const void*, Entry>& Living() const { return living_; }
+    std::unordered_map<const void*, Entry>& Living() { return living_; }
 
 private:
     std::unordered_map<const void*, Entry> living_;

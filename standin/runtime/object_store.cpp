@@ -12,12 +12,25 @@ constexpr std::byte NoiseByte{0xA7};
 /// Bytes of that behind the last instance data.
 constexpr std::size_t TailSize = 16;
 
+/// Calls `take` with a class and then with each of its ancestors, upwards.
+template <typename Take>
+void ForEachClass(const ClassEntry& first, Take take) {
+    take(first);
+    for (const ClassEntry* type = first.SuperEntry(); type != nullptr; type = type->SuperEntry()) {
+        take(*type);
+    }
+}
+
 /// Calls `take` with the instance data of the object's class and of each ancestor.
 template <typename Take>
 void ForEachData(const ObjectEntry& entry, Take take) {
-    for (const ClassEntry* type = entry.type; type != nullptr; type = type->superEntry()) {
-        take(std::span(entry.memory.data() + type->dataOffset, type->dataSize));
-    }
+    ForEachClass(*entry.type, [&](const ClassEntry& type) {
+        take(std::span(entry.memory.data() + type.dataOffset, type.dataSize));
+    });
+}
+
+std::string Describe(const ObjectEntry& entry) {
+    return "object #" + std::to_string(entry.serial) + " (" + entry.type->name + ")";
 }
 
 ObjectPayload EmptyPayload(Payload kind) {
@@ -94,12 +107,12 @@ void ObjectStore::Unlock(Object object, const char* user) {
 void ObjectStore::Count(LedgerCounts& counts) const {
     counts.objectsMade = lastSerial_ - resetSerial_;
     counts.objectsAlive = static_cast<std::uint64_t>(std::ranges::count_if(
-        objects_.living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
+        objects_.Living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
 }
 
 void ObjectStore::AppendLeaks(std::vector<std::string>& lines) const {
     std::vector<std::pair<std::uint64_t, std::string>> found;
-    for (const auto& [handle, entry] : objects_.living()) {
+    for (const auto& [handle, entry] : objects_.Living()) {
         if (entry.serial > resetSerial_) {
             found.emplace_back(entry.serial, "still alive: " + Describe(entry) + ", references: " +
                                                  std::to_string(entry.references));
@@ -115,20 +128,16 @@ void ObjectStore::ResetLedger() {
     resetSerial_ = lastSerial_;
 }
 
-std::string ObjectStore::Describe(const ObjectEntry& entry) const {
-    return "object #" + std::to_string(entry.serial) + " (" + entry.type->name + ")";
-}
-
 /// The object stays living while its destructors run, so that they may use it, and the last
 /// reference is dropped only then.
 void ObjectStore::Die(Object object, ObjectEntry& entry, const char* user) {
     constexpr std::uint32_t Dying = 1U << 30U;
     entry.references = Dying;
-    for (const ClassEntry* type = entry.type; type != nullptr; type = type->superEntry()) {
-        if (type->destructor != nullptr) {
-            callDestructor_(type->destructor, object);
+    ForEachClass(*entry.type, [&](const ClassEntry& type) {
+        if (type.destructor != nullptr) {
+            callDestructor_(type.destructor, object);
         }
-    }
+    });
     if (entry.references != Dying) {
         violations_.Add(std::string(user) + ": the destructor of " + Describe(entry) +
                         " changed its references");

@@ -93,7 +93,6 @@ public:
     void ResetLedger();
 
 private:
-    std::string Describe(const ObjectEntry& entry) const;
     void Die(Object object, ObjectEntry& entry, const char* user);
     void ReleasePayload(ObjectPayload& payload, const char* user);
     void CheckSurroundings(const ObjectEntry& entry, const char* user);

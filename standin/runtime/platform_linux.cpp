@@ -2,6 +2,7 @@
 #include <bit>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <map>
 #include <stdexcept>
@@ -76,7 +77,7 @@ public:
     }
 
 private:
-    static iconv_t Invalid() { return reinterpret_cast<iconv_t>(-1); }
+    static iconv_t Invalid() { return std::bit_cast<iconv_t>(std::intptr_t{-1}); }
 
     iconv_t handle_;
 };

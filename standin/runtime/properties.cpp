@@ -112,14 +112,14 @@ const HostProperty* FindHostProperty(Payload owner, std::string_view name) {
     if (SameName(name, TypeProperty.name)) {
         return &TypeProperty;
     }
-    const auto found = std::ranges::find_if(HostProperties, [&](const HostProperty& property) {
+    const auto* found = std::ranges::find_if(HostProperties, [&](const HostProperty& property) {
         return property.owner == owner && SameName(property.name, name);
     });
     return found == HostProperties.end() ? nullptr : found;
 }
 
 const PropertyInfo* FindPluginProperty(const ClassEntry* type, std::string_view name) {
-    for (; type != nullptr; type = type->superEntry()) {
+    for (; type != nullptr; type = type->SuperEntry()) {
         const auto found = std::ranges::find_if(
             type->properties, [&](const PropertyInfo& info) { return SameName(info.name, name); });
         if (found != type->properties.end()) {
@@ -152,7 +152,7 @@ PropertyValue FromReal(const ReturnValue& value) {
 
 PropertyValue FromString(const ReturnValue& value) {
     const std::uint64_t words = sizeof(void*) == 4 ? value.low : BothWords(value);
-    return reinterpret_cast<String>(static_cast<std::uintptr_t>(words));
+    return std::bit_cast<String>(static_cast<std::uintptr_t>(words));
 }
 
 constexpr std::array PassedTypes = {
@@ -169,7 +169,7 @@ constexpr std::array PassedTypes = {
 };
 
 const PassedType* FindPassedType(std::string_view name) {
-    const auto found = std::ranges::find_if(
+    const auto* found = std::ranges::find_if(
         PassedTypes, [&](const PassedType& type) { return SameName(type.name, name); });
     return found == PassedTypes.end() ? nullptr : found;
 }

@@ -1,6 +1,7 @@
 #include "standin/runtime/string_store.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
 #include <new>
 #include <utility>
@@ -66,9 +67,9 @@ String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding
     entry.serial = ++lastSerial_;
 
     auto* record = reinterpret_cast<StringRecord*>(entry.record.data());
-    record->hostWord0 = reinterpret_cast<void*>(NoiseWord);
+    record->hostWord0 = std::bit_cast<void*>(NoiseWord);
     record->storage = reinterpret_cast<const char*>(entry.text.data());
-    record->hostWord2 = reinterpret_cast<void*>(NoiseWord);
+    record->hostWord2 = std::bit_cast<void*>(NoiseWord);
     record->length = static_cast<std::int32_t>(bytes.size());
     strings_.Add(record, std::move(entry));
     return record;
@@ -213,14 +214,14 @@ void StringStore::ReturnData(StringData* record, const char* user) {
 void StringStore::Count(LedgerCounts& counts) const {
     counts.stringsMade = lastSerial_ - resetSerial_;
     counts.stringsAlive = static_cast<std::uint64_t>(std::ranges::count_if(
-        strings_.living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
+        strings_.Living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
     counts.stringDataHeld = static_cast<std::uint64_t>(std::ranges::count_if(
         lent_, [&](const auto& item) { return item.second.serial > resetLentSerial_; }));
 }
 
 void StringStore::AppendLeaks(std::vector<std::string>& lines) const {
     std::vector<std::pair<std::uint64_t, std::string>> found;
-    for (const auto& [handle, entry] : strings_.living()) {
+    for (const auto& [handle, entry] : strings_.Living()) {
         if (entry.serial > resetSerial_) {
             found.emplace_back(entry.serial, "still alive: " + Describe(entry) + ", references: " +
                                                  std::to_string(entry.references));

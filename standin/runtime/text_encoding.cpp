@@ -49,7 +49,7 @@ constexpr bool IsSurrogate(char32_t unit) {
 }
 
 const EncodingFacts* Find(HostTextEncoding encoding) {
-    const auto found = std::ranges::find(Encodings, encoding, &EncodingFacts::code);
+    const auto* found = std::ranges::find(Encodings, encoding, &EncodingFacts::code);
     return found == Encodings.end() ? nullptr : found;
 }
 

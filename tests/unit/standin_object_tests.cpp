@@ -17,7 +17,6 @@ using host_interface::PropertyDefinition;
 using host_interface::Routine;
 using host_interface::VariantTypeCode;
 using standin::Allocation;
-using standin::ClassInfo;
 using standin::Host;
 using standin::HostOptions;
 using standin::HostTextEncoding;
@@ -214,7 +213,7 @@ TEST_CASE("wrong use of objects is told with the class") {
     Unlock(overrun);
     CHECK(Contains(Only(TakeViolations(host)), "the memory around the instance data of object #3"));
 
-    Object foreign = reinterpret_cast<Object>(&classes);
+    auto* foreign = reinterpret_cast<Object>(&classes);
     HostFunction<functions::REALLockObject>("REALLockObject")(foreign);
     CHECK(Only(TakeViolations(host)) == "REALLockObject: the handle is no object of this host");
 }

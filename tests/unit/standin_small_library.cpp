@@ -14,7 +14,7 @@ namespace functions = host_interface::functions;
 
 constexpr std::int32_t InterfaceVersion = 13;
 
-host_interface::ClassDefinition definition{};
+host_interface::ClassDefinition TheClass{};
 
 template <typename Function>
 Function* Find(host_interface::Resolver resolver, const char* name) {
@@ -37,8 +37,8 @@ void REALPluginMain(host_interface::Resolver resolver) {
         return;
     }
     Find<functions::RegisterPluginVersion>(resolver, "RegisterPluginVersion")(InterfaceVersion);
-    definition.version = InterfaceVersion;
-    definition.name = "Small";
-    definition.dataSize = 16;
-    Find<functions::PluginRegisterClass>(resolver, "PluginRegisterClass")(&definition);
+    TheClass.version = InterfaceVersion;
+    TheClass.name = "Small";
+    TheClass.dataSize = 16;
+    Find<functions::PluginRegisterClass>(resolver, "PluginRegisterClass")(&TheClass);
 }
