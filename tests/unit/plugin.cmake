@@ -24,8 +24,13 @@ target_link_options(plugin_tests PRIVATE
 
 add_unit_tests(table_tests
   SOURCES
+    tables/arithmetic_tests.cpp
+    tables/lifecycle_tests.cpp
     tables/loaded_plugin.cpp
+    tables/members.cpp
+    tables/robustness_tests.cpp
     tables/table_contents_tests.cpp
+    tables/text_tests.cpp
   LIBRARIES unit_test_support standin_runtime)
 target_compile_definitions(table_tests PRIVATE
   "BIGNUMBERVQZ_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")

@@ -1,0 +1,158 @@
+#include "tests/unit/tables/members.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+#include <doctest/doctest.h>
+
+namespace tests {
+namespace {
+
+std::string Lower(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](unsigned char character) {
+        return static_cast<char>(std::tolower(character));
+    });
+    return lower;
+}
+
+/// The last word of a declaration or of a parameter, its default value left out.
+std::string TypeAtEnd(std::string_view declaration) {
+    declaration = declaration.substr(0, declaration.find(" ="));
+    return std::string(declaration.substr(declaration.rfind(' ') + 1));
+}
+
+struct Signature {
+    std::vector<std::string> argumentTypes;
+    std::string resultType;
+};
+
+/// The types of a declaration such as "add(other as number, round as boolean = true) as number".
+Signature SignatureOf(std::string_view declaration) {
+    Signature signature;
+    const std::size_t open = declaration.find('(');
+    const std::size_t close = declaration.rfind(')');
+    const bool hasList = open != std::string_view::npos;
+    std::string_view list = hasList ? declaration.substr(open + 1, close - open - 1) : "";
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find(", "), list.size());
+        const std::string_view parameter = list.substr(0, end);
+        const bool byReference = parameter.starts_with("byref ");
+        signature.argumentTypes.push_back((byReference ? "byref " : "") + TypeAtEnd(parameter));
+        list.remove_prefix(std::min(end + 2, list.size()));
+    }
+    const std::string_view tail = hasList ? declaration.substr(close + 1) : declaration;
+    if (const std::size_t as = tail.rfind(" as "); as != std::string_view::npos) {
+        signature.resultType = TypeAtEnd(tail);
+    }
+    return signature;
+}
+
+}  // namespace
+
+bool Member::Call(const Samples& samples) const {
+    using standin::ReturnKind;
+    // What "byref" arguments point at.
+    String afterText = nullptr;
+    std::uint8_t valueRead = 0;
+
+    ArgumentWords words;
+    if (hasSelf_) {
+        words.Add(samples.self);
+    }
+    for (const std::string& type : argumentTypes_) {
+        if (type == "number") {
+            words.Add(samples.number);
+        } else if (type == "string") {
+            words.Add(samples.text);
+        } else if (type == "byref string") {
+            words.Add(&afterText);
+        } else if (type == "byref boolean") {
+            words.Add(&valueRead);
+        } else if (type == "variant") {
+            words.Add(samples.variant);
+        } else if (type == "memoryblock") {
+            words.Add(samples.memoryBlock);
+        } else if (type == "double") {
+            words.Add(samples.real);
+        } else if (type == "single") {
+            words.Add(static_cast<float>(samples.real));
+        } else if (type == "boolean") {
+            words.Add(samples.flag);
+        } else if (type == "int64" || type == "uint64" || type == "currency") {
+            words.Add(std::int64_t{samples.integer});
+        } else {
+            INFO(type);
+            REQUIRE((type == "parameter" || type == "integer" || type == "int32" ||
+                     type == "uint32" || type == "uinteger"));
+            words.Add(type == "parameter" ? 0 : samples.integer);
+        }
+    }
+
+    const ReturnKind kind = resultType_.empty()       ? ReturnKind::None
+                            : resultType_ == "double" ? ReturnKind::Double
+                                                      : ReturnKind::Word;
+    standin::Host& host = standin::Host::Current();
+    const standin::ReturnValue result = host.Call(routine_, words.words(), kind);
+    const HeldString after(afterText);
+    if (resultType_ == "string") {
+        return static_cast<bool>(HeldString(std::bit_cast<String>(result.low)));
+    }
+    if (resultType_ == "number" || resultType_ == "variant" || resultType_ == "memoryblock") {
+        return static_cast<bool>(HeldObject(std::bit_cast<Object>(result.low)));
+    }
+    return kind == ReturnKind::Word ? result.low != 0
+                                    : kind == ReturnKind::Double && result.real != 0.0;
+}
+
+std::vector<Member> MembersOf(const NumberClass& number) {
+    std::vector<Member> members;
+    const auto add = [&](const std::string& declaration, Routine routine, bool hasSelf,
+                         bool writesSelf, Signature signature) {
+        if (routine == nullptr) {
+            return;
+        }
+        Member member;
+        member.name_ = number.name() + "." + declaration;
+        member.routine_ = routine;
+        member.hasSelf_ = hasSelf;
+        member.writesSelf_ = writesSelf;
+        member.argumentTypes_ = std::move(signature.argumentTypes);
+        member.resultType_ = std::move(signature.resultType);
+        members.push_back(std::move(member));
+    };
+    const auto neutral = [&](const std::string& declaration) {
+        std::string text = declaration;
+        for (std::size_t at = text.find(number.name()); at != std::string::npos;
+             at = text.find(number.name())) {
+            text.replace(at, number.name().size(), "Number");
+        }
+        return Lower(text);
+    };
+
+    const standin::ClassInfo& info = number.info();
+    for (const standin::PropertyInfo& property : info.properties) {
+        const std::string type = Lower(property.type);
+        add(property.name, property.getter, true, false, {{"parameter"}, type});
+        add(property.name + " (set)", property.setter, true, true, {{"parameter", type}, ""});
+    }
+    for (const standin::MethodInfo& method : info.methods) {
+        const std::string declaration = neutral(method.declaration);
+        const bool writes = declaration.starts_with("constructor") ||
+                            declaration.starts_with("operator_convert(") ||
+                            declaration.starts_with("setstringvalue");
+        const Signature signature = SignatureOf(declaration);
+        add(method.declaration, method.function, true, writes, signature);
+        Signature setter = signature;
+        setter.argumentTypes.push_back(std::exchange(setter.resultType, ""));
+        add(method.declaration + " (set)", method.setter, true, true, setter);
+    }
+    for (const standin::MethodInfo& method : info.sharedMethods) {
+        add(method.declaration, method.function, false, false,
+            SignatureOf(neutral(method.declaration)));
+    }
+    return members;
+}
+
+}  // namespace tests

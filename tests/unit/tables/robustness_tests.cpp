@@ -1,0 +1,411 @@
+// All members against hosts that go wrong: Nil everywhere, functions that are missing, allocations
+// that fail, stacks and control words that are not what a compiler expects.
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <doctest/doctest.h>
+
+#include "tests/unit/tables/loaded_plugin.hpp"
+#include "tests/unit/tables/members.hpp"
+
+namespace {
+
+using standin::Allocation;
+using tests::CallRoutine;
+using tests::HeldObject;
+using tests::HeldString;
+using tests::LoadedPlugin;
+using tests::Member;
+using tests::MembersOf;
+using tests::NumberClass;
+using tests::Object;
+using tests::Samples;
+using tests::TakeRaised;
+
+/// What a call may raise.
+const std::set<std::string, std::less<>> ExpectedExceptions = {"",
+                                                               "BigNumberErrorExceptionVQZ",
+                                                               "NilObjectException",
+                                                               "OutOfBoundsException",
+                                                               "OutOfMemoryException",
+                                                               "RuntimeException",
+                                                               "UnsupportedOperationException"};
+
+/// The class of the exception that was raised; empty when there was none.
+std::string TakeRaisedClass(standin::Host& host) {
+    const std::string raised = TakeRaised(host);
+    return raised.substr(0, raised.find(':'));
+}
+
+/// Values to call any member of a class with, alive as long as this.
+class OwnedSamples {
+public:
+    OwnedSamples(LoadedPlugin& plugin, NumberClass& number, std::string_view value = "0.5")
+        : self_(number.Make(value)),
+          number_(number.Make("2")),
+          text_(plugin.MakeString("12.5")),
+          variant_(plugin.host().MakeVariant(
+              static_cast<std::int32_t>(host_interface::VariantTypeCode::Int32), std::int64_t{7})),
+          memoryBlock_(plugin.host().MakeMemoryBlock(std::string(8, '\x01'))) {}
+
+    Samples Get() const {
+        return {.self = self_.Get(),
+                .number = number_.Get(),
+                .text = text_.Get(),
+                .variant = variant_.Get(),
+                .memoryBlock = memoryBlock_.Get()};
+    }
+
+private:
+    HeldObject self_;
+    HeldObject number_;
+    HeldString text_;
+    HeldObject variant_;
+    HeldObject memoryBlock_;
+};
+
+/// Functions that a host of any age offers and the library asks for by name.
+constexpr const char* HostFunctions[] = {
+    "REALBuildString",          "RuntimeAddString",        "REALBuildStringWithEncoding",
+    "REALConvertString",        "PluginGetStringData",     "pluginObjectType",
+    "REALGetPropValueCurrency", "REALGetPropValueDouble",  "REALGetPropValueInt",
+    "REALGetPropValueInt64",    "REALGetPropValueInteger", "REALGetPropValueSingle",
+    "REALGetPropValueString",   "REALGetPropValueUInt32",  "REALGetPropValueUInt64",
+    "REALGetStringEncoding",    "REALLoadGlobalMethod",    "memoryBlockGetPtr",
+    "memoryBlockGetSize",       "newMemoryBlock",          "Int32ToVariant",
+    "Int64ToVariant",           "StringToVariant",         "UInt64ToVariant",
+    "RuntimeObjectIsa",         "RuntimeRaiseException",   "REALSetPropValueInteger",
+    "REALSetPropValueString",   "REALSetStringEncoding",   "REALinRuntime",
+    "PluginNewInstance"};
+
+/// Whether a member computes nothing that takes long, so that it can be called over and over.
+bool IsQuick(const Member& member) {
+    return member.hasSelf() || member.name().find(".NumberWith") != std::string::npos;
+}
+
+/// What members of the text, flag and arithmetic kind answer, one a line: the same on every host
+/// whose differences do not matter to them.
+std::string SampleResults(LoadedPlugin& plugin) {
+    std::string results;
+    for (NumberClass& number : plugin.classes()) {
+        const HeldObject left = number.Make("-12.5");
+        const HeldObject right = number.Make("3");
+        const HeldString accented =
+            plugin.MakeString("7.25\xE9", host_interface::HostTextEncoding::Latin1);
+        const HeldObject read = number.Unconstructed();
+        number.Call<void>("Constructor(value as String)", read.Get(), accented.Get());
+        results += number.Text(read.Get()) + "\n";
+        for (const char* operation :
+             {"Operator_Add(other as $) as $", "Operator_Subtract(other as $) as $",
+              "Operator_Multiply(other as $) as $", "Operator_Divide(other as $) as $"}) {
+            const auto result = number.Call<HeldObject>(operation, left.Get(), right.Get());
+            results += result ? number.Text(result.Get()) + "\n" : "Nil\n";
+        }
+        const auto failed = number.Call<HeldObject>(
+            "Divide(other as $, round as boolean = true) as $", left.Get(), nullptr, true);
+        results += failed ? "a result\n" : TakeRaised(plugin.host()) + "\n";
+        results += std::to_string(number.Call<std::int32_t>(
+                       "Operator_Compare(other as $) as Integer", left.Get(), right.Get())) +
+                   "\n";
+    }
+    return results;
+}
+
+}  // namespace
+
+TEST_CASE("Every member of both classes that is declared can be called") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        const OwnedSamples samples(plugin, number);
+        for (const Member& member : MembersOf(number)) {
+            CAPTURE(member.name());
+            const bool answered = member.Call(samples.Get());
+            CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+            (void)answered;
+        }
+    }
+}
+
+TEST_CASE("Nil as receiver of members that read, and as every argument, crashes nothing") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        const HeldObject unconstructed = number.Unconstructed();
+        const HeldObject scratch = number.Make("1");
+        for (const Member& member : MembersOf(number)) {
+            CAPTURE(member.name());
+            for (const Object missing : {Object{}, unconstructed.Get()}) {
+                Samples samples;
+                samples.self = member.writesSelf() ? scratch.Get() : missing;
+                samples.number = missing;
+                member.Call(samples);
+                CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+                CHECK(plugin.host().Raises() < 100000);
+            }
+            // The member of an object that is there, with nothing given.
+            Samples samples;
+            samples.self = scratch.Get();
+            member.Call(samples);
+            CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+        }
+        CHECK(number.ValueBytes(unconstructed.Get()).empty());
+    }
+}
+
+TEST_CASE("A member that answers a number either answers one or raises, never both") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        for (const char* value : {"0.5", "-4", "0", "3"}) {
+            const OwnedSamples samples(plugin, number, value);
+            for (const Member& member : MembersOf(number)) {
+                if (!member.givesNumber()) {
+                    continue;
+                }
+                CAPTURE(member.name());
+                CAPTURE(value);
+                const bool answered = member.Call(samples.Get());
+                CHECK(answered == TakeRaised(plugin.host()).empty());
+            }
+        }
+    }
+}
+
+TEST_CASE("No member that reads changes its receiver or its arguments") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        for (const char* value : {"0.5", "-4", "0"}) {
+            const OwnedSamples samples(plugin, number, value);
+            const std::string self = number.ValueBytes(samples.Get().self);
+            const std::string argument = number.ValueBytes(samples.Get().number);
+            for (const Member& member : MembersOf(number)) {
+                if (member.writesSelf()) {
+                    continue;
+                }
+                CAPTURE(member.name());
+                member.Call(samples.Get());
+                TakeRaised(plugin.host());
+                CHECK(number.ValueBytes(samples.Get().self) == self);
+                CHECK(number.ValueBytes(samples.Get().number) == argument);
+                CHECK(plugin.host().References(samples.Get().self) == 1);
+                CHECK(plugin.host().References(samples.Get().number) == 1);
+                CHECK(plugin.host().References(samples.Get().text) == 1);
+            }
+        }
+    }
+}
+
+TEST_CASE("Every member survives the failure of each single allocation of the host") {
+    for (const Allocation kind : {Allocation::String, Allocation::Object}) {
+        LoadedPlugin plugin;
+        for (NumberClass& number : plugin.classes()) {
+            const OwnedSamples samples(plugin, number);
+            for (const Member& member : MembersOf(number)) {
+                CAPTURE(member.name());
+                const int mostAllocations = IsQuick(member) ? 4 : 1;
+                for (int failing = 1; failing <= mostAllocations; ++failing) {
+                    for (const bool persistent : {false, true}) {
+                        CAPTURE(failing);
+                        plugin.host().FailAllocation(kind, failing, persistent);
+                        member.Call(samples.Get());
+                        plugin.host().StopFailing();
+                        CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_CASE("A number that the host cannot make is Nil, without an exception") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        const OwnedSamples samples(plugin, number);
+        for (const Member& member : MembersOf(number)) {
+            if (!member.givesNumber()) {
+                continue;
+            }
+            CAPTURE(member.name());
+            // Which of these fail anyway, for the numbers given, is another matter.
+            const bool worksOtherwise = member.Call(samples.Get());
+            TakeRaised(plugin.host());
+            plugin.host().FailAllocation(Allocation::Object, 1, true);
+            CHECK_FALSE(member.Call(samples.Get()));
+            plugin.host().StopFailing();
+            if (worksOtherwise) {
+                CHECK(TakeRaised(plugin.host()) == "");
+            }
+            TakeRaised(plugin.host());
+        }
+    }
+}
+
+TEST_CASE("A text that the host cannot make is no text, without an exception") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        const HeldObject object = number.Make("12.5");
+        for (const Member& member : MembersOf(number)) {
+            const std::string_view name = member.name();
+            if (!name.ends_with(" as String") && !name.ends_with(".StringValue")) {
+                continue;
+            }
+            CAPTURE(member.name());
+            plugin.host().FailAllocation(Allocation::String, 1, true);
+            CHECK_FALSE(member.Call({.self = object.Get(), .integer = 10}));
+            plugin.host().StopFailing();
+            CHECK(TakeRaised(plugin.host()) == "");
+        }
+    }
+}
+
+TEST_CASE("A failure report whose exception cannot be made becomes a RuntimeException or nothing") {
+    LoadedPlugin plugin;
+    for (NumberClass& number : plugin.classes()) {
+        const HeldObject one = number.Make("1");
+        const auto divide = [&] {
+            return number.Call<HeldObject>("Operator_Divide(other as $) as $", one.Get(), nullptr);
+        };
+        const std::string message = "Operator_Divide operation failed with numbers 1 and nil.";
+        plugin.host().FailAllocation(Allocation::Object, 1, false);
+        CHECK_FALSE(divide());
+        CHECK(TakeRaised(plugin.host()) == "RuntimeException: " + message);
+        plugin.host().FailAllocation(Allocation::Object, 1, true);
+        CHECK_FALSE(divide());
+        plugin.host().StopFailing();
+        CHECK(TakeRaised(plugin.host()) == "");
+        CHECK_FALSE(divide());
+        CHECK(TakeRaised(plugin.host()) == "BigNumberErrorExceptionVQZ: " + message);
+    }
+}
+
+TEST_CASE("A parse that fails for want of a converted text stores zero") {
+    for (const double version : {2011.99, 2023.04}) {
+        LoadedPlugin plugin(version);
+        for (NumberClass& number : plugin.classes()) {
+            const HeldObject object = number.Make("7");
+            const HeldString text =
+                plugin.MakeString({"\x31\0\x32\0", 4}, host_interface::HostTextEncoding::Utf16);
+            plugin.host().FailAllocation(Allocation::String, 1, false);
+            number.Set("StringValue", object.Get(), text.Get());
+            plugin.host().StopFailing();
+            CHECK(TakeRaised(plugin.host()) == "");
+            CHECK(number.Text(object.Get()) == "0");
+        }
+    }
+}
+
+TEST_CASE("A host that lacks any single function crashes nothing and loses nothing") {
+    for (const double version : {2011.99, 2023.04}) {
+        for (const char* missing : HostFunctions) {
+            CAPTURE(version);
+            CAPTURE(missing);
+            LoadedPlugin plugin(standin::HostOptions{.version = version, .missing = {missing}});
+            for (NumberClass& number : plugin.classes()) {
+                const OwnedSamples samples(plugin, number);
+                for (const Member& member : MembersOf(number)) {
+                    CAPTURE(member.name());
+                    if (!IsQuick(member)) {
+                        continue;
+                    }
+                    member.Call(samples.Get());
+                    CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+                }
+            }
+        }
+    }
+}
+
+TEST_CASE("A host without a function that releases only keeps what it would release") {
+    // What stays alive is the host's own doing, so it is expected here and forgotten.
+    for (const char* missing :
+         {"REALUnlockString", "REALUnlockObject", "PluginDisposeStringData"}) {
+        CAPTURE(missing);
+        LoadedPlugin plugin(standin::HostOptions{.missing = {missing}});
+        SampleResults(plugin);
+        CHECK(plugin.host().Violations().empty());
+        plugin.host().ResetLedger();
+    }
+}
+
+TEST_CASE("An error number that cannot be set does not matter, by either name") {
+    using Missing = std::set<std::string, std::less<>>;
+    for (const Missing& missing : {Missing{"REALSetPropValueInteger"},
+                                   Missing{"REALSetPropValueInteger", "REALSetPropValueInt"}}) {
+        LoadedPlugin plugin(standin::HostOptions{.missing = missing});
+        NumberClass& number = plugin.bigNumber();
+        const HeldObject one = number.Make("1");
+        CHECK_FALSE(
+            number.Call<HeldObject>("Operator_Divide(other as $) as $", one.Get(), nullptr));
+        CHECK(TakeRaised(plugin.host()) ==
+              "BigNumberErrorExceptionVQZ: Operator_Divide operation failed with numbers 1 and "
+              "nil.");
+        CHECK(plugin.host().lookups().at("REALSetPropValueInt") >= 1);
+    }
+}
+
+TEST_CASE("The library asks for no function that hosts do not have") {
+    LoadedPlugin plugin;
+    const std::set<std::string, std::less<>> rare = {
+        "REALGetRBVersion", "RegisterPluginVersion",   "PluginRegisterClass",
+        "REALLockString",   "REALUnlockString",        "REALLockObject",
+        "REALUnlockObject", "PluginDisposeStringData", "REALSetPropValueInt"};
+    for (NumberClass& number : plugin.classes()) {
+        const OwnedSamples samples(plugin, number);
+        for (const Member& member : MembersOf(number)) {
+            member.Call(samples.Get());
+            TakeRaised(plugin.host());
+        }
+    }
+    for (const auto& [name, count] : plugin.host().lookups()) {
+        CAPTURE(name);
+        const bool known = rare.contains(name) ||
+                           std::ranges::find(HostFunctions, name) != std::end(HostFunctions);
+        CHECK(known);
+        // Every one is there, so it is asked for once: twice where two bindings have one name.
+        CHECK(count <= 2);
+    }
+}
+
+TEST_CASE("Results do not depend on the host's age, alignment, control word or habits") {
+    const std::string expected = [] {
+        LoadedPlugin plugin;
+        return SampleResults(plugin);
+    }();
+    CHECK(expected.starts_with(
+        "7.25\n-9.5\n-15.5\n-37.5\n-4.1666666666666666666666666666666666666666666666"));
+    const standin::HostOptions hosts[] = {
+        {.version = std::nullopt},
+        {.version = 2011.99},
+        {.version = 2012.0},
+        {.builtApplication = true},
+        {.newInstanceRunsConstructor = true},
+        {.unterminatedStrings = true},
+        {.misalignedStack = true},
+        {.changedControlWord = true},
+        {.version = 2011.99,
+         .builtApplication = true,
+         .newInstanceRunsConstructor = true,
+         .unterminatedStrings = true,
+         .misalignedStack = true,
+         .changedControlWord = true},
+    };
+    for (std::size_t index = 0; index < std::size(hosts); ++index) {
+        CAPTURE(index);
+        LoadedPlugin plugin(hosts[index]);
+        CHECK(SampleResults(plugin) == expected);
+    }
+}
+
+TEST_CASE("Every member works on a stack of four-byte alignment and with any control word") {
+    LoadedPlugin plugin(standin::HostOptions{.misalignedStack = true, .changedControlWord = true});
+    for (NumberClass& number : plugin.classes()) {
+        const OwnedSamples samples(plugin, number);
+        for (const Member& member : MembersOf(number)) {
+            CAPTURE(member.name());
+            member.Call(samples.Get());
+            CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
+        }
+    }
+}
