@@ -1,7 +1,6 @@
 #include "standin/language/code_expressions.hpp"
 
 #include <cstddef>
-#include <string>
 
 namespace standin::language::code {
 namespace {
@@ -25,9 +24,7 @@ public:
         }
         if (machine.depth >= MaximumDepth ||
             machine.stackBase - StackAddress() > MaximumStackBytes) {
-            machine.Raise("StackOverflowException", "Routines call each other more than " +
-                                                        std::to_string(MaximumDepth) +
-                                                        " levels deep.");
+            machine.Raise("StackOverflowException", "Routines call each other too deeply.");
         }
         ++machine.depth;
     }

@@ -20,7 +20,8 @@ using syntax::BinaryOperator;
 template <std::integral Limits>
 Limits Saturate(double value) {
     // One beyond the largest number: a power of two, which Double holds exactly.
-    constexpr auto End = 2.0 * static_cast<double>(std::numeric_limits<Limits>::max() / 2 + 1);
+    constexpr auto Half = std::numeric_limits<Limits>::max() / 2 + 1;
+    constexpr auto End = 2.0 * static_cast<double>(Half);
     if (std::isnan(value)) {
         return 0;
     }

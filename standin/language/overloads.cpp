@@ -9,6 +9,12 @@ namespace {
 
 using Fits = std::vector<Fit>;
 
+/// A candidate that can take the arguments, and how each of them fits.
+struct FittingCandidate {
+    std::size_t index;
+    Fits fits;
+};
+
 /// How each argument fits; nothing when the candidate cannot take them.
 std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked>& arguments) {
     const auto& parameters = signature.parameters;
@@ -85,18 +91,20 @@ Candidates SignaturesOf(const std::vector<const Method*>& methods) {
 }
 
 Overload FindOverload(const Candidates& candidates, const std::vector<Checked>& arguments) {
-    std::vector<std::pair<std::size_t, Fits>> fitting;
+    std::vector<FittingCandidate> fitting;
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         if (auto fits = FitsOf(*candidates[i], arguments)) {
-            fitting.emplace_back(i, std::move(*fits));
+            fitting.push_back({i, std::move(*fits)});
         }
     }
     Overload overload;
-    for (const auto& [index, fits] : fitting) {
-        const bool isBeaten = std::ranges::any_of(
-            fitting, [&fits](const auto& other) { return IsBetter(other.second, fits); });
+    for (const auto& candidate : fitting) {
+        const bool isBeaten =
+            std::ranges::any_of(fitting, [&candidate](const FittingCandidate& other) {
+                return IsBetter(other.fits, candidate.fits);
+            });
         if (!isBeaten) {
-            overload.best.push_back(index);
+            overload.best.push_back(candidate.index);
         }
     }
     if (!overload.best.empty()) {

@@ -1,7 +1,6 @@
 #include "standin/language/scope.hpp"
 
 #include <algorithm>
-#include <ranges>
 
 namespace standin::language {
 
@@ -40,8 +39,8 @@ void Scope::DeclareParameter(const std::string& name, Type type, bool byRef, Pos
 }
 
 const Variable* Scope::Find(std::string_view name) const {
-    for (const auto& level : levels_ | std::views::reverse) {
-        if (const auto found = level.variables.find(name); found != level.variables.end()) {
+    for (auto level = levels_.rbegin(); level != levels_.rend(); ++level) {
+        if (const auto found = level->variables.find(name); found != level->variables.end()) {
             return &found->second;
         }
     }

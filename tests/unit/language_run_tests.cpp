@@ -244,7 +244,7 @@ TEST_CASE("endless recursion ends in an exception") {
     SampleHost host;
     CHECK(host.Run("Function F(n As Integer) As Integer\nReturn F(n + 1)\nEnd Function\n"
                    "Try\nPrint F(1)\nCatch e As RuntimeException\nPrint e.Message\nEnd Try\n"
-                   "Print \"on\"") == "Routines call each other more than 1000 levels deep.\non\n");
+                   "Print \"on\"") == "Routines call each other too deeply.\non\n");
     // The depth is counted back when an exception passes.
     CHECK(host.Run("Function F(n As Integer) As Integer\nIf n = 0 Then Raise New RuntimeException\n"
                    "Return F(n - 1)\nEnd Function\nFor i As Integer = 1 To 10\nTry\n"

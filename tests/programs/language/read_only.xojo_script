@@ -1,0 +1,2 @@
+Dim a As New BigNumberVQZ
+a.IsZero = True

@@ -1,0 +1,2 @@
+Dim a As New BigNumberVQZ
+Print a.Multiply(1.5)

@@ -1,0 +1,3 @@
+Dim a As New BigNumberVQZ
+If a.IsZero Then
+  Print "zero"

@@ -1,0 +1,3 @@
+Dim a As New BigNumberVQZ("2")
+
+Print a + 1
