@@ -281,7 +281,7 @@ private:
         cursor_.Expect(TokenKind::Equal);
         loop.first = expressions_.ParseExpression();
         if (!cursor_.IsAtAny({TokenKind::To, TokenKind::DownTo})) {
-            cursor_.Fail("\"To\" or \"DownTo\"");
+            cursor_.Fail(R"("To" or "DownTo")");
         }
         loop.isDownward = cursor_.Take().kind == TokenKind::DownTo;
         loop.last = expressions_.ParseExpression();
@@ -354,7 +354,7 @@ private:
             result.finally = ParseBlock({TokenKind::End}, TokenKind::Try, at);
         }
         if (result.catches.empty() && !hasFinally) {
-            cursor_.Fail("\"Catch\" or \"Finally\"");
+            cursor_.Fail(R"("Catch" or "Finally")");
         }
         ExpectEnd(TokenKind::Try);
         return result;

@@ -39,10 +39,11 @@ void Scope::DeclareParameter(const std::string& name, Type type, bool byRef, Pos
 }
 
 const Variable* Scope::Find(std::string_view name) const {
-    for (auto level = levels_.rbegin(); level != levels_.rend(); ++level) {
-        if (const auto found = level->variables.find(name); found != level->variables.end()) {
-            return &found->second;
-        }
+    const auto level =
+        std::find_if(levels_.rbegin(), levels_.rend(),
+                     [name](const Level& candidate) { return candidate.variables.contains(name); });
+    if (level != levels_.rend()) {
+        return &level->variables.find(name)->second;
     }
     if (main_ == nullptr) {
         return nullptr;
