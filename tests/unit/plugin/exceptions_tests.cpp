@@ -254,7 +254,7 @@ TEST_CASE_TEMPLATE("A failed operation is reported with two numbers, with one li
     const Value second = "-3";
     const Value tiny = "0.1";
     const Value huge = "123456789012345678901234567890";
-    const Value nan = vqz::NanValue<Value>();
+    const auto nan = vqz::NanValue<Value>();
     struct Row {
         const Value* first;
         const Value* second;

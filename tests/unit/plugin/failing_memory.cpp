@@ -15,7 +15,7 @@ std::size_t failingSize = NoSize;
 
 // The linker leads the calls of vqz::platform::AllocateZeroed and FreeBuffer to the functions named
 // __wrap_… and keeps the originals as __real_…
-// NOLINTBEGIN(bugprone-reserved-identifier)
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" {
 void* __real__ZN3vqz8platform14AllocateZeroedEj(std::size_t byteCount);
 void* __wrap__ZN3vqz8platform14AllocateZeroedEj(std::size_t byteCount);
@@ -34,7 +34,7 @@ void __wrap__ZN3vqz8platform10FreeBufferEPv(void* buffer) {
     __real__ZN3vqz8platform10FreeBufferEPv(buffer);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 void* operator new(std::size_t size) {
     void* const memory = size == failingSize ? nullptr : std::malloc(size == 0 ? 1 : size);

@@ -43,7 +43,7 @@ struct OwnResolver {
 };
 
 std::string TakeAsked() {
-    const std::string names = tests::Joined(asked);
+    std::string names = tests::Joined(asked);
     asked.clear();
     return names;
 }

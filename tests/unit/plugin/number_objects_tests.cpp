@@ -100,7 +100,7 @@ TEST_CASE("Without memory for a value the object keeps the one it has") {
     DirectHost host;
     host.RegisterClasses();
     const HeldObject object(vqz::NewNumberObject<Value>("5"));
-    const Value* before = vqz::FindNumber<Value>(object.Get());
+    const auto* before = vqz::FindNumber<Value>(object.Get());
     {
         const tests::FailingNew failing(sizeof(Value));
         vqz::MethodBoundaryGuard(

@@ -42,6 +42,7 @@ void Start(host_interface::Resolver resolver) {
 
 std::vector<std::string> NamesOf(const std::vector<const standin::ClassInfo*>& classes) {
     std::vector<std::string> names;
+    names.reserve(classes.size());
     for (const standin::ClassInfo* info : classes) {
         names.push_back(info->name);
     }

@@ -38,8 +38,8 @@ std::string BuiltFromCodePoints(const std::vector<std::uint32_t>& codePoints) {
 }
 
 std::string BuiltFromUnits(std::u16string_view units) {
-    const auto built = vqz::BuildFromUtf16(
-        units.data(), static_cast<std::int64_t>(units.size() * sizeof(char16_t)));
+    const auto byteCount = std::int64_t{sizeof(char16_t)} * static_cast<std::int64_t>(units.size());
+    const auto built = vqz::BuildFromUtf16(units.data(), byteCount);
     return Described(built.Get());
 }
 
@@ -276,7 +276,8 @@ TEST_CASE("Text up to a NUL becomes a host string") {
         };
         CHECK(built("12.5", HostTextEncoding::Utf8) == "UTF-8 31 32 2E 35");
         CHECK(built("12.5", HostTextEncoding::Ascii) == "ASCII 31 32 2E 35");
-        CHECK(built("12\0.5", HostTextEncoding::Utf8) == "UTF-8 31 32");
+        constexpr char WithNul[] = {'1', '2', '\0', '5', '\0'};
+        CHECK(built(WithNul, HostTextEncoding::Utf8) == "UTF-8 31 32");
         for (const HostTextEncoding encoding :
              {HostTextEncoding::MacRoman, HostTextEncoding::Utf16, HostTextEncoding::Latin1,
               HostTextEncoding::WindowsAnsi, HostTextEncoding::Ascii, HostTextEncoding::Utf8,

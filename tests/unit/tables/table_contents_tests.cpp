@@ -45,15 +45,20 @@ constexpr PropertyRow PropertyRows[] = {
     {"DataFlags", "Integer", false},
 };
 
+constexpr const char* Formatted =
+    "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer "
+    "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String";
+constexpr const char* SetWithRest =
+    "SetStringValue(Text As String, Base as Integer, byref AfterText as String, Byref ValueRead as "
+    "boolean)";
+
 constexpr const char* MethodRows[] = {
     "Ceil as $",
     "SkipFraction as $",
     "Frac as $",
     "Floor as $",
-    "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer "
-    "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String",
-    "SetStringValue(Text As String, Base as Integer, byref AfterText as String, Byref ValueRead as "
-    "boolean)",
+    Formatted,
+    SetWithRest,
     "StringValue(Base as Integer) as String",
     "Round as $",
     "Equals(other as $) as Boolean",
@@ -160,8 +165,12 @@ constexpr const char* SharedMethodRows[] = {
     "NumberWithUInteger(value as UInteger) as $",
 };
 
-/// The methods that are one routine with another one.
-constexpr std::pair<const char*, const char*> SharedRoutines[] = {
+/// Two methods that are one routine.
+struct RoutinePair {
+    const char* first;
+    const char* second;
+};
+constexpr RoutinePair SharedRoutines[] = {
     {"Constructor(value as String)", "Operator_Convert(value as String)"},
     {"Modulate(other as $) as $", "Operator_Modulo(other as $) as $"},
     {"Modulate(other as $) as $", "Operator_ModuloRight(other as $) as $"},
@@ -321,12 +330,12 @@ TEST_CASE("The operators on the right are the very routines of their left forms"
     LoadedPlugin plugin;
     for (const NumberClass& number : plugin.classes()) {
         std::set<std::string> sharing;
-        for (const auto& [first, second] : SharedRoutines) {
-            CAPTURE(second);
-            CHECK(AddressOf(number.Method(first).function) ==
-                  AddressOf(number.Method(second).function));
-            sharing.insert(number.Declaration(first));
-            sharing.insert(number.Declaration(second));
+        for (const RoutinePair& pair : SharedRoutines) {
+            CAPTURE(pair.second);
+            CHECK(AddressOf(number.Method(pair.first).function) ==
+                  AddressOf(number.Method(pair.second).function));
+            sharing.insert(number.Declaration(pair.first));
+            sharing.insert(number.Declaration(pair.second));
         }
         // Nobody else has a routine of another.
         std::map<const void*, std::string> owners;
@@ -335,11 +344,11 @@ TEST_CASE("The operators on the right are the very routines of their left forms"
                 if (method.function == nullptr || sharing.contains(method.declaration)) {
                     continue;
                 }
-                const auto [owner, isNew] =
+                const auto owner =
                     owners.try_emplace(AddressOf(method.function), method.declaration);
-                CAPTURE(owner->second);
+                CAPTURE(owner.first->second);
                 CAPTURE(method.declaration);
-                CHECK(isNew);
+                CHECK(owner.second);
             }
         }
     }
