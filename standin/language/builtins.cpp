@@ -54,6 +54,10 @@ Value Val(const Arguments& arguments, const Machine& machine) {
     return Value::Of(NumberIn(machine.host().Utf8(arguments[0].text())));
 }
 
+Value VarType(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(machine.host().VariantType(arguments[0].object()));
+}
+
 // Parts of text ----------------------------------------------------------------------------------
 
 /// How a text is cut: into the characters of its encoding, or into bytes.
@@ -179,7 +183,7 @@ Value GetTextEncoding(const Arguments& arguments, const Machine& /*machine*/) {
 
 struct BuiltInRow {
     const char* declaration;
-    code::BuiltInFunction function;
+    BuiltInFunction function;
 };
 
 constexpr auto Rows = std::to_array<BuiltInRow>({
@@ -191,6 +195,7 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Double) As String", TextOfNumber<double>},
     {"Str(value As Currency) As String", TextOfNumber<CurrencyAmount>},
     {"Str(value As Boolean) As String", TextOfBoolean},
+    {"VarType(value As Variant) As Integer", VarType},
     {"Val(text As String) As Double", Val},
     {"Hex(value As Int32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},
@@ -258,7 +263,7 @@ std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     return builtIns;
 }
 
-code::BuiltInFunction FindTextFunction(Kind kind) {
+BuiltInFunction FindTextFunction(Kind kind) {
     if (kind == Kind::Text) {
         return TextItself;
     }
@@ -268,9 +273,8 @@ code::BuiltInFunction FindTextFunction(Kind kind) {
     if (!IsNumber(kind)) {
         return nullptr;
     }
-    return WithNumberType(kind, []<typename T>(std::type_identity<T>) -> code::BuiltInFunction {
-        return TextOfNumber<T>;
-    });
+    return WithNumberType(
+        kind, []<typename T>(std::type_identity<T>) -> BuiltInFunction { return TextOfNumber<T>; });
 }
 
 std::optional<HostTextEncoding> FindEncoding(std::string_view name) {

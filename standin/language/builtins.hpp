@@ -7,21 +7,21 @@
 #include <vector>
 
 #include "standin/language/class_model.hpp"
-#include "standin/language/code_expressions.hpp"
+#include "standin/language/code.hpp"
 
 namespace standin::language {
 
 /// A function with its declaration, from which overloads are chosen as for a plug-in's methods.
 struct BuiltIn {
     Signature signature;
-    code::BuiltInFunction function;
+    BuiltInFunction function;
 };
 
 /// All functions of the language.
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types);
 
 /// The function that answers a value of that kind as text; null where there is none.
-code::BuiltInFunction FindTextFunction(Kind kind);
+BuiltInFunction FindTextFunction(Kind kind);
 
 /// The module whose members are the text encodings.
 inline constexpr std::string_view EncodingsModule = "Encodings";

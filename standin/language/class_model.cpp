@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/language/host_members.hpp"
 #include "standin/language/parser.hpp"
 
 namespace standin::language {
@@ -21,7 +22,6 @@ constexpr std::string_view HostClassNames[] = {
     "UnsupportedOperationException",
     "StackOverflowException",
     "TypeMismatchException",
-    "Variant",
     "MemoryBlock",
     "Date",
     "DateTime",
@@ -124,22 +124,35 @@ void TypeTable::AddMembers(ClassModel& model) const {
     std::ranges::transform(info.properties, std::back_inserter(model.properties), readProperty);
     std::ranges::transform(info.sharedProperties, std::back_inserter(model.sharedProperties),
                            readProperty);
-    if (SameName(model.name(), ExceptionRoot)) {
-        const auto addHostProperty = [&model](const char* name, Kind kind, HostProperty property) {
-            const Type type{kind};
-            model.properties.push_back({.name = name,
-                                        .type = type,
-                                        .declaration = std::string(name) + " As " + NameOf(type),
-                                        .problem = {},
-                                        .hostProperty = property});
-        };
-        addHostProperty("Message", Kind::Text, HostProperty::Message);
-        addHostProperty("ErrorNumber", Kind::Int32, HostProperty::ErrorNumber);
+    AddHostMembers(model);
+}
+
+void TypeTable::AddHostMembers(ClassModel& model) const {
+    for (const auto& member : HostPropertiesOf(model.name())) {
+        const std::string declaration(member.declaration);
+        auto signature = Resolve(ParseDeclaration(declaration), declaration);
+        model.properties.push_back({.name = std::move(signature.name),
+                                    .type = signature.result,
+                                    .declaration = declaration,
+                                    .problem = {},
+                                    .host = {member.function, member.setter}});
     }
+    const auto addMethods = [&](const std::vector<HostMember>& members, bool areFactories) {
+        for (const auto& member : members) {
+            const std::string declaration(member.declaration);
+            model.methods.push_back(
+                {.signature = Resolve(ParseDeclaration(declaration), declaration),
+                 .host = {member.function, member.setter},
+                 .isFactory = areFactories});
+        }
+    };
+    addMethods(HostMethodsOf(model.name()), false);
+    addMethods(HostConstructorsOf(model.name()), false);
+    addMethods(HostFactoriesOf(model.name()), true);
 }
 
 Method TypeTable::ReadMethod(const MethodInfo& info) const {
-    Method method{{}, info.function, info.setter};
+    Method method{.signature = {}, .function = info.function, .setter = info.setter, .host = {}};
     try {
         method.signature = Resolve(ParseDeclaration(info.declaration), info.declaration);
     } catch (const ProgramError& error) {
@@ -157,7 +170,8 @@ Property TypeTable::ReadProperty(const PropertyInfo& info) const {
                       .problem = {},
                       .getter = info.getter,
                       .setter = info.setter,
-                      .parameter = info.parameter};
+                      .parameter = info.parameter,
+                      .host = {}};
     try {
         property.type = Require(ParseTypeName(info.type));
     } catch (const ProgramError& error) {

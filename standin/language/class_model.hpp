@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "standin/language/code.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/syntax.hpp"
 #include "standin/language/types.hpp"
@@ -38,17 +39,23 @@ struct Signature {
     std::string problem;
 };
 
-/// A method of a plug-in's class.
+/// What answers for a member of one of the host's own classes; null in a plug-in's members.
+struct HostAccess {
+    BuiltInFunction function = nullptr;
+    BuiltInFunction setter = nullptr;
+};
+
+/// A method of a class.
 struct Method {
     Signature signature;
     Routine function = nullptr;
     Routine setter = nullptr;
+    HostAccess host;
+    /// Of a constructor of the host: whether it makes the object, instead of filling a new one.
+    bool isFactory = false;
 };
 
-/// Properties of exceptions that the host itself keeps.
-enum class HostProperty : std::uint8_t { None, Message, ErrorNumber };
-
-/// A property of a plug-in's class or of an exception.
+/// A property of a class.
 struct Property {
     std::string name;
     Type type;
@@ -58,7 +65,7 @@ struct Property {
     Routine getter = nullptr;
     Routine setter = nullptr;
     std::int32_t parameter = 0;
-    HostProperty hostProperty = HostProperty::None;
+    HostAccess host;
 };
 
 /// One class. Members are looked up from the class to its ancestors; the nearest class that has
@@ -107,6 +114,7 @@ public:
 private:
     ClassModel& AddClass(const ClassInfo& info);
     void AddMembers(ClassModel& model) const;
+    void AddHostMembers(ClassModel& model) const;
     Method ReadMethod(const MethodInfo& info) const;
     Property ReadProperty(const PropertyInfo& info) const;
 

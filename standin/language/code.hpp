@@ -80,6 +80,9 @@ private:
     Output print_;
 };
 
+/// A function of the host or of the language itself.
+using BuiltInFunction = Value (*)(const std::vector<Value>& arguments, const Machine& machine);
+
 /// The variables of one call of a routine, or of the main program.
 struct Frame {
     Frame(Machine& runningMachine, std::size_t slotCount, Frame* mainFrame = nullptr)

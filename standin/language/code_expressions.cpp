@@ -40,6 +40,15 @@ private:
     Position position_;
 };
 
+std::vector<Value> EvaluateAll(const std::vector<Argument>& arguments, Frame& frame) {
+    std::vector<Value> values;
+    values.reserve(arguments.size());
+    for (const auto& argument : arguments) {
+        values.push_back(argument.value->Evaluate(frame));
+    }
+    return values;
+}
+
 }  // namespace
 
 Value ClassTest::Evaluate(Frame& frame) const {
@@ -60,46 +69,22 @@ Value ClassCast::Evaluate(Frame& frame) const {
     return value;
 }
 
-Value ReadHostProperty::Evaluate(Frame& frame) const {
-    const auto object = object_->Evaluate(frame);
-    frame.machine.RequireObject(object);
-    Host& host = frame.machine.host();
-    if (property_ == HostProperty::ErrorNumber) {
-        return Value::Of(host.ErrorNumber(object.object()));
-    }
-    return frame.machine.MakeText(host.Message(object.object()));
-}
-
-Value WriteHostProperty::Evaluate(Frame& frame) const {
-    const auto object = object_->Evaluate(frame);
-    const auto value = value_->Evaluate(frame);
-    frame.machine.RequireObject(object);
-    Host& host = frame.machine.host();
-    if (property_ == HostProperty::ErrorNumber) {
-        host.SetErrorNumber(object.object(), value.Get<std::int32_t>());
-    } else {
-        host.SetMessage(object.object(), host.Utf8(value.text()));
-    }
-    return {};
-}
-
-Value NewException::Evaluate(Frame& frame) const {
-    const auto message = message_->Evaluate(frame);
-    const auto errorNumber = errorNumber_->Evaluate(frame);
-    auto exception = frame.machine.MakeObject(info_);
-    Host& host = frame.machine.host();
-    host.SetMessage(exception.object(), host.Utf8(message.text()));
-    host.SetErrorNumber(exception.object(), errorNumber.Get<std::int32_t>());
-    return exception;
-}
-
 Value BuiltInCall::Evaluate(Frame& frame) const {
-    std::vector<Value> values;
-    values.reserve(arguments_.size());
-    for (const auto& argument : arguments_) {
-        values.push_back(argument.value->Evaluate(frame));
-    }
+    return function_(EvaluateAll(arguments_, frame), frame.machine);
+}
+
+Value HostMemberCall::Evaluate(Frame& frame) const {
+    const auto values = EvaluateAll(arguments_, frame);
+    frame.machine.RequireObject(values.front());
     return function_(values, frame.machine);
+}
+
+Value NewHostObject::Evaluate(Frame& frame) const {
+    auto values = EvaluateAll(arguments_, frame);
+    auto object = frame.machine.MakeObject(info_);
+    values.insert(values.begin(), object);
+    constructor_(values, frame.machine);
+    return object;
 }
 
 Value RoutineCall::Evaluate(Frame& frame) const {

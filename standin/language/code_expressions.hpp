@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
 #include "standin/language/operations.hpp"
 #include "standin/language/plugin_call.hpp"
@@ -173,45 +172,7 @@ private:
     const ClassInfo& info_;
 };
 
-class ReadHostProperty final : public Expression {
-public:
-    ReadHostProperty(ExpressionPtr object, HostProperty property)
-        : object_(std::move(object)), property_(property) {}
-    Value Evaluate(Frame& frame) const override;
-
-private:
-    ExpressionPtr object_;
-    HostProperty property_;
-};
-
-class WriteHostProperty final : public Expression {
-public:
-    WriteHostProperty(ExpressionPtr object, HostProperty property, ExpressionPtr value)
-        : object_(std::move(object)), property_(property), value_(std::move(value)) {}
-    Value Evaluate(Frame& frame) const override;
-
-private:
-    ExpressionPtr object_;
-    HostProperty property_;
-    ExpressionPtr value_;
-};
-
-/// A new exception of a class that has no constructor of a plug-in's.
-class NewException final : public Expression {
-public:
-    NewException(const ClassInfo& info, ExpressionPtr message, ExpressionPtr errorNumber)
-        : info_(info), message_(std::move(message)), errorNumber_(std::move(errorNumber)) {}
-    Value Evaluate(Frame& frame) const override;
-
-private:
-    const ClassInfo& info_;
-    ExpressionPtr message_;
-    ExpressionPtr errorNumber_;
-};
-
-/// A function that is part of the language.
-using BuiltInFunction = Value (*)(const std::vector<Value>& arguments, const Machine& machine);
-
+/// A call of a function that is part of the language.
 class BuiltInCall final : public Expression {
 public:
     BuiltInCall(BuiltInFunction function, std::vector<Argument> arguments)
@@ -220,6 +181,33 @@ public:
 
 private:
     BuiltInFunction function_;
+    std::vector<Argument> arguments_;
+};
+
+/// A call of a member of one of the host's own classes; the first argument is the object, which
+/// must not be Nil.
+class HostMemberCall final : public Expression {
+public:
+    HostMemberCall(BuiltInFunction function, std::vector<Argument> arguments)
+        : function_(function), arguments_(std::move(arguments)) {}
+    Value Evaluate(Frame& frame) const override;
+
+private:
+    BuiltInFunction function_;
+    std::vector<Argument> arguments_;
+};
+
+/// A new object that a constructor of the host fills.
+class NewHostObject final : public Expression {
+public:
+    NewHostObject(const ClassInfo& info, BuiltInFunction constructor,
+                  std::vector<Argument> arguments)
+        : info_(info), constructor_(constructor), arguments_(std::move(arguments)) {}
+    Value Evaluate(Frame& frame) const override;
+
+private:
+    const ClassInfo& info_;
+    BuiltInFunction constructor_;
     std::vector<Argument> arguments_;
 };
 

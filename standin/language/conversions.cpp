@@ -17,7 +17,7 @@ Fit PlainFit(const Checked& value, Type to) {
         return Fit::Exact;
     }
     if (from.kind == Kind::Nil) {
-        const bool takesNil = to.kind == Kind::Instance || to.kind == Kind::TextEncoding;
+        const bool takesNil = IsHandle(to.kind) || to.kind == Kind::TextEncoding;
         return takesNil ? Fit::Exact : Fit::None;
     }
     if (from.kind == Kind::Instance && to.kind == Kind::Instance) {
@@ -26,7 +26,11 @@ Fit PlainFit(const Checked& value, Type to) {
     if (IsNumber(from.kind) && IsNumber(to.kind)) {
         return Widens(from.kind, to.kind) ? Fit::Widening : Fit::Narrowing;
     }
-    return Fit::None;
+    const bool isBoxed =
+        to.kind == Kind::Variant && (IsHandle(from.kind) || FindBoxing(from.kind) != nullptr);
+    const bool isUnboxed =
+        from.kind == Kind::Variant && (IsHandle(to.kind) || FindUnboxing(to.kind) != nullptr);
+    return isBoxed || isUnboxed ? Fit::Boxing : Fit::None;
 }
 
 /// The Operator_Convert that makes an object of the class from the value: the one whose parameter
@@ -96,12 +100,37 @@ Checked ConvertNumber(Checked value, Type to) {
             literal, false};
 }
 
+/// Into or out of a Variant. An object comes out as one of its class or raises.
+Checked ConvertVariant(Checked value, Type to) {
+    const Position at = value.at;
+    const auto function =
+        to.kind == Kind::Variant ? FindBoxing(value.type.kind) : FindUnboxing(to.kind);
+    if (function != nullptr) {
+        return {std::make_unique<code::UnaryOperation>(function, std::move(value.code)),
+                to,
+                at,
+                {},
+                false};
+    }
+    if (to.kind == Kind::Instance) {
+        return {std::make_unique<code::ClassCast>(std::move(value.code), to.model->info()),
+                to,
+                at,
+                {},
+                false};
+    }
+    return {std::move(value.code), to, at, {}, false};
+}
+
 Checked ConvertPlain(Checked value, Type to) {
     if (value.type == to) {
         return value;
     }
     if (value.type.kind == Kind::Nil) {
         return {std::make_unique<code::Constant>(Value::DefaultOf(to)), to, value.at, {}, false};
+    }
+    if (value.type.kind == Kind::Variant || to.kind == Kind::Variant) {
+        return ConvertVariant(std::move(value), to);
     }
     if (IsNumber(to.kind)) {
         return ConvertNumber(std::move(value), to);
@@ -170,7 +199,7 @@ void RequireRoutine(host_interface::Routine routine, const std::string& declarat
 }
 
 bool HasTextForm(Type type) {
-    return FindConversionOut(type, Type{Kind::Text}) != nullptr;
+    return type.kind == Kind::Variant || FindConversionOut(type, Type{Kind::Text}) != nullptr;
 }
 
 }  // namespace standin::language

@@ -32,6 +32,8 @@ enum class Fit : std::uint8_t {
     Converting,
     /// Between numbers as an assignment does it, where something may be lost.
     Narrowing,
+    /// Into a Variant and out of one.
+    Boxing,
     None,
 };
 
@@ -49,7 +51,7 @@ void RequireUsable(const std::string& declaration, const std::string& problem, P
 /// Throws ProgramError at `at` when an entry of the plug-in's tables has no routine.
 void RequireRoutine(host_interface::Routine routine, const std::string& declaration, Position at);
 
-/// Whether Operator_Convert can tell a value of this class as text.
+/// Whether a value can be told as text by its Operator_Convert, or as what a Variant holds.
 bool HasTextForm(Type type);
 
 }  // namespace standin::language

@@ -4,8 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "standin/language/parser.hpp"
-
 namespace standin::language {
 namespace {
 
@@ -222,9 +220,8 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
 Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
                                         Position at) {
     RequireUsable(property.declaration, property.problem, at);
-    if (property.hostProperty != HostProperty::None) {
-        return {std::make_unique<code::ReadHostProperty>(std::move(receiver.value->code),
-                                                         property.hostProperty),
+    if (property.host.function != nullptr) {
+        return {MakeHostCall(property.host.function, std::move(receiver), {}),
                 property.type,
                 at,
                 {},
@@ -242,12 +239,26 @@ Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const
                                       bool isShared, Arguments arguments, Position at) {
     const auto& name = methods.front()->signature.name;
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    if (method.host.function != nullptr) {
+        auto filled = Fill(method.signature, std::move(arguments), at, *this);
+        return {MakeHostCall(method.host.function, std::move(receiver), std::move(filled)),
+                method.signature.result,
+                at,
+                {},
+                false};
+    }
     auto call = MakePluginCall(*receiver.model, method, std::move(arguments), at);
     // What returns nothing is there for what it does to the object.
     const Type result = method.signature.result;
     const bool reads = result.kind != Kind::None;
     return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
                     reads ? code::NilReceiver::Passed : code::NilReceiver::Refused, result, at);
+}
+
+code::ExpressionPtr ExpressionChecker::MakeHostCall(BuiltInFunction function, Receiver receiver,
+                                                    std::vector<code::Argument> arguments) {
+    arguments.insert(arguments.begin(), {std::move(receiver.value->code), Kind::Instance, false});
+    return std::make_unique<code::HostMemberCall>(function, std::move(arguments));
 }
 
 code::PluginCall ExpressionChecker::MakePluginCall(const ClassModel& model, const Method& method,
@@ -302,7 +313,7 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
                 {},
                 false};
     }
-    std::vector<code::BuiltInFunction> functions;
+    std::vector<BuiltInFunction> functions;
     for (const auto& builtIn : callables_.builtIns) {
         if (SameName(builtIn.signature.name, name)) {
             candidates.push_back(&builtIn.signature);
@@ -373,9 +384,6 @@ Checked ExpressionChecker::CheckNode(const syntax::New& creation, Position at) {
 Checked ExpressionChecker::Construct(const ClassModel& model, Arguments arguments, Position at) {
     const Type type{Kind::Instance, &model};
     const auto constructors = model.FindMethods(ConstructorName);
-    if (constructors.empty() && model.IsException()) {
-        return ConstructException(model, std::move(arguments), at);
-    }
     if (constructors.empty()) {
         if (!arguments.empty()) {
             throw ProgramError(at, model.name() + " has no constructor that takes arguments");
@@ -384,23 +392,17 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
     }
     const auto index =
         RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at);
-    auto call = MakePluginCall(model, *constructors[index], std::move(arguments), at);
+    const auto& method = *constructors[index];
+    if (const auto function = method.host.function) {
+        auto filled = Fill(method.signature, std::move(arguments), at, *this);
+        auto code = method.isFactory ? code::ExpressionPtr(std::make_unique<code::BuiltInCall>(
+                                           function, std::move(filled)))
+                                     : std::make_unique<code::NewHostObject>(model.info(), function,
+                                                                             std::move(filled));
+        return {std::move(code), type, at, {}, false};
+    }
+    auto call = MakePluginCall(model, method, std::move(arguments), at);
     return {std::make_unique<code::NewObject>(model.info(), std::move(call)), type, at, {}, false};
-}
-
-Checked ExpressionChecker::ConstructException(const ClassModel& model, Arguments arguments,
-                                              Position at) {
-    static constexpr auto Declaration =
-        "Constructor(message As String = \"\", errorNumber As Integer = 0)";
-    const auto signature = types_.Resolve(ParseDeclaration(Declaration), Declaration);
-    RequireOverload("New " + model.name(), {&signature}, arguments, at);
-    auto filled = Fill(signature, std::move(arguments), at, *this);
-    return {std::make_unique<code::NewException>(model.info(), std::move(filled[0].value),
-                                                 std::move(filled[1].value)),
-            {Kind::Instance, &model},
-            at,
-            {},
-            false};
 }
 
 // Setters ----------------------------------------------------------------------------------------
@@ -444,16 +446,16 @@ code::ExpressionPtr ExpressionChecker::WriteProperty(Receiver receiver, const Pr
                                                      bool isShared, Checked value, Position at) {
     RequireUsable(property.declaration, property.problem, at);
     auto converted = ConvertTo(std::move(value), property.type);
-    if (property.hostProperty != HostProperty::None) {
-        return std::make_unique<code::WriteHostProperty>(
-            std::move(receiver.value->code), property.hostProperty, std::move(converted.code));
-    }
-    if (property.setter == nullptr && property.getter != nullptr) {
+    const bool isReadable = property.getter != nullptr || property.host.function != nullptr;
+    if (property.setter == nullptr && property.host.setter == nullptr && isReadable) {
         throw ProgramError(at, Quoted(property.declaration) + " is read-only");
     }
-    RequireRoutine(property.setter, property.declaration, at);
     std::vector<code::Argument> arguments;
     arguments.push_back({std::move(converted.code), property.type.kind, false});
+    if (property.host.setter != nullptr) {
+        return MakeHostCall(property.host.setter, std::move(receiver), std::move(arguments));
+    }
+    RequireRoutine(property.setter, property.declaration, at);
     const auto parameter = isShared ? std::nullopt : std::optional(property.parameter);
     code::PluginCall call(LabelOf(*receiver.model, property.declaration), property.setter,
                           std::move(arguments), Kind::None, parameter);
@@ -469,13 +471,17 @@ code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
     const auto& name = methods.front()->signature.name;
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
     const auto& signature = method.signature;
-    if (method.setter == nullptr && method.function != nullptr) {
+    const bool isReadable = method.function != nullptr || method.host.function != nullptr;
+    if (method.setter == nullptr && method.host.setter == nullptr && isReadable) {
         throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
     }
-    RequireRoutine(method.setter, signature.declaration, at);
     auto filled = Fill(signature, std::move(arguments), at, *this);
     auto converted = ConvertTo(std::move(value), signature.result);
     filled.push_back({std::move(converted.code), signature.result.kind, false});
+    if (method.host.setter != nullptr) {
+        return MakeHostCall(method.host.setter, std::move(receiver), std::move(filled));
+    }
+    RequireRoutine(method.setter, signature.declaration, at);
     code::PluginCall call(LabelOf(*receiver.model, signature.declaration), method.setter,
                           std::move(filled), Kind::None);
     return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),

@@ -91,6 +91,9 @@ private:
     /// The call of a method's routine, of which there must be one.
     code::PluginCall MakePluginCall(const ClassModel& model, const Method& method,
                                     Arguments arguments, Position at);
+    /// A call of a member of one of the host's own classes, the object first.
+    static code::ExpressionPtr MakeHostCall(BuiltInFunction function, Receiver receiver,
+                                            std::vector<code::Argument> arguments);
     Checked ReadProperty(Receiver receiver, const Property& property, bool isShared, Position at);
     code::ExpressionPtr WriteProperty(Receiver receiver, const Property& property, bool isShared,
                                       Checked value, Position at);
@@ -100,7 +103,6 @@ private:
                                          const std::vector<const Method*>& methods, bool isShared,
                                          Arguments arguments, Checked value, Position at);
     Checked Construct(const ClassModel& model, Arguments arguments, Position at);
-    Checked ConstructException(const ClassModel& model, Arguments arguments, Position at);
 
     Checked ApplyToNumbers(syntax::BinaryOperator operation, Checked left, Checked right,
                            Position at);

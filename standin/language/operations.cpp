@@ -215,6 +215,77 @@ std::partial_ordering OrderNumbers(const Value& left, const Value& right) {
     }
 }
 
+// Variants ---------------------------------------------------------------------------------------
+
+using host_interface::VariantTypeCode;
+
+Value MakeVariant(VariantTypeCode code, VariantValue contents, const Machine& machine) {
+    auto variant =
+        Value::Adopt(machine.host().MakeVariant(static_cast<std::int32_t>(code), contents));
+    if (variant.object() == nullptr) {
+        machine.Raise("OutOfMemoryException", "There is no memory for a new Variant.");
+    }
+    return variant;
+}
+
+/// What a number type is called in a Variant. Unsigned ones share the code of the signed ones.
+template <typename T>
+constexpr VariantTypeCode CodeOf = sizeof(T) == 4 ? VariantTypeCode::Int32 : VariantTypeCode::Int64;
+template <>
+constexpr VariantTypeCode CodeOf<float> = VariantTypeCode::Single;
+template <>
+constexpr VariantTypeCode CodeOf<double> = VariantTypeCode::Double;
+template <>
+constexpr VariantTypeCode CodeOf<CurrencyAmount> = VariantTypeCode::Currency;
+
+template <typename T>
+Value BoxNumber(const Value& value, const Machine& machine) {
+    const T number = value.Get<T>();
+    if constexpr (std::floating_point<T>) {
+        return MakeVariant(CodeOf<T>, static_cast<double>(number), machine);
+    } else if constexpr (std::same_as<T, CurrencyAmount>) {
+        return MakeVariant(CodeOf<T>, number.scaled, machine);
+    } else if constexpr (std::unsigned_integral<T>) {
+        return MakeVariant(CodeOf<T>, std::uint64_t{number}, machine);
+    } else {
+        return MakeVariant(CodeOf<T>, std::int64_t{number}, machine);
+    }
+}
+
+Value BoxBoolean(const Value& value, const Machine& machine) {
+    return MakeVariant(VariantTypeCode::Boolean, std::int64_t{value.IsTrue() ? 1 : 0}, machine);
+}
+
+Value BoxText(const Value& value, const Machine& machine) {
+    return MakeVariant(VariantTypeCode::String, value.text(), machine);
+}
+
+template <typename T>
+Value UnboxNumber(const Value& value, const Machine& machine) {
+    Host& host = machine.host();
+    if constexpr (std::floating_point<T>) {
+        return Value::Of(static_cast<T>(host.VariantAsDouble(value.object())));
+    } else if constexpr (std::same_as<T, CurrencyAmount>) {
+        return Value::Of(CurrencyAmount{host.VariantAsCurrency(value.object())});
+    } else {
+        const auto contents = host.VariantContents(value.object());
+        const auto* wide = std::get_if<std::uint64_t>(&contents);
+        return Value::Of(wide != nullptr ? static_cast<T>(*wide)
+                                         : static_cast<T>(host.VariantAsInt64(value.object())));
+    }
+}
+
+Value UnboxBoolean(const Value& value, const Machine& machine) {
+    Host& host = machine.host();
+    const auto text = Value::Adopt(host.VariantAsString(value.object()));
+    return Value::Of(host.VariantAsDouble(value.object()) != 0.0 ||
+                     SameName(host.Utf8(text.text()), "True"));
+}
+
+Value UnboxText(const Value& value, const Machine& machine) {
+    return Value::Adopt(machine.host().VariantAsString(value.object()));
+}
+
 // Booleans and text ------------------------------------------------------------------------------
 
 template <typename Operation>
@@ -249,6 +320,34 @@ UnaryFunction FindConversion(Kind from, Kind to) {
             return Convert<From, To>;
         });
     });
+}
+
+UnaryFunction FindBoxing(Kind from) {
+    if (from == Kind::Boolean) {
+        return BoxBoolean;
+    }
+    if (from == Kind::Text) {
+        return BoxText;
+    }
+    if (!IsNumber(from)) {
+        return nullptr;
+    }
+    return WithNumberType(
+        from, []<typename T>(std::type_identity<T>) -> UnaryFunction { return BoxNumber<T>; });
+}
+
+UnaryFunction FindUnboxing(Kind to) {
+    if (to == Kind::Boolean) {
+        return UnboxBoolean;
+    }
+    if (to == Kind::Text) {
+        return UnboxText;
+    }
+    if (!IsNumber(to)) {
+        return nullptr;
+    }
+    return WithNumberType(
+        to, []<typename T>(std::type_identity<T>) -> UnaryFunction { return UnboxNumber<T>; });
 }
 
 UnaryFunction FindNegation(Kind kind) {

@@ -16,6 +16,12 @@ using OrderFunction = std::partial_ordering (*)(const Value&, const Value&);
 /// and stops at the ends of 64 bits, NaN becomes 0; Currency rounds to four places.
 UnaryFunction FindConversion(Kind from, Kind to);
 
+/// A number, Boolean or text into a Variant, and a Variant as one of them. A Variant that is
+/// something else is converted as far as it can be, else 0, False or an empty text. Null for
+/// other kinds.
+UnaryFunction FindBoxing(Kind from);
+UnaryFunction FindUnboxing(Kind to);
+
 /// `-value`; null where the kind has none.
 UnaryFunction FindNegation(Kind kind);
 /// `Not value`: logical on Booleans, bitwise on integers; null on other kinds.

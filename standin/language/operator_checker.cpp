@@ -51,7 +51,14 @@ bool IsComparison(BinaryOperator operation) {
 }
 
 bool IsObject(const Checked& value) {
-    return value.type.kind == Kind::Instance || value.type.kind == Kind::Nil;
+    return IsHandle(value.type.kind);
+}
+
+/// Two Variants are not compared by identity: what they hold would have to be.
+bool HaveIdentity(const Checked& left, const Checked& right) {
+    const bool hasNil = left.type.kind == Kind::Nil || right.type.kind == Kind::Nil;
+    const bool hasVariant = left.type.kind == Kind::Variant || right.type.kind == Kind::Variant;
+    return IsObject(left) && IsObject(right) && (hasNil || !hasVariant);
 }
 
 /// Why an operator cannot stand between two operands.
@@ -231,7 +238,7 @@ Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Check
     }
     const bool isEquality =
         operation == BinaryOperator::Equal || operation == BinaryOperator::NotEqual;
-    if (isEquality && IsObject(left) && IsObject(right)) {
+    if (isEquality && HaveIdentity(left, right)) {
         return CompareIdentity(operation, std::move(left), std::move(right), at);
     }
     if (left.type.kind == Kind::TextEncoding || right.type.kind == Kind::TextEncoding) {

@@ -42,7 +42,7 @@ void Append(Words& words, const Value& value, Kind kind) {
             words.push_back(HandleWord(value.text()));
             break;
         case Kind::Instance:
-        case Kind::Nil:
+        case Kind::Variant:
             words.push_back(HandleWord(value.object()));
             break;
         default:
@@ -83,6 +83,7 @@ private:
             case Kind::Text:
                 return Store(bytes_, variable_.ReleaseText());
             case Kind::Instance:
+            case Kind::Variant:
                 return Store(bytes_, variable_.ReleaseObject());
             default:
                 return WithNumberType(kind_, [this]<typename T>(std::type_identity<T>) {
@@ -100,6 +101,7 @@ private:
                 variable_ = Value::Adopt(Load<String>(bytes_));
                 break;
             case Kind::Instance:
+            case Kind::Variant:
                 variable_ = Value::Adopt(Load<Object>(bytes_));
                 break;
             default:
@@ -223,6 +225,7 @@ ReturnKind PluginCall::HowToReturn() const {
             return ReturnKind::Double;
         case Kind::Text:
         case Kind::Instance:
+        case Kind::Variant:
             return sizeof(Word) == 8 ? ReturnKind::TwoWords : ReturnKind::Word;
         default:
             return ReturnKind::Word;
@@ -247,6 +250,7 @@ Value PluginCall::ToValue(const ReturnValue& returned) const {
         case Kind::Text:
             return Value::Adopt(HandleFrom<String>(returned));
         case Kind::Instance:
+        case Kind::Variant:
             return Value::Adopt(HandleFrom<Object>(returned));
         default:
             return Value::Of(returned.low);

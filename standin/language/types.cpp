@@ -29,6 +29,7 @@ constexpr auto KindNames = std::to_array<KindName>({
     {"Currency", Kind::Currency},
     {"String", Kind::Text},
     {"TextEncoding", Kind::TextEncoding},
+    {"Variant", Kind::Variant},
 });
 
 struct Widening {
@@ -82,6 +83,10 @@ bool IsNumber(Kind kind) {
 
 bool IsSigned(Kind integer) {
     return integer == Kind::Int32 || integer == Kind::Int64;
+}
+
+bool IsHandle(Kind kind) {
+    return kind == Kind::Nil || kind == Kind::Instance || kind == Kind::Variant;
 }
 
 bool Widens(Kind from, Kind to) {

@@ -33,6 +33,8 @@ enum class Kind : std::uint8_t {
     TextEncoding,
     /// An object of a class.
     Instance,
+    /// A value of any type in an object of the host; an object is a Variant of itself.
+    Variant,
 };
 
 /// A kind, and for objects their class.
@@ -59,6 +61,8 @@ bool IsReal(Kind kind);
 /// Whether the kind counts: integers, real numbers and Currency.
 bool IsNumber(Kind kind);
 bool IsSigned(Kind integer);
+/// Whether values of the kind are handles of objects.
+bool IsHandle(Kind kind);
 
 /// Whether every value of `from` is a value of the other number kind `to` as well.
 bool Widens(Kind from, Kind to);

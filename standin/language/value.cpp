@@ -7,6 +7,7 @@ Value Value::DefaultOf(Type type) noexcept {
         case Kind::Text:
             return Adopt(String{});
         case Kind::Instance:
+        case Kind::Variant:
             return Adopt(Object{});
         case Kind::Single:
         case Kind::Double:

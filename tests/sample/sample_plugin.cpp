@@ -22,6 +22,7 @@ struct HostFunctions {
     functions::PluginNewInstance* newInstance;
     functions::RuntimeRaiseException* raise;
     functions::REALSetPropValueString* setString;
+    functions::memoryBlockGetSize* getBlockSize;
 };
 
 HostFunctions host;
@@ -247,6 +248,20 @@ Object ReturnNil() {
 
 void Nothing(Object /*self*/) {}
 
+Object Echo(Object /*self*/, Object value) {
+    host.lockObject(value);
+    return value;
+}
+
+void Replace(Object /*self*/, Object* variant) {
+    host.unlockObject(*variant);
+    *variant = MakeSample(7);
+}
+
+std::int32_t GetBlockSize(Object /*self*/, Object block) {
+    return block == nullptr ? -1 : host.getBlockSize(block);
+}
+
 // Operators --------------------------------------------------------------------------------------
 
 Object Add(Object self, Object other) {
@@ -345,6 +360,9 @@ MethodDefinition methods[] = {
     Method("Cell(index as Integer) as Integer", AsRoutine(GetCell), AsRoutine(SetCell)),
     Method("Fixed(index as Integer) as Integer", AsRoutine(GetCell)),
     Method("Nothing()", AsRoutine(Nothing)),
+    Method("Echo(value as variant) as Variant", AsRoutine(Echo)),
+    Method("Replace(byref value as Variant)", AsRoutine(Replace)),
+    Method("BlockSize(block as MemoryBlock) as Integer", AsRoutine(GetBlockSize)),
     Method("Operator_Add(other as Sample) as Sample", AsRoutine(Add)),
     Method("Operator_Add(other as Integer) as Sample", AsRoutine(AddInteger)),
     Method("Operator_AddRight(other as Sample) as Sample", AsRoutine(Add)),
@@ -430,6 +448,7 @@ extern "C" void REALPluginMain(Resolver resolve) {
     Bind(host.newInstance, resolve, "PluginNewInstance");
     Bind(host.raise, resolve, "RuntimeRaiseException");
     Bind(host.setString, resolve, "REALSetPropValueString");
+    Bind(host.getBlockSize, resolve, "memoryBlockGetSize");
     functions::RegisterPluginVersion* tellVersion = nullptr;
     functions::PluginRegisterClass* registerClass = nullptr;
     Bind(tellVersion, resolve, "RegisterPluginVersion");
