@@ -32,7 +32,7 @@ bool SameName(std::string_view left, std::string_view right);
 
 /// Orders names without regard to the case of ASCII letters.
 struct NameLess {
-    using is_transparent = void;  // NOLINT(readability-identifier-naming): the standard's name
+    using is_transparent = void;
     bool operator()(std::string_view left, std::string_view right) const;
 };
 

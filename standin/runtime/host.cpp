@@ -62,14 +62,16 @@ const ClassEntry& Host::State::Class(std::string_view name) const {
     throw std::runtime_error("the host has no class \"" + std::string(name) + "\"");
 }
 
-bool Host::State::Lacks(std::string_view name) const {
-    if (options.missing.contains(name)) {
-        return true;
-    }
-    // Only a declaration has other spellings.
-    const std::string normal = NormalDeclaration(name);
+bool Host::State::LacksFunction(std::string_view name) const {
+    return options.missing.contains(name);
+}
+
+bool Host::State::LacksGlobalMethod(std::string_view declaration) const {
+    const std::string normal = NormalDeclaration(declaration);
+    const std::string name = normal.substr(0, normal.find_first_of("( "));
     return std::ranges::any_of(options.missing, [&](const std::string& missing) {
-        return missing.find('(') != std::string::npos && NormalDeclaration(missing) == normal;
+        const std::string lacking = NormalDeclaration(missing);
+        return lacking == normal || lacking == name;
     });
 }
 
@@ -111,7 +113,7 @@ void* Host::Resolve(const char* name) {
     const std::string_view asked = name == nullptr ? "" : name;
     const auto lookup = state.lookups.try_emplace(std::string(asked), 0).first;
     ++lookup->second;
-    if (state.Lacks(asked) || (asked == VersionFunctionName && !state.options.version)) {
+    if (state.LacksFunction(asked) || (asked == VersionFunctionName && !state.options.version)) {
         return nullptr;
     }
     return FindHostFunction(asked);

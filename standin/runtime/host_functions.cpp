@@ -417,7 +417,7 @@ void* FindHostFunction(std::string_view name) {
 
 void* FindGlobalMethod(std::string_view declaration) {
     static const std::string VarType = NormalDeclaration("VarType(value As Variant) As Integer");
-    if (NormalDeclaration(declaration) != VarType || Current().Lacks(declaration)) {
+    if (NormalDeclaration(declaration) != VarType || Current().LacksGlobalMethod(declaration)) {
         return nullptr;
     }
     return Offer<functions::VarType>("VarType", TypeOf).address;

@@ -525,6 +525,13 @@ TEST_CASE("a host may lack functions, global methods and classes") {
     CHECK(host.Leaks().empty());
 }
 
+TEST_CASE("a global method is taken away by its name as well") {
+    Host host(HostOptions{.missing = {"vartype"}});
+    CHECK(HostFunction<functions::REALLoadGlobalMethod>("REALLoadGlobalMethod")(
+              nullptr, "VarType(value As Variant) As Integer") == nullptr);
+    CHECK(Host::Resolve("VariantToDouble") != nullptr);
+}
+
 TEST_CASE("a host tells its version and whether it is a built application") {
     {
         Host host(HostOptions{.version = 2011.99, .builtApplication = true});
