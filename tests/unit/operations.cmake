@@ -1,0 +1,43 @@
+# What the number classes compute, driven through the tables of the built library.
+add_executable(operation_tests
+  operations/bare_calls_2048.cpp
+  operations/bare_calls_256.cpp
+  operations/cases.cpp
+  operations/exact_tests.cpp
+  operations/number_class.cpp
+  operations/random_tests.cpp
+  operations/stated_results_tests.cpp
+  operations/table_tests.cpp
+  $<$<NOT:$<BOOL:${WIN32}>>:operations/random_source_tests.cpp>)
+target_link_libraries(operation_tests
+  PRIVATE unit_test_support unit_test_main doctest_headers standin_runtime ttmath project_options
+    self_contained)
+add_dependencies(operation_tests BigNumberVQZ)
+target_compile_definitions(operation_tests
+  PRIVATE "PLUGIN_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
+
+# The bare library is what results are measured by and is not under test itself. It negates the
+# factor of a product with a machine integer, also the smallest one, which wraps here.
+set_source_files_properties(operations/bare_calls_2048.cpp operations/bare_calls_256.cpp
+  PROPERTIES COMPILE_OPTIONS "-fwrapv;$<$<BOOL:${BIGNUMBERVQZ_SANITIZE}>:-fno-sanitize=all;-O2>")
+
+# Sanitizers and Wine slow everything down: fewer random operands there.
+if(NOT WIN32 AND NOT BIGNUMBERVQZ_SANITIZE)
+  target_compile_definitions(operation_tests PRIVATE THOROUGH_OPERATION_TESTS)
+endif()
+
+# At 2048 bits the functions take their time: each family is a test of its own.
+function(add_operation_tests name)
+  list(JOIN ARGN "," cases)
+  add_project_test(NAME unit/operation_tests/${name} COMMAND operation_tests "--test-case=${cases}")
+endfunction()
+
+add_operation_tests(256-bits "*exact<256 bits>")
+add_operation_tests(2048-bits-arithmetic "arithmetic*exact<2048 bits>")
+add_operation_tests(2048-bits-logarithms "roots*exact<2048 bits>")
+add_operation_tests(2048-bits-powers "powers*exact<2048 bits>")
+add_operation_tests(2048-bits-trigonometric "*trigonometric*exact<2048 bits>")
+add_operation_tests(2048-bits-hyperbolic "hyperbolic*exact<2048 bits>")
+add_operation_tests(2048-bits-inverse-hyperbolic "inverse hyperbolic*exact<2048 bits>")
+add_project_test(NAME unit/operation_tests/others
+  COMMAND operation_tests "--test-case-exclude=*exact<*")

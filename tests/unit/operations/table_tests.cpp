@@ -1,0 +1,103 @@
+// The constants, and that no registered member is left without a test.
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "tests/unit/operations/bare_calls.hpp"
+#include "tests/unit/operations/number_building.hpp"
+#include "tests/unit/operations/number_class.hpp"
+
+namespace operation_tests {
+namespace {
+
+/// Members that make or show numbers without computing; other tests look after them.
+bool IsConversion(std::string_view declaration) {
+    static constexpr std::string_view Heads[] = {
+        "Constructor", "Operator_Convert", "GetStringValue", "SetStringValue",
+        "StringValue", "NumberWith",       "LibTypeStr"};
+    return std::ranges::any_of(
+        Heads, [declaration](std::string_view head) { return declaration.starts_with(head); });
+}
+
+}  // namespace
+
+TEST_CASE_TEMPLATE("every member that computes is compared with the bare library", AnyNumber,
+                   Number256, Number2048) {
+    Session session;
+    const NumberClass<AnyNumber> numberClass(session);
+    std::set<std::string> tested = {DeclarationOf("Rand as $", ClassName<AnyNumber>)};
+    for (const Operation<AnyNumber>& operation : Operations<AnyNumber>()) {
+        tested.insert(DeclarationOf(operation.declaration, ClassName<AnyNumber>));
+    }
+    for (const Constant<AnyNumber>& constant : Constants<AnyNumber>()) {
+        tested.insert(DeclarationOf(constant.declaration, ClassName<AnyNumber>));
+    }
+
+    std::set<std::string> registered;
+    for (const auto* methods : {&numberClass.type().methods, &numberClass.type().sharedMethods}) {
+        for (const standin::MethodInfo& method : *methods) {
+            CHECK_MESSAGE((method.function != nullptr), method.declaration);
+            if (!IsConversion(method.declaration)) {
+                registered.insert(method.declaration);
+            }
+        }
+    }
+    CHECK(registered == tested);
+}
+
+TEST_CASE_TEMPLATE("constants are those of the bare library and log nothing", AnyNumber, Number256,
+                   Number2048) {
+    Session session;
+    NumberClass<AnyNumber> numberClass(session);
+    session.SetDebugging(true);
+    for (const Constant<AnyNumber>& constant : Constants<AnyNumber>()) {
+        INFO(std::string(constant.declaration));
+        session.host().TakeDebugLog();
+        const std::uint32_t answer = numberClass.Call(numberClass.RoutineOf(constant.declaration),
+                                                      {}, standin::ReturnKind::Word);
+        CHECK(tests::Joined(session.host().TakeDebugLog()) == "");
+        CHECK(tests::TakeRaised(session.host()) == "");
+        const auto value = numberClass.ReadAndRelease(answer);
+        REQUIRE(value.has_value());
+        CHECK(*value == constant.value);
+    }
+    tests::CheckLedger(session.host());
+}
+
+TEST_CASE_TEMPLATE("constants have the stated bits", AnyNumber, Number256, Number2048) {
+    Session session;
+    NumberClass<AnyNumber> numberClass(session);
+    const auto value = [&numberClass](const char* declaration) {
+        return numberClass
+            .ReadAndRelease(
+                numberClass.Call(numberClass.RoutineOf(declaration), {}, standin::ReturnKind::Word))
+            .value();
+    };
+    CHECK(value("Nan as $") == Nan<AnyNumber>());
+    CHECK(value("Zero as $") == Whole<AnyNumber>(0));
+    CHECK(value("One as $") == Whole<AnyNumber>(1));
+    CHECK(value("Max as $") == Largest<AnyNumber>());
+    CHECK(value("Min as $") == Negated(Largest<AnyNumber>()));
+}
+
+TEST_CASE_TEMPLATE("without the debug log operations log nothing", AnyNumber, Number256,
+                   Number2048) {
+    Session session;
+    NumberClass<AnyNumber> numberClass(session);
+    for (const Operation<AnyNumber>& operation : Operations<AnyNumber>()) {
+        INFO(std::string(operation.declaration));
+        std::vector<std::uintptr_t> words(operation.arity, 0);
+        words.push_back(1);
+        const std::uint32_t answer = numberClass.Call(numberClass.RoutineOf(operation.declaration),
+                                                      words, standin::ReturnKind::Word);
+        if (operation.answer == Answer::Number) {
+            numberClass.ReadAndRelease(answer);
+        }
+        const bool raised = !tests::TakeRaised(session.host()).empty();
+        CHECK(raised == (operation.report != Report::None));
+        CHECK(tests::Joined(session.host().TakeDebugLog()) == "");
+    }
+    tests::CheckLedger(session.host());
+}
+
+}  // namespace operation_tests
