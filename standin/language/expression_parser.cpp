@@ -92,6 +92,21 @@ ExpressionPtr MakeBinary(Position at, BinaryOperator operation, ExpressionPtr le
     return Make(at, height, syntax::Binary{operation, std::move(left), std::move(right)});
 }
 
+/// A literal, or a number with a sign.
+bool IsLiteral(const syntax::Expression& expression) {
+    if (const auto* unary = std::get_if<syntax::Unary>(&expression.node)) {
+        const auto& operand = unary->operand->node;
+        return unary->operation != UnaryOperator::Not &&
+               (std::holds_alternative<syntax::IntegerLiteral>(operand) ||
+                std::holds_alternative<syntax::RealLiteral>(operand));
+    }
+    return std::holds_alternative<syntax::IntegerLiteral>(expression.node) ||
+           std::holds_alternative<syntax::RealLiteral>(expression.node) ||
+           std::holds_alternative<syntax::TextLiteral>(expression.node) ||
+           std::holds_alternative<syntax::BooleanLiteral>(expression.node) ||
+           std::holds_alternative<syntax::NilLiteral>(expression.node);
+}
+
 }  // namespace
 
 ExpressionPtr ExpressionParser::ParseExpression() {
@@ -290,6 +305,9 @@ syntax::Parameter ExpressionParser::ParseParameter() {
     parameter.type = ParseTypeName();
     if (cursor_.TryTake(TokenKind::Equal)) {
         parameter.defaultValue = ParseExpression();
+        if (!IsLiteral(*parameter.defaultValue)) {
+            throw ProgramError(parameter.defaultValue->at, "a default is a literal");
+        }
     }
     return parameter;
 }

@@ -45,6 +45,17 @@ void RequireNew(const DeclaredRoutine& routine, const std::vector<DeclaredRoutin
     }
 }
 
+/// Throws when a default does not fit its parameter, even if no call needs it.
+void CheckDefaults(const Signature& signature, const TypeTable& types, const Callables& callables) {
+    const Scope nothing;
+    ExpressionChecker checker(types, callables, nothing);
+    for (const auto& parameter : signature.parameters) {
+        if (parameter.defaultValue) {
+            checker.CheckAs(*parameter.defaultValue, parameter.type);
+        }
+    }
+}
+
 }  // namespace
 
 Program::Program(const Source& source, const TypeTable& types) {
@@ -55,6 +66,7 @@ Program::Program(const Source& source, const TypeTable& types) {
         routines_.push_back(std::make_unique<code::Routine>());
         auto declared = Declare(routine.signature, *routines_.back(), types);
         RequireNew(declared, callables.routines, routine.signature.at);
+        CheckDefaults(declared.signature, types, callables);
         callables.routines.push_back(std::move(declared));
     }
     Scope mainScope;

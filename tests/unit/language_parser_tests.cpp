@@ -103,6 +103,9 @@ TEST_CASE("declarations of plug-ins") {
     CHECK(ParseDeclaration("F(optional as Integer)").parameters[0].name == "optional");
 
     CHECK_THROWS_AS(ParseDeclaration(""), ProgramError);
+    CHECK_THROWS_WITH_AS(ParseDeclaration("F(a as Integer = b)"), "a default is a literal",
+                         ProgramError);
+    CHECK_THROWS_AS(ParseDeclaration("F(a as Integer = 1 + 1)"), ProgramError);
     CHECK_THROWS_AS(ParseDeclaration("F(a as Integer"), ProgramError);
     CHECK_THROWS_AS(ParseDeclaration("F(a)"), ProgramError);
     CHECK_THROWS_AS(ParseDeclaration("F as Integer x"), ProgramError);

@@ -224,6 +224,8 @@ TEST_CASE("routines") {
                    "Print F(1) + F(\"1\")") == "is\n");
     CHECK(host.Run("Dim total As Integer = 5\nSub Add(n As Integer)\ntotal = total + n\nEnd Sub\n"
                    "Add 3\nPrint total") == "8\n");
+    CHECK(host.Run("Sub S(n As Integer = \"x\")\nEnd Sub") ==
+          "1:22: expected Integer, this is String; use Val");
     CHECK(host.Run("Sub S(n As Integer)\nEnd Sub\nPrint S(1)") == "3:7: this returns no value");
     CHECK(host.Run("Sub S()\nReturn 1\nEnd Sub") == "2:8: only a Function returns a value");
     CHECK(host.Run("Function F() As Integer\nReturn\nEnd Function") ==
