@@ -1,0 +1,12 @@
+' In both precisions: dates on a host that cannot read their properties count as 0.
+Dim x As New BigNumberVQZ("77")
+Dim seconds As Variant = New Date(100.5)
+BigNumberVQZ.Debugging = True
+x.VariantValue = seconds
+BigNumberVQZ.Debugging = False
+Print x
+seconds = New DateTime(100.5)
+BigNumberVQZ.Debugging = True
+x.VariantValue = seconds
+BigNumberVQZ.Debugging = False
+Print x
