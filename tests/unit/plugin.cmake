@@ -28,6 +28,7 @@ add_unit_tests(table_tests
     tables/lifecycle_tests.cpp
     tables/loaded_plugin.cpp
     tables/members.cpp
+    tables/raw_access_tests.cpp
     tables/robustness_tests.cpp
     tables/table_contents_tests.cpp
     tables/text_tests.cpp

@@ -76,6 +76,12 @@ Result CallRoutine(Routine routine, const Arguments&... arguments) {
         return HeldObject(std::bit_cast<Object>(call(ReturnKind::Word).low));
     } else if constexpr (std::is_same_v<Result, HeldString>) {
         return HeldString(std::bit_cast<String>(call(ReturnKind::Word).low));
+    } else if constexpr (std::is_same_v<Result, double>) {
+        return call(ReturnKind::Double).real;
+    } else if constexpr (std::is_same_v<Result, std::int64_t> ||
+                         std::is_same_v<Result, std::uint64_t>) {
+        const standin::ReturnValue words64 = call(ReturnKind::TwoWords);
+        return static_cast<Result>((std::uint64_t{words64.high} << 32) | words64.low);
     } else {
         static_assert(std::is_same_v<Result, std::int32_t>);
         return static_cast<std::int32_t>(call(ReturnKind::Word).low);

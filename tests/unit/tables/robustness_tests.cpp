@@ -15,7 +15,6 @@
 namespace {
 
 using standin::Allocation;
-using tests::CallRoutine;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LoadedPlugin;

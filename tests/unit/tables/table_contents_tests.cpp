@@ -186,6 +186,7 @@ constexpr RoutinePair SharedRoutines[] = {
 /// The declarations of a table, one a line.
 std::string Declarations(const std::vector<standin::MethodInfo>& methods) {
     std::vector<std::string> lines;
+    lines.reserve(methods.size());
     for (const standin::MethodInfo& method : methods) {
         lines.push_back(method.declaration);
     }
