@@ -22,6 +22,7 @@ constexpr std::string_view HostClassNames[] = {
     "UnsupportedOperationException",
     "StackOverflowException",
     "TypeMismatchException",
+    "Variant",
     "MemoryBlock",
     "Date",
     "DateTime",

@@ -107,6 +107,7 @@ enum class Flow : std::uint8_t { Next, Exit, Continue, Return };
 
 namespace code {
 
+/// A node that computes a value.
 class Expression {
 public:
     Expression() = default;
@@ -114,11 +115,13 @@ public:
     Expression(const Expression&) = delete;
     Expression& operator=(const Expression&) = delete;
 
+    /// The value; a node that returns nothing answers a value that nobody reads.
     virtual Value Evaluate(Frame& frame) const = 0;
     /// Where the value of a variable is kept; null for every other expression.
     virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }
 };
 
+/// A node that does something.
 class Statement {
 public:
     explicit Statement(Position at) : at_(at) {}
@@ -126,7 +129,9 @@ public:
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
+    /// Runs the statement and tells how it ended.
     virtual Flow Execute(Frame& frame) const = 0;
+    /// Where the statement stands in the program.
     Position at() const { return at_; }
 
 private:
@@ -143,6 +148,7 @@ struct Block {
     std::size_t firstSlot = 0;
     std::size_t endSlot = 0;
 
+    /// Runs the statements until one ends in another way than going on to the next.
     Flow Execute(Frame& frame) const;
 };
 

@@ -40,6 +40,14 @@ private:
     Position position_;
 };
 
+/// Whether a class is another one or descends from it, as programs see it: a Variant that holds a
+/// value is an object to the host only.
+bool IsObjectOf(const ClassInfo& actual, const ClassInfo& wanted, const Host& host) {
+    const auto* variant = host.FindClass("Variant");
+    const bool holdsValue = variant != nullptr && actual.IsA(*variant);
+    return !holdsValue && actual.IsA(wanted);
+}
+
 std::vector<Value> EvaluateAll(const std::vector<Argument>& arguments, Frame& frame) {
     std::vector<Value> values;
     values.reserve(arguments.size());
@@ -53,15 +61,17 @@ std::vector<Value> EvaluateAll(const std::vector<Argument>& arguments, Frame& fr
 
 Value ClassTest::Evaluate(Frame& frame) const {
     const auto value = value_->Evaluate(frame);
+    Host& host = frame.machine.host();
     auto* const object = value.object();
-    return Value::Of(object != nullptr && frame.machine.host().ClassOf(object).IsA(info_));
+    return Value::Of(object != nullptr && IsObjectOf(host.ClassOf(object), info_, host));
 }
 
 Value ClassCast::Evaluate(Frame& frame) const {
     auto value = value_->Evaluate(frame);
     if (auto* const object = value.object()) {
-        const auto& actual = frame.machine.host().ClassOf(object);
-        if (!actual.IsA(info_)) {
+        Host& host = frame.machine.host();
+        const auto& actual = host.ClassOf(object);
+        if (!IsObjectOf(actual, info_, host)) {
             frame.machine.Raise("IllegalCastException",
                                 "A " + actual.name + " is not a " + info_.name + ".");
         }

@@ -21,6 +21,8 @@ struct Checked {
     std::optional<std::int64_t> literal;
     /// Whether it is a variable that may change, and so can be passed by reference.
     bool isVariable = false;
+    /// The value of a literal with a decimal point as an amount of money.
+    std::optional<CurrencyAmount> amount = {};
 };
 
 /// How well an argument fits a parameter, the best first.

@@ -4,6 +4,8 @@
 #include <limits>
 #include <utility>
 
+#include "standin/language/text.hpp"
+
 namespace standin::language {
 namespace {
 
@@ -11,22 +13,6 @@ constexpr std::string_view ConstructorName = "Constructor";
 
 Checked MakeConstant(Value value, Type type, Position at) {
     return {std::make_unique<code::Constant>(std::move(value)), type, at, {}, false};
-}
-
-/// A whole literal is Integer; Int64 where that is too small; UInt64 where that is too small.
-Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at) {
-    constexpr auto LargestInt64 = std::uint64_t{std::numeric_limits<std::int64_t>::max()};
-    if (magnitude > LargestInt64 + (isNegative ? 1 : 0)) {
-        if (isNegative) {
-            throw ProgramError(at, "the number does not fit in 64 bits");
-        }
-        return MakeConstant(Value::Of(magnitude), {Kind::UInt64}, at);
-    }
-    const auto value = static_cast<std::int64_t>(isNegative ? 0U - magnitude : magnitude);
-    const bool isInteger = std::in_range<std::int32_t>(value);
-    auto constant = MakeConstant(Value::Of(value), {isInteger ? Kind::Int32 : Kind::Int64}, at);
-    constant.literal = value;
-    return constant;
 }
 
 std::string LabelOf(const ClassModel& model, const std::string& declaration) {
@@ -99,12 +85,31 @@ Checked ExpressionChecker::CheckNode(const syntax::IntegerLiteral& literal, Posi
     return MakeInteger(literal.value, false, at);
 }
 
-Checked ExpressionChecker::CheckNegativeLiteral(std::uint64_t magnitude, Position at) {
-    return MakeInteger(magnitude, true, at);
+Checked ExpressionChecker::MakeInteger(std::uint64_t magnitude, bool isNegative, Position at) {
+    constexpr auto LargestInt64 = std::uint64_t{std::numeric_limits<std::int64_t>::max()};
+    if (magnitude > LargestInt64 + (isNegative ? 1 : 0)) {
+        if (isNegative) {
+            throw ProgramError(at, "the number does not fit in 64 bits");
+        }
+        return MakeConstant(Value::Of(magnitude), {Kind::UInt64}, at);
+    }
+    const auto value = static_cast<std::int64_t>(isNegative ? 0U - magnitude : magnitude);
+    const bool isInteger = std::in_range<std::int32_t>(value);
+    auto constant = MakeConstant(Value::Of(value), {isInteger ? Kind::Int32 : Kind::Int64}, at);
+    constant.literal = value;
+    return constant;
+}
+
+Checked ExpressionChecker::MakeReal(const syntax::RealLiteral& literal, bool isNegative,
+                                    Position at) {
+    const double value = isNegative ? -literal.value : literal.value;
+    auto constant = MakeConstant(Value::Of(value), {Kind::Double}, at);
+    constant.amount = AmountIn(literal.digits, isNegative);
+    return constant;
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::RealLiteral& literal, Position at) {
-    return MakeConstant(Value::Of(literal.value), {Kind::Double}, at);
+    return MakeReal(literal, false, at);
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::TextLiteral& literal, Position at) {
@@ -170,10 +175,11 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
         }
     }
     auto value = Check(expression);
-    if (value.type.kind != Kind::Instance) {
+    const auto* model = value.type.kind == Kind::Variant ? types_.FindClass(NameOf(value.type))
+                                                         : value.type.model;
+    if (model == nullptr) {
         throw ProgramError(expression.at, NameOf(value.type) + " has no members");
     }
-    const auto* model = value.type.model;
     return {std::move(value), model};
 }
 
@@ -257,7 +263,12 @@ Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const
 
 code::ExpressionPtr ExpressionChecker::MakeHostCall(BuiltInFunction function, Receiver receiver,
                                                     std::vector<code::Argument> arguments) {
-    arguments.insert(arguments.begin(), {std::move(receiver.value->code), Kind::Instance, false});
+    const Kind kind = receiver.value->type.kind;
+    arguments.insert(arguments.begin(), {std::move(receiver.value->code), kind, false});
+    // Nil is a Variant like any other.
+    if (kind == Kind::Variant) {
+        return std::make_unique<code::BuiltInCall>(function, std::move(arguments));
+    }
     return std::make_unique<code::HostMemberCall>(function, std::move(arguments));
 }
 
@@ -363,8 +374,7 @@ Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
 Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at) {
     auto value = Check(*test.value);
     const auto type = types_.Require(test.type);
-    const bool isObject = value.type.kind == Kind::Instance || value.type.kind == Kind::Nil;
-    if (!isObject || type.kind != Kind::Instance) {
+    if (!IsHandle(value.type.kind) || type.kind != Kind::Instance) {
         throw ProgramError(at, "\"IsA\" stands between an object and a class");
     }
     return MakeBoolean(std::make_unique<code::ClassTest>(std::move(value.code), type.model->info()),

@@ -78,8 +78,9 @@ private:
     Checked CheckNode(const syntax::Binary& binary, Position at);
 
     static Checked MakeBoolean(code::ExpressionPtr code, Position at);
-    /// An integer literal after a minus sign.
-    static Checked CheckNegativeLiteral(std::uint64_t magnitude, Position at);
+    /// A whole literal is Integer; Int64 where that is too small; UInt64 where that is too small.
+    static Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at);
+    static Checked MakeReal(const syntax::RealLiteral& literal, bool isNegative, Position at);
     Arguments CheckArguments(const syntax::Expressions& expressions);
     Receiver CheckReceiver(const syntax::Expression& expression);
     Checked CheckMember(Receiver receiver, const std::string& name, Position at);

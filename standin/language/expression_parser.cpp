@@ -192,7 +192,7 @@ ExpressionPtr ExpressionParser::ParsePrimary() {
         case TokenKind::Integer:
             return Make(at, 0, syntax::IntegerLiteral{cursor_.Take().integer});
         case TokenKind::Real:
-            return Make(at, 0, syntax::RealLiteral{cursor_.Take().real});
+            return ParseRealLiteral();
         case TokenKind::Text:
             return Make(at, 0, syntax::TextLiteral{cursor_.Take().text});
         case TokenKind::True:
@@ -212,6 +212,11 @@ ExpressionPtr ExpressionParser::ParsePrimary() {
         default:
             cursor_.Fail("an expression");
     }
+}
+
+ExpressionPtr ExpressionParser::ParseRealLiteral() {
+    auto literal = cursor_.Expect(TokenKind::Real);
+    return Make(literal.at, 0, syntax::RealLiteral{literal.real, std::move(literal.text)});
 }
 
 ExpressionPtr ExpressionParser::ParseParenthesis() {

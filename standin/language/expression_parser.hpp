@@ -55,6 +55,7 @@ private:
     syntax::ExpressionPtr ParsePower();
     syntax::ExpressionPtr ParseExponent();
     syntax::ExpressionPtr ParsePrimary();
+    syntax::ExpressionPtr ParseRealLiteral();
     syntax::ExpressionPtr ParseParenthesis();
     syntax::ExpressionPtr ParseCast();
     syntax::ExpressionPtr ParseClassTest(syntax::ExpressionPtr value);

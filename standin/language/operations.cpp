@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <concepts>
+#include <cstdlib>
 #include <functional>
 #include <limits>
 #include <utility>
@@ -90,6 +91,30 @@ CurrencyAmount Wrapping(CurrencyAmount left, CurrencyAmount right, Operation ope
     return {Wrapping(left.scaled, right.scaled, operation)};
 }
 
+/// The product in ten-thousandths, rounded to the nearest, a half to the even one. Whole part and
+/// rest of each factor are multiplied apart, so that nothing is lost before the rounding.
+CurrencyAmount Multiply(CurrencyAmount left, CurrencyAmount right) {
+    const std::int64_t leftRest = left.scaled % CurrencyScale;
+    const std::int64_t rightRest = right.scaled % CurrencyScale;
+    const std::int64_t restProduct = leftRest * rightRest;
+    const auto wrappingProduct = [](std::int64_t a, std::int64_t b) {
+        return static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b);
+    };
+    std::uint64_t product = wrappingProduct(left.scaled / CurrencyScale, right.scaled) +
+                            wrappingProduct(leftRest, right.scaled / CurrencyScale) +
+                            static_cast<std::uint64_t>(restProduct / CurrencyScale);
+    const std::int64_t lost = std::abs(restProduct % CurrencyScale);
+    constexpr std::int64_t Half = CurrencyScale / 2;
+    if (lost > Half || (lost == Half && product % 2 != 0)) {
+        product += restProduct < 0 ? std::uint64_t(-1) : 1U;
+    }
+    return {static_cast<std::int64_t>(product)};
+}
+
+Value MultiplyCurrency(const Value& left, const Value& right, const Machine& /*machine*/) {
+    return Value::Of(Multiply(left.Get<CurrencyAmount>(), right.Get<CurrencyAmount>()));
+}
+
 template <typename T, typename Operation>
 Value Compute(const Value& left, const Value& right, const Machine& /*machine*/) {
     return Value::Of(Wrapping(left.Get<T>(), right.Get<T>(), Operation{}));
@@ -143,8 +168,10 @@ BinaryFunction FindNumberOperation(BinaryOperator operation) {
     if (operation == BinaryOperator::Subtract) {
         return Compute<T, std::minus<>>;
     }
-    if constexpr (!std::same_as<T, CurrencyAmount>) {
-        if (operation == BinaryOperator::Multiply) {
+    if (operation == BinaryOperator::Multiply) {
+        if constexpr (std::same_as<T, CurrencyAmount>) {
+            return MultiplyCurrency;
+        } else {
             return Compute<T, std::multiplies<>>;
         }
     }

@@ -91,8 +91,6 @@ Kind WorkingKind(BinaryOperator operation, Kind common) {
             return Kind::Double;
         case BinaryOperator::Divide:
             return common == Kind::Single ? Kind::Single : Kind::Double;
-        case BinaryOperator::Multiply:
-            return common == Kind::Currency ? Kind::Double : common;
         case BinaryOperator::IntegerDivide:
         case BinaryOperator::Modulo:
             return IsInteger(common) ? common : Kind::Int64;
@@ -146,9 +144,13 @@ Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
             return CallMethod({std::move(operand), type.model}, methods, false, {}, at);
         }
     }
-    const auto* literal = std::get_if<syntax::IntegerLiteral>(&unary.operand->node);
-    if (isMinus && literal != nullptr) {
-        return CheckNegativeLiteral(literal->value, at);
+    if (const auto* literal = std::get_if<syntax::IntegerLiteral>(&unary.operand->node);
+        isMinus && literal != nullptr) {
+        return MakeInteger(literal->value, true, at);
+    }
+    if (const auto* literal = std::get_if<syntax::RealLiteral>(&unary.operand->node);
+        isMinus && literal != nullptr) {
+        return MakeReal(*literal, true, at);
     }
     const auto function = isMinus ? FindNegation(type.kind) : FindComplement(type.kind);
     if (function == nullptr) {

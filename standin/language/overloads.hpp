@@ -14,6 +14,7 @@ namespace standin::language {
 /// Routines of one name, as they were declared.
 using Candidates = std::vector<const Signature*>;
 
+/// The heads of methods, in their order.
 Candidates SignaturesOf(const std::vector<const Method*>& methods);
 
 /// What a search among candidates found.

@@ -11,6 +11,7 @@
 
 namespace standin::language {
 
+/// Makes the body of one routine, or of the main program. Throws ProgramError at the first mistake.
 class StatementChecker {
 public:
     /// `result` is what the routine returns; missing in the main program, which returns nothing.

@@ -55,6 +55,8 @@ struct IntegerLiteral {
 };
 struct RealLiteral {
     double value;
+    /// As written: a Currency takes more of them than a Double holds.
+    std::string digits;
 };
 struct TextLiteral {
     std::string value;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,10 @@ std::string ShortestText(float value);
 std::string TextOf(CurrencyAmount amount);
 /// "True" or "False".
 std::string_view TextOf(bool value);
+
+/// The amount that digits with a decimal point tell, rounded to four places, a half to the even
+/// one. None when Currency cannot hold it, or when the digits have an exponent.
+std::optional<CurrencyAmount> AmountIn(std::string_view digits, bool isNegative);
 
 /// The number that a text begins with, 0 when it begins with none; `&h`, `&b` and `&o` forms,
 /// "inf" and "nan" count as numbers.
