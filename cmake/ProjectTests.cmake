@@ -4,17 +4,19 @@
 set(BIGNUMBERVQZ_TEST_PREFIX "" CACHE STRING "What the name of every test begins with")
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
-# add_project_test(NAME kind/name COMMAND word...)
+# add_project_test(NAME kind/name [ALONE] [TIMEOUT seconds] COMMAND word...)
 #
-# One test, run in the source folder.
+# One test, run in the source folder; ALONE when it keeps all processors busy by itself.
 function(add_project_test)
-  cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;TIMEOUT" "COMMAND")
+  cmake_parse_arguments(PARSE_ARGV 0 arg "ALONE" "NAME;TIMEOUT" "COMMAND")
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
   string(REGEX REPLACE "^/" "" name "${BIGNUMBERVQZ_TEST_PREFIX}/${arg_NAME}")
   add_test(NAME "${name}" COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
-  set_tests_properties("${name}" PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  set_tests_properties("${name}" PROPERTIES
+    TIMEOUT ${arg_TIMEOUT}
+    RUN_SERIAL "${arg_ALONE}")
 endfunction()
 
 # add_unit_tests(target SOURCES file... [LIBRARIES target...])
@@ -85,7 +87,7 @@ function(add_lint_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests")
   add_project_test(NAME lint/format
     COMMAND Python3::Interpreter "${tests}/lint.py" format "${PROJECT_SOURCE_DIR}")
-  add_project_test(NAME lint/tidy
+  add_project_test(NAME lint/tidy ALONE
     TIMEOUT 1800
     COMMAND Python3::Interpreter "${tests}/lint.py" tidy
       "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}")
