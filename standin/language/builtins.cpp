@@ -58,6 +58,18 @@ Value VarType(const Arguments& arguments, const Machine& machine) {
     return Value::Of(machine.host().VariantType(arguments[0].object()));
 }
 
+/// A Variant with any type code, also one that no value of the language has; what it holds is taken
+/// from another.
+Value VariantOfType(const Arguments& arguments, const Machine& machine) {
+    Host& host = machine.host();
+    auto variant = Value::Adopt(host.MakeVariant(arguments[0].Get<std::int32_t>(),
+                                                 host.VariantContents(arguments[1].object())));
+    if (variant.object() == nullptr) {
+        machine.Raise("OutOfMemoryException", "There is no memory for a new Variant.");
+    }
+    return variant;
+}
+
 // Parts of text ----------------------------------------------------------------------------------
 
 /// How a text is cut: into the characters of its encoding, or into bytes.
@@ -196,6 +208,7 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Currency) As String", TextOfNumber<CurrencyAmount>},
     {"Str(value As Boolean) As String", TextOfBoolean},
     {"VarType(value As Variant) As Integer", VarType},
+    {"VariantOfType(typeCode As Integer, value As Variant) As Variant", VariantOfType},
     {"Val(text As String) As Double", Val},
     {"Hex(value As Int32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},

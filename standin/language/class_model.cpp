@@ -116,7 +116,12 @@ ClassModel& TypeTable::AddClass(const ClassInfo& info) {
 
 void TypeTable::AddMembers(ClassModel& model) const {
     const auto& info = model.info();
-    const auto readMethod = [this](const MethodInfo& method) { return ReadMethod(method); };
+    const auto readMethod = [this](const MethodInfo& method) -> Method {
+        return {.signature = ReadDeclaration(method.declaration),
+                .function = method.function,
+                .setter = method.setter,
+                .host = {}};
+    };
     const auto readProperty = [this](const PropertyInfo& property) {
         return ReadProperty(property);
     };
@@ -130,21 +135,18 @@ void TypeTable::AddMembers(ClassModel& model) const {
 
 void TypeTable::AddHostMembers(ClassModel& model) const {
     for (const auto& member : HostPropertiesOf(model.name())) {
-        const std::string declaration(member.declaration);
-        auto signature = Resolve(ParseDeclaration(declaration), declaration);
+        auto signature = ReadDeclaration(member.declaration);
         model.properties.push_back({.name = std::move(signature.name),
                                     .type = signature.result,
-                                    .declaration = declaration,
-                                    .problem = {},
+                                    .declaration = std::move(signature.declaration),
+                                    .problem = std::move(signature.problem),
                                     .host = {member.function, member.setter}});
     }
     const auto addMethods = [&](const std::vector<HostMember>& members, bool areFactories) {
         for (const auto& member : members) {
-            const std::string declaration(member.declaration);
-            model.methods.push_back(
-                {.signature = Resolve(ParseDeclaration(declaration), declaration),
-                 .host = {member.function, member.setter},
-                 .isFactory = areFactories});
+            model.methods.push_back({.signature = ReadDeclaration(member.declaration),
+                                     .host = {member.function, member.setter},
+                                     .isFactory = areFactories});
         }
     };
     addMethods(HostMethodsOf(model.name()), false);
@@ -152,16 +154,16 @@ void TypeTable::AddHostMembers(ClassModel& model) const {
     addMethods(HostFactoriesOf(model.name()), true);
 }
 
-Method TypeTable::ReadMethod(const MethodInfo& info) const {
-    Method method{.signature = {}, .function = info.function, .setter = info.setter, .host = {}};
+Signature TypeTable::ReadDeclaration(std::string_view declaration) const {
     try {
-        method.signature = Resolve(ParseDeclaration(info.declaration), info.declaration);
+        return Resolve(ParseDeclaration(declaration), std::string(declaration));
     } catch (const ProgramError& error) {
-        method.signature.name = LeadingName(info.declaration);
-        method.signature.declaration = info.declaration;
-        method.signature.problem = error.what();
+        Signature unusable;
+        unusable.name = LeadingName(declaration);
+        unusable.declaration = declaration;
+        unusable.problem = error.what();
+        return unusable;
     }
-    return method;
 }
 
 Property TypeTable::ReadProperty(const PropertyInfo& info) const {

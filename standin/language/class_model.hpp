@@ -115,7 +115,8 @@ private:
     ClassModel& AddClass(const ClassInfo& info);
     void AddMembers(ClassModel& model) const;
     void AddHostMembers(ClassModel& model) const;
-    Method ReadMethod(const MethodInfo& info) const;
+    /// The signature that a declaration tells; what is wrong with it becomes its problem.
+    Signature ReadDeclaration(std::string_view declaration) const;
     Property ReadProperty(const PropertyInfo& info) const;
 
     std::map<std::string, std::unique_ptr<ClassModel>, NameLess> classes_;

@@ -40,14 +40,6 @@ private:
     Position position_;
 };
 
-/// Whether a class is another one or descends from it, as programs see it: a Variant that holds a
-/// value is an object to the host only.
-bool IsObjectOf(const ClassInfo& actual, const ClassInfo& wanted, const Host& host) {
-    const auto* variant = host.FindClass("Variant");
-    const bool holdsValue = variant != nullptr && actual.IsA(*variant);
-    return !holdsValue && actual.IsA(wanted);
-}
-
 std::vector<Value> EvaluateAll(const std::vector<Argument>& arguments, Frame& frame) {
     std::vector<Value> values;
     values.reserve(arguments.size());
@@ -60,22 +52,12 @@ std::vector<Value> EvaluateAll(const std::vector<Argument>& arguments, Frame& fr
 }  // namespace
 
 Value ClassTest::Evaluate(Frame& frame) const {
-    const auto value = value_->Evaluate(frame);
-    Host& host = frame.machine.host();
-    auto* const object = value.object();
-    return Value::Of(object != nullptr && IsObjectOf(host.ClassOf(object), info_, host));
+    return Value::Of(IsObjectOf(value_->Evaluate(frame), info_, frame.machine));
 }
 
 Value ClassCast::Evaluate(Frame& frame) const {
     auto value = value_->Evaluate(frame);
-    if (auto* const object = value.object()) {
-        Host& host = frame.machine.host();
-        const auto& actual = host.ClassOf(object);
-        if (!IsObjectOf(actual, info_, host)) {
-            frame.machine.Raise("IllegalCastException",
-                                "A " + actual.name + " is not a " + info_.name + ".");
-        }
-    }
+    RequireObjectOf(value, info_, frame.machine);
     return value;
 }
 

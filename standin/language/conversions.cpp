@@ -95,7 +95,8 @@ Checked ConvertOut(Checked value, Type to, const Method& method) {
 /// A whole literal becomes one of the other kind at once; one with a decimal point an amount.
 Checked ConvertNumber(Checked value, Type to) {
     if (to.kind == Kind::Currency && value.amount) {
-        return {std::make_unique<code::Constant>(Value::Of(*value.amount)), to, value.at, {}, false};
+        return {
+            std::make_unique<code::Constant>(Value::Of(*value.amount)), to, value.at, {}, false};
     }
     const auto conversion = FindConversion(value.type.kind, to.kind);
     const auto literal = IsInteger(to.kind) ? value.literal : std::nullopt;

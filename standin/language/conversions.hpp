@@ -21,7 +21,7 @@ struct Checked {
     std::optional<std::int64_t> literal;
     /// Whether it is a variable that may change, and so can be passed by reference.
     bool isVariable = false;
-    /// The value of a literal with a decimal point as an amount of money.
+    /// The value of a literal with a decimal point, where it is an amount of money exactly.
     std::optional<CurrencyAmount> amount = {};
 };
 

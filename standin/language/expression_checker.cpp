@@ -175,8 +175,8 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
         }
     }
     auto value = Check(expression);
-    const auto* model = value.type.kind == Kind::Variant ? types_.FindClass(NameOf(value.type))
-                                                         : value.type.model;
+    const auto* model =
+        value.type.kind == Kind::Variant ? types_.FindClass(NameOf(value.type)) : value.type.model;
     if (model == nullptr) {
         throw ProgramError(expression.at, NameOf(value.type) + " has no members");
     }

@@ -1,13 +1,16 @@
 #include "standin/language/host_members.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <span>
 #include <string>
 
 #include "standin/language/names.hpp"
+#include "standin/language/operations.hpp"
 
 namespace standin::language {
 namespace {
@@ -54,17 +57,31 @@ Value RequireMade(Object object, std::string_view className, const Machine& mach
     return made;
 }
 
-Value MakeMemoryBlock(const Arguments& arguments, const Machine& machine) {
-    const auto size = arguments[0].Get<std::int32_t>();
+/// A size for a MemoryBlock: what is no size raises, and so does more than there could be.
+std::size_t RequireSize(const Value& value, const Machine& machine) {
+    constexpr std::int32_t LargestSize = 256 * 1024 * 1024;
+    const auto size = value.Get<std::int32_t>();
     if (size < 0) {
         machine.Raise("OutOfBoundsException", "A MemoryBlock has no negative size.");
     }
-    const std::string bytes(static_cast<std::size_t>(size), '\0');
+    if (size > LargestSize) {
+        machine.Raise("OutOfMemoryException", "There is no memory for so large a MemoryBlock.");
+    }
+    return static_cast<std::size_t>(size);
+}
+
+Value MakeMemoryBlock(const Arguments& arguments, const Machine& machine) {
+    const std::string bytes(RequireSize(arguments[0], machine), '\0');
     return RequireMade(machine.host().MakeMemoryBlock(bytes), "MemoryBlock", machine);
 }
 
 Value GetSize(const Arguments& arguments, const Machine& machine) {
     return Value::Of(machine.host().BlockBytes(arguments[0].object()).size());
+}
+
+Value SetSize(const Arguments& arguments, const Machine& machine) {
+    machine.host().ResizeBlock(arguments[0].object(), RequireSize(arguments[1], machine));
+    return {};
 }
 
 /// The bytes from an offset on, of which there must be `size`.
@@ -99,6 +116,17 @@ Value GetBytes(const Arguments& arguments, const Machine& machine) {
     return machine.MakeText(text, HostTextEncoding::Unknown);
 }
 
+/// Exactly that many bytes: a longer text is cut, a shorter one leaves zeros behind it.
+Value SetBytes(const Arguments& arguments, const Machine& machine) {
+    const auto size = static_cast<std::uint32_t>(arguments[2].Get<std::int32_t>());
+    const auto bytes = std::as_writable_bytes(BytesAt(arguments, size, machine));
+    const auto text = machine.host().Bytes(arguments[3].text());
+    const auto given = std::as_bytes(std::span(text)).first(std::min(text.size(), bytes.size()));
+    const auto rest = std::ranges::copy(given, bytes.begin()).out;
+    std::fill(rest, bytes.end(), std::byte{});
+    return {};
+}
+
 // Date and DateTime ------------------------------------------------------------------------------
 
 Value MakeDate(const Arguments& arguments, const Machine& machine) {
@@ -114,17 +142,81 @@ Value GetSeconds(const Arguments& arguments, const Machine& machine) {
     return Value::Of(machine.host().Seconds(arguments[0].object()));
 }
 
+Value SetSeconds(const Arguments& arguments, const Machine& machine) {
+    machine.host().SetSeconds(arguments[0].object(), arguments[1].Get<double>());
+    return {};
+}
+
+/// The time now: seconds from the beginning of 1904, as the host's Dates count them.
+Value MakeDateNow(const Arguments& /*arguments*/, const Machine& machine) {
+    constexpr double SecondsFrom1904To1970 = 2082844800.0;
+    const auto now = static_cast<double>(std::time(nullptr));
+    return RequireMade(machine.host().MakeDate(SecondsFrom1904To1970 + now), "Date", machine);
+}
+
+// Variant ----------------------------------------------------------------------------------------
+
+template <Kind To>
+Value Unboxed(const Arguments& arguments, const Machine& machine) {
+    return FindUnboxing(To)(arguments[0], machine);
+}
+
+/// The object that a Variant is; a Variant that holds a value, or another object, raises.
+template <const char* ClassName>
+Value Itself(const Arguments& arguments, const Machine& machine) {
+    const auto* info = machine.host().FindClass(ClassName);
+    if (info != nullptr) {
+        RequireObjectOf(arguments[0], *info, machine);
+    }
+    return arguments[0];
+}
+
+constexpr char ObjectClass[] = "Object";
+constexpr char DateClass[] = "Date";
+constexpr char DateTimeClass[] = "DateTime";
+
+Value TypeCode(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(machine.host().VariantType(arguments[0].object()));
+}
+
+Value IsNull(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(machine.host().VariantType(arguments[0].object()) == 0);
+}
+
 constexpr auto Properties = std::to_array<HostMember>({
     {"RuntimeException", "Message As String", GetMessage, SetMessage},
     {"RuntimeException", "ErrorNumber As Integer", GetErrorNumber, SetErrorNumber},
-    {"MemoryBlock", "Size As Integer", GetSize, nullptr},
-    {"Date", "TotalSeconds As Double", GetSeconds, nullptr},
+    {"MemoryBlock", "Size As Integer", GetSize, SetSize},
+    {"Date", "TotalSeconds As Double", GetSeconds, SetSeconds},
     {"DateTime", "SecondsFrom1970 As Double", GetSeconds, nullptr},
+    {"Variant", "Type As Integer", TypeCode, nullptr},
+    {"Variant", "IsNull As Boolean", IsNull, nullptr},
+    {"Variant", "BooleanValue As Boolean", Unboxed<Kind::Boolean>, nullptr},
+    {"Variant", "IntegerValue As Integer", Unboxed<Kind::Int32>, nullptr},
+    {"Variant", "Int32Value As Int32", Unboxed<Kind::Int32>, nullptr},
+    {"Variant", "UInt32Value As UInt32", Unboxed<Kind::UInt32>, nullptr},
+    {"Variant", "Int64Value As Int64", Unboxed<Kind::Int64>, nullptr},
+    {"Variant", "UInt64Value As UInt64", Unboxed<Kind::UInt64>, nullptr},
+    {"Variant", "SingleValue As Single", Unboxed<Kind::Single>, nullptr},
+    {"Variant", "DoubleValue As Double", Unboxed<Kind::Double>, nullptr},
+    {"Variant", "CurrencyValue As Currency", Unboxed<Kind::Currency>, nullptr},
+    {"Variant", "StringValue As String", Unboxed<Kind::Text>, nullptr},
+    {"Variant", "ObjectValue As Object", Itself<ObjectClass>, nullptr},
+    {"Variant", "DateValue As Date", Itself<DateClass>, nullptr},
+    {"Variant", "DateTimeValue As DateTime", Itself<DateTimeClass>, nullptr},
 });
 
 constexpr auto Methods = std::to_array<HostMember>({
     {"MemoryBlock", "Byte(offset As Integer) As Integer", GetNumber<std::uint8_t>,
      SetNumber<std::uint8_t>},
+    {"MemoryBlock", "Int8Value(offset As Integer) As Integer", GetNumber<std::int8_t>,
+     SetNumber<std::int8_t>},
+    {"MemoryBlock", "UInt8Value(offset As Integer) As Integer", GetNumber<std::uint8_t>,
+     SetNumber<std::uint8_t>},
+    {"MemoryBlock", "Int16Value(offset As Integer) As Integer", GetNumber<std::int16_t>,
+     SetNumber<std::int16_t>},
+    {"MemoryBlock", "UInt16Value(offset As Integer) As Integer", GetNumber<std::uint16_t>,
+     SetNumber<std::uint16_t>},
     {"MemoryBlock", "Int32Value(offset As Integer) As Int32", GetNumber<std::int32_t>,
      SetNumber<std::int32_t>},
     {"MemoryBlock", "UInt32Value(offset As Integer) As UInt32", GetNumber<std::uint32_t>,
@@ -133,9 +225,13 @@ constexpr auto Methods = std::to_array<HostMember>({
      SetNumber<std::int64_t>},
     {"MemoryBlock", "UInt64Value(offset As Integer) As UInt64", GetNumber<std::uint64_t>,
      SetNumber<std::uint64_t>},
+    {"MemoryBlock", "SingleValue(offset As Integer) As Single", GetNumber<float>, SetNumber<float>},
     {"MemoryBlock", "DoubleValue(offset As Integer) As Double", GetNumber<double>,
      SetNumber<double>},
-    {"MemoryBlock", "StringValue(offset As Integer, size As Integer) As String", GetBytes, nullptr},
+    {"MemoryBlock", "CurrencyValue(offset As Integer) As Currency", GetNumber<CurrencyAmount>,
+     SetNumber<CurrencyAmount>},
+    {"MemoryBlock", "StringValue(offset As Integer, size As Integer) As String", GetBytes,
+     SetBytes},
 });
 
 constexpr auto Constructors = std::to_array<HostMember>({
@@ -145,6 +241,7 @@ constexpr auto Constructors = std::to_array<HostMember>({
 
 constexpr auto Factories = std::to_array<HostMember>({
     {"MemoryBlock", "Constructor(size As Integer)", MakeMemoryBlock, nullptr},
+    {"Date", "Constructor()", MakeDateNow, nullptr},
     {"Date", "Constructor(totalSeconds As Double)", MakeDate, nullptr},
     {"DateTime", "Constructor(secondsFrom1970 As Double)", MakeDateTime, nullptr},
 });

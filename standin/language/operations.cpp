@@ -377,6 +377,24 @@ UnaryFunction FindUnboxing(Kind to) {
         to, []<typename T>(std::type_identity<T>) -> UnaryFunction { return UnboxNumber<T>; });
 }
 
+bool IsObjectOf(const Value& object, const ClassInfo& info, const Machine& machine) {
+    if (object.object() == nullptr) {
+        return false;
+    }
+    Host& host = machine.host();
+    const auto& actual = host.ClassOf(object.object());
+    const auto* variant = host.FindClass("Variant");
+    const bool holdsValue = variant != nullptr && actual.IsA(*variant);
+    return !holdsValue && actual.IsA(info);
+}
+
+void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine) {
+    if (object.object() != nullptr && !IsObjectOf(object, info, machine)) {
+        machine.Raise("IllegalCastException", "A " + machine.host().ClassOf(object.object()).name +
+                                                  " is not a " + info.name + ".");
+    }
+}
+
 UnaryFunction FindNegation(Kind kind) {
     if (!IsNumber(kind)) {
         return nullptr;

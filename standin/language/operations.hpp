@@ -22,6 +22,12 @@ UnaryFunction FindConversion(Kind from, Kind to);
 UnaryFunction FindBoxing(Kind from);
 UnaryFunction FindUnboxing(Kind to);
 
+/// Whether an object is one of that class. Nil is of no class, and a Variant that holds a value is
+/// no object to a program.
+bool IsObjectOf(const Value& object, const ClassInfo& info, const Machine& machine);
+/// Raises IllegalCastException for an object of another class. Nil passes.
+void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine);
+
 /// `-value`; null where the kind has none.
 UnaryFunction FindNegation(Kind kind);
 /// `Not value`: logical on Booleans, bitwise on integers; null on other kinds.

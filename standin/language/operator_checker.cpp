@@ -110,7 +110,7 @@ bool FitsIn(std::int64_t literal, Kind kind) {
 }
 
 /// The kind in which two numbers meet. A whole literal takes the integer kind of the other operand
-/// where it fits.
+/// where it fits, one with a decimal point takes the side of Currency.
 Kind MeetingKind(const Checked& left, const Checked& right) {
     const Kind leftKind = left.type.kind;
     const Kind rightKind = right.type.kind;
@@ -122,7 +122,9 @@ Kind MeetingKind(const Checked& left, const Checked& right) {
     if (isLeftOnlyLiteral && FitsIn(*left.literal, rightKind)) {
         return rightKind;
     }
-    return CommonKind(leftKind, rightKind);
+    const bool isAmountOnRight = leftKind == Kind::Currency && right.amount;
+    const bool isAmountOnLeft = rightKind == Kind::Currency && left.amount;
+    return isAmountOnRight || isAmountOnLeft ? Kind::Currency : CommonKind(leftKind, rightKind);
 }
 
 }  // namespace

@@ -172,22 +172,17 @@ std::optional<CurrencyAmount> AmountIn(std::string_view digits, bool isNegative)
     constexpr std::size_t Places = 4;
     const auto point = std::min(digits.find('.'), digits.size());
     auto fraction = digits.substr(std::min(point + 1, digits.size()));
-    if (digits.find_first_not_of("0123456789.") != std::string_view::npos) {
+    fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
+    const bool isPlain = digits.find_first_not_of("0123456789.") == std::string_view::npos;
+    if (!isPlain || fraction.size() > Places) {
         return std::nullopt;
     }
-    auto kept = std::string(digits.substr(0, point)) + std::string(fraction.substr(0, Places));
-    kept.append(Places - std::min(Places, fraction.size()), '0');
+    auto all = std::string(digits.substr(0, point)) + std::string(fraction);
+    all.append(Places - fraction.size(), '0');
     std::uint64_t magnitude = 0;
-    if (std::from_chars(kept.data(), kept.data() + kept.size(), magnitude).ec != std::errc{}) {
-        return std::nullopt;
-    }
-    fraction.remove_prefix(std::min(Places, fraction.size()));
-    const bool isHalf = fraction.starts_with('5') &&
-                        fraction.find_first_not_of('0', 1) == std::string_view::npos;
-    const bool isMore = !fraction.empty() && fraction.front() >= '5' && !isHalf;
-    magnitude += isMore || (isHalf && magnitude % 2 != 0) ? 1 : 0;
+    const auto result = std::from_chars(all.data(), all.data() + all.size(), magnitude);
     constexpr auto Largest = std::uint64_t{std::numeric_limits<std::int64_t>::max()};
-    if (magnitude > Largest + (isNegative ? 1 : 0)) {
+    if (result.ec != std::errc{} || magnitude > Largest + (isNegative ? 1 : 0)) {
         return std::nullopt;
     }
     return CurrencyAmount{static_cast<std::int64_t>(isNegative ? 0U - magnitude : magnitude)};

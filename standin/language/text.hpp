@@ -26,8 +26,8 @@ std::string TextOf(CurrencyAmount amount);
 /// "True" or "False".
 std::string_view TextOf(bool value);
 
-/// The amount that digits with a decimal point tell, rounded to four places, a half to the even
-/// one. None when Currency cannot hold it, or when the digits have an exponent.
+/// The amount that digits with a decimal point tell. None when Currency cannot hold it exactly, or
+/// when the digits have an exponent.
 std::optional<CurrencyAmount> AmountIn(std::string_view digits, bool isNegative);
 
 /// The number that a text begins with, 0 when it begins with none; `&h`, `&b` and `&o` forms,

@@ -283,6 +283,16 @@ std::span<std::byte> Host::BlockBytes(Object block) {
                               : std::span(payload->bytes.data(), payload->bytes.size());
 }
 
+void Host::ResizeBlock(Object block, std::size_t size) {
+    auto* const payload = state_->objects.PayloadOf<BlockPayload>(block, HostUser);
+    if (payload == nullptr) {
+        return;
+    }
+    VisibleMemory resized(size);
+    std::copy_n(payload->bytes.data(), std::min(size, payload->bytes.size()), resized.data());
+    payload->bytes = std::move(resized);
+}
+
 Object Host::MakeDate(double totalSeconds) {
     return state_->objects.Make(state_->Class("Date"), DatePayload{totalSeconds});
 }
@@ -294,6 +304,12 @@ Object Host::MakeDateTime(double secondsFrom1970) {
 double Host::Seconds(Object date) {
     const auto* payload = state_->objects.PayloadOf<DatePayload>(date, HostUser);
     return payload == nullptr ? 0.0 : payload->seconds;
+}
+
+void Host::SetSeconds(Object date, double seconds) {
+    if (auto* const payload = state_->objects.PayloadOf<DatePayload>(date, HostUser)) {
+        payload->seconds = seconds;
+    }
 }
 
 // Calls -----------------------------------------------------------------------------------------

@@ -216,12 +216,15 @@ public:
     Object MakeMemoryBlock(std::string_view bytes);
     /// The bytes of a memory block, to read and to write.
     std::span<std::byte> BlockBytes(Object block);
+    /// Gives a memory block another size; bytes that are new are zero. Throws std::bad_alloc.
+    void ResizeBlock(Object block, std::size_t size);
     /// A "Date" with that "TotalSeconds".
     Object MakeDate(double totalSeconds);
     /// A "DateTime" with that "SecondsFrom1970".
     Object MakeDateTime(double secondsFrom1970);
     /// The seconds of either.
     double Seconds(Object date);
+    void SetSeconds(Object date, double seconds);
 
     // Calls ----------------------------------------------------------------------------------
     /// Calls a routine of the plug-in with these argument words, in the way `options()` tell.

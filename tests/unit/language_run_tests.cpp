@@ -78,6 +78,16 @@ TEST_CASE("currency counts in ten-thousandths") {
     CHECK(host.Run("Dim c As Currency = 5\nPrint c\nDim i As Integer = c\nPrint i\nPrint c = 5") ==
           "5\n5\nTrue\n");
     CHECK(host.Run("Dim c As Currency = -0.5\nPrint c") == "-0.5\n");
+    CHECK(host.Run("Dim c As Currency = 922337203685477.5807\nPrint c\nPrint c - 0.0001\n"
+                   "c = -922337203685477.5808\nPrint c\nc = 0.00005\nPrint c\nc = 0.00016\n"
+                   "Print c\nc = -0.00016\nPrint c\nc = 1.25e2\nPrint c") ==
+          "922337203685477.5807\n922337203685477.5806\n-922337203685477.5808\n0\n0.0002\n"
+          "-0.0002\n125\n");
+    CHECK(host.Run("Dim c As Currency = 922337203685477.5807, d As Currency = 0.0001\nPrint c * 1\n"
+                   "Print c * d\nPrint -c * d\nd = 1.0001\nPrint d * d\nc = 30000000.0005\n"
+                   "Print c * c\nc = 0.5\nd = 0.0001\nPrint c * d\nd = 0.0003\nPrint c * d") ==
+          "922337203685477.5807\n92233720368.5478\n-92233720368.5478\n1.0002\n"
+          "900000000030000\n0\n0.0002\n");
 }
 
 TEST_CASE("comparisons") {

@@ -73,11 +73,22 @@ TEST_CASE("memory blocks") {
                  "Print LenB(m.StringValue(2, 3))\nPrint s.BlockSize(m)\nPrint s.BlockSize(Nil)") ==
         "8\n2\n512\n18446744073709551615\n0.5\n3\n8\n-1\n");
     CHECK(host.Run("Print (New MemoryBlock(0)).Size") == "0\n");
-    CHECK(host.Run("Dim m As New MemoryBlock(4)\nm.Size = 5") ==
-          "2:3: \"Size As Integer\" is read-only");
+    CHECK(host.Run("Dim m As New MemoryBlock(4)\nm.UInt32Value(0) = &h04030201\nm.Size = 5\n"
+                   "Print m.Size\nPrint m.Byte(4)\nm.Size = 2\nPrint m.UInt16Value(0)\n"
+                   "m.Size = 4\nPrint m.UInt32Value(0)") == "5\n0\n513\n513\n");
+    CHECK(host.Run("Dim m As New MemoryBlock(8)\nm.Int8Value(0) = 255\nPrint m.Int8Value(0)\n"
+                   "m.Int16Value(0) = 65534\nPrint m.Int16Value(0)\nm.SingleValue(4) = 1.5\n"
+                   "Print m.SingleValue(4)\nm.CurrencyValue(0) = 1.25\nPrint m.Int32Value(0)") ==
+          "-1\n-2\n1.5\n12500\n");
+    CHECK(host.Run("Dim m As New MemoryBlock(4)\nm.UInt32Value(0) = &hFFFFFFFF\n"
+                   "m.StringValue(1, 2) = \"abc\"\nPrint Hex(m.UInt32Value(0))\n"
+                   "m.StringValue(0, 4) = \"A\"\nPrint m.UInt32Value(0)") == "FF6261FF\n65\n");
     const std::string beyond =
         "Unhandled OutOfBoundsException: The MemoryBlock ends before that. "
         "(line 2)\n";
+    CHECK(host.Run("\nDim m As New MemoryBlock(1)\nm.Size = 2000000000") ==
+          "Unhandled OutOfMemoryException: There is no memory for so large a MemoryBlock. "
+          "(line 3)\n");
     const std::string make = "Dim m As New MemoryBlock(4)\n";
     CHECK(host.Run(make + "Print m.Byte(4)") == beyond);
     CHECK(host.Run(make + "Print m.Byte(-1)") == beyond);
@@ -94,6 +105,46 @@ TEST_CASE("dates know their seconds") {
     SampleHost host;
     CHECK(host.Run("Dim d As New Date(3600.5)\nPrint d.TotalSeconds\nDim t As New DateTime(60)\n"
                    "Print t.SecondsFrom1970") == "3600.5\n60\n");
-    CHECK(host.Run("Dim d As New Date")
-              .starts_with("1:14: \"New Date\" has 0 arguments, but \"Constructor(totalSeconds"));
+    CHECK(host.Run("Dim d As New Date(1)\nd.TotalSeconds = 2.5\nPrint d.TotalSeconds") == "2.5\n");
+    CHECK(host.Run("Dim d As New Date\nPrint d.TotalSeconds > 3800000000") == "True\n");
+    CHECK(host.Run("Dim t As New DateTime(0)\nt.SecondsFrom1970 = 1") ==
+          "2:3: \"SecondsFrom1970 As Double\" is read-only");
+}
+
+TEST_CASE("a Variant has its value in every type") {
+    SampleHost host;
+    CHECK(host.Run("Dim v As Variant = \"12.5\"\nPrint v.IntegerValue\nPrint v.Int32Value\n"
+                   "Print v.Int64Value\nPrint v.UInt32Value\nPrint v.UInt64Value\n"
+                   "Print v.SingleValue\nPrint v.DoubleValue\nPrint v.CurrencyValue\n"
+                   "Print v.StringValue\nPrint v.BooleanValue\nPrint v.Type\nPrint v.IsNull") ==
+          "12\n12\n12\n12\n12\n12.5\n12.5\n12.5\n12.5\nTrue\n8\nFalse\n");
+    CHECK(host.Run("Dim v As Variant\nPrint v.IntegerValue\nPrint v.StringValue\nPrint v.Type\n"
+                   "Print v.IsNull\nPrint v.ObjectValue Is Nil") == "0\n\n0\nTrue\nTrue\n");
+    CHECK(host.Run("Dim s As New Sample, v As Variant = s\nPrint v.ObjectValue Is s\n"
+                   "v = New Date(7)\nPrint v.DateValue.TotalSeconds\nv = New DateTime(8)\n"
+                   "Print v.DateTimeValue.SecondsFrom1970\nPrint v.Type") == "True\n7\n8\n38\n");
+    CHECK(host.Run("Dim v As Variant = 5\nDim o As Object = v.ObjectValue") ==
+          "Unhandled IllegalCastException: A Variant is not a Object. (line 2)\n");
+    CHECK(host.Run("Dim v As Variant = 5\nPrint v IsA Object\nv = New Sample\nPrint v IsA Object\n"
+                   "Print v IsA Sample\nPrint v IsA Date\nv = Nil\nPrint v IsA Object") ==
+          "False\nTrue\nTrue\nFalse\nFalse\n");
+    CHECK(host.Run("Dim v As Variant\nv.IntegerValue = 5") ==
+          "2:3: \"IntegerValue As Integer\" is read-only");
+}
+
+TEST_CASE("a Variant can be given any type code") {
+    SampleHost host;
+    CHECK(host.Run("Dim v As Variant = VariantOfType(16, 255)\nPrint VarType(v)\nPrint v") ==
+          "16\n255\n");
+    CHECK(host.Run("Dim v As Variant = VariantOfType(37, \"text\")\nPrint v.Type\nPrint v") ==
+          "37\ntext\n");
+    CHECK(
+        host.Run("Print VarType(VariantOfType(4098, Nil))\nPrint VarType(VariantOfType(-1, 1))") ==
+        "4098\n-1\n");
+}
+
+TEST_CASE("a class that the host lacks takes only its own members away") {
+    SampleHost host({.missing = {"Date"}});
+    CHECK(host.Run("Dim v As Variant = 5\nPrint v.IntegerValue\nPrint v.DateValue Is Nil") ==
+          "3:9: cannot use \"DateValue As Date\": there is no type \"Date\"");
 }
