@@ -32,6 +32,7 @@ add_unit_tests(table_tests
     tables/robustness_tests.cpp
     tables/table_contents_tests.cpp
     tables/text_tests.cpp
+    tables/variant_tests.cpp
   LIBRARIES unit_test_support standin_runtime)
 target_compile_definitions(table_tests PRIVATE
   "BIGNUMBERVQZ_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
