@@ -465,6 +465,23 @@ TEST_CASE("Text without a NUL behind it is copied, and the copy freed") {
     }
 }
 
+TEST_CASE("Converted text of no length is not copied, whatever stands behind it") {
+    for (const double version : BothHosts) {
+        DirectHost host(standin::HostOptions{.version = version, .unterminatedStrings = true});
+        const HeldString source(host.MakeEmptyString(HostTextEncoding::Utf16));
+        const std::string log = host.LogOf([&] {
+            rbText text(source.Get());
+            text.Utf8Text();
+            CHECK(text.Utf8Length() == 0);
+            CHECK(text.temp[Index(TextSlot::Utf8)] == nullptr);
+            CHECK_FALSE(text.failed);
+        });
+        CHECK(log == (version == NewHost ? LogLines({"REALGetStringData ok. Length 0",
+                                                     "REALDisposeStringData UTF8"})
+                                         : ""));
+    }
+}
+
 TEST_CASE("Without memory for the copy, text without a NUL behind it is empty") {
     DirectHost host(standin::HostOptions{.version = NewHost, .unterminatedStrings = true});
     const HeldString source = Make("\xC3\xA9\x31", HostTextEncoding::Utf8);
@@ -596,8 +613,10 @@ TEST_CASE("A terminated text keeps NULs inside, and is empty for no string and f
     CHECK(*text.end() == '\0');
 
     const HeldString empty(host.MakeEmptyString(HostTextEncoding::Utf8));
+    const HeldString emptyWide(host.MakeEmptyString(HostTextEncoding::Utf16));
     const HeldString unreadable = Make("12", Nonsense);
-    for (const host_interface::String source : {empty.Get(), unreadable.Get(), {}}) {
+    for (const host_interface::String source :
+         {empty.Get(), emptyWide.Get(), unreadable.Get(), host_interface::String{}}) {
         const vqz::TerminatedText nothing(source);
         CHECK(nothing.begin() == ""sv);
         CHECK(nothing.end() == nothing.begin());

@@ -156,12 +156,15 @@ TEST_CASE("Flag words are rewritten in the record and in its four member tables"
     SampleTables tables;
     SampleTables shared;
     for (auto* sample : {&tables, &shared}) {
-        for (auto& entry : sample->properties)
+        for (auto& entry : sample->properties) {
             entry.flags = 0x308;
-        for (auto& entry : sample->methods)
+        }
+        for (auto& entry : sample->methods) {
             entry.flags = 0x40308;
-        for (auto& entry : sample->constants)
+        }
+        for (auto& entry : sample->constants) {
             entry.flags = 0x308;
+        }
     }
     ClassDefinition record = tables.Record();
     record.flags = 0x308;
@@ -174,12 +177,15 @@ TEST_CASE("Flag words are rewritten in the record and in its four member tables"
 
     CHECK(record.flags == 0x4);
     for (const auto* sample : {&tables, &shared}) {
-        for (const auto& entry : sample->properties)
+        for (const auto& entry : sample->properties) {
             CHECK(entry.flags == 0x4);
-        for (const auto& entry : sample->methods)
+        }
+        for (const auto& entry : sample->methods) {
             CHECK(entry.flags == 0x4);
-        for (const auto& entry : sample->constants)
+        }
+        for (const auto& entry : sample->constants) {
             CHECK(entry.flags == 0x308);
+        }
     }
 }
 
