@@ -40,11 +40,6 @@ if(BIGNUMBERVQZ_SANITIZE)
   target_link_options(project_options INTERFACE ${sanitizers})
 endif()
 
-if(BIGNUMBERVQZ_COVERAGE)
-  target_compile_options(project_options INTERFACE --coverage -O0)
-  target_link_options(project_options INTERFACE --coverage)
-endif()
-
 # A program or library that carries its compiler runtimes with it. The sanitizers need the shared
 # ones, whose functions they intercept.
 add_library(self_contained INTERFACE)
