@@ -10,6 +10,7 @@ add_unit_tests(plugin_tests
     plugin/exceptions_tests.cpp
     plugin/failing_memory.cpp
     plugin/host_functions_tests.cpp
+    plugin/memory_blocks_tests.cpp
     plugin/number_objects_tests.cpp
     plugin/rb_text_tests.cpp
     plugin/registration_tests.cpp

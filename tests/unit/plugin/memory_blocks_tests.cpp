@@ -1,0 +1,141 @@
+// Making MemoryBlocks and looking into them.
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include <doctest/doctest.h>
+
+#include "host/byte_view.hpp"
+#include "host/memory_blocks.hpp"
+#include "host/variants.hpp"
+#include "tests/unit/plugin/direct_host.hpp"
+
+namespace {
+
+using standin::Allocation;
+using tests::DirectHost;
+using tests::HeldObject;
+using tests::LogLines;
+using tests::TakeRaised;
+
+std::string TextOf(const vqz::ByteView& view) {
+    return view.data() == nullptr
+               ? "null"
+               : std::string(view.data(), static_cast<std::size_t>(view.length()));
+}
+
+std::string OutOfMemory(const std::string& size) {
+    return "OutOfMemoryException: Failed to allocate a memoryblock with " + size +
+           " bytes in size.";
+}
+
+}  // namespace
+
+TEST_CASE("A block is asked of the host for sizes from 0 to 0x7FFFFFFE") {
+    DirectHost host;
+    const auto objects = [&] { return host.Counts().objectsMade; };
+    const auto before = objects();
+    for (const std::int64_t size : {std::int64_t{-1}, std::int64_t{0x7FFFFFFF},
+                                    std::int64_t{0x80000000}, INT64_MIN, INT64_MAX}) {
+        CAPTURE(size);
+        CHECK_FALSE(vqz::NewMemoryBlock64(size));
+    }
+    CHECK(objects() == before);
+    CHECK(vqz::NewMemoryBlock64(0));
+    CHECK(vqz::NewMemoryBlock64(1));
+    CHECK(objects() == before + 2);
+    // The host is asked, and has not that much.
+    CHECK_FALSE(vqz::NewMemoryBlock64(0x7FFFFFFE));
+    CHECK(host.lookups().at("newMemoryBlock") >= 1);
+    CHECK(TakeRaised(host) == "");
+}
+
+TEST_CASE("A block is made with a copy of the bytes") {
+    DirectHost host;
+    const vqz::ObjectReference block = vqz::REALBuildMemoryblock("abc", 3);
+    REQUIRE(block);
+    const auto bytes = host.BlockBytes(block.Get());
+    REQUIRE(bytes.size() == 3);
+    CHECK(std::memcmp(bytes.data(), "abc", 3) == 0);
+    CHECK(host.References(block.Get()) == 1);
+}
+
+TEST_CASE("Without bytes there is no block and nothing is raised") {
+    DirectHost host;
+    CHECK_FALSE(vqz::REALBuildMemoryblock(nullptr, 3));
+    CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 0));
+    CHECK_FALSE(vqz::REALBuildMemoryblock("abc", -1));
+    CHECK(TakeRaised(host) == "");
+}
+
+TEST_CASE("A block that the host does not make is an error that tells the size") {
+    DirectHost host;
+    CHECK(host.LogOf([&] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3000000000)); }) ==
+          LogLines({"Error: Failed to allocate memoryblock 3000000000"}));
+    CHECK(TakeRaised(host) == OutOfMemory("3000000000"));
+
+    host.FailAllocation(Allocation::Object, 1, false);
+    CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3));
+    CHECK(TakeRaised(host) == OutOfMemory("3"));
+    host.StopFailing();
+}
+
+TEST_CASE("A block without data is given back") {
+    DirectHost host(standin::HostOptions{.blocksWithoutData = true});
+    CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3));
+    CHECK(TakeRaised(host) == OutOfMemory("3"));
+}
+
+TEST_CASE("A view of a block shows its bytes and holds it") {
+    DirectHost host;
+    const HeldObject block(host.MakeMemoryBlock("0123456789"));
+    {
+        const vqz::ByteView whole(block.Get());
+        CHECK(TextOf(whole) == "0123456789");
+        CHECK(host.References(block.Get()) == 2);
+        CHECK(TextOf(vqz::ByteView(block.Get(), 3, 4)) == "3456");
+        // A length of 0 means that of the block; bounds are the caller's business.
+        CHECK(vqz::ByteView(block.Get(), 3).length() == 10);
+    }
+    CHECK(host.References(block.Get()) == 1);
+    CHECK(TextOf(vqz::ByteView(host_interface::Object{})) == "null");
+    CHECK(vqz::ByteView(host_interface::Object{}).length() == 0);
+}
+
+TEST_CASE("A view of a block without data is empty and holds the block") {
+    DirectHost host(standin::HostOptions{.blocksWithoutData = true});
+    const HeldObject block(host.MakeMemoryBlock("0123456789"));
+    const vqz::ByteView view(block.Get());
+    CHECK(view.data() == nullptr);
+    CHECK(view.length() == 0);
+    CHECK(host.References(block.Get()) == 2);
+}
+
+TEST_CASE("A null Variant has no text and is asked nothing") {
+    DirectHost host;
+    const auto before = host.lookups();
+    CHECK_FALSE(vqz::VariantToString(nullptr));
+    CHECK(host.lookups() == before);
+}
+
+TEST_CASE("Objects are told by the class that they are of or descend from") {
+    DirectHost host;
+    host.RegisterClasses();
+    const HeldObject exception(host.MakeObject(*host.FindClass("BigNumberErrorExceptionVQZ")));
+    CHECK(vqz::ObjectIsA(exception.Get(), "BigNumberErrorExceptionVQZ"));
+    CHECK(vqz::ObjectIsA(exception.Get(), "RuntimeException"));
+    CHECK_FALSE(vqz::ObjectIsA(exception.Get(), "BigNumberVQZ"));
+    CHECK_FALSE(vqz::ObjectIsA(exception.Get(), "NobodyKnows"));
+    CHECK_FALSE(vqz::ObjectIsA(nullptr, "RuntimeException"));
+}
+
+TEST_CASE("What a date cannot tell is 0 and logged where it counts") {
+    DirectHost host;
+    const HeldObject block(host.MakeMemoryBlock("x"));
+    CHECK(host.LogOf([&] { CHECK(vqz::GetDateTotalSeconds(block.Get()) == 0.0); }) ==
+          LogLines({"GetDateTotalSeconds 0.000000"}));
+    CHECK(host.LogOf([&] { CHECK(vqz::GetSecondsFrom1970(block.Get()) == 0.0); }) ==
+          LogLines({"Failed to read SecondsFrom1970 property."}));
+    const HeldObject dateTime(host.MakeDateTime(1.5));
+    CHECK(host.LogOf([&] { CHECK(vqz::GetSecondsFrom1970(dateTime.Get()) == 1.5); }) == "");
+}
