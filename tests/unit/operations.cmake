@@ -6,6 +6,8 @@ add_executable(operation_tests
   operations/exact_tests.cpp
   operations/number_class.cpp
   operations/random_tests.cpp
+  operations/reference_data.cpp
+  operations/reference_tests.cpp
   operations/stated_results_tests.cpp
   operations/table_tests.cpp
   $<$<NOT:$<BOOL:${WIN32}>>:operations/random_source_tests.cpp>)
@@ -14,7 +16,10 @@ target_link_libraries(operation_tests
     self_contained)
 add_dependencies(operation_tests BigNumberVQZ)
 target_compile_definitions(operation_tests
-  PRIVATE "PLUGIN_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
+  PRIVATE
+    "PLUGIN_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\""
+    "ACCURACY_DOCUMENTATION=\"${PROJECT_SOURCE_DIR}/docs/accuracy.md\""
+    "REFERENCE_FOLDER=\"${PROJECT_SOURCE_DIR}/tests/reference\"")
 
 # The bare library is what results are measured by and is not under test itself. It negates the
 # factor of a product with a machine integer, also the smallest one, which wraps here.
@@ -39,5 +44,8 @@ add_operation_tests(2048-bits-powers "powers*exact<2048 bits>")
 add_operation_tests(2048-bits-trigonometric "*trigonometric*exact<2048 bits>")
 add_operation_tests(2048-bits-hyperbolic "hyperbolic*exact<2048 bits>")
 add_operation_tests(2048-bits-inverse-hyperbolic "inverse hyperbolic*exact<2048 bits>")
+add_operation_tests(reference "functions are as close*" "the documentation*" "every function*"
+  "the distance*")
 add_project_test(NAME unit/operation_tests/others
-  COMMAND operation_tests "--test-case-exclude=*exact<*")
+  COMMAND operation_tests
+    "--test-case-exclude=*exact<*,functions are as close*,the documentation*,every function*,the distance*")

@@ -73,7 +73,7 @@ std::string FactorText(Extra extra, std::uint32_t word) {
 template <typename AnyNumber>
 class ExactTest {
 public:
-    explicit ExactTest(Family family) : family_(family) { session_.SetDebugging(true); }
+    explicit ExactTest(Family family) : family_(family) { loaded_.SetDebugging(true); }
 
     /// Tries all members of the family that take that many numbers.
     void Run(std::size_t arity) {
@@ -88,8 +88,8 @@ public:
         for (const auto& [call, operations] : members) {
             RunMembers(operations);
         }
-        session_.SetDebugging(false);
-        tests::CheckLedger(session_.host());
+        loaded_.SetDebugging(false);
+        tests::CheckLedger(loaded_.host());
     }
 
 private:
@@ -128,12 +128,12 @@ private:
 
     void Compare(const Operation<AnyNumber>& operation, const Tuple& tuple,
                  const Outcome<AnyNumber>& outcome) {
-        const standin::LedgerCounts before = session_.host().Counts();
+        const standin::LedgerCounts before = loaded_.host().Counts();
         const Observation<AnyNumber> expected = Expected(operation, tuple, outcome);
         const Observation<AnyNumber> seen = Observe(operation, tuple);
         CHECK_MESSAGE(seen == expected, Described(operation, tuple, seen, expected));
 
-        const standin::LedgerCounts after = session_.host().Counts();
+        const standin::LedgerCounts after = loaded_.host().Counts();
         CHECK_MESSAGE(after.objectsAlive == before.objectsAlive,
                       std::string(operation.declaration));
         CHECK_MESSAGE(after.stringsAlive == before.stringsAlive,
@@ -183,7 +183,7 @@ private:
 
     /// Calls the member; the operands must be afterwards what they were before.
     Observation<AnyNumber> Observe(const Operation<AnyNumber>& operation, const Tuple& tuple) {
-        standin::Host& host = session_.host();
+        standin::Host& host = loaded_.host();
         std::vector<tests::HeldObject> objects;
         std::vector<std::uintptr_t> words;
         for (const Operand<AnyNumber>& number : tuple.numbers) {
@@ -235,8 +235,8 @@ private:
     }
 
     Family family_;
-    Session session_;
-    NumberClass<AnyNumber> class_{session_};
+    LoadedHost loaded_;
+    NumberClass<AnyNumber> class_{loaded_};
     Texts<AnyNumber> texts_;
     int slowReports_ = 0;
 };

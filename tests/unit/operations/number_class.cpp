@@ -4,7 +4,7 @@
 
 namespace operation_tests {
 
-void Session::SetDebugging(bool on) {
+void LoadedHost::SetDebugging(bool on) {
     const standin::ClassInfo& type = *host_.FindClass(ClassName<Number256>);
     const auto debugging = std::ranges::find(type.sharedProperties, std::string("Debugging"),
                                              &standin::PropertyInfo::name);

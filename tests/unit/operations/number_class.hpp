@@ -25,9 +25,9 @@ using host_interface::Object;
 using host_interface::Routine;
 
 /// A host with the built library in it.
-class Session {
+class LoadedHost {
 public:
-    explicit Session(standin::HostOptions options = {}) : host_(std::move(options)) {
+    explicit LoadedHost(standin::HostOptions options = {}) : host_(std::move(options)) {
         // Where the system keeps a library in memory its switches stay as they were.
         SetDebugging(false);
     }
@@ -73,12 +73,11 @@ struct Observation {
 /// The declaration of a member with the class's name put in for '$'.
 std::string DeclarationOf(std::string_view pattern, std::string_view className);
 
-/// One of the two number classes, as registered with the host of a session.
+/// One of the two number classes, as registered with a host.
 template <typename AnyNumber>
 class NumberClass {
 public:
-    explicit NumberClass(Session& session)
-        : session_(session), host_(session.host()), type_(*host_.FindClass(Name)) {
+    explicit NumberClass(LoadedHost& loaded) : host_(loaded.host()), type_(*host_.FindClass(Name)) {
         for (const auto* methods : {&type_.methods, &type_.sharedMethods}) {
             for (const standin::MethodInfo& method : *methods) {
                 routines_[method.declaration] = method.function;
@@ -168,7 +167,6 @@ private:
         std::memcpy(words.data(), bytes.data(), bytes.size());
     }
 
-    Session& session_;
     standin::Host& host_;
     const standin::ClassInfo& type_;
     std::map<std::string, Routine, std::less<>> routines_;

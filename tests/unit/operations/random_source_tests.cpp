@@ -81,8 +81,8 @@ constexpr int ByteCount = (AnyNumber::MantissaBits + AnyNumber::ExponentBits) / 
 TEST_CASE_TEMPLATE("a random byte is the low one of one number of the system", AnyNumber, Number256,
                    Number2048) {
     sources = {.systemNumber = 0xABCDEF07};
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     const int callsBefore = sources.systemCalls;
     CHECK(Draw(numberClass) == CountingUp<AnyNumber>(0x07));
     CHECK(sources.systemCalls - callsBefore == ByteCount<AnyNumber>);
@@ -93,8 +93,8 @@ TEST_CASE_TEMPLATE("a random byte is the low one of one number of the system", A
 TEST_CASE_TEMPLATE("when the system fails the runtime library's generator is used", AnyNumber,
                    Number256, Number2048) {
     sources = {.systemFails = true, .runtimeNumber = 0x1203};
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     CHECK(Draw(numberClass) == CountingUp<AnyNumber>(0x03));
     CHECK(sources.runtimeNumber == 0x1203 + ByteCount<AnyNumber>);
     sources = {};
@@ -103,11 +103,11 @@ TEST_CASE_TEMPLATE("when the system fails the runtime library's generator is use
 TEST_CASE("the runtime library's generator is seeded in a built application only") {
     sources = {};
     {
-        const Session session(standin::HostOptions{.builtApplication = false});
+        const LoadedHost loaded(standin::HostOptions{.builtApplication = false});
         CHECK(sources.seeds.empty());
     }
     const auto before = static_cast<unsigned>(std::time(nullptr));
-    const Session session(standin::HostOptions{.builtApplication = true});
+    const LoadedHost loaded(standin::HostOptions{.builtApplication = true});
     const auto after = static_cast<unsigned>(std::time(nullptr));
     REQUIRE(sources.seeds.size() == 1);
     CHECK(sources.seeds.front() >= before);

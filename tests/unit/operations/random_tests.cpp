@@ -8,16 +8,16 @@ namespace operation_tests {
 
 TEST_CASE_TEMPLATE("random numbers reach every bit of mantissa and exponent", AnyNumber, Number256,
                    Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     // Each bit keeps one value over all draws with a chance of 2^-255.
     CheckBitCoverage(numberClass, 256);
-    tests::CheckLedger(session.host());
+    tests::CheckLedger(loaded.host());
 }
 
 TEST_CASE_TEMPLATE("two random numbers differ in the exponent", AnyNumber, Number256, Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     const AnyNumber first = Draw(numberClass);
     const AnyNumber second = Draw(numberClass);
     CHECK(first.exponent != second.exponent);
@@ -26,11 +26,11 @@ TEST_CASE_TEMPLATE("two random numbers differ in the exponent", AnyNumber, Numbe
 
 TEST_CASE_TEMPLATE("a random number logs the sizes that it fills", AnyNumber, Number256,
                    Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
-    session.SetDebugging(true);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
+    loaded.SetDebugging(true);
     Draw(numberClass);
-    const auto lines = session.host().TakeDebugLog();
+    const auto lines = loaded.host().TakeDebugLog();
     constexpr bool big = AnyNumber::MantissaBits == 2048;
     CHECK(tests::Joined(lines).starts_with(
         big ? tests::LogLines({"GetRand", "mantissaLength 256", "exponentLength 64"})

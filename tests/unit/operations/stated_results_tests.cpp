@@ -46,7 +46,7 @@ public:
     ~StatedTest() { tests::CheckLedger(host()); }
 
 private:
-    standin::Host& host() { return session_.host(); }
+    standin::Host& host() { return loaded_.host(); }
 
     std::uint32_t Call(const StatedCall& stated) {
         std::vector<tests::HeldObject> objects;
@@ -99,8 +99,8 @@ private:
         return host().Utf8(text.Get());
     }
 
-    Session session_;
-    NumberClass<AnyNumber> class_{session_};
+    LoadedHost loaded_;
+    NumberClass<AnyNumber> class_{loaded_};
 };
 
 }  // namespace

@@ -23,8 +23,8 @@ bool IsConversion(std::string_view declaration) {
 
 TEST_CASE_TEMPLATE("every member that computes is compared with the bare library", AnyNumber,
                    Number256, Number2048) {
-    Session session;
-    const NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    const NumberClass<AnyNumber> numberClass(loaded);
     std::set<std::string> tested = {DeclarationOf("Rand as $", ClassName<AnyNumber>)};
     for (const Operation<AnyNumber>& operation : Operations<AnyNumber>()) {
         tested.insert(DeclarationOf(operation.declaration, ClassName<AnyNumber>));
@@ -47,26 +47,26 @@ TEST_CASE_TEMPLATE("every member that computes is compared with the bare library
 
 TEST_CASE_TEMPLATE("constants are those of the bare library and log nothing", AnyNumber, Number256,
                    Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
-    session.SetDebugging(true);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
+    loaded.SetDebugging(true);
     for (const Constant<AnyNumber>& constant : Constants<AnyNumber>()) {
         INFO(std::string(constant.declaration));
-        session.host().TakeDebugLog();
+        loaded.host().TakeDebugLog();
         const std::uint32_t answer = numberClass.Call(numberClass.RoutineOf(constant.declaration),
                                                       {}, standin::ReturnKind::Word);
-        CHECK(tests::Joined(session.host().TakeDebugLog()) == "");
-        CHECK(tests::TakeRaised(session.host()) == "");
+        CHECK(tests::Joined(loaded.host().TakeDebugLog()) == "");
+        CHECK(tests::TakeRaised(loaded.host()) == "");
         const auto value = numberClass.ReadAndRelease(answer);
         REQUIRE(value.has_value());
         CHECK(*value == constant.value);
     }
-    tests::CheckLedger(session.host());
+    tests::CheckLedger(loaded.host());
 }
 
 TEST_CASE_TEMPLATE("constants have the stated bits", AnyNumber, Number256, Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     const auto value = [&numberClass](const char* declaration) {
         return numberClass
             .ReadAndRelease(
@@ -82,8 +82,8 @@ TEST_CASE_TEMPLATE("constants have the stated bits", AnyNumber, Number256, Numbe
 
 TEST_CASE_TEMPLATE("without the debug log operations log nothing", AnyNumber, Number256,
                    Number2048) {
-    Session session;
-    NumberClass<AnyNumber> numberClass(session);
+    LoadedHost loaded;
+    NumberClass<AnyNumber> numberClass(loaded);
     for (const Operation<AnyNumber>& operation : Operations<AnyNumber>()) {
         INFO(std::string(operation.declaration));
         std::vector<std::uintptr_t> words(operation.arity, 0);
@@ -93,11 +93,11 @@ TEST_CASE_TEMPLATE("without the debug log operations log nothing", AnyNumber, Nu
         if (operation.answer == Answer::Number) {
             numberClass.ReadAndRelease(answer);
         }
-        const bool raised = !tests::TakeRaised(session.host()).empty();
+        const bool raised = !tests::TakeRaised(loaded.host()).empty();
         CHECK(raised == (operation.report != Report::None));
-        CHECK(tests::Joined(session.host().TakeDebugLog()) == "");
+        CHECK(tests::Joined(loaded.host().TakeDebugLog()) == "");
     }
-    tests::CheckLedger(session.host());
+    tests::CheckLedger(loaded.host());
 }
 
 }  // namespace operation_tests
