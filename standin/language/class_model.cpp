@@ -56,6 +56,13 @@ auto FirstAnswer(const ClassModel* model, Find find) -> decltype(find(*model)) {
     return {};
 }
 
+bool HasArray(const Signature& signature) {
+    return signature.result.kind == Kind::Array ||
+           std::ranges::any_of(signature.parameters, [](const Parameter& parameter) {
+               return parameter.type.kind == Kind::Array;
+           });
+}
+
 /// The name that a declaration begins with, for one that does not parse.
 std::string LeadingName(std::string_view declaration) {
     return std::string(declaration.substr(0, declaration.find_first_of(" (\t")));
@@ -117,7 +124,11 @@ ClassModel& TypeTable::AddClass(const ClassInfo& info) {
 void TypeTable::AddMembers(ClassModel& model) const {
     const auto& info = model.info();
     const auto readMethod = [this](const MethodInfo& method) -> Method {
-        return {.signature = ReadDeclaration(method.declaration),
+        auto signature = ReadDeclaration(method.declaration);
+        if (HasArray(signature)) {
+            signature.problem = "arrays cannot be handed to a plug-in";
+        }
+        return {.signature = std::move(signature),
                 .function = method.function,
                 .setter = method.setter,
                 .host = {}};
@@ -183,16 +194,20 @@ Property TypeTable::ReadProperty(const PropertyInfo& info) const {
     return property;
 }
 
-Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration) const {
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
+                             std::optional<Type> element) const {
+    const auto resolve = [this, element](const syntax::TypeName& name) {
+        return element && name.name == ElementPlaceholder ? *element : Require(name);
+    };
     Signature signature;
     signature.name = std::move(syntax.name);
     signature.declaration = std::move(declaration);
     for (auto& parameter : syntax.parameters) {
-        signature.parameters.push_back({std::move(parameter.name), Require(parameter.type),
+        signature.parameters.push_back({std::move(parameter.name), resolve(parameter.type),
                                         parameter.byRef, std::move(parameter.defaultValue)});
     }
     if (syntax.result) {
-        signature.result = Require(*syntax.result);
+        signature.result = resolve(*syntax.result);
     }
     return signature;
 }
@@ -217,7 +232,7 @@ Type TypeTable::Require(const syntax::TypeName& name) const {
     if (!type) {
         throw ProgramError(name.at, "there is no type " + Quoted(name.name));
     }
-    return *type;
+    return name.isArray ? Type::ArrayOf(*type) : *type;
 }
 
 }  // namespace standin::language

@@ -18,6 +18,9 @@
 
 namespace standin::language {
 
+/// The type that stands for an array's elements in the declarations of array members.
+inline constexpr std::string_view ElementPlaceholder = "Element";
+
 struct Parameter {
     std::string name;
     Type type;
@@ -108,8 +111,10 @@ public:
     const ClassModel* FindClass(std::string_view name) const;
     /// The type of a written name; throws ProgramError when there is none.
     Type Require(const syntax::TypeName& name) const;
-    /// Fills a signature from its syntax. An unknown type throws ProgramError.
-    Signature Resolve(syntax::Signature syntax, std::string declaration) const;
+    /// Fills a signature from its syntax. An unknown type throws ProgramError. Where `element` is
+    /// given, it takes the place of the type "Element".
+    Signature Resolve(syntax::Signature syntax, std::string declaration,
+                      std::optional<Type> element = std::nullopt) const;
 
 private:
     ClassModel& AddClass(const ClassInfo& info);

@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -151,6 +152,9 @@ struct Block {
     /// Runs the statements until one ends in another way than going on to the next.
     Flow Execute(Frame& frame) const;
 };
+
+/// What the end of a loop's body means for the loop: nothing (it goes on), or how the loop ends.
+std::optional<Flow> EndOfLoop(Flow flow, Frame& frame);
 
 /// A routine of the program. Its parameters are the first slots.
 struct Routine {

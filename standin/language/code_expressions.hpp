@@ -96,6 +96,24 @@ private:
     ExpressionPtr right_;
 };
 
+/// One of two values, of which only that one is computed.
+class Conditional final : public Expression {
+public:
+    Conditional(ExpressionPtr condition, ExpressionPtr value, ExpressionPtr otherwise)
+        : condition_(std::move(condition)),
+          value_(std::move(value)),
+          otherwise_(std::move(otherwise)) {}
+    Value Evaluate(Frame& frame) const override {
+        return condition_->Evaluate(frame).IsTrue() ? value_->Evaluate(frame)
+                                                    : otherwise_->Evaluate(frame);
+    }
+
+private:
+    ExpressionPtr condition_;
+    ExpressionPtr value_;
+    ExpressionPtr otherwise_;
+};
+
 class Comparison final : public Expression {
 public:
     Comparison(OrderFunction order, syntax::BinaryOperator comparison, ExpressionPtr left,

@@ -24,18 +24,6 @@ private:
     const Block& block_;
 };
 
-/// What the end of a loop's body means for the loop: nothing (it goes on), or how the loop ends.
-std::optional<Flow> EndOfLoop(Flow flow, Frame& frame) {
-    if (flow == Flow::Next || flow == Flow::Return) {
-        return flow == Flow::Next ? std::nullopt : std::optional(flow);
-    }
-    if (frame.outerLoops > 0) {
-        --frame.outerLoops;
-        return flow;
-    }
-    return flow == Flow::Continue ? std::nullopt : std::optional(Flow::Next);
-}
-
 /// The next value of a counting loop's variable; none when it would leave the type's range.
 template <std::integral T>
 std::optional<T> Advance(T value, T step, bool isDownward) {
@@ -51,6 +39,17 @@ std::optional<T> Advance(T value, T step, bool isDownward) {
 }
 
 }  // namespace
+
+std::optional<Flow> EndOfLoop(Flow flow, Frame& frame) {
+    if (flow == Flow::Next || flow == Flow::Return) {
+        return flow == Flow::Next ? std::nullopt : std::optional(flow);
+    }
+    if (frame.outerLoops > 0) {
+        --frame.outerLoops;
+        return flow;
+    }
+    return flow == Flow::Continue ? std::nullopt : std::optional(Flow::Next);
+}
 
 Flow Block::Execute(Frame& frame) const {
     const SlotGuard guard(frame, *this);
@@ -91,15 +90,15 @@ Flow Branches::Execute(Frame& frame) const {
 }
 
 Flow ConditionalLoop::Execute(Frame& frame) const {
-    const auto holds = [this, &frame](const ExpressionPtr& condition) {
+    const auto goesOn = [this, &frame](const LoopTest& test) {
         frame.machine.position = at();
-        return condition->Evaluate(frame).IsTrue();
+        return !test.condition || test.condition->Evaluate(frame).IsTrue() == test.wanted;
     };
-    while (!before_ || holds(before_) == beforeWanted_) {
+    while (goesOn(before_)) {
         if (const auto end = EndOfLoop(body_.Execute(frame), frame)) {
             return *end;
         }
-        if (untilAfter_ && holds(untilAfter_)) {
+        if (!goesOn(after_)) {
             break;
         }
     }

@@ -68,23 +68,26 @@ private:
     Block block_;
 };
 
-/// A loop that runs while `before` holds (always when null) and until `untilAfter` does.
+/// What decides whether a loop goes on: a condition that must be as wanted; null always is.
+struct LoopTest {
+    ExpressionPtr condition;
+    bool wanted = true;
+};
+
+/// A loop with a test before each round and one after it.
 class ConditionalLoop final : public Statement {
 public:
-    ConditionalLoop(Position at, ExpressionPtr before, bool beforeWanted, Block body,
-                    ExpressionPtr untilAfter)
+    ConditionalLoop(Position at, LoopTest before, Block body, LoopTest after)
         : Statement(at),
           before_(std::move(before)),
-          beforeWanted_(beforeWanted),
           body_(std::move(body)),
-          untilAfter_(std::move(untilAfter)) {}
+          after_(std::move(after)) {}
     Flow Execute(Frame& frame) const override;
 
 private:
-    ExpressionPtr before_;
-    bool beforeWanted_;
+    LoopTest before_;
     Block body_;
-    ExpressionPtr untilAfter_;
+    LoopTest after_;
 };
 
 /// What a counting loop is made of; the expressions have the type of the variable.

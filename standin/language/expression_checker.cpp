@@ -58,6 +58,10 @@ Checked ExpressionChecker::CheckCall(const syntax::Expression& expression) {
 }
 
 code::ExpressionPtr ExpressionChecker::CheckAs(const syntax::Expression& expression, Type type) {
+    const auto* call = std::get_if<syntax::Call>(&expression.node);
+    if (type.kind == Kind::Array && call != nullptr && IsArrayFunction(*call)) {
+        return CheckArrayCall(*call, type.ElementType(), expression.at).code;
+    }
     return ConvertTo(Check(expression), type).code;
 }
 
@@ -175,16 +179,19 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
         }
     }
     auto value = Check(expression);
-    const auto* model =
-        value.type.kind == Kind::Variant ? types_.FindClass(NameOf(value.type)) : value.type.model;
-    if (model == nullptr) {
-        throw ProgramError(expression.at, NameOf(value.type) + " has no members");
+    // Values that are no objects have methods, but no class.
+    const ClassModel* model = nullptr;
+    if (IsHandle(value.type.kind)) {
+        model = types_.FindClass(NameOf(value.type));
     }
     return {std::move(value), model};
 }
 
 /// A name after a dot without arguments: a property first, else a method.
 Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& name, Position at) {
+    if (receiver.model == nullptr) {
+        return CheckValueMember(std::move(*receiver.value), name, {}, at);
+    }
     if (receiver.value) {
         if (const auto* property = receiver.model->FindProperty(name)) {
             return ReadProperty(std::move(receiver), *property, false, at);
@@ -198,6 +205,9 @@ Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& nam
 
 Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string& name,
                                            Arguments arguments, Position at) {
+    if (receiver.model == nullptr) {
+        return CheckValueMember(std::move(*receiver.value), name, std::move(arguments), at);
+    }
     const auto& model = *receiver.model;
     if (receiver.value) {
         const auto methods = model.FindMethods(name);
@@ -221,6 +231,19 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
         throw ProgramError(at, Quoted(name) + " needs an object of " + model.name());
     }
     FailWithoutMember(model, name, at);
+}
+
+Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& name,
+                                            Arguments arguments, Position at) {
+    if (auto result = TryArrayMember(value, name, arguments, at)) {
+        return std::move(*result);
+    }
+    const std::string type = NameOf(value.type);
+    arguments.insert(arguments.begin(), std::move(value));
+    if (auto result = TryBuiltIn(name, arguments, at)) {
+        return std::move(*result);
+    }
+    throw ProgramError(at, type + " has no member " + Quoted(name));
 }
 
 Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
@@ -292,6 +315,9 @@ ExpressionChecker::Arguments ExpressionChecker::CheckArguments(
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
+    if (IsArrayFunction(call)) {
+        return CheckArrayCall(call, std::nullopt, at);
+    }
     if (const auto* member = std::get_if<syntax::Member>(&call.callee->node)) {
         auto receiver = CheckReceiver(*member->object);
         return CheckMemberCall(std::move(receiver), member->name, CheckArguments(call.arguments),
@@ -299,7 +325,7 @@ Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
     }
     const auto* name = std::get_if<syntax::Name>(&call.callee->node);
     if (name == nullptr || scope_.Find(name->name) != nullptr) {
-        throw ProgramError(at, "this is not something that takes arguments");
+        return CheckElement(Check(*call.callee), call.arguments, at);
     }
     return CheckNamedCall(name->name, CheckArguments(call.arguments), at);
 }
@@ -324,22 +350,14 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
                 {},
                 false};
     }
-    std::vector<BuiltInFunction> functions;
-    for (const auto& builtIn : callables_.builtIns) {
-        if (SameName(builtIn.signature.name, name)) {
-            candidates.push_back(&builtIn.signature);
-            functions.push_back(builtIn.function);
-        }
+    if (auto result = TryBuiltIn(name, arguments, at)) {
+        return std::move(*result);
     }
-    if (!candidates.empty()) {
-        const auto index = RequireOverload(name, candidates, arguments, at);
-        const auto& signature = *candidates[index];
-        return {std::make_unique<code::BuiltInCall>(
-                    functions[index], Fill(signature, std::move(arguments), at, *this)),
-                signature.result,
-                at,
-                {},
-                false};
+    // `Ubound(a)` is `a.Ubound`.
+    if (!arguments.empty() && arguments.front().type.kind == Kind::Array) {
+        auto array = std::move(arguments.front());
+        arguments.erase(arguments.begin());
+        return CheckValueMember(std::move(array), name, std::move(arguments), at);
     }
     if (const auto type = types_.Find(name)) {
         if (arguments.size() == 1) {
@@ -348,6 +366,48 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
         throw ProgramError(at, Quoted(name) + " is a type, not a value");
     }
     throw ProgramError(at, "there is nothing named " + Quoted(name));
+}
+
+std::optional<Checked> ExpressionChecker::TryBuiltIn(const std::string& name, Arguments& arguments,
+                                                     Position at) {
+    Candidates candidates;
+    std::vector<BuiltInFunction> functions;
+    for (const auto& builtIn : callables_.builtIns) {
+        if (SameName(builtIn.signature.name, name)) {
+            candidates.push_back(&builtIn.signature);
+            functions.push_back(builtIn.function);
+        }
+    }
+    if (candidates.empty()) {
+        return std::nullopt;
+    }
+    const auto index = RequireOverload(name, candidates, arguments, at);
+    const auto& signature = *candidates[index];
+    return Checked{std::make_unique<code::BuiltInCall>(
+                       functions[index], Fill(signature, std::move(arguments), at, *this)),
+                   signature.result,
+                   at,
+                   {},
+                   false};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Conditional& conditional, Position at) {
+    auto condition = CheckAs(*conditional.condition, {Kind::Boolean});
+    auto value = Check(*conditional.value);
+    auto otherwise = Check(*conditional.otherwise);
+    const bool areNumbers = IsNumber(value.type.kind) && IsNumber(otherwise.type.kind);
+    Type type = FitOf(otherwise, value.type) != Fit::None ? value.type : otherwise.type;
+    if (areNumbers) {
+        type = {CommonKind(value.type.kind, otherwise.type.kind)};
+    }
+    auto valueCode = ConvertTo(std::move(value), type).code;
+    auto otherwiseCode = ConvertTo(std::move(otherwise), type).code;
+    return {std::make_unique<code::Conditional>(std::move(condition), std::move(valueCode),
+                                                std::move(otherwiseCode)),
+            type,
+            at,
+            {},
+            false};
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::Cast& cast, Position at) {
@@ -422,11 +482,18 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
     const auto* call = std::get_if<syntax::Call>(&target.node);
     const auto& named = call == nullptr ? target : *call->callee;
     const auto* member = std::get_if<syntax::Member>(&named.node);
+    const bool isElement = call != nullptr && FindVariable(named) != nullptr;
+    if (isElement) {
+        return CheckElementSetter(*call, value, target.at);
+    }
     if (member == nullptr) {
         throw ProgramError(target.at, "this cannot be assigned to");
     }
     const Position at = named.at;
     auto receiver = CheckReceiver(*member->object);
+    if (receiver.model == nullptr) {
+        throw ProgramError(at, Quoted(member->name) + " cannot be assigned to");
+    }
     const auto& model = *receiver.model;
     if (call == nullptr) {
         const auto* property = receiver.value ? model.FindProperty(member->name) : nullptr;

@@ -57,7 +57,8 @@ public:
 private:
     using Arguments = std::vector<Checked>;
 
-    /// What stands before a dot: a value, or a class whose shared members are meant.
+    /// What stands before a dot: a value, or a class whose shared members are meant. Without a
+    /// class the value is no object.
     struct Receiver {
         std::optional<Checked> value;
         const ClassModel* model;
@@ -74,6 +75,7 @@ private:
     Checked CheckNode(const syntax::New& creation, Position at);
     Checked CheckNode(const syntax::Cast& cast, Position at);
     Checked CheckNode(const syntax::ClassTest& test, Position at);
+    Checked CheckNode(const syntax::Conditional& conditional, Position at);
     Checked CheckNode(const syntax::Unary& unary, Position at);
     Checked CheckNode(const syntax::Binary& binary, Position at);
 
@@ -86,6 +88,12 @@ private:
     Checked CheckMember(Receiver receiver, const std::string& name, Position at);
     Checked CheckMemberCall(Receiver receiver, const std::string& name, Arguments arguments,
                             Position at);
+    /// A member of a value that is no object: a method of arrays, or a function of the language
+    /// that takes the value first.
+    Checked CheckValueMember(Checked value, const std::string& name, Arguments arguments,
+                             Position at);
+    /// A function of the language; nothing when none has that name.
+    std::optional<Checked> TryBuiltIn(const std::string& name, Arguments& arguments, Position at);
     Checked CheckNamedCall(const std::string& name, Arguments arguments, Position at);
     Checked CastTo(Checked value, Type type, Position at);
 
@@ -104,6 +112,19 @@ private:
                                          const std::vector<const Method*>& methods, bool isShared,
                                          Arguments arguments, Checked value, Position at);
     Checked Construct(const ClassModel& model, Arguments arguments, Position at);
+
+    Checked CheckElement(Checked array, const syntax::Expressions& indices, Position at);
+    code::ExpressionPtr CheckIndex(const Checked& array, const syntax::Expressions& indices,
+                                   Position at);
+    code::ExpressionPtr CheckElementSetter(const syntax::Call& element,
+                                           const syntax::Expression& value, Position at);
+    /// A method of an array, both moved from when it is there.
+    std::optional<Checked> TryArrayMember(Checked& array, const std::string& name,
+                                          Arguments& arguments, Position at);
+    /// Whether a call is `Array(values)`.
+    bool IsArrayFunction(const syntax::Call& call) const;
+    /// A new array of that type, or of the one in which the values meet.
+    Checked CheckArrayCall(const syntax::Call& call, std::optional<Type> element, Position at);
 
     Checked ApplyToNumbers(syntax::BinaryOperator operation, Checked left, Checked right,
                            Position at);

@@ -207,6 +207,8 @@ ExpressionPtr ExpressionParser::ParsePrimary() {
             return ParseNew();
         case TokenKind::CType:
             return ParseCast();
+        case TokenKind::If:
+            return ParseConditional();
         case TokenKind::OpenParenthesis:
             return ParseParenthesis();
         default:
@@ -244,6 +246,20 @@ ExpressionPtr ExpressionParser::ParseCast() {
     cursor_.Expect(TokenKind::CloseParenthesis);
     const auto height = HeightOf(value);
     return Make(at, height, syntax::Cast{std::move(value), std::move(type)});
+}
+
+ExpressionPtr ExpressionParser::ParseConditional() {
+    const Position at = cursor_.Expect(TokenKind::If).at;
+    cursor_.Expect(TokenKind::OpenParenthesis);
+    auto condition = ParseExpression();
+    cursor_.Expect(TokenKind::Comma);
+    auto value = ParseExpression();
+    cursor_.Expect(TokenKind::Comma);
+    auto otherwise = ParseExpression();
+    cursor_.Expect(TokenKind::CloseParenthesis);
+    const auto height = std::max({HeightOf(condition), HeightOf(value), HeightOf(otherwise)});
+    return Make(at, height,
+                syntax::Conditional{std::move(condition), std::move(value), std::move(otherwise)});
 }
 
 Expressions ExpressionParser::ParseExpressions() {
@@ -289,8 +305,17 @@ syntax::Signature ExpressionParser::ParseSignature() {
     }
     if (cursor_.TryTake(TokenKind::As)) {
         signature.result = ParseTypeName();
+        signature.result->isArray = TryTakeBrackets();
     }
     return signature;
+}
+
+bool ExpressionParser::TryTakeBrackets() {
+    if (!cursor_.TryTake(TokenKind::OpenParenthesis)) {
+        return false;
+    }
+    cursor_.Expect(TokenKind::CloseParenthesis);
+    return true;
 }
 
 syntax::Parameter ExpressionParser::ParseParameter() {
@@ -306,8 +331,10 @@ syntax::Parameter ExpressionParser::ParseParameter() {
     const auto name = cursor_.ExpectWord();
     parameter.name = name.text;
     parameter.at = name.at;
+    const bool isArray = TryTakeBrackets();
     cursor_.Expect(TokenKind::As);
     parameter.type = ParseTypeName();
+    parameter.type.isArray = isArray;
     if (cursor_.TryTake(TokenKind::Equal)) {
         parameter.defaultValue = ParseExpression();
         if (!IsLiteral(*parameter.defaultValue)) {
@@ -320,8 +347,8 @@ syntax::Parameter ExpressionParser::ParseParameter() {
 bool ExpressionParser::AtExpression() const {
     return cursor_.IsAtAny({TokenKind::Integer, TokenKind::Real, TokenKind::Text, TokenKind::True,
                             TokenKind::False, TokenKind::Nil, TokenKind::Name, TokenKind::New,
-                            TokenKind::CType, TokenKind::OpenParenthesis, TokenKind::Plus,
-                            TokenKind::Minus, TokenKind::Not});
+                            TokenKind::CType, TokenKind::If, TokenKind::OpenParenthesis,
+                            TokenKind::Plus, TokenKind::Minus, TokenKind::Not});
 }
 
 }  // namespace standin::language

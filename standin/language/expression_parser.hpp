@@ -58,8 +58,11 @@ private:
     syntax::ExpressionPtr ParseRealLiteral();
     syntax::ExpressionPtr ParseParenthesis();
     syntax::ExpressionPtr ParseCast();
+    syntax::ExpressionPtr ParseConditional();
     syntax::ExpressionPtr ParseClassTest(syntax::ExpressionPtr value);
     syntax::Parameter ParseParameter();
+    /// Steps past the `()` that makes an array of what stands before it, if it is there.
+    bool TryTakeBrackets();
 
     TokenCursor& cursor_;
     std::size_t depth_ = 0;

@@ -1,5 +1,7 @@
 #include "standin/language/parser.hpp"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "standin/language/expression_parser.hpp"
@@ -92,6 +94,8 @@ private:
             case TokenKind::Print:
                 cursor_.Take();
                 return syntax::Print{ParseOptionalExpression()};
+            case TokenKind::Redim:
+                return ParseRedim();
             case TokenKind::Call:
                 cursor_.Take();
                 return syntax::CallStatement{expressions_.ParsePostfix()};
@@ -112,9 +116,13 @@ private:
         if (!cursor_.IsAtAny({TokenKind::Name, TokenKind::OpenParenthesis, TokenKind::CType})) {
             cursor_.Fail("a statement");
         }
+        const auto start = cursor_.Mark();
         auto target = expressions_.ParsePostfix();
         if (cursor_.TryTake(TokenKind::Equal)) {
             return syntax::Assignment{std::move(target), expressions_.ParseExpression()};
+        }
+        if (const auto operation = CompoundOperator(cursor_.Kind())) {
+            return ParseCompound(*operation, start, std::move(target));
         }
         // The arguments of a call that stands alone need no parentheses.
         const bool hasArguments = std::holds_alternative<syntax::Call>(target->node);
@@ -128,6 +136,51 @@ private:
         return syntax::CallStatement{std::move(target)};
     }
 
+    static std::optional<BinaryOperator> CompoundOperator(TokenKind kind) {
+        switch (kind) {
+            case TokenKind::PlusEqual:
+                return BinaryOperator::Add;
+            case TokenKind::MinusEqual:
+                return BinaryOperator::Subtract;
+            case TokenKind::StarEqual:
+                return BinaryOperator::Multiply;
+            case TokenKind::SlashEqual:
+                return BinaryOperator::Divide;
+            default:
+                return std::nullopt;
+        }
+    }
+
+    /// `a += b` is `a = a + b`: what stands at `start` is the target and the left operand.
+    Statement ParseCompound(BinaryOperator operation, std::size_t start,
+                            syntax::ExpressionPtr target) {
+        const Position at = cursor_.At();
+        cursor_.Rewind(start);
+        auto left = expressions_.ParsePostfix();
+        cursor_.Take();
+        auto right = expressions_.ParseExpression();
+        const auto height = std::max(left->height, right->height);
+        syntax::Binary binary{operation, std::move(left), std::move(right)};
+        return syntax::Assignment{std::move(target),
+                                  std::make_unique<syntax::Expression>(
+                                      syntax::Expression{at, height + 1, std::move(binary)})};
+    }
+
+    /// `Redim a(n)` is `a.ResizeTo(n)`.
+    Statement ParseRedim() {
+        const Position at = cursor_.Take().at;
+        auto sized = expressions_.ParsePostfix();
+        auto* const call = std::get_if<syntax::Call>(&sized->node);
+        if (call == nullptr) {
+            throw ProgramError(at, "\"Redim\" takes an array with its last index in parentheses");
+        }
+        syntax::Member resize{std::move(call->callee), "ResizeTo"};
+        call->callee = std::make_unique<syntax::Expression>(
+            syntax::Expression{at, sized->height, std::move(resize)});
+        ++sized->height;
+        return syntax::CallStatement{std::move(sized)};
+    }
+
     Statement ParseDim() {
         cursor_.Take();
         syntax::Dim dim;
@@ -139,30 +192,45 @@ private:
 
     /// Names that share one `As`: `a, b As Integer = 1`. Each gets a value of its own.
     void ParseDeclarators(std::vector<syntax::Declarator>& declarators) {
-        std::vector<Token> names;
+        std::vector<syntax::Declarator> started;
         do {
-            names.push_back(cursor_.ExpectName());
+            started.push_back(ParseDeclaredName());
         } while (cursor_.TryTake(TokenKind::Comma));
         cursor_.Expect(TokenKind::As);
         const auto typeStart = cursor_.Mark();
-        for (const auto& name : names) {
+        for (auto& declarator : started) {
             cursor_.Rewind(typeStart);
-            declarators.push_back(ParseDeclaredType(name));
+            ParseDeclaredType(declarator);
+            declarators.push_back(std::move(declarator));
         }
     }
 
-    syntax::Declarator ParseDeclaredType(const Token& name) {
+    /// A name; with `()` or `(last index)` behind it that of an array.
+    syntax::Declarator ParseDeclaredName() {
+        const auto name = cursor_.ExpectName();
         syntax::Declarator declarator{name.text, name.at, {}, nullptr};
-        if (cursor_.IsAt(TokenKind::New)) {
-            declarator.initialiser = expressions_.ParseNew();
-            declarator.type = std::get<syntax::New>(declarator.initialiser->node).type;
-            return declarator;
-        }
-        declarator.type = expressions_.ParseTypeName();
-        if (cursor_.TryTake(TokenKind::Equal)) {
-            declarator.initialiser = expressions_.ParseExpression();
+        if (cursor_.TryTake(TokenKind::OpenParenthesis)) {
+            declarator.type.isArray = true;
+            if (!cursor_.IsAt(TokenKind::CloseParenthesis)) {
+                declarator.lastIndex = expressions_.ParseExpression();
+            }
+            cursor_.Expect(TokenKind::CloseParenthesis);
         }
         return declarator;
+    }
+
+    void ParseDeclaredType(syntax::Declarator& declarator) {
+        const bool isArray = declarator.type.isArray;
+        if (cursor_.IsAt(TokenKind::New) && !isArray) {
+            declarator.initialiser = expressions_.ParseNew();
+            declarator.type = std::get<syntax::New>(declarator.initialiser->node).type;
+            return;
+        }
+        declarator.type = expressions_.ParseTypeName();
+        declarator.type.isArray = isArray;
+        if (declarator.lastIndex == nullptr && cursor_.TryTake(TokenKind::Equal)) {
+            declarator.initialiser = expressions_.ParseExpression();
+        }
     }
 
     Statement ParseConst() {
@@ -273,6 +341,9 @@ private:
 
     Statement ParseFor() {
         const Position at = cursor_.Take().at;
+        if (cursor_.TryTake(TokenKind::Each)) {
+            return ParseForEach(at);
+        }
         const auto variable = cursor_.ExpectName();
         syntax::For loop{variable.text, variable.at, {}, {}, {}, {}, false, {}};
         if (cursor_.TryTake(TokenKind::As)) {
@@ -288,16 +359,34 @@ private:
         if (cursor_.TryTake(TokenKind::Step)) {
             loop.step = expressions_.ParseExpression();
         }
-        loop.body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
+        loop.body = ParseForBody(loop.variable, at);
+        return loop;
+    }
+
+    Statement ParseForEach(Position at) {
+        const auto variable = cursor_.ExpectName();
+        syntax::ForEach loop{variable.text, variable.at, {}, {}, {}};
+        if (cursor_.TryTake(TokenKind::As)) {
+            loop.type = expressions_.ParseTypeName();
+        }
+        cursor_.Expect(TokenKind::In);
+        loop.array = expressions_.ParseExpression();
+        loop.body = ParseForBody(loop.variable, at);
+        return loop;
+    }
+
+    /// What a For repeats, its Next included, which may name the variable.
+    Block ParseForBody(const std::string& variable, Position at) {
+        auto body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
         cursor_.Take();
         if (cursor_.IsAt(TokenKind::Name)) {
             const auto name = cursor_.Take();
-            if (!SameName(name.text, loop.variable)) {
+            if (!SameName(name.text, variable)) {
                 throw ProgramError(name.at, "\"Next\" names " + Quoted(name.text) +
-                                                ", but the loop counts " + Quoted(loop.variable));
+                                                ", but the loop counts " + Quoted(variable));
             }
         }
-        return loop;
+        return body;
     }
 
     Statement ParseWhile() {
@@ -311,15 +400,20 @@ private:
     Statement ParseDo() {
         const Position at = cursor_.Take().at;
         syntax::Do loop;
-        if (cursor_.TryTake(TokenKind::Until)) {
-            loop.untilBefore = expressions_.ParseExpression();
-        }
+        loop.before = ParseLoopTest();
         loop.body = ParseBlock({TokenKind::Loop}, TokenKind::Do, at);
         cursor_.Take();
-        if (cursor_.TryTake(TokenKind::Until)) {
-            loop.untilAfter = expressions_.ParseExpression();
-        }
+        loop.after = ParseLoopTest();
         return loop;
+    }
+
+    syntax::Do::Test ParseLoopTest() {
+        const bool isWhile = cursor_.IsAt(TokenKind::While);
+        if (!cursor_.IsAtAny({TokenKind::While, TokenKind::Until})) {
+            return {};
+        }
+        cursor_.Take();
+        return {expressions_.ParseExpression(), isWhile};
     }
 
     LoopKind ParseLoopKind() {

@@ -17,8 +17,8 @@ DeclaredRoutine Declare(syntax::Signature& syntax, const code::Routine& code,
     std::string declaration;
     for (auto& parameter : syntax.parameters) {
         declaration += (declaration.empty() ? "" : ", ") +
-                       std::string(parameter.byRef ? "ByRef " : "") + parameter.name + " As " +
-                       parameter.type.name;
+                       std::string(parameter.byRef ? "ByRef " : "") + parameter.name +
+                       (parameter.type.isArray ? "()" : "") + " As " + parameter.type.name;
         head.parameters.push_back({parameter.name, parameter.at, parameter.type, parameter.byRef,
                                    std::move(parameter.defaultValue)});
     }

@@ -4,14 +4,17 @@
 #include <array>
 #include <utility>
 
+#include "standin/language/code_arrays.hpp"
+
 namespace standin::language {
 namespace {
 
 using syntax::BinaryOperator;
 using syntax::LoopKind;
 
-/// No program can write this name.
+/// No program can write these names.
 constexpr auto HiddenName = "(Select Case)";
+constexpr auto HiddenElement = "(For Each)";
 
 template <typename Node, typename... Parts>
 void Append(code::Block& block, Position at, Parts&&... parts) {
@@ -26,6 +29,9 @@ void AppendAssign(code::Block& block, Position at, const Variable& variable,
 }
 
 code::ExpressionPtr MakeDefault(Type type) {
+    if (type.kind == Kind::Array) {
+        return std::make_unique<code::NewArray>(type.ElementType(), nullptr);
+    }
     return std::make_unique<code::Constant>(Value::DefaultOf(type));
 }
 
@@ -82,11 +88,20 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Dim& dim, Posit
     for (const auto& declarator : dim.declarators) {
         const auto type = types_.Require(declarator.type);
         // The value cannot see the variable yet.
-        auto value = declarator.initialiser ? expressions_.CheckAs(*declarator.initialiser, type)
-                                            : MakeDefault(type);
+        auto value = CheckInitialValue(declarator, type);
         const auto variable = scope_.Declare(declarator.name, type, declarator.at);
         AppendAssign(block, at, variable, std::move(value));
     }
+}
+
+code::ExpressionPtr StatementChecker::CheckInitialValue(const syntax::Declarator& declarator,
+                                                        Type type) {
+    if (declarator.lastIndex) {
+        return std::make_unique<code::NewArray>(
+            type.ElementType(), expressions_.CheckAs(*declarator.lastIndex, {Kind::Int64}));
+    }
+    return declarator.initialiser ? expressions_.CheckAs(*declarator.initialiser, type)
+                                  : MakeDefault(type);
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant, Position at) {
@@ -187,19 +202,10 @@ void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Posi
     scope_.EnterBlock();
     code::ForParts parts;
     parts.isDownward = loop.isDownward;
-    Variable variable;
-    if (loop.type) {
-        const auto type = types_.Require(*loop.type);
-        parts.first = expressions_.CheckAs(*loop.first, type);
-        variable = scope_.Declare(loop.variable, type, loop.variableAt);
-    } else {
-        const auto* found = scope_.Find(loop.variable);
-        if (found == nullptr) {
-            throw ProgramError(loop.variableAt, "there is no variable " + Quoted(loop.variable));
-        }
-        variable = *found;
-        parts.first = expressions_.CheckAs(*loop.first, variable.type);
-    }
+    // The first value cannot see the variable that the loop declares.
+    auto first = expressions_.Check(*loop.first);
+    const auto variable = LoopVariable(loop.variable, loop.type, loop.variableAt);
+    parts.first = ConvertTo(std::move(first), variable.type).code;
     if (!IsNumber(variable.type.kind) || variable.isConstant) {
         throw ProgramError(loop.variableAt, "a loop counts in a variable of a number type");
     }
@@ -214,17 +220,53 @@ void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Posi
     Append<code::Compound>(block, at, std::move(code));
 }
 
+Variable StatementChecker::LoopVariable(const std::string& name,
+                                        const std::optional<syntax::TypeName>& type, Position at) {
+    if (type) {
+        return scope_.Declare(name, types_.Require(*type), at);
+    }
+    const auto* found = scope_.Find(name);
+    if (found == nullptr) {
+        throw ProgramError(at, "there is no variable " + Quoted(name));
+    }
+    return *found;
+}
+
+void StatementChecker::AddNode(code::Block& block, const syntax::ForEach& loop, Position at) {
+    code::Block code;
+    scope_.EnterBlock();
+    auto array = expressions_.Check(*loop.array);
+    if (array.type.kind != Kind::Array) {
+        throw ProgramError(array.at, "\"For Each\" takes an array, this is " + NameOf(array.type));
+    }
+    const auto variable = LoopVariable(loop.variable, loop.type, loop.variableAt);
+    if (variable.isConstant) {
+        throw ProgramError(loop.variableAt, "a constant cannot be assigned to");
+    }
+    const auto element = scope_.Declare(HiddenElement, array.type.ElementType(), at);
+    code::ForEachParts parts;
+    parts.array = std::move(array.code);
+    parts.element = ExpressionChecker::MakeVariable(element, at).code;
+    parts.variable = ExpressionChecker::MakeVariable(variable, at).code;
+    auto value = ExpressionChecker::MakeVariable(element, loop.variableAt);
+    parts.converted = ConvertTo(std::move(value), variable.type).code;
+    parts.body = CheckLoopBody(loop.body, LoopKind::For);
+    Append<code::ForEachLoop>(code, at, std::move(parts));
+    scope_.LeaveBlock(code);
+    Append<code::Compound>(block, at, std::move(code));
+}
+
 void StatementChecker::AddNode(code::Block& block, const syntax::While& loop, Position at) {
     auto condition = CheckCondition(loop.condition);
-    Append<code::ConditionalLoop>(block, at, std::move(condition), true,
-                                  CheckLoopBody(loop.body, LoopKind::While), nullptr);
+    Append<code::ConditionalLoop>(block, at, code::LoopTest{std::move(condition), true},
+                                  CheckLoopBody(loop.body, LoopKind::While), code::LoopTest{});
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Do& loop, Position at) {
-    auto before = CheckCondition(loop.untilBefore);
+    code::LoopTest before{CheckCondition(loop.before.condition), loop.before.wanted};
     auto body = CheckLoopBody(loop.body, LoopKind::Do);
-    Append<code::ConditionalLoop>(block, at, std::move(before), false, std::move(body),
-                                  CheckCondition(loop.untilAfter));
+    code::LoopTest after{CheckCondition(loop.after.condition), loop.after.wanted};
+    Append<code::ConditionalLoop>(block, at, std::move(before), std::move(body), std::move(after));
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Exit& exit, Position at) {

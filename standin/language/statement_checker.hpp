@@ -41,6 +41,7 @@ private:
     void AddNode(code::Block& block, const syntax::If& statement, Position at);
     void AddNode(code::Block& block, const syntax::Select& select, Position at);
     void AddNode(code::Block& block, const syntax::For& loop, Position at);
+    void AddNode(code::Block& block, const syntax::ForEach& loop, Position at);
     void AddNode(code::Block& block, const syntax::While& loop, Position at);
     void AddNode(code::Block& block, const syntax::Do& loop, Position at);
     void AddNode(code::Block& block, const syntax::Exit& exit, Position at);
@@ -49,6 +50,10 @@ private:
     void AddNode(code::Block& block, const syntax::Raise& raise, Position at);
     void AddNode(code::Block& block, const syntax::Return& statement, Position at);
 
+    code::ExpressionPtr CheckInitialValue(const syntax::Declarator& declarator, Type type);
+    /// The variable of a loop: a new one where it has a type, else one that is there.
+    Variable LoopVariable(const std::string& name, const std::optional<syntax::TypeName>& type,
+                          Position at);
     code::ExpressionPtr CheckCaseTest(const syntax::Select::Test& test, const Variable& subject);
     code::Try::Catch CheckCatch(const syntax::Try::Catch& handler);
     code::StatementPtr MakeLeave(Flow flow, syntax::LoopKind kind, Position at) const;

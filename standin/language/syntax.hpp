@@ -24,6 +24,8 @@ using Block = std::vector<StatementPtr>;
 struct TypeName {
     std::string name;
     Position at = 0;
+    /// Whether an array of the type is meant.
+    bool isArray = false;
 };
 
 // Expressions ------------------------------------------------------------------------------------
@@ -91,6 +93,12 @@ struct ClassTest {
     ExpressionPtr value;
     TypeName type;
 };
+/// `If(condition, value, otherwise)`.
+struct Conditional {
+    ExpressionPtr condition;
+    ExpressionPtr value;
+    ExpressionPtr otherwise;
+};
 struct Unary {
     UnaryOperator operation;
     ExpressionPtr operand;
@@ -103,7 +111,7 @@ struct Binary {
 
 struct Expression {
     using Node = std::variant<IntegerLiteral, RealLiteral, TextLiteral, BooleanLiteral, NilLiteral,
-                              Name, Member, Call, New, Cast, ClassTest, Unary, Binary>;
+                              Name, Member, Call, New, Cast, ClassTest, Conditional, Unary, Binary>;
     /// Where messages about the expression point: an operator, a member's name, the first token.
     Position at;
     /// Levels of expressions below this one, itself included.
@@ -144,6 +152,8 @@ struct Declarator {
     TypeName type;
     /// The value, `New Class(...)` of an `As New` included; null for the type's default.
     ExpressionPtr initialiser;
+    /// The index of an array's last element; null for an empty one.
+    ExpressionPtr lastIndex = nullptr;
 };
 struct Dim {
     std::vector<Declarator> declarators;
@@ -200,14 +210,28 @@ struct For {
     bool isDownward;
     Block body;
 };
+struct ForEach {
+    std::string variable;
+    Position variableAt;
+    /// Present when the loop declares its variable.
+    std::optional<TypeName> type;
+    ExpressionPtr array;
+    Block body;
+};
 struct While {
     ExpressionPtr condition;
     Block body;
 };
 struct Do {
-    /// Loops on until a condition holds, at the head and at the foot; either may be null.
-    ExpressionPtr untilBefore;
-    ExpressionPtr untilAfter;
+    /// `While condition` or `Until condition`, at the head or at the foot.
+    struct Test {
+        /// Null where there is none.
+        ExpressionPtr condition;
+        /// What the condition must be for the loop to go on.
+        bool wanted = false;
+    };
+    Test before;
+    Test after;
     Block body;
 };
 
@@ -240,8 +264,8 @@ struct Return {
 };
 
 struct Statement {
-    using Node = std::variant<Dim, Const, Assignment, CallStatement, Print, If, Select, For, While,
-                              Do, Exit, Continue, Try, Raise, Return>;
+    using Node = std::variant<Dim, Const, Assignment, CallStatement, Print, If, Select, For,
+                              ForEach, While, Do, Exit, Continue, Try, Raise, Return>;
     Position at;
     Node node;
 };

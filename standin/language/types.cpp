@@ -58,6 +58,8 @@ std::string NameOf(Type type) {
             return "Nil";
         case Kind::Instance:
             return type.model->name();
+        case Kind::Array:
+            return NameOf(type.ElementType()) + "()";
         default:
             return std::string(std::ranges::find(KindNames, type.kind, &KindName::kind)->name);
     }

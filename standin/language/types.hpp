@@ -35,12 +35,21 @@ enum class Kind : std::uint8_t {
     Instance,
     /// A value of any type in an object of the host; an object is a Variant of itself.
     Variant,
+    /// A row of values of one type. Who has the array has the same one.
+    Array,
 };
 
-/// A kind, and for objects their class.
+/// A kind; for objects, and arrays of them, their class.
 struct Type {
     Kind kind = Kind::None;
     const ClassModel* model = nullptr;
+    /// What an array holds; None for every other kind.
+    Kind element = Kind::None;
+
+    /// The array of a type that is no array itself.
+    static Type ArrayOf(Type element) { return {Kind::Array, element.model, element.kind}; }
+    /// What an array holds.
+    Type ElementType() const { return {element, model}; }
 
     friend bool operator==(const Type&, const Type&) = default;
 };

@@ -2,7 +2,7 @@
 
 namespace standin::language {
 
-Value Value::DefaultOf(Type type) noexcept {
+Value Value::DefaultOf(Type type) {
     switch (type.kind) {
         case Kind::Text:
             return Adopt(String{});
@@ -14,6 +14,8 @@ Value Value::DefaultOf(Type type) noexcept {
             return Of(0.0);
         case Kind::TextEncoding:
             return Of(static_cast<std::uint32_t>(HostTextEncoding::Unknown));
+        case Kind::Array:
+            return Adopt(new Array{type.ElementType()});
         default:
             return Of(0);
     }
@@ -33,6 +35,8 @@ void Value::Lock() const noexcept {
         Host::Current().Lock(payload_.text);
     } else if (owns_ == Owns::Instance && payload_.object != nullptr) {
         Host::Current().Lock(payload_.object);
+    } else if (owns_ == Owns::Array && payload_.array != nullptr) {
+        ++payload_.array->references;
     }
 }
 
@@ -41,6 +45,10 @@ void Value::Unlock() noexcept {
         Host::Current().Unlock(payload_.text);
     } else if (owns_ == Owns::Instance && payload_.object != nullptr) {
         Host::Current().Unlock(payload_.object);
+    } else if (owns_ == Owns::Array && payload_.array != nullptr) {
+        if (--payload_.array->references == 0) {
+            delete payload_.array;
+        }
     }
 }
 

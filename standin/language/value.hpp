@@ -1,14 +1,18 @@
 // Values of a running program. A value that is a string or an object owns one reference of it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "standin/language/types.hpp"
 #include "standin/runtime/host.hpp"
 
 namespace standin::language {
+
+struct Array;
 
 /// A value of any type. What type it is, the checker knows; the value itself knows only what it
 /// owns, so that copies and destruction keep the host's reference counts.
@@ -59,6 +63,12 @@ public:
         value.owns_ = Owns::Instance;
         return value;
     }
+    static Value Adopt(Array* array) noexcept {
+        Value value;
+        value.payload_.array = array;
+        value.owns_ = Owns::Array;
+        return value;
+    }
     /// Adds a reference of its own.
     static Value Share(Object object) noexcept {
         Value value = Adopt(object);
@@ -72,7 +82,7 @@ public:
         return value;
     }
     /// The value that a variable of that type has before anything is assigned.
-    static Value DefaultOf(Type type) noexcept;
+    static Value DefaultOf(Type type);
 
     template <typename T>
     T Get() const noexcept {
@@ -87,6 +97,8 @@ public:
     bool IsTrue() const noexcept { return payload_.integer != 0; }
     String text() const noexcept { return payload_.text; }
     Object object() const noexcept { return payload_.object; }
+    /// Null for a variable whose declaration has not run.
+    Array* array() const noexcept { return payload_.array; }
     Value& Target() const noexcept { return *payload_.reference; }
 
     /// Hands the owned reference to the caller; the value is left without one and null.
@@ -103,12 +115,13 @@ public:
     void BorrowFrom(const Value& owner) noexcept;
 
 private:
-    enum class Owns : std::uint8_t { Nothing, Text, Instance };
+    enum class Owns : std::uint8_t { Nothing, Text, Instance, Array };
     union Payload {
         std::int64_t integer = 0;
         double real;
         String text;
         Object object;
+        Array* array;
         Value* reference;
     };
 
@@ -117,6 +130,14 @@ private:
 
     Payload payload_;
     Owns owns_ = Owns::Nothing;
+};
+
+/// An array of the language. It lives as long as a value refers to it; no array holds another, so
+/// none can hold itself.
+struct Array {
+    Type element;
+    std::vector<Value> items = {};
+    std::size_t references = 1;
 };
 
 }  // namespace standin::language

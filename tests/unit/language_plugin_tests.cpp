@@ -94,7 +94,7 @@ TEST_CASE("properties") {
           "2:9: \"Value\" is a property and takes no arguments");
     CHECK(host.Run("Dim s As New Sample\nPrint s.Nobody") ==
           "2:9: Sample has no member \"Nobody\"");
-    CHECK(host.Run("Dim s As String\nPrint s.Length") == "2:7: String has no members");
+    CHECK(host.Run("Dim s As String\nPrint s.Foo") == "2:9: String has no member \"Foo\"");
 }
 
 TEST_CASE("methods that can be assigned to") {
