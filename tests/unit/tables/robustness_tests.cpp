@@ -118,15 +118,30 @@ std::string SampleResults(LoadedPlugin& plugin) {
 
 }  // namespace
 
-TEST_CASE("Every member of both classes that is declared can be called") {
+TEST_CASE("Members that read change no operand, and answer a number or raise, never both") {
     LoadedPlugin plugin;
     for (NumberClass& number : plugin.classes()) {
-        const OwnedSamples samples(plugin, number);
-        for (const Member& member : MembersOf(number)) {
-            CAPTURE(member.name());
-            const bool answered = member.Call(samples.Get());
-            CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
-            (void)answered;
+        for (const char* value : {"0.5", "-4", "0"}) {
+            const OwnedSamples owned(plugin, number, value);
+            const Samples samples = owned.Get();
+            const std::string self = number.ValueBytes(samples.self);
+            const std::string argument = number.ValueBytes(samples.number);
+            for (const Member& member : MembersOf(number)) {
+                if (member.writesSelf()) {
+                    continue;
+                }
+                CAPTURE(member.name());
+                CAPTURE(value);
+                const bool answered = member.Call(samples);
+                const std::string raised = TakeRaisedClass(plugin.host());
+                CHECK(ExpectedExceptions.contains(raised));
+                CHECK((!member.givesNumber() || answered == raised.empty()));
+                CHECK(number.ValueBytes(samples.self) == self);
+                CHECK(number.ValueBytes(samples.number) == argument);
+                CHECK(plugin.host().References(samples.self) == 1);
+                CHECK(plugin.host().References(samples.number) == 1);
+                CHECK(plugin.host().References(samples.text) == 1);
+            }
         }
     }
 }
@@ -156,48 +171,6 @@ TEST_CASE("Nil as receiver of members that read, and as every argument, crashes 
     }
 }
 
-TEST_CASE("A member that answers a number either answers one or raises, never both") {
-    LoadedPlugin plugin;
-    for (NumberClass& number : plugin.classes()) {
-        for (const char* value : {"0.5", "-4", "0", "3"}) {
-            const OwnedSamples samples(plugin, number, value);
-            for (const Member& member : MembersOf(number)) {
-                if (!member.givesNumber()) {
-                    continue;
-                }
-                CAPTURE(member.name());
-                CAPTURE(value);
-                const bool answered = member.Call(samples.Get());
-                CHECK(answered == TakeRaised(plugin.host()).empty());
-            }
-        }
-    }
-}
-
-TEST_CASE("No member that reads changes its receiver or its arguments") {
-    LoadedPlugin plugin;
-    for (NumberClass& number : plugin.classes()) {
-        for (const char* value : {"0.5", "-4", "0"}) {
-            const OwnedSamples samples(plugin, number, value);
-            const std::string self = number.ValueBytes(samples.Get().self);
-            const std::string argument = number.ValueBytes(samples.Get().number);
-            for (const Member& member : MembersOf(number)) {
-                if (member.writesSelf()) {
-                    continue;
-                }
-                CAPTURE(member.name());
-                member.Call(samples.Get());
-                TakeRaised(plugin.host());
-                CHECK(number.ValueBytes(samples.Get().self) == self);
-                CHECK(number.ValueBytes(samples.Get().number) == argument);
-                CHECK(plugin.host().References(samples.Get().self) == 1);
-                CHECK(plugin.host().References(samples.Get().number) == 1);
-                CHECK(plugin.host().References(samples.Get().text) == 1);
-            }
-        }
-    }
-}
-
 TEST_CASE("Every member survives the failure of each single allocation of the host") {
     for (const Allocation kind : {Allocation::String, Allocation::Object}) {
         LoadedPlugin plugin;
@@ -207,9 +180,10 @@ TEST_CASE("Every member survives the failure of each single allocation of the ho
                 CAPTURE(member.name());
                 const int mostAllocations = IsQuick(member) ? 4 : 1;
                 for (int failing = 1; failing <= mostAllocations; ++failing) {
-                    for (const bool persistent : {false, true}) {
+                    for (const bool fromThenOn : {false, true}) {
                         CAPTURE(failing);
-                        plugin.host().FailAllocation(kind, failing, persistent);
+                        CAPTURE(fromThenOn);
+                        plugin.host().FailAllocation(kind, failing, fromThenOn);
                         member.Call(samples.Get());
                         plugin.host().StopFailing();
                         CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
@@ -225,7 +199,7 @@ TEST_CASE("A number that the host cannot make is Nil, without an exception") {
     for (NumberClass& number : plugin.classes()) {
         const OwnedSamples samples(plugin, number);
         for (const Member& member : MembersOf(number)) {
-            if (!member.givesNumber()) {
+            if (!member.givesNumber() || !IsQuick(member)) {
                 continue;
             }
             CAPTURE(member.name());
@@ -405,7 +379,7 @@ TEST_CASE("An error number that cannot be set does not matter, by either name") 
     }
 }
 
-TEST_CASE("The library asks for no function that hosts do not have") {
+TEST_CASE("Every member can be called, and asks for no function that hosts do not have") {
     LoadedPlugin plugin;
     const std::set<std::string, std::less<>> rare = {
         "REALGetRBVersion", "RegisterPluginVersion",   "PluginRegisterClass",
@@ -414,8 +388,9 @@ TEST_CASE("The library asks for no function that hosts do not have") {
     for (NumberClass& number : plugin.classes()) {
         const OwnedSamples samples(plugin, number);
         for (const Member& member : MembersOf(number)) {
+            CAPTURE(member.name());
             member.Call(samples.Get());
-            TakeRaised(plugin.host());
+            CHECK(ExpectedExceptions.contains(TakeRaisedClass(plugin.host())));
         }
     }
     for (const auto& lookup : plugin.host().lookups()) {

@@ -1,7 +1,7 @@
 // Numbers to text and back, with every option, encoding and mistake.
 #include <array>
-#include <chrono>
 #include <cstdint>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -545,11 +545,10 @@ TEST_CASE("A megabyte of digits is read in less than ten seconds") {
         CAPTURE(number.name());
         const HeldString text = plugin.MakeString(source);
         const HeldObject object = number.Unconstructed();
-        const auto start = std::chrono::steady_clock::now();
-        number.Call<void>(FromText, object.Get(), text.Get());
+        const std::clock_t start = std::clock();
         const Rest rest = SetText(number, object.Get(), text.Get(), 10);
-        const auto spent = std::chrono::steady_clock::now() - start;
-        CHECK(spent < std::chrono::seconds(10));
+        const std::clock_t spent = std::clock() - start;
+        CHECK(spent < 10 * CLOCKS_PER_SEC);
         // The last digits of a value of this size are ttmath's own.
         CHECK(number.Text(object.Get()).find("e+104857") != std::string::npos);
         CHECK(rest.valueRead);
