@@ -4,9 +4,11 @@
 #include <array>
 #include <charconv>
 #include <concepts>
+#include <span>
 #include <string>
 #include <utility>
 
+#include "standin/language/operations.hpp"
 #include "standin/language/parser.hpp"
 #include "standin/language/text.hpp"
 #include "standin/language/unicode.hpp"
@@ -193,11 +195,6 @@ Value GetTextEncoding(const Arguments& arguments, const Machine& /*machine*/) {
     return Value::Of(base | variant << 16U | format << 26U);
 }
 
-struct BuiltInRow {
-    const char* declaration;
-    BuiltInFunction function;
-};
-
 constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Int32) As String", TextOfNumber<std::int32_t>},
     {"Str(value As UInt32) As String", TextOfNumber<std::uint32_t>},
@@ -210,6 +207,9 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"VarType(value As Variant) As Integer", VarType},
     {"VariantOfType(typeCode As Integer, value As Variant) As Variant", VariantOfType},
     {"Val(text As String) As Double", Val},
+    {"CStr(value As Variant) As String", Unboxed<Kind::Text>},
+    {"CDbl(value As Variant) As Double", Unboxed<Kind::Double>},
+    {"CLong(value As Variant) As Int64", Unboxed<Kind::Int64>},
     {"Hex(value As Int32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As Int64) As String", Digits<std::uint64_t, 16>},
@@ -268,10 +268,12 @@ constexpr auto EncodingNames = std::to_array<EncodingName>({
 
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     std::vector<BuiltIn> builtIns;
-    builtIns.reserve(Rows.size());
-    for (const auto& row : Rows) {
-        builtIns.push_back(
-            {types.Resolve(ParseDeclaration(row.declaration), row.declaration), row.function});
+    for (const auto& table :
+         {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions()}) {
+        for (const auto& row : table) {
+            builtIns.push_back(
+                {types.Resolve(ParseDeclaration(row.declaration), row.declaration), row.function});
+        }
     }
     return builtIns;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,16 @@
 #include "standin/language/code.hpp"
 
 namespace standin::language {
+
+/// A function as a table row.
+struct BuiltInRow {
+    const char* declaration;
+    BuiltInFunction function;
+};
+
+/// The tables that stand in files of their own.
+std::span<const BuiltInRow> TextFunctions();
+std::span<const BuiltInRow> MathFunctions();
 
 /// A function with its declaration, from which overloads are chosen as for a plug-in's methods.
 struct BuiltIn {

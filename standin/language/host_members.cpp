@@ -156,11 +156,6 @@ Value MakeDateNow(const Arguments& /*arguments*/, const Machine& machine) {
 
 // Variant ----------------------------------------------------------------------------------------
 
-template <Kind To>
-Value Unboxed(const Arguments& arguments, const Machine& machine) {
-    return FindUnboxing(To)(arguments[0], machine);
-}
-
 /// The object that a Variant is; a Variant that holds a value, or another object, raises.
 template <const char* ClassName>
 Value Itself(const Arguments& arguments, const Machine& machine) {

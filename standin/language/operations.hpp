@@ -2,6 +2,7 @@
 #pragma once
 
 #include <compare>
+#include <vector>
 
 #include "standin/language/code.hpp"
 #include "standin/language/syntax.hpp"
@@ -21,6 +22,12 @@ UnaryFunction FindConversion(Kind from, Kind to);
 /// other kinds.
 UnaryFunction FindBoxing(Kind from);
 UnaryFunction FindUnboxing(Kind to);
+
+/// The first argument, a Variant, as one of them.
+template <Kind To>
+Value Unboxed(const std::vector<Value>& arguments, const Machine& machine) {
+    return FindUnboxing(To)(arguments.front(), machine);
+}
 
 /// Whether an object is one of that class. Nil is of no class, and a Variant that holds a value is
 /// no object to a program.

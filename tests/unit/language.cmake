@@ -6,6 +6,7 @@ set_target_properties(sample_plugin_objects PROPERTIES CXX_VISIBILITY_PRESET def
 add_unit_tests(language_tests
   SOURCES
     language_array_tests.cpp
+    language_function_tests.cpp
     language_lexer_tests.cpp
     language_parser_tests.cpp
     language_plugin_tests.cpp
