@@ -24,8 +24,8 @@ Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Intege
 End Function
 
 Function SameBytes(a As MemoryBlock, b As MemoryBlock) As Boolean
-  For i As Integer = 0 To a.Size - 1
-    If a.Byte(i) <> b.Byte(i) Then Return False
+  For i As Integer = 0 To a.Size - 1 Step 8
+    If a.Int64Value(i) <> b.Int64Value(i) Then Return False
   Next
   Return True
 End Function
@@ -33,51 +33,51 @@ End Function
 Function Result(operation As Integer, x As BigNumberVQZ, y As BigNumberVQZ) As String
   Select Case operation
   Case 1
-    Return (x + y).StringValue
+    Return Str((x + y).DataFlags)
   Case 2
-    Return (x - y).StringValue
+    Return Str((x - y).DataFlags)
   Case 3
-    Return (x * y).StringValue
+    Return Str((x * y).DataFlags)
   Case 4
-    Return (x / y).StringValue
+    Return Str((x / y).DataFlags)
   Case 5
-    Return (x \ y).StringValue
+    Return Str((x \ y).DataFlags)
   Case 6
-    Return (x Mod y).StringValue
+    Return Str((x Mod y).DataFlags)
   Case 7
-    Return (x.BitAnd(y)).StringValue
+    Return Str((x.BitAnd(y)).DataFlags)
   Case 8
-    Return (x.BitOr(y)).StringValue
+    Return Str((x.BitOr(y)).DataFlags)
   Case 9
-    Return (x.BitXOr(y)).StringValue
+    Return Str((x.BitXOr(y)).DataFlags)
   Case 10
-    Return (x.Round).StringValue
+    Return Str((x.Round).DataFlags)
   Case 11
-    Return (x.Ceil).StringValue
+    Return Str((x.Ceil).DataFlags)
   Case 12
-    Return (x.Floor).StringValue
+    Return Str((x.Floor).DataFlags)
   Case 13
-    Return (x.Abs).StringValue
+    Return Str((x.Abs).DataFlags)
   Case 14
-    Return (x.Frac).StringValue
+    Return Str((x.Frac).DataFlags)
   Case 15
-    Return (x.SkipFraction).StringValue
+    Return Str((x.SkipFraction).DataFlags)
   Case 16
-    Return (x.Multiply(3)).StringValue
+    Return Str((x.Multiply(3)).DataFlags)
   Case 17
-    Return (BigNumberVQZ.Sgn(x)).StringValue
+    Return Str((BigNumberVQZ.Sgn(x)).DataFlags)
   Case 18
-    Return (BigNumberVQZ.DegToGrad(x)).StringValue
+    Return Str((BigNumberVQZ.DegToGrad(x)).DataFlags)
   Case 19
-    Return (BigNumberVQZ.GradToDeg(x)).StringValue
+    Return Str((BigNumberVQZ.GradToDeg(x)).DataFlags)
   Case 20
-    Return (BigNumberVQZ.GradToRad(x)).StringValue
+    Return Str((BigNumberVQZ.GradToRad(x)).DataFlags)
   Case 21
-    Return (BigNumberVQZ.RadToGrad(x)).StringValue
+    Return Str((BigNumberVQZ.RadToGrad(x)).DataFlags)
   Case 22
-    Return (BigNumberVQZ.DegToRad(x)).StringValue
+    Return Str((BigNumberVQZ.DegToRad(x)).DataFlags)
   Case 23
-    Return (BigNumberVQZ.RadToDeg(x)).StringValue
+    Return Str((BigNumberVQZ.RadToDeg(x)).DataFlags)
   Case 24
     Return x.StringValue
   Case 25

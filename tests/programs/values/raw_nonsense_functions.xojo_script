@@ -23,8 +23,8 @@ Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Intege
 End Function
 
 Function SameBytes(a As MemoryBlock, b As MemoryBlock) As Boolean
-  For i As Integer = 0 To a.Size - 1
-    If a.Byte(i) <> b.Byte(i) Then Return False
+  For i As Integer = 0 To a.Size - 1 Step 8
+    If a.Int64Value(i) <> b.Int64Value(i) Then Return False
   Next
   Return True
 End Function
