@@ -40,8 +40,9 @@ Value SetElement::Evaluate(Frame& frame) const {
 Flow ForEachLoop::Execute(Frame& frame) const {
     const auto value = parts_.array->Evaluate(frame);
     const auto& array = RequireArray(value, frame.machine);
-    for (std::size_t i = 0; i < array.items.size(); ++i) {
-        *parts_.element->Storage(frame) = array.items[i];
+    // The body may make the array longer or shorter.
+    for (std::size_t next = 0; next < array.items.size();) {
+        *parts_.element->Storage(frame) = array.items[next++];
         frame.machine.position = at();
         auto converted = parts_.converted->Evaluate(frame);
         *parts_.variable->Storage(frame) = std::move(converted);

@@ -339,6 +339,38 @@ std::partial_ordering OrderText(const Value& left, const Value& right) {
         });
 }
 
+/// Text by text, integers and amounts exactly, everything else as real numbers. Objects are equal
+/// to themselves only, and so is Nil.
+std::partial_ordering OrderVariants(const Value& left, const Value& right) {
+    if (left.object() == right.object()) {
+        return std::partial_ordering::equivalent;
+    }
+    Host& host = Host::Current();
+    const auto a = host.VariantContents(left.object());
+    const auto b = host.VariantContents(right.object());
+    if (std::holds_alternative<std::monostate>(a) || std::holds_alternative<std::monostate>(b)) {
+        return std::partial_ordering::unordered;
+    }
+    if (std::holds_alternative<String>(a) && std::holds_alternative<String>(b)) {
+        const auto text = [&host](const Value& variant) {
+            return Value::Adopt(host.VariantAsString(variant.object()));
+        };
+        return OrderText(text(left), text(right));
+    }
+    constexpr auto Currency = static_cast<std::int32_t>(VariantTypeCode::Currency);
+    const bool areSame = (host.VariantType(left.object()) == Currency) ==
+                         (host.VariantType(right.object()) == Currency);
+    const auto order = [&]<typename Left, typename Right>(const Left& x, const Right& y) {
+        if constexpr (std::integral<Left> && std::integral<Right>) {
+            if (areSame) {
+                return OrderNumbers<Left, Right>(Value::Of(x), Value::Of(y));
+            }
+        }
+        return host.VariantAsDouble(left.object()) <=> host.VariantAsDouble(right.object());
+    };
+    return std::visit(order, a, b);
+}
+
 }  // namespace
 
 UnaryFunction FindConversion(Kind from, Kind to) {
@@ -457,6 +489,9 @@ OrderFunction FindOrder(Kind left, Kind right) {
     }
     if (left == Kind::Text) {
         return OrderText;
+    }
+    if (left == Kind::Variant) {
+        return OrderVariants;
     }
     return left == Kind::Boolean || left == Kind::TextEncoding ? OrderWords : nullptr;
 }

@@ -46,7 +46,7 @@ UnaryFunction FindComplement(Kind kind);
 BinaryFunction FindOperation(syntax::BinaryOperator operation, Kind kind);
 
 /// How two values are ordered: numbers by value whatever their kinds, text without regard to the
-/// case of ASCII letters. Null for kinds that have no order.
+/// case of ASCII letters, Variants by what they hold. Null for kinds that have no order.
 OrderFunction FindOrder(Kind left, Kind right);
 
 /// Whether an order fulfils a comparison: Less for `<`, and so on. NaN fulfils `<>` only.

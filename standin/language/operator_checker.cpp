@@ -253,7 +253,15 @@ Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Check
             right = ConvertTo(std::move(right), encoding);
         }
     }
-    const bool isOrdered = isEquality || left.type.kind == Kind::Text ||
+    if (left.type.kind == Kind::Variant || right.type.kind == Kind::Variant) {
+        const Type variant{Kind::Variant};
+        if (FitOf(left, variant) != Fit::None && FitOf(right, variant) != Fit::None) {
+            left = ConvertTo(std::move(left), variant);
+            right = ConvertTo(std::move(right), variant);
+        }
+    }
+    const bool isOrdered = isEquality || left.type.kind == Kind::Variant ||
+                           left.type.kind == Kind::Text ||
                            (IsNumber(left.type.kind) && IsNumber(right.type.kind));
     const auto order = FindOrder(left.type.kind, right.type.kind);
     if (order == nullptr || !isOrdered) {

@@ -59,10 +59,11 @@ Value TrimText(const Arguments& arguments, const Machine& machine) {
 /// letters; npos without it.
 std::size_t Find(std::string_view text, std::string_view wanted, std::size_t from) {
     const auto rest = text.substr(std::min(from, text.size()));
-    const auto found = std::ranges::search(rest, wanted, {}, FoldCase, FoldCase);
-    const bool isThere = !found.empty() || wanted.empty();
-    return isThere ? from + static_cast<std::size_t>(found.begin() - rest.begin())
-                   : std::string_view::npos;
+    const auto* const found =
+        std::search(rest.begin(), rest.end(), wanted.begin(), wanted.end(),
+                    [](char a, char b) { return FoldCase(a) == FoldCase(b); });
+    const bool isThere = found != rest.end() || wanted.empty();
+    return isThere ? from + static_cast<std::size_t>(found - rest.begin()) : std::string_view::npos;
 }
 
 /// The offset in bytes behind that many characters, at most the end.

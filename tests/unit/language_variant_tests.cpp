@@ -58,8 +58,8 @@ TEST_CASE("what cannot be done with Variants is told") {
     SampleHost host;
     CHECK(host.Run("Dim v As Variant = 1\nPrint v + 1") ==
           "2:9: \"+\" cannot stand between Variant and Integer");
-    CHECK(host.Run("Dim v, w As Variant\nPrint v = w") ==
-          "2:9: \"=\" cannot stand between Variant and Variant");
+    CHECK(host.Run("Dim v As Variant\nPrint v = Encodings.UTF8") ==
+          "2:9: \"=\" cannot stand between Variant and TextEncoding");
     CHECK(host.Run("Dim v As Variant = Encodings.UTF8") ==
           "1:30: expected Variant, this is TextEncoding");
 }
@@ -147,4 +147,28 @@ TEST_CASE("a class that the host lacks takes only its own members away") {
     SampleHost host({.missing = {"Date"}});
     CHECK(host.Run("Dim v As Variant = 5\nPrint v.IntegerValue\nPrint v.DateValue Is Nil") ==
           "3:9: cannot use \"DateValue As Date\": there is no type \"Date\"");
+}
+
+TEST_CASE("Variants are compared by what they hold") {
+    SampleHost host;
+    CHECK(
+        host.Run("Dim v As Variant = 5, w As Variant = 5.0\nPrint v = 5\nPrint v = w\nPrint v < 6\n"
+                 "Print 6 <= v\nPrint v <> \"5\"\nPrint v = \"6\"") ==
+        "True\nTrue\nTrue\nFalse\nFalse\nFalse\n");
+    CHECK(
+        host.Run("Dim v As Variant = \"abc\"\nPrint v = \"ABC\"\nPrint v < \"abd\"\nPrint v = 0") ==
+        "True\nTrue\nTrue\n");
+    CHECK(host.Run("Dim v As Variant = 9007199254740993, u As UInt64 = 18446744073709551615\n"
+                   "Print v = 9007199254740992\nPrint v < u\nv = -1\nPrint v < u\nPrint v = u") ==
+          "False\nTrue\nTrue\nFalse\n");
+    CHECK(host.Run("Dim c As Currency = 1.5, v As Variant = c\nPrint v = c\nPrint v = 1.5\n"
+                   "Print v > 1\nPrint v = 15000") == "True\nTrue\nTrue\nFalse\n");
+    CHECK(host.Run("Dim v As Variant, w As Variant = 0\nPrint v = w\nPrint v <> w\nPrint v < w\n"
+                   "w = Nil\nPrint v = w") == "False\nTrue\nFalse\nTrue\n");
+    CHECK(host.Run("Dim s As New MemoryBlock(1), v As Variant = s, w As Variant = s\nPrint v = w\n"
+                   "Print v = s\nw = New MemoryBlock(1)\nPrint v = w\nPrint v = 5") ==
+          "True\nTrue\nFalse\nFalse\n");
+    CHECK(host.Run("Dim a() As Variant = Array(1, \"x\", Nil)\nPrint a.IndexOf(\"X\")\n"
+                   "Print a.IndexOf(Nil)\nPrint a.IndexOf(1.0)\nPrint a.IndexOf(True)") ==
+          "1\n2\n0\n0\n");
 }

@@ -1,0 +1,3 @@
+Dim a() As BigNumberVQZ
+a.Append("5")
+a.Append(5)
