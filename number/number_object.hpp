@@ -23,7 +23,7 @@ struct NumberInstance {
 /// The instance data of an object of the class: it lies where the host told at registration.
 template <typename Value>
 NumberInstance<Value>& InstanceOf(Object object) {
-    char* const address = reinterpret_cast<char*>(object);
+    auto* const address = reinterpret_cast<char*>(object);
     return *reinterpret_cast<NumberInstance<Value>*>(address +
                                                      NumberClass<Value>::Record.instanceDataOffset);
 }

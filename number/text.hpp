@@ -137,14 +137,14 @@ Routine SetTextInBase() {
 }
 
 /// "SetStringValue": parses, and tells what was left of the text and whether digits were read.
-/// `text` is held from the start, so that one variable may be both it and `afterText`.
+/// One variable may be both the text and the rest.
 template <typename Value, FixedString LogName, FixedString FailureName>
 Routine SetTextAndTellRest() {
     return AsRoutine([](Object self, String text, Integer base, String* afterText,
                         std::uint8_t* valueRead) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
-            const StringReference held = StringReference::Share(text);
+            // Released at the end only: it may be the text itself.
             const StringReference previous(std::exchange(*afterText, nullptr));
             *valueRead = 0;
 
