@@ -100,4 +100,5 @@ Dim restored As New BigNumberVQZ
 restored.DataExponent = exponent
 restored.DataMantissa = mantissa
 restored.DataFlags = flags
-Print "restored: " + Str(restored.Equals(third)) + ", from its text: " + Str(third.Equals(third.StringValue))
+Print "restored: " + Str(restored.Equals(third)) + ", from its text: " _
+    + Str(third.Equals(third.StringValue))

@@ -6,7 +6,9 @@ Sub Show(left As String, right As String)
   Dim y As New BigNumberVQZ
   y.StringValue(16) = right
   Dim digits As Integer = 1000
-  Print left + " and " + right + ": " + x.BitAnd(y).GetStringValue(16, False, digits) + " " + x.BitOr(y).GetStringValue(16, False, digits) + " " + x.BitXOr(y).GetStringValue(16, False, digits)
+  Print left + " and " + right + ": " + x.BitAnd(y).GetStringValue(16, False, digits) + " " _
+      + x.BitOr(y).GetStringValue(16, False, digits) + " " _
+      + x.BitXOr(y).GetStringValue(16, False, digits)
 End Sub
 
 Show("C", "A")
@@ -17,7 +19,8 @@ Show("F", "0")
 Show("F", "F")
 Show("1", "1000000000000000000000000000000000000000000000000")
 Show("FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF", "123456789ABCDEF0")
-Show("AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA", "5555555555555555555555555555555555555555555555555555555555555555")
+Show("AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA", _
+    "5555555555555555555555555555555555555555555555555555555555555555")
 Show("FEDCBA98765432100123456789ABCDEF", "F0F0F0F0F0F0F0F0F0F0F0F0F0F0F0F0")
 
 Print "-- bits after the point count as well"

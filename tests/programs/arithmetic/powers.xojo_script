@@ -1,7 +1,8 @@
 ' In both precisions: powers and square roots.
 
 Sub Show(base As BigNumberVQZ, exponent As BigNumberVQZ)
-  Print base.StringValue + " ^ " + exponent.StringValue + " = " + (base ^ exponent).StringValue + " = " + base.Pow(exponent).StringValue
+  Print base.StringValue + " ^ " + exponent.StringValue + " = " + (base ^ exponent).StringValue _
+      + " = " + base.Pow(exponent).StringValue
 End Sub
 
 Show("2", "10")
@@ -25,9 +26,12 @@ Function IsNear(x As BigNumberVQZ, y As BigNumberVQZ) As Boolean
   Return (x - y).Abs < y.Abs * "1e-70"
 End Function
 Dim two As BigNumberVQZ = "2"
-Print Str(IsNear(two ^ "0.5", "1.41421356237309504880168872420969807856967187537694807317667973799073247846211"))
-Print Str(IsNear(two ^ "-0.5", "0.707106781186547524400844362104849039284835937688474036588339868995366239231053"))
-Print Str(IsNear(two ^ "2.5", "5.65685424949238019520675489683879231427868750150779229270671895196292991384843"))
+Print Str(IsNear(two ^ "0.5", _
+    "1.41421356237309504880168872420969807856967187537694807317667973799073247846211"))
+Print Str(IsNear(two ^ "-0.5", _
+    "0.707106781186547524400844362104849039284835937688474036588339868995366239231053"))
+Print Str(IsNear(two ^ "2.5", _
+    "5.65685424949238019520675489683879231427868750150779229270671895196292991384843"))
 
 Print "-- square roots"
 Sub ShowRoot(x As BigNumberVQZ)

@@ -3,7 +3,9 @@
 Sub Show(left As BigNumberVQZ, right As BigNumberVQZ)
   Dim quotient As BigNumberVQZ = left \ right
   Dim remainder As BigNumberVQZ = left Mod right
-  Print left.StringValue + " by " + right.StringValue + ": " + quotient.StringValue + ", remainder " + remainder.StringValue + " " + left.Modulate(right).StringValue + ", together again: " + Str(quotient * right + remainder = left)
+  Print left.StringValue + " by " + right.StringValue + ": " + quotient.StringValue _
+      + ", remainder " + remainder.StringValue + " " + left.Modulate(right).StringValue _
+      + ", together again: " + Str(quotient * right + remainder = left)
 End Sub
 
 Show("7", "2")
@@ -44,4 +46,5 @@ Function CommonDivisor(a As BigNumberVQZ, b As BigNumberVQZ) As BigNumberVQZ
   Return CommonDivisor(b, a Mod b)
 End Function
 Print CommonDivisor("123456789012345678901234567890", "987654321098765432109876543210")
-Print CommonDivisor("1606938044258990275541962092341162602522202993782792835301376", "265252859812191058636308480000000")
+Print CommonDivisor("1606938044258990275541962092341162602522202993782792835301376", _
+    "265252859812191058636308480000000")

@@ -1,5 +1,5 @@
-' In both precisions: the operators for the right side are those for the left one. The receiver is the
-' left operand of both.
+' In both precisions: the operators for the right side are those for the left one. The receiver is
+' the left operand of both.
 
 Sub Show(x As BigNumberVQZ, y As BigNumberVQZ)
   Print "-- " + x.StringValue + " and " + y.StringValue
@@ -7,7 +7,8 @@ Sub Show(x As BigNumberVQZ, y As BigNumberVQZ)
   Print "- " + x.Operator_Subtract(y).StringValue + " " + x.Operator_SubtractRight(y).StringValue
   Print "* " + x.Operator_Multiply(y).StringValue + " " + x.Operator_MultiplyRight(y).StringValue
   Print "/ " + x.Operator_Divide(y).StringValue + " " + x.Operator_DivideRight(y).StringValue
-  Print "\ " + x.Operator_IntegerDivide(y).StringValue + " " + x.Operator_IntegerDivideRight(y).StringValue
+  Print "\ " + x.Operator_IntegerDivide(y).StringValue + " " _
+      + x.Operator_IntegerDivideRight(y).StringValue
   Print "Mod " + x.Operator_Modulo(y).StringValue + " " + x.Operator_ModuloRight(y).StringValue
   Print "^ " + x.Operator_Power(y).StringValue + " " + x.Operator_PowerRight(y).StringValue
 End Sub

@@ -1,7 +1,9 @@
 ' In both precisions: rounding, cutting and the parts of a number.
 
 Sub Show(x As BigNumberVQZ)
-  Print x.StringValue + ": Round " + x.Round.StringValue + ", Ceil " + x.Ceil.StringValue + ", Floor " + x.Floor.StringValue + ", SkipFraction " + x.SkipFraction.StringValue + ", Frac " + x.Frac.StringValue + ", Abs " + x.Abs.StringValue
+  Print x.StringValue + ": Round " + x.Round.StringValue + ", Ceil " + x.Ceil.StringValue _
+      + ", Floor " + x.Floor.StringValue + ", SkipFraction " + x.SkipFraction.StringValue _
+      + ", Frac " + x.Frac.StringValue + ", Abs " + x.Abs.StringValue
 End Sub
 
 Show("0")
@@ -24,16 +26,22 @@ Show("-1606938044258990275541962092341162602522202993782792835301376.25")
 
 Print "-- no negative zero"
 Dim x As BigNumberVQZ = "-0.25"
-Print Str(x.Round.IsZero) + " " + Str(x.Round.IsNegative) + " " + Str(x.Ceil.IsNegative) + " " + Str(x.SkipFraction.IsNegative)
+Print Str(x.Round.IsZero) + " " + Str(x.Round.IsNegative) + " " + Str(x.Ceil.IsNegative) + " " _
+    + Str(x.SkipFraction.IsNegative)
 x = "-3"
 Print Str(x.Frac.IsZero) + " " + Str(x.Frac.IsNegative)
 
 Print "-- the shared forms"
-Print BigNumberVQZ.Abs("-2.5").StringValue + " " + BigNumberVQZ.Abs("2.5").StringValue + " " + BigNumberVQZ.Abs("0").StringValue
-Print BigNumberVQZ.Sgn("-2.5").StringValue + " " + BigNumberVQZ.Sgn("2.5").StringValue + " " + BigNumberVQZ.Sgn("0").StringValue
+Print BigNumberVQZ.Abs("-2.5").StringValue + " " + BigNumberVQZ.Abs("2.5").StringValue + " " _
+    + BigNumberVQZ.Abs("0").StringValue
+Print BigNumberVQZ.Sgn("-2.5").StringValue + " " + BigNumberVQZ.Sgn("2.5").StringValue + " " _
+    + BigNumberVQZ.Sgn("0").StringValue
 
 Print "-- not a number"
 Dim missing As BigNumberVQZ
-Print missing.Abs.StringValue + " " + missing.Frac.StringValue + " " + missing.SkipFraction.StringValue + " " + BigNumberVQZ.Abs(missing).StringValue + " " + BigNumberVQZ.Sgn(missing).StringValue
+Print missing.Abs.StringValue + " " + missing.Frac.StringValue + " " _
+    + missing.SkipFraction.StringValue + " " + BigNumberVQZ.Abs(missing).StringValue + " " _
+    + BigNumberVQZ.Sgn(missing).StringValue
 x = BigNumberVQZ.Nan
-Print x.Abs.StringValue + " " + x.Frac.StringValue + " " + x.SkipFraction.StringValue + " " + BigNumberVQZ.Abs(x).StringValue + " " + BigNumberVQZ.Sgn(x).StringValue
+Print x.Abs.StringValue + " " + x.Frac.StringValue + " " + x.SkipFraction.StringValue + " " _
+    + BigNumberVQZ.Abs(x).StringValue + " " + BigNumberVQZ.Sgn(x).StringValue

@@ -4,12 +4,14 @@
 Sub Smaller(label As String, rounded As BigNumberVQZ, cut As BigNumberVQZ, power As String)
   Dim unit As BigNumberVQZ = "2"
   unit = unit ^ power
-  Print label + ": rounded is above cut: " + Str(rounded > cut) + ", by 2^" + power + ": " + Str((rounded - cut) = unit)
+  Print label + ": rounded is above cut: " + Str(rounded > cut) + ", by 2^" + power + ": " _
+      + Str((rounded - cut) = unit)
 End Sub
 Sub Bigger(label As String, rounded As BiggerNumberVQZ, cut As BiggerNumberVQZ, power As String)
   Dim unit As BiggerNumberVQZ = "2"
   unit = unit ^ power
-  Print label + ": rounded is above cut: " + Str(rounded > cut) + ", by 2^" + power + ": " + Str((rounded - cut) = unit)
+  Print label + ": rounded is above cut: " + Str(rounded > cut) + ", by 2^" + power + ": " _
+      + Str((rounded - cut) = unit)
 End Sub
 
 Print "-- 256 bits"

@@ -51,7 +51,8 @@ Sub Show(label As String, text As String)
   Catch e As BigNumberErrorExceptionVQZ
     Print e.Message
   End Try
-  Print assigned.StringValue + " " + inBase.StringValue + " " + read.StringValue + " " + again.StringValue + ", the rest '" + rest + "', digits: " + Str(found)
+  Print assigned.StringValue + " " + inBase.StringValue + " " + read.StringValue + " " _
+      + again.StringValue + ", the rest '" + rest + "', digits: " + Str(found)
 End Sub
 
 Show("a large exponent of a thousand digits", "1e" + nines)

@@ -8,7 +8,9 @@ Sub Show(text As String)
   assigned.StringValue = text
   Dim inBase As New BigNumberVQZ("77")
   inBase.StringValue(10) = text
-  Print "'" + text + "': " + converted.StringValue + " " + made.StringValue + " " + assigned.StringValue + " " + inBase.StringValue + " " + BigNumberVQZ.NumberWithString(text).StringValue
+  Print "'" + text + "': " + converted.StringValue + " " + made.StringValue + " " _
+      + assigned.StringValue + " " + inBase.StringValue + " " _
+      + BigNumberVQZ.NumberWithString(text).StringValue
 End Sub
 
 Show("")

@@ -52,13 +52,15 @@ Show("Nil and NaN", missing, BigNumberVQZ.Nan)
 Print "-- Nil as a literal; Is looks at the object alone"
 Dim zero As New BigNumberVQZ
 Dim five As New BigNumberVQZ("5")
-Print Str(zero = Nil) + " " + Str(zero Is Nil) + " " + Str(five = Nil) + " " + Str(five > Nil) + " " + Str(five Is Nil)
+Print Str(zero = Nil) + " " + Str(zero Is Nil) + " " + Str(five = Nil) + " " + Str(five > Nil) _
+    + " " + Str(five Is Nil)
 Print Str(missing = Nil) + " " + Str(missing Is Nil) + " " + Str(Nil = zero) + " " + Str(Nil < five)
 Dim sameFive As New BigNumberVQZ("5")
 Print Str(five = sameFive) + " " + Str(five Is sameFive) + " " + Str(five Is five)
 
 Print "-- text beside a number becomes a number"
-Print Str(five = "5.000") + " " + Str(five < "10") + " " + Str(five > "abc") + " " + Str("10" > five) + " " + Str("5" = five) + " " + Str("4" < five)
+Print Str(five = "5.000") + " " + Str(five < "10") + " " + Str(five > "abc") + " " _
+    + Str("10" > five) + " " + Str("5" = five) + " " + Str("4" < five)
 
 Print "-- the largest of a list"
 Dim largest As BigNumberVQZ = "-1e100"

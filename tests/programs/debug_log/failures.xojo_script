@@ -1,5 +1,11 @@
 ' In both precisions: what failed operations write to the debug log.
 
+' An exponent that neither precision has.
+Dim huge As String = "1e"
+For i As Integer = 1 To 160
+  huge = huge + "9"
+Next
+
 Dim x As New BigNumberVQZ("12.5")
 Dim y As New BigNumberVQZ
 Dim large As New BigNumberVQZ("1e20")
@@ -74,15 +80,15 @@ For i As Integer = 1 To 31
     Case 26
       y.StringValue(1) = "5"
     Case 27
-      y.StringValue = "1e99999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999"
+      y.StringValue = huge
     Case 28
       y.SetStringValue("5", 17, rest, flag)
     Case 29
-      y.Constructor("1e99999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999")
+      y.Constructor(huge)
     Case 30
       i32 = missing.DataFlags
     Case 31
-      result = BigNumberVQZ.NumberWithString("1e99999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999")
+      result = BigNumberVQZ.NumberWithString(huge)
     End Select
     Print Str(i) + " has not failed"
   Catch e As RuntimeException

@@ -5,4 +5,5 @@ BigNumberVQZ.Debugging = True
 small = BigNumberVQZ.Rand
 big = BiggerNumberVQZ.Rand
 BigNumberVQZ.Debugging = False
-Print Str(small.IsNegative Or small.IsZero Or small.IsNan) + " " + Str(big.IsNegative Or big.IsZero Or big.IsNan)
+Print Str(small.IsNegative Or small.IsZero Or small.IsNan) + " " _
+    + Str(big.IsNegative Or big.IsZero Or big.IsNan)

@@ -1,5 +1,11 @@
 ' In both precisions: what the conversions from and to Variants write to the debug log.
 
+' An exponent that neither precision has.
+Dim huge As String = "1e"
+For i As Integer = 1 To 160
+  huge = huge + "9"
+Next
+
 Dim x As New BigNumberVQZ("77")
 Dim result As BigNumberVQZ
 Dim out As Variant
@@ -42,7 +48,7 @@ For i As Integer = 1 To 15
   Case 14
     value = New MemoryBlock(4)
   Case 15
-    value = "1e9999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999"
+    value = huge
   End Select
   Try
     BigNumberVQZ.Debugging = True

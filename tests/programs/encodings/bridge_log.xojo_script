@@ -24,7 +24,8 @@ For i As Integer = 1 To texts
   BigNumberVQZ.Debugging = False
   Print x
 Next
-Dim unknown As String = DefineEncoding(ConvertEncoding("12é", Encodings.WindowsANSI), GetTextEncoding(65535))
+Dim unknown As String = DefineEncoding(ConvertEncoding("12é", Encodings.WindowsANSI), _
+    GetTextEncoding(65535))
 BigNumberVQZ.Debugging = True
 x.SetStringValue(unknown, 10, rest, found)
 BigNumberVQZ.Debugging = False

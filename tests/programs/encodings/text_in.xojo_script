@@ -9,7 +9,8 @@ Sub Read(label As String, text As String)
   If rest = "" Then
     Print line + ", no rest"
   Else
-    Print line + ", rest '" + rest + "' of " + Str(LenB(rest)) + " bytes, UTF-8: " + Str(Encoding(rest) = Encodings.UTF8)
+    Print line + ", rest '" + rest + "' of " + Str(LenB(rest)) + " bytes, UTF-8: " _
+        + Str(Encoding(rest) = Encodings.UTF8)
   End If
 End Sub
 
@@ -40,7 +41,8 @@ ReadAll("-12.5é")
 ReadBytes("-12.5é")
 
 Print "-- the unknown encoding is taken for Windows'"
-Read("unknown", DefineEncoding(ConvertEncoding("7 €", Encodings.WindowsANSI), GetTextEncoding(65535)))
+Read("unknown", DefineEncoding(ConvertEncoding("7 €", Encodings.WindowsANSI), _
+    GetTextEncoding(65535)))
 
 Print "-- characters of three and four bytes"
 ReadAll("3.25 €" + Chr(128512) + "!")
@@ -60,7 +62,8 @@ Sub Show(text As String)
   y.StringValue = text
   Dim z As New BigNumberVQZ
   z.StringValue(16) = text
-  Print x.StringValue + " " + y.StringValue + " " + z.StringValue + " " + BigNumberVQZ.NumberWithString(text).StringValue + " " + (y + text).StringValue
+  Print x.StringValue + " " + y.StringValue + " " + z.StringValue + " " _
+      + BigNumberVQZ.NumberWithString(text).StringValue + " " + (y + text).StringValue
 End Sub
 Show(ConvertEncoding("-12.5", Encodings.UTF16))
 Show(ConvertEncoding("-12.5", Encodings.UTF32BE))

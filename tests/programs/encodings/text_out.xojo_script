@@ -8,7 +8,8 @@ End Function
 
 Dim x As BigNumberVQZ = "3.25"
 Dim text As String = x
-Print NameOf(text) + " " + NameOf(x.StringValue) + " " + NameOf(x.StringValue(16)) + " " + NameOf(x.GetStringValue)
+Print NameOf(text) + " " + NameOf(x.StringValue) + " " + NameOf(x.StringValue(16)) + " " _
+    + NameOf(x.GetStringValue)
 Print NameOf(BigNumberVQZ.LibTypeStr)
 
 Print "-- a decimal point of any encoding"

@@ -74,7 +74,8 @@ Show("BitAnd", "-1", "1")
 Show("BitOr", "1", "-1")
 Show("BitXOr", "-1", "-1")
 
-Dim operations As String = "Add|Add, not rounded|Subtract|Multiply|Divide|Divide, not rounded|Modulate|Pow|BitAnd|BitOr|BitXOr|+|-|*|/|\|Mod|^|"
+Dim operations As String = "Add|Add, not rounded|Subtract|Multiply|Divide|Divide, not rounded|" _
+    + "Modulate|Pow|BitAnd|BitOr|BitXOr|+|-|*|/|\|Mod|^|"
 
 ' Cuts the next of the texts between bars off a list.
 Function TakeNext(ByRef list As String) As String

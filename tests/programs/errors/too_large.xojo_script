@@ -4,7 +4,8 @@ Dim largest As BigNumberVQZ = BigNumberVQZ.Max
 Dim smallest As BigNumberVQZ = BigNumberVQZ.Min
 
 Function NumbersOf(operation As String, x As BigNumberVQZ, y As BigNumberVQZ) As String
-  Return operation + " operation failed with numbers " + x.StringValue + " and " + y.StringValue + "."
+  Return operation + " operation failed with numbers " + x.StringValue + " and " + y.StringValue _
+      + "."
 End Function
 
 Print "-- sums and products of the largest number"
@@ -28,8 +29,10 @@ Try
 Catch e As BigNumberErrorExceptionVQZ
   Print Str(e.Message = NumbersOf("Pow", largest, "2"))
 End Try
-Print "the largest number stays: " + Str(largest = BigNumberVQZ.Max) + " " + Str(-smallest = largest)
-Print "their sum is " + (largest + smallest).StringValue + ", the quotient " + (largest / smallest).StringValue
+Print "the largest number stays: " + Str(largest = BigNumberVQZ.Max) + " " _
+    + Str(-smallest = largest)
+Print "their sum is " + (largest + smallest).StringValue + ", the quotient " _
+    + (largest / smallest).StringValue
 
 Print "-- products with machine integers report the product as it was left"
 Sub MultiplyByInteger(x As BigNumberVQZ, factor As Int32)

@@ -1,5 +1,5 @@
-' In both precisions: a value of each function and constant, to 60 digits. The expected digits come from a
-' computation of their own with twice as many.
+' In both precisions: a value of each function and constant, to 60 digits. The expected digits
+' come from a computation of their own with twice as many.
 
 Sub Show(label As String, x As BigNumberVQZ)
   Print label + " = " + x.GetStringValue(10, True, 15, 59)
@@ -67,9 +67,11 @@ Show("DegToGrad(12, 30, 45)", BigNumberVQZ.DegToGrad("12", "30", "45"))
 
 Print "-- the largest and the smallest number"
 Dim largest As BigNumberVQZ = BigNumberVQZ.Max
-Print Str(largest.Negate = BigNumberVQZ.Min) + " " + Str(BigNumberVQZ.Min.IsNegative) + " " + Str(largest > "1e1000000") + " " + Str(largest.IsInteger)
+Print Str(largest.Negate = BigNumberVQZ.Min) + " " + Str(BigNumberVQZ.Min.IsNegative) + " " _
+    + Str(largest > "1e1000000") + " " + Str(largest.IsInteger)
 
 Print "-- random numbers"
 Dim first As BigNumberVQZ = BigNumberVQZ.Rand
 Dim second As BigNumberVQZ = BigNumberVQZ.Rand
-Print Str(first.IsNegative) + " " + Str(first.IsZero) + " " + Str(first.IsNan) + " " + Str(first.Equals(second))
+Print Str(first.IsNegative) + " " + Str(first.IsZero) + " " + Str(first.IsNan) + " " _
+    + Str(first.Equals(second))

@@ -19,9 +19,13 @@ Print x
 
 Print "-- arithmetic"
 x = "12.5"
-Print (x + y).StringValue + " " + (x - y).StringValue + " " + (x * y).StringValue + " " + (x / y).StringValue + " " + (x \ y).StringValue + " " + (x Mod y).StringValue + " " + (y ^ "3").StringValue + " " + (-x).StringValue
-Print x.Multiply(3).StringValue + " " + x.Round.StringValue + " " + x.Floor.StringValue + " " + x.Abs.StringValue + " " + Str(x.Modulate2)
-Print Str(x > y) + " " + Str(x = "12.50") + " " + Str(x.Equals(y)) + " " + Str(x.IsNegative) + " " + Str(y.IsNegative) + " " + Str(y.IsInteger)
+Print (x + y).StringValue + " " + (x - y).StringValue + " " + (x * y).StringValue + " " _
+    + (x / y).StringValue + " " + (x \ y).StringValue + " " + (x Mod y).StringValue + " " _
+    + (y ^ "3").StringValue + " " + (-x).StringValue
+Print x.Multiply(3).StringValue + " " + x.Round.StringValue + " " + x.Floor.StringValue + " " _
+    + x.Abs.StringValue + " " + Str(x.Modulate2)
+Print Str(x > y) + " " + Str(x = "12.50") + " " + Str(x.Equals(y)) + " " + Str(x.IsNegative) _
+    + " " + Str(y.IsNegative) + " " + Str(y.IsInteger)
 
 Print "-- values of the host"
 Dim d As Double = 0.1
@@ -31,7 +35,10 @@ Dim u64 As UInt64 = 0
 u64 = u64 - 1
 Dim amount As Currency = 12.3456
 Print BigNumberVQZ.NumberWithDouble(d).StringValue
-Print BigNumberVQZ.NumberWithSingle(s).StringValue + " " + BigNumberVQZ.NumberWithInt64(i64).StringValue + " " + BigNumberVQZ.NumberWithUInt64(u64).StringValue + " " + BigNumberVQZ.NumberWithCurrency(amount).StringValue
+Print BigNumberVQZ.NumberWithSingle(s).StringValue + " " _
+    + BigNumberVQZ.NumberWithInt64(i64).StringValue + " " _
+    + BigNumberVQZ.NumberWithUInt64(u64).StringValue + " " _
+    + BigNumberVQZ.NumberWithCurrency(amount).StringValue
 x = New BigNumberVQZ(d)
 Print Str(x.DoubleValue) + " " + Str(x.DoubleValue = d)
 x.DoubleValue = 1 / 3

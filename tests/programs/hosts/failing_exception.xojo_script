@@ -1,5 +1,5 @@
-' In both precisions: where the host cannot make the exception, it is asked for a RuntimeException in
-' its place.
+' In both precisions: where the host cannot make the exception, it is asked for a RuntimeException
+' in its place.
 Dim x As New BigNumberVQZ("12.5")
 Dim zero As New BigNumberVQZ
 Try

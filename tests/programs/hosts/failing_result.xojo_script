@@ -1,5 +1,5 @@
-' In both precisions: where the host cannot make the object of a result, the result is Nil, and nothing
-' is raised.
+' In both precisions: where the host cannot make the object of a result, the result is Nil, and
+' nothing is raised.
 Dim x As New BigNumberVQZ("12.5")
 Dim y As New BigNumberVQZ("4")
 Dim sum As BigNumberVQZ = x + y

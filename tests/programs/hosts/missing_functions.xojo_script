@@ -20,7 +20,8 @@ Read("ASCII", ConvertEncoding("12.5 m", Encodings.ASCII))
 Read("UTF-8", ConvertEncoding("12.5 é", Encodings.UTF8))
 Read("ISO Latin 1", ConvertEncoding("12.5 é", Encodings.ISOLatin1))
 Read("UTF-16", ConvertEncoding("12.5 m", Encodings.UTF16))
-Read("unknown", DefineEncoding(ConvertEncoding("12.5 é", Encodings.WindowsANSI), GetTextEncoding(65535)))
+Read("unknown", DefineEncoding(ConvertEncoding("12.5 é", Encodings.WindowsANSI), _
+    GetTextEncoding(65535)))
 
 Print "-- results"
 Print TextOf(x + x)

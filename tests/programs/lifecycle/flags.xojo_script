@@ -10,7 +10,8 @@ Function Flags(x As BigNumberVQZ) As String
 End Function
 
 Sub Show(x As BigNumberVQZ)
-  Print x.StringValue + ":" + Flags(x) + " | negated " + x.Negate.StringValue + ":" + Flags(x.Negate) + " | -x " + (-x).StringValue + ":" + Flags(-x)
+  Print x.StringValue + ":" + Flags(x) + " | negated " + x.Negate.StringValue + ":" _
+      + Flags(x.Negate) + " | -x " + (-x).StringValue + ":" + Flags(-x)
 End Sub
 
 Show("0")
@@ -29,9 +30,11 @@ Show(missing)
 Print "the negated Nil is an object: " + Str(Not (missing.Negate Is Nil))
 Dim x As New BigNumberVQZ("3")
 Dim negated As BigNumberVQZ = x.Negate
-Print "x stays " + x.StringValue + ", its negation is " + negated.StringValue + ", twice " + negated.Negate.StringValue
+Print "x stays " + x.StringValue + ", its negation is " + negated.StringValue + ", twice " _
+    + negated.Negate.StringValue
 
 Print "-- where fractions end"
 ' 2^255 plus a half needs 257 bits. Both precisions hold 2^200 plus a half.
 Dim large As BigNumberVQZ = "1606938044258990275541962092341162602522202993782792835301376"
-Print Str(large.IsInteger) + " " + Str(large.Add("0.5").IsInteger) + " " + Str(large.Add("0.5").Add("0.5").IsInteger)
+Print Str(large.IsInteger) + " " + Str(large.Add("0.5").IsInteger) + " " _
+    + Str(large.Add("0.5").Add("0.5").IsInteger)

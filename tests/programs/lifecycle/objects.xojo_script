@@ -5,7 +5,8 @@ Dim b As New BigNumberVQZ("3.5")
 
 Sub CheckNew(label As String, result As BigNumberVQZ, left As BigNumberVQZ, right As BigNumberVQZ)
   Dim news As Boolean = Not (result Is left) And Not (result Is right)
-  Print label + " = " + result.StringValue + ", a new object: " + Str(news) + ", operands " + left.StringValue + " and " + right.StringValue
+  Print label + " = " + result.StringValue + ", a new object: " + Str(news) + ", operands " _
+      + left.StringValue + " and " + right.StringValue
 End Sub
 
 CheckNew("Add", a.Add(b), a, b)

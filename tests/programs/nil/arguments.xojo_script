@@ -1,6 +1,7 @@
 ' In both precisions: Nil as the argument of every shared function.
 
-Function Compute(name As String, x As BigNumberVQZ, y As BigNumberVQZ, z As BigNumberVQZ) As BigNumberVQZ
+Function Compute(name As String, x As BigNumberVQZ, y As BigNumberVQZ, _
+    z As BigNumberVQZ) As BigNumberVQZ
   Select Case name
   Case "Abs"
     Return BigNumberVQZ.Abs(x)
@@ -75,7 +76,8 @@ Sub Show(name As String, x As BigNumberVQZ, y As BigNumberVQZ, z As BigNumberVQZ
   End Try
 End Sub
 
-Dim names As String = "DegToGrad GradToDeg GradToRad RadToGrad DegToRad RadToDeg ACoth ATanh ACosh ASinh Coth Tanh Cosh Sinh ACot ATan ACos ASin Cot Tan Cos Sin Ln Exp Abs Sgn "
+Dim names As String = "DegToGrad GradToDeg GradToRad RadToGrad DegToRad RadToDeg " _
+    + "ACoth ATanh ACosh ASinh Coth Tanh Cosh Sinh ACot ATan ACos ASin Cot Tan Cos Sin Ln Exp Abs Sgn "
 Dim name As String
 For i As Integer = 1 To Len(names)
   If Mid(names, i, 1) = " " Then

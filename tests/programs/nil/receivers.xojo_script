@@ -5,14 +5,17 @@ Dim x As BigNumberVQZ
 
 Print "-- tests"
 Print Str(x.IsZero) + " " + Str(x.IsNan) + " " + Str(x.IsNegative) + " " + Str(x.IsInteger)
-Print Str(x.Equals("0")) + " " + Str(x.Equals("1")) + " " + Str(x.Operator_Compare("1")) + " " + Str(x.Modulate2)
+Print Str(x.Equals("0")) + " " + Str(x.Equals("1")) + " " + Str(x.Operator_Compare("1")) + " " _
+    + Str(x.Modulate2)
 
 Print "-- texts"
-Print x.StringValue + " " + x.StringValue(2) + " " + x.GetStringValue(16, True) + " " + x.Operator_Convert
+Print x.StringValue + " " + x.StringValue(2) + " " + x.GetStringValue(16, True) + " " _
+    + x.Operator_Convert
 Print x
 
 Print "-- operations that cannot fail give objects"
-Print x.Abs.StringValue + " " + x.Negate.StringValue + " " + x.Frac.StringValue + " " + x.SkipFraction.StringValue + " " + (-x).StringValue
+Print x.Abs.StringValue + " " + x.Negate.StringValue + " " + x.Frac.StringValue + " " _
+    + x.SkipFraction.StringValue + " " + (-x).StringValue
 
 Print "-- values"
 Sub ShowFailure(e As RuntimeException)

@@ -20,7 +20,8 @@ Print "-- fractions that end in their base"
 Sub ShowFraction(text As String, base As Integer)
   Dim x As New BigNumberVQZ
   x.StringValue(base) = text
-  Print text + " in base " + Str(base) + " is " + x.StringValue + ", written again " + x.StringValue(base)
+  Print text + " in base " + Str(base) + " is " + x.StringValue + ", written again " _
+      + x.StringValue(base)
 End Sub
 ShowFraction("-1010.1", 2)
 ShowFraction("0.0001", 2)

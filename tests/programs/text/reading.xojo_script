@@ -9,7 +9,8 @@ Sub Read(text As String, base As Integer = 10)
   Dim rest As String = "what was here before"
   Dim found As Boolean = True
   x.SetStringValue(text, base, rest, found)
-  Print Quoted(text) + " is " + x.StringValue + ", the rest " + Quoted(rest) + ", digits: " + Str(found)
+  Print Quoted(text) + " is " + x.StringValue + ", the rest " + Quoted(rest) + ", digits: " _
+      + Str(found)
 End Sub
 
 Print "-- as far as it is a number"

@@ -6,7 +6,8 @@ Print "-- all digits, and an exponent from 10^16 on and below 10^-15"
 Sub ShowAll(text As String)
   Dim x As BigNumberVQZ = text
   Dim converted As String = x
-  Print text + " is " + x.StringValue + ", " + converted + ", " + x.StringValue(10) + ", " + x.GetStringValue
+  Print text + " is " + x.StringValue + ", " + converted + ", " + x.StringValue(10) + ", " _
+      + x.GetStringValue
 End Sub
 ShowAll("123.4500")
 ShowAll("0")
@@ -115,7 +116,8 @@ Print "scientific: " + x.GetStringValue(10, True, 15, 2, True, ",")
 Print "-- not a number"
 x = BigNumberVQZ.Nan
 Dim missing As BigNumberVQZ
-Print x.StringValue + " " + x.StringValue(16) + " " + x.StringValue(99) + " " + x.GetStringValue(1, True, 0, 0, False, ",")
+Print x.StringValue + " " + x.StringValue(16) + " " + x.StringValue(99) + " " _
+    + x.GetStringValue(1, True, 0, 0, False, ",")
 Print missing.StringValue + " " + missing.StringValue(2) + " " + missing.GetStringValue(10, True)
 Dim text As String = missing
 Print text + " " + Str(Len(text))

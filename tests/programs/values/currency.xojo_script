@@ -6,7 +6,10 @@ Print "-- from a Currency and back"
 Sub Show(amount As Currency)
   Dim made As New BigNumberVQZ(amount)
   x.CurrencyValue = amount
-  Print Str(amount) + ": " + x.GetStringValue(10, False, 30) + " " + Str(x.CurrencyValue = amount) + " " + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithCurrency(amount) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
+  Print Str(amount) + ": " + x.GetStringValue(10, False, 30) + " " _
+      + Str(x.CurrencyValue = amount) + " " + Str(made = x) + " " _
+      + Str(BigNumberVQZ.NumberWithCurrency(amount) = x) + " " + Str(x.IsNegative) + " " _
+      + Str(x.IsZero)
 End Sub
 Dim tick As Currency = 0.0001
 Dim most As Currency = 922337203685477

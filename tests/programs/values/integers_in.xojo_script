@@ -1,26 +1,37 @@
-' In both precisions: integers of the host as numbers, by constructor, property and shared method, and
-' back again.
+' In both precisions: integers of the host as numbers, by constructor, property and shared method,
+' and back again.
 
 Dim x As New BigNumberVQZ
 
 Sub ShowInt32(value As Int32)
   x.IntegerValue = value
   Dim made As New BigNumberVQZ(value)
-  Print "Int32 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " + Str(x.IntegerValue = value) + " " + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithInteger(value) = x) + " " + Str(BigNumberVQZ.NumberWithInt32(value) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
+  Print "Int32 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " _
+      + Str(x.IntegerValue = value) + " " + Str(made = x) + " " _
+      + Str(BigNumberVQZ.NumberWithInteger(value) = x) + " " _
+      + Str(BigNumberVQZ.NumberWithInt32(value) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
 End Sub
 Sub ShowInt64(value As Int64)
   x.Int64Value = value
   Dim made As New BigNumberVQZ(value)
-  Print "Int64 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " + Str(x.Int64Value = value) + " " + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithInt64(value) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
+  Print "Int64 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " _
+      + Str(x.Int64Value = value) + " " + Str(made = x) + " " _
+      + Str(BigNumberVQZ.NumberWithInt64(value) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
 End Sub
 Sub ShowUInt32(value As UInt32)
   Dim made As New BigNumberVQZ(value)
-  Print "UInt32 " + Str(value) + ": " + made.GetStringValue(10, False, 30) + " " + Str(BigNumberVQZ.NumberWithUInteger(value) = made) + " " + Str(BigNumberVQZ.NumberWithUInt32(value) = made) + " " + Str(made.IsNegative) + " " + Str(made.IsZero)
+  Print "UInt32 " + Str(value) + ": " + made.GetStringValue(10, False, 30) + " " _
+      + Str(BigNumberVQZ.NumberWithUInteger(value) = made) + " " _
+      + Str(BigNumberVQZ.NumberWithUInt32(value) = made) + " " + Str(made.IsNegative) + " " _
+      + Str(made.IsZero)
 End Sub
 Sub ShowUInt64(value As UInt64)
   x.UInt64Value = value
   Dim made As New BigNumberVQZ(value)
-  Print "UInt64 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " + Str(x.UInt64Value = value) + " " + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithUInt64(value) = x) + " " + Str(x.IsNegative) + " " + Str(x.IsZero)
+  Print "UInt64 " + Str(value) + ": " + x.GetStringValue(10, False, 30) + " " _
+      + Str(x.UInt64Value = value) + " " + Str(made = x) + " " _
+      + Str(BigNumberVQZ.NumberWithUInt64(value) = x) + " " + Str(x.IsNegative) + " " _
+      + Str(x.IsZero)
 End Sub
 
 ShowInt32(-2147483647 - 1)

@@ -1,5 +1,5 @@
-' In both precisions: numbers as integers of the host. The fraction is cut; what does not fit, or has no
-' integer part but a sign, is refused.
+' In both precisions: numbers as integers of the host. The fraction is cut; what does not fit, or
+' has no integer part but a sign, is refused.
 
 Dim x As New BigNumberVQZ
 

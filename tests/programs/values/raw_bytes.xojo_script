@@ -17,10 +17,12 @@ Function Runs(block As MemoryBlock) As String
 End Function
 
 Sub ShowSmall(label As String, x As BigNumberVQZ)
-  Print label + ": mantissa" + Runs(x.DataMantissa) + ", exponent" + Runs(x.DataExponent) + ", flags " + Str(x.DataFlags)
+  Print label + ": mantissa" + Runs(x.DataMantissa) + ", exponent" + Runs(x.DataExponent) _
+      + ", flags " + Str(x.DataFlags)
 End Sub
 Sub ShowBig(label As String, x As BiggerNumberVQZ)
-  Print label + ": mantissa" + Runs(x.DataMantissa) + ", exponent" + Runs(x.DataExponent) + ", flags " + Str(x.DataFlags)
+  Print label + ": mantissa" + Runs(x.DataMantissa) + ", exponent" + Runs(x.DataExponent) _
+      + ", flags " + Str(x.DataFlags)
 End Sub
 
 ShowSmall("0", "0")

@@ -1,4 +1,5 @@
-' In both precisions: the byte of flags. 128 is negative, 64 not a number, 32 zero; any bits can be set.
+' In both precisions: the byte of flags. 128 is negative, 64 not a number, 32 zero; any bits can
+' be set.
 
 Dim x As New BigNumberVQZ
 
@@ -17,7 +18,9 @@ Print "-- the low byte is stored"
 Sub SetFlags(flags As Integer)
   x.StringValue = "5"
   x.DataFlags = flags
-  Print Str(flags) + ": " + Str(x.DataFlags) + ", zero " + Str(x.IsZero) + ", negative " + Str(x.IsNegative) + ", NaN " + Str(x.IsNan) + ", " + x.StringValue + " " + x.Negate.StringValue + " " + Str(x.Negate.DataFlags) + " " + Str(x.Abs.DataFlags)
+  Print Str(flags) + ": " + Str(x.DataFlags) + ", zero " + Str(x.IsZero) + ", negative " _
+      + Str(x.IsNegative) + ", NaN " + Str(x.IsNan) + ", " + x.StringValue + " " _
+      + x.Negate.StringValue + " " + Str(x.Negate.DataFlags) + " " + Str(x.Abs.DataFlags)
 End Sub
 SetFlags(0)
 SetFlags(128)

@@ -6,7 +6,8 @@ Dim mantissas As Integer = BigNumberVQZ.One.DataMantissa.Size
 Dim exponents As Integer = BigNumberVQZ.One.DataExponent.Size
 
 ' A number of the bytes at the ends of its mantissa, those of its exponent, and its flags.
-Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Integer, exponentFill As Integer, exponentHigh As Integer, flags As Integer) As BigNumberVQZ
+Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Integer, _
+    exponentFill As Integer, exponentHigh As Integer, flags As Integer) As BigNumberVQZ
   Dim x As New BigNumberVQZ
   Dim mantissa As New MemoryBlock(mantissas)
   mantissa.Byte(0) = lowest
@@ -119,8 +120,10 @@ Sub Run(operation As Integer, x As BigNumberVQZ, y As BigNumberVQZ)
     others = others + 1
     Print Str(operation) + ": " + e.Message
   End Try
-  If Not (SameBytes(x.DataMantissa, xBefore.DataMantissa) And SameBytes(x.DataExponent, xBefore.DataExponent) And x.DataFlags = xBefore.DataFlags) Then changes = changes + 1
-  If Not (SameBytes(y.DataMantissa, yBefore.DataMantissa) And SameBytes(y.DataExponent, yBefore.DataExponent) And y.DataFlags = yBefore.DataFlags) Then changes = changes + 1
+  If Not (SameBytes(x.DataMantissa, xBefore.DataMantissa) And SameBytes(x.DataExponent, _
+      xBefore.DataExponent) And x.DataFlags = xBefore.DataFlags) Then changes = changes + 1
+  If Not (SameBytes(y.DataMantissa, yBefore.DataMantissa) And SameBytes(y.DataExponent, _
+      yBefore.DataExponent) And y.DataFlags = yBefore.DataFlags) Then changes = changes + 1
 End Sub
 
 Sub Show(label As String, x As BigNumberVQZ)
@@ -132,7 +135,10 @@ Sub Show(label As String, x As BigNumberVQZ)
     If operation <= 9 Then Run(operation, y, x)
     If operation <= 9 Then Run(operation, x, x)
   Next
-  Print label + ": zero " + Str(x.IsZero) + ", negative " + Str(x.IsNegative) + ", NaN " + Str(x.IsNan) + ", equal to a copy " + Str(x.Equals(New BigNumberVQZ(x))) + ", flags negated " + Str(x.Negate.DataFlags) + ", compared with 0: " + Str(x.Operator_Compare("0")) + ", operations: " + Str(results + failures)
+  Print label + ": zero " + Str(x.IsZero) + ", negative " + Str(x.IsNegative) + ", NaN " _
+      + Str(x.IsNan) + ", equal to a copy " + Str(x.Equals(New BigNumberVQZ(x))) _
+      + ", flags negated " + Str(x.Negate.DataFlags) + ", compared with 0: " _
+      + Str(x.Operator_Compare("0")) + ", operations: " + Str(results + failures)
 End Sub
 
 Show("no bits at all", MakeNumber(0, 0, 0, 0, 0, 0))

@@ -1,11 +1,12 @@
-' The functions of numbers whose parts make no sense give a result or one of the stated exceptions, and
-' leave the bytes of their operands alone.
+' The functions of numbers whose parts make no sense give a result or one of the stated
+' exceptions, and leave the bytes of their operands alone.
 
 Dim mantissas As Integer = BigNumberVQZ.One.DataMantissa.Size
 Dim exponents As Integer = BigNumberVQZ.One.DataExponent.Size
 
 ' A number of the bytes at the ends of its mantissa, those of its exponent, and its flags.
-Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Integer, exponentFill As Integer, exponentHigh As Integer, flags As Integer) As BigNumberVQZ
+Function MakeNumber(lowest As Integer, highest As Integer, exponentLow As Integer, _
+    exponentFill As Integer, exponentHigh As Integer, flags As Integer) As BigNumberVQZ
   Dim x As New BigNumberVQZ
   Dim mantissa As New MemoryBlock(mantissas)
   mantissa.Byte(0) = lowest
@@ -92,8 +93,10 @@ Sub Run(operation As Integer, x As BigNumberVQZ, y As BigNumberVQZ)
     others = others + 1
     Print Str(operation) + ": " + e.Message
   End Try
-  If Not (SameBytes(x.DataMantissa, xBefore.DataMantissa) And SameBytes(x.DataExponent, xBefore.DataExponent) And x.DataFlags = xBefore.DataFlags) Then changes = changes + 1
-  If Not (SameBytes(y.DataMantissa, yBefore.DataMantissa) And SameBytes(y.DataExponent, yBefore.DataExponent) And y.DataFlags = yBefore.DataFlags) Then changes = changes + 1
+  If Not (SameBytes(x.DataMantissa, xBefore.DataMantissa) And SameBytes(x.DataExponent, _
+      xBefore.DataExponent) And x.DataFlags = xBefore.DataFlags) Then changes = changes + 1
+  If Not (SameBytes(y.DataMantissa, yBefore.DataMantissa) And SameBytes(y.DataExponent, _
+      yBefore.DataExponent) And y.DataFlags = yBefore.DataFlags) Then changes = changes + 1
 End Sub
 
 Sub Show(label As String, x As BigNumberVQZ)

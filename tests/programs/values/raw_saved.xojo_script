@@ -48,7 +48,9 @@ End Function
 Sub Show(label As String, x As BigNumberVQZ)
   Dim record As MemoryBlock = Saved(x)
   Dim y As BigNumberVQZ = Restored(record)
-  Print label + ": flags " + Str(y.DataFlags) + ", equal: " + Str(y.Equals(x)) + ", the same text: " + Str(y.StringValue = x.StringValue) + ", the same bytes: " + Str(SameBytes(Saved(y), record))
+  Print label + ": flags " + Str(y.DataFlags) + ", equal: " + Str(y.Equals(x)) _
+      + ", the same text: " + Str(y.StringValue = x.StringValue) + ", the same bytes: " _
+      + Str(SameBytes(Saved(y), record))
 End Sub
 
 Show("0", New BigNumberVQZ)
@@ -65,7 +67,8 @@ Dim missing As BigNumberVQZ
 Show("a copy of Nil", New BigNumberVQZ(missing))
 For i As Integer = 1 To 20
   Dim random As BigNumberVQZ = BigNumberVQZ.Rand
-  If Not SameBytes(Saved(Restored(Saved(random))), Saved(random)) Then Print "a random number has changed"
+  If Not SameBytes(Saved(Restored(Saved(random))), _
+      Saved(random)) Then Print "a random number has changed"
 Next
 
 Print "-- blocks are copies"

@@ -8,7 +8,8 @@ Dim exponents As Integer = x.DataExponent.Size
 Function MessageIs(message As String, right As Integer, given As Integer) As Boolean
   Dim word As String = "big"
   If given < right Then word = "small"
-  Return message = "The parameter MemoryBlock.Size to method DataMantissa is too " + word + ". Range is " + Str(right) + " to " + Str(right) + ", but value is " + Str(given) + "."
+  Return message = "The parameter MemoryBlock.Size to method DataMantissa is too " + word _
+      + ". Range is " + Str(right) + " to " + Str(right) + ", but value is " + Str(given) + "."
 End Function
 
 Sub ShowMantissa(size As Integer)

@@ -1,5 +1,5 @@
-' In both precisions: Doubles and Singles as numbers, bit for bit, and numbers as Doubles, cut to the
-' bits that one has.
+' In both precisions: Doubles and Singles as numbers, bit for bit, and numbers as Doubles, cut to
+' the bits that one has.
 
 Dim x As New BigNumberVQZ
 
@@ -7,7 +7,8 @@ Print "-- from a Double and back; the bits in base 16"
 Sub ShowDouble(value As Double)
   Dim made As New BigNumberVQZ(value)
   x.DoubleValue = value
-  Print Str(value) + ": " + x.GetStringValue(16, True) + " " + Str(x.DoubleValue = value) + " " + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithDouble(value) = x)
+  Print Str(value) + ": " + x.GetStringValue(16, True) + " " + Str(x.DoubleValue = value) + " " _
+      + Str(made = x) + " " + Str(BigNumberVQZ.NumberWithDouble(value) = x)
 End Sub
 ShowDouble(0)
 ShowDouble(1)
@@ -42,7 +43,8 @@ Sub ShowNone(label As String, value As Double)
   Dim made As New BigNumberVQZ(value)
   x = "77"
   x.DoubleValue = value
-  Print label + ": " + x.StringValue + " " + Str(x.IsNan) + " " + Str(made.IsNan) + " " + Str(BigNumberVQZ.NumberWithDouble(value).IsNan) + ", as a Double " + Str(x.DoubleValue)
+  Print label + ": " + x.StringValue + " " + Str(x.IsNan) + " " + Str(made.IsNan) + " " _
+      + Str(BigNumberVQZ.NumberWithDouble(value).IsNan) + ", as a Double " + Str(x.DoubleValue)
 End Sub
 Dim zero As Double = 0
 ShowNone("infinite", 1 / zero)
@@ -56,7 +58,8 @@ Sub ShowSingle(value As Single)
   Dim made As New BigNumberVQZ(value)
   x = BigNumberVQZ.NumberWithSingle(value)
   Dim wide As Double = value
-  Print Str(value) + ": " + x.GetStringValue(16, True) + " " + Str(made = x) + " " + Str(x.DoubleValue = wide)
+  Print Str(value) + ": " + x.GetStringValue(16, True) + " " + Str(made = x) + " " _
+      + Str(x.DoubleValue = wide)
 End Sub
 ShowSingle(0)
 ShowSingle(1)

@@ -1,5 +1,6 @@
-' In both precisions: Variants on hosts that cannot tell all of what is in them. Nothing is raised for it:
-' unsigned integers are taken for signed ones, what cannot be read is 0, what has no type is Nil.
+' In both precisions: Variants on hosts that cannot tell all of what is in them. Nothing is raised
+' for it: unsigned integers are taken for signed ones, what cannot be read is 0, what has no type
+' is Nil.
 
 Sub Show(label As String, value As Variant)
   Dim x As New BigNumberVQZ("77")

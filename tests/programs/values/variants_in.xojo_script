@@ -1,6 +1,12 @@
 ' In both precisions: what a Variant holds as a number, by the property VariantValue and by
 ' NumberWithVariant.
 
+' An exponent that neither precision has.
+Dim huge As String = "1e"
+For i As Integer = 1 To 160
+  huge = huge + "9"
+Next
+
 Function TextOf(x As BigNumberVQZ) As String
   If x Is Nil Then Return "Nil"
   Return x.StringValue
@@ -26,7 +32,8 @@ Sub Show(label As String, value As Variant)
   Catch e As UnsupportedOperationException
     failure = ", unsupported: " + e.Message
   End Try
-  Print label + ": type " + Str(VarType(value)) + ", VariantValue " + x.StringValue + failure + ", NumberWithVariant " + MadeOf(value)
+  Print label + ": type " + Str(VarType(value)) + ", VariantValue " + x.StringValue + failure _
+      + ", NumberWithVariant " + MadeOf(value)
 End Sub
 
 Print "-- nothing"
@@ -73,7 +80,8 @@ Show("Double, not a number", d / d)
 Dim tiny As Variant = 2 ^ -152
 Dim small As New BigNumberVQZ
 small.VariantValue = tiny
-Print "Double, too small for a Single: VariantValue in base 16 " + small.StringValue(16) + ", NumberWithVariant " + MadeOf(tiny)
+Print "Double, too small for a Single: VariantValue in base 16 " + small.StringValue(16) _
+    + ", NumberWithVariant " + MadeOf(tiny)
 Dim s As Single = 0.1
 Show("Single", s)
 s = -1.5
@@ -99,7 +107,7 @@ Show("String", "-12.5 metres")
 Show("String", "")
 Show("String", "abc")
 Show("String", ConvertEncoding("12.5é", Encodings.UTF16))
-Show("String", "1e" + "999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999999")
+Show("String", huge)
 
 Print "-- numbers"
 Dim same As New BigNumberVQZ("-1606938044258990275541962092341162602522202993782792835301377.5")

@@ -1,12 +1,14 @@
-' In both precisions: a number as a Variant. It is an Integer, else an Int64, where the number is one of
-' these, else its text.
+' In both precisions: a number as a Variant. It is an Integer, else an Int64, where the number is
+' one of these, else its text.
 
 Sub Show(x As BigNumberVQZ)
   Dim value As Variant = x.VariantValue
   Dim text As String = value
   Dim back As New BigNumberVQZ
   back.VariantValue = value
-  Print x.StringValue + ": type " + Str(VarType(value)) + ", " + text + ", back again: " + Str(back.StringValue = x.StringValue) + " " + Str(BigNumberVQZ.NumberWithVariant(value).StringValue = x.StringValue)
+  Print x.StringValue + ": type " + Str(VarType(value)) + ", " + text + ", back again: " _
+      + Str(back.StringValue = x.StringValue) + " " _
+      + Str(BigNumberVQZ.NumberWithVariant(value).StringValue = x.StringValue)
 End Sub
 
 Show("0")
