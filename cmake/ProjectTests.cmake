@@ -82,7 +82,7 @@ endfunction()
 
 # add_lint_tests()
 #
-# The format of the sources, clang-tidy's findings, and who may include whom.
+# The format of the sources, clang-tidy's findings, who may include whom, and the tests of the tests.
 function(add_lint_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests")
   add_project_test(NAME lint/format
@@ -95,4 +95,6 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/source_rules.py" "${PROJECT_SOURCE_DIR}")
   add_project_test(NAME lint/source_rules_test
     COMMAND Python3::Interpreter "${tests}/source_rules_test.py")
+  add_project_test(NAME lint/run_program_test
+    COMMAND Python3::Interpreter "${tests}/run_program_test.py")
 endfunction()

@@ -1,0 +1,90 @@
+"""Tests that run_program.py notices what a program does otherwise than expected."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+RUNNER = pathlib.Path(__file__).with_name("run_program.py")
+
+# Stands for the stand-in host: prints the program, and on standard error its options and setting.
+# The option --three asks for that status, --smaller for it where the larger class is named.
+ECHO = """
+import os, sys
+*options, program = sys.argv[1:]
+text = open(program).read()
+sys.stdout.write(text)
+for word in [*options, *filter(None, [os.environ.get("SETTING")])]:
+    print(word, file=sys.stderr)
+fails = "--three" in options or "--smaller" in options and "BiggerNumberVQZ" in text
+sys.exit(3 if fails else 0)
+"""
+
+
+def outcome(files: dict[str, str]) -> subprocess.CompletedProcess:
+    """Runs the program p.xojo_script of these files, named by what follows its "p"."""
+    with tempfile.TemporaryDirectory() as folder:
+        for name, text in files.items():
+            (pathlib.Path(folder) / f"p{name}").write_text(text, encoding="utf-8")
+        program = pathlib.Path(folder) / "p.xojo_script"
+        command = [sys.executable, RUNNER, program, "--", sys.executable, "-c", ECHO]
+        return subprocess.run(command, capture_output=True, text=True, check=False)
+
+
+class RunProgram(unittest.TestCase):
+    def assert_good(self, files: dict[str, str]):
+        result = outcome(files)
+        self.assertEqual((result.returncode, result.stdout), (0, ""))
+
+    def assert_bad(self, files: dict[str, str], complaint: str):
+        result = outcome(files)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn(complaint, result.stdout + result.stderr)
+
+    def test_output_is_compared_byte_for_byte(self):
+        self.assert_good({".xojo_script": "a\n", ".expected": "a\n"})
+        self.assert_bad({".xojo_script": "a\n", ".expected": "a"}, "+a")
+        self.assert_bad({".xojo_script": "a\n", ".expected": "a\r\n"}, "+++ actual")
+
+    def test_a_program_without_expected_output_is_an_error(self):
+        self.assert_bad({".xojo_script": "a\n"}, "no expected output")
+
+    def test_the_status_is_compared(self):
+        files = {".xojo_script": "a\n", ".expected": "a\n", ".options": "--three\n"}
+        self.assert_bad(files, "the status is 3 instead of 0")
+        self.assert_good({**files, ".status": "3\n"})
+
+    def test_standard_error_is_empty_unless_something_is_expected_there(self):
+        files = {".xojo_script": "", ".expected": "", ".options": "--one --two\n"}
+        self.assert_bad(files, "standard error is not empty")
+        self.assert_good({**files, ".stderr": "two\n"})
+        self.assert_bad({**files, ".stderr": "two\none\n"}, "lacks the line: one")
+
+    def test_a_log_is_compared_line_for_line(self):
+        files = {".xojo_script": "", ".expected": "", ".options": "--one --two\n"}
+        self.assert_good({**files, ".log": "--one\n--two\n"})
+        self.assert_bad({**files, ".log": "--two\n"}, "+--one")
+        self.assert_bad({**files, ".log": "--one\n--two\n--three\n"}, "---three")
+
+    def test_every_line_of_options_is_a_run_with_settings_before_its_words(self):
+        files = {".xojo_script": "", ".expected": "", ".log": "--one\nvalue\n"}
+        self.assert_good({**files, ".options": "SETTING=value --one\n"})
+        self.assert_bad({**files, ".options": "SETTING=value --one\n--one\n"}, "options: --one")
+
+    def test_a_variant_does_what_the_plain_runs_do_unless_it_says_otherwise(self):
+        files = {".xojo_script": "a\n", ".expected": "a\n", ".other.options": "--three\n"}
+        self.assert_bad(files, "the status is 3")
+        self.assert_good({**files, ".other.status": "3\n"})
+        self.assert_bad({**files, ".other.status": "3\n", ".other.expected": "b\n"}, "+a")
+
+    def test_both_precisions_are_run_where_the_program_says_so(self):
+        text = "' In both precisions.\nBigNumberVQZ\n"
+        self.assert_good({".xojo_script": text, ".expected": text})
+        files = {".options": "--smaller\n", ".stderr": "--smaller\n"}
+        self.assert_bad({".xojo_script": text, ".expected": text, **files}, "the status is 3")
+        self.assert_good({".xojo_script": "BigNumberVQZ", ".expected": "BigNumberVQZ", **files})
+
+
+if __name__ == "__main__":
+    unittest.main()
