@@ -39,6 +39,7 @@ ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size) {
             std::memcpy(bytes, data, static_cast<std::size_t>(size));
             return block;
         }
+        block.Reset();
         if (DebugEnabled) {
             LogInt64("Error: Failed to allocate memoryblock", size);
         }

@@ -201,9 +201,8 @@ void rbText::RebuildUnknownEncoding() {
     }
     platform::FreeBuffer(probe);
 
-    const StringReference rebuilt =
-        REALBuildUnicodeString(bytes.data(), bytes.length(), HostTextEncoding::WindowsAnsi);
-    ReplaceSource(rebuilt.Get());
+    ReplaceSource(
+        REALBuildUnicodeString(bytes.data(), bytes.length(), HostTextEncoding::WindowsAnsi).Get());
     kind = TextKind::NeedsConversion;
     Fail("REALBuildUnicodeString failed");
 }

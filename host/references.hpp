@@ -21,11 +21,7 @@ public:
     }
     HostReference(const HostReference&) = delete;
     HostReference& operator=(const HostReference&) = delete;
-    ~HostReference() {
-        if (handle_ != nullptr) {
-            UnlockFunction(handle_);
-        }
-    }
+    ~HostReference() { Reset(); }
 
     /// Adds a reference of its own to a handle that belongs to somebody else.
     static HostReference Share(Handle handle) {
@@ -37,6 +33,13 @@ public:
 
     Handle Get() const noexcept { return handle_; }
     explicit operator bool() const noexcept { return handle_ != nullptr; }
+
+    /// Drops the reference before the end.
+    void Reset() noexcept {
+        if (const Handle handle = Release()) {
+            UnlockFunction(handle);
+        }
+    }
 
     /// Hands the reference to the caller.
     [[nodiscard]] Handle Release() noexcept { return std::exchange(handle_, nullptr); }

@@ -64,7 +64,8 @@ StringReference BuildFromUtf32ByUtf16(const char* bytes, std::int32_t byteCount)
     }
 
     const std::size_t written = Utf32ToUtf16(bytes, count, units);
-    return BuildFromUtf16(units, static_cast<std::int64_t>(written * sizeof(char16_t)));
+    return REALBuildUnicodeStringUTF16(units,
+                                       static_cast<std::int64_t>(written * sizeof(char16_t)));
 }
 
 StringReference BuildFromUtf32(const char* bytes, std::int32_t byteCount) {
@@ -115,7 +116,7 @@ std::size_t Utf32ToUtf16(const void* codePoints, std::size_t count, char16_t* ou
     return static_cast<std::size_t>(end - output);
 }
 
-StringReference BuildFromUtf16(const void* units, std::int64_t byteCount) {
+StringReference REALBuildUnicodeStringUTF16(const void* units, std::int64_t byteCount) {
     const StringReference wide =
         BuildAsGiven(static_cast<const char*>(units), static_cast<std::int32_t>(byteCount),
                      HostTextEncoding::Utf16);
@@ -154,7 +155,7 @@ StringReference BuildFromBytes(const void* data, std::int64_t byteCount,
             return BuildAsGiven(bytes, count, ascii ? HostTextEncoding::Ascii : encoding);
         }
         case HostTextEncoding::Utf16:
-            return BuildFromUtf16(bytes, count);
+            return REALBuildUnicodeStringUTF16(bytes, count);
         case HostTextEncoding::Utf32:
             return BuildFromUtf32(bytes, count);
         default:

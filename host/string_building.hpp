@@ -23,7 +23,7 @@ StringReference BuildFromCString(const char* text, HostTextEncoding encoding);
 StringReference BuildFromBytes(const void* data, std::int64_t byteCount, HostTextEncoding encoding);
 
 /// A UTF-8 host string from native UTF-16 units. Null when the host fails.
-StringReference BuildFromUtf16(const void* units, std::int64_t byteCount);
+StringReference REALBuildUnicodeStringUTF16(const void* units, std::int64_t byteCount);
 
 /// Writes `count` native 32-bit code points, at any alignment, as UTF-16 units and a closing 0
 /// unit, and returns the number of units without it. Surrogate code points are dropped; code points

@@ -1,6 +1,7 @@
 // Host text that C string routines can be given.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 

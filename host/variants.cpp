@@ -10,9 +10,12 @@ using host_interface::ClassReference;
 using host_interface::Object;
 using host_interface::VariantTypeCode;
 
-/// A host function that reads a Variant as a T.
+/// A host function that reads a Variant.
+template <typename Function>
+class VariantReader;
+
 template <typename T>
-class VariantReader : private HostFunctionSlot<T(Object)> {
+class VariantReader<T(Object)> : private HostFunctionSlot<T(Object)> {
     using Slot = HostFunctionSlot<T(Object)>;
 
 public:
@@ -31,16 +34,16 @@ public:
     }
 };
 
-constinit VariantReader<double> DoubleReader("VariantToDouble");
-constinit VariantReader<float> SingleReader("VariantToSingle");
-constinit VariantReader<std::int32_t> Int32Reader("VariantToInt32");
-constinit VariantReader<std::int64_t> Int64Reader("VariantToInt64");
-constinit VariantReader<std::uint32_t> UInt32Reader("VariantToUInt32");
-constinit VariantReader<std::uint64_t> UInt64Reader("VariantToUInt64");
-constinit VariantReader<host_interface::String> StringReader("VariantToString");
+constinit VariantReader<functions::VariantToDouble> DoubleReader("VariantToDouble");
+constinit VariantReader<functions::VariantToSingle> SingleReader("VariantToSingle");
+constinit VariantReader<functions::VariantToInt32> Int32Reader("VariantToInt32");
+constinit VariantReader<functions::VariantToInt64> Int64Reader("VariantToInt64");
+constinit VariantReader<functions::VariantToUInt32> UInt32Reader("VariantToUInt32");
+constinit VariantReader<functions::VariantToUInt64> UInt64Reader("VariantToUInt64");
+constinit VariantReader<functions::VariantToString> StringReader("VariantToString");
 
 /// The host's global method that tells a Variant's type; kept once it is found.
-using VarTypeMethod = host_interface::functions::VarType*;
+using VarTypeMethod = functions::VarType*;
 constinit VarTypeMethod VarType = nullptr;
 
 std::int32_t HostVariantType(Object variant) {

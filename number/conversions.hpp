@@ -172,7 +172,8 @@ bool NumberTo(const Value& value, Host& result) {
     return fits && !value.IsSign();
 }
 
-/// Converts to the Double below in magnitude; false when the value is beyond a Double.
+/// Converts to a Double, cut to its precision; false when the value is too large or too small for
+/// one.
 template <std::same_as<double> Host, typename Value>
 bool NumberTo(const Value& value, Host& result) {
     return value.ToDouble(result) == 0;
@@ -196,11 +197,11 @@ Routine GetProperty() {
 
 /// The amount times 10,000, rounded to an integer, halves away from zero; 0 after a failure was
 /// raised. The debug log shows each step under labels of one letter.
-template <typename Value, FixedString LogName, FixedString FailureName>
+template <typename Value, FixedString FailureName>
 std::int64_t NumberToCurrency(Value value) {
     const Value scale = CurrencyScale<Value>();
     if (DebugEnabled) {
-        LogDouble(LogName.text, ToDouble(value));
+        LogDouble("NumberToCurrency", ToDouble(value));
         LogDouble("f", ToDouble(scale));
     }
     value.Mul(scale, true);
@@ -229,8 +230,7 @@ Routine GetCurrency() {
     return AsRoutine([](Object self, Integer) {
         return MethodBoundaryGuard([&] {
             LogEntry<LogName>();
-            return NumberToCurrency<Value, "NumberToCurrency", FailureName>(
-                ReadNumber<Value>(self));
+            return NumberToCurrency<Value, FailureName>(ReadNumber<Value>(self));
         });
     });
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "host/exceptions.hpp"
 #include "host/rb_text.hpp"
@@ -137,15 +138,15 @@ Routine SetTextInBase() {
 }
 
 /// "SetStringValue": parses, and tells what was left of the text and whether digits were read.
-/// One variable may be both the text and the rest.
+/// The text is held from the start, so that one variable may be both it and the rest.
 template <typename Value, FixedString LogName, FixedString FailureName>
 Routine SetTextAndTellRest() {
     return AsRoutine([](Object self, String text, Integer base, String* afterText,
                         std::uint8_t* valueRead) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
-            // Released at the end only: it may be the text itself.
-            const StringReference previous(std::exchange(*afterText, nullptr));
+            const StringReference held = StringReference::Share(text);
+            StringReference(std::exchange(*afterText, nullptr)).Reset();
             *valueRead = 0;
 
             Value value = NanValue<Value>();

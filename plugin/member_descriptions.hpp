@@ -2,8 +2,7 @@
 // the routine behind it with its debug-log name, the name of its failure report and the call of
 // ttmath. One description serves both classes; '$' stands for the class's name.
 //
-// The order of the rows is the order of the tables that the host gets. A row without a routine
-// declares a member that is not built yet.
+// The order of the rows is the order of the tables that the host gets.
 #pragma once
 
 #include <array>
@@ -26,7 +25,7 @@ struct PropertyDescription {
     const char* name;
     const char* type;
     const char* documentation;
-    Routine getter = nullptr;
+    Routine getter;
     Routine setter = nullptr;
     std::uint32_t flags = host_interface::flags::RunTimeOnly;
     bool hidden = false;
@@ -36,7 +35,7 @@ struct PropertyDescription {
 struct MethodDescription {
     const char* declaration;
     const char* documentation;
-    Routine function = nullptr;
+    Routine function;
     Routine setter = nullptr;
     bool hidden = false;
 };

@@ -1,6 +1,7 @@
 // Adapters for number operations, by shape. Each takes one call of ttmath and answers the routine
-// for a class table; its template arguments are the debug-log name and the name that heads the
-// failure message. Operands are never changed: an operation works on a copy.
+// for a class table. The name among its template arguments is what the debug log shows and what
+// heads the failure message; where the two differ there are two names. Operands are never changed:
+// an operation works on a copy.
 #pragma once
 
 #include <cstdint>
@@ -30,10 +31,10 @@ Routine OneNumber(Operation) {
 
 /// A new object with the result of `operation` on copies of two numbers, or null and the two-number
 /// report when it answers a carry.
-template <typename Value, FixedString LogName, FixedString FailureName, typename Operation>
+template <typename Value, FixedString Name, typename Operation>
 Object ComputeWithTwoNumbers(Object self, Object other, Operation operation) {
     return MethodBoundaryGuard([&]() -> Object {
-        LogEntry<LogName>();
+        LogEntry<Name>();
         Value result = ReadNumber<Value>(self);
         if (operation(result, ReadNumber<Value>(other)) == 0) {
             return NewNumberObject(result);
@@ -41,26 +42,25 @@ Object ComputeWithTwoNumbers(Object self, Object other, Operation operation) {
         if (DebugEnabled) {
             LogMessage("RaiseOverflowException");
         }
-        RaiseOverflowException(FailureName.text, FindNumber<Value>(self), FindNumber<Value>(other));
+        RaiseOverflowException(Name.text, FindNumber<Value>(self), FindNumber<Value>(other));
         return nullptr;
     });
 }
 
 /// A method or operator of two numbers. An `operation` that takes a third argument makes a method
 /// with a `round` argument.
-template <typename Value, FixedString LogName, FixedString FailureName = LogName,
-          typename Operation>
+template <typename Value, FixedString Name, typename Operation>
 Routine TwoNumbers(Operation) {
     if constexpr (std::is_invocable_v<Operation, Value&, const Value&, bool>) {
         return AsRoutine([](Object self, Object other, BooleanWord round) {
-            return ComputeWithTwoNumbers<Value, LogName, FailureName>(
+            return ComputeWithTwoNumbers<Value, Name>(
                 self, other, [round](Value& result, const Value& operand) {
                     return Operation{}(result, operand, IsTrue(round));
                 });
         });
     } else {
         return AsRoutine([](Object self, Object other) {
-            return ComputeWithTwoNumbers<Value, LogName, FailureName>(self, other, Operation{});
+            return ComputeWithTwoNumbers<Value, Name>(self, other, Operation{});
         });
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 
 #include "host/debug_log.hpp"
@@ -25,8 +26,8 @@ std::string ReportText(const Value* value) {
 
 /// Raises `BigNumberErrorExceptionVQZ` with the pieces joined in order.
 inline void RaiseNumberError(std::initializer_list<const char*> pieces) {
-    StringReference message;
-    for (const char* piece : pieces) {
+    StringReference message = CString2RB(*pieces.begin(), HostTextEncoding::Ascii);
+    for (const char* piece : std::span(pieces).subspan(1)) {
         const StringReference next = CString2RB(piece, HostTextEncoding::Ascii);
         message = StringReference(RuntimeAddString(message.Get(), next.Get()));
     }

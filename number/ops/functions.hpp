@@ -3,6 +3,7 @@
 // that heads the failure message.
 #pragma once
 
+#include <cstddef>
 #include <span>
 
 #include "host/debug_log.hpp"

@@ -39,7 +39,7 @@ std::string BuiltFromCodePoints(const std::vector<std::uint32_t>& codePoints) {
 
 std::string BuiltFromUnits(std::u16string_view units) {
     const auto byteCount = std::int64_t{sizeof(char16_t)} * static_cast<std::int64_t>(units.size());
-    const auto built = vqz::BuildFromUtf16(units.data(), byteCount);
+    const auto built = vqz::REALBuildUnicodeStringUTF16(units.data(), byteCount);
     return Described(built.Get());
 }
 
