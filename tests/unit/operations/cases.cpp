@@ -57,6 +57,31 @@ Numbers<AnyNumber> FewSpecials() {
             Smallest<AnyNumber>()};
 }
 
+/// What only raw access and Rand can make: numbers that no computation leaves behind.
+template <typename AnyNumber>
+void AddForeign(Numbers<AnyNumber>& numbers) {
+    namespace flags = number_flags;
+    const auto addWithFlags = [&numbers](AnyNumber number, int value) {
+        number.flags = static_cast<std::uint8_t>(value);
+        numbers.emplace_back(number);
+    };
+    const auto three = Whole<AnyNumber>(3);
+    // A zero below zero, NaN with words, NaN without its zero flag, bits that mean nothing.
+    addWithFlags({}, flags::Zero | flags::Negative);
+    addWithFlags(three, flags::Zero);
+    addWithFlags(three, flags::NotANumber);
+    addWithFlags(three, flags::NotANumber | flags::Zero | flags::Negative);
+    addWithFlags(three, 0x1F);
+    // The leading bits of the mantissa are clear, or all of them.
+    AnyNumber number;
+    number.mantissa[0] = 5;
+    numbers.emplace_back(number);
+    number.mantissa.back() = 1;
+    numbers.emplace_back(number);
+    number.mantissa.fill(0);
+    numbers.emplace_back(number);
+}
+
 template <typename AnyNumber>
 Numbers<AnyNumber> AllSpecials() {
     Numbers<AnyNumber> numbers = FewSpecials<AnyNumber>();
@@ -360,6 +385,10 @@ template <typename AnyNumber>
 std::vector<OperandTuple<AnyNumber>> CasesOf(const Operation<AnyNumber>& operation) {
     const bool few = operation.arity > 2 || (operation.arity == 2 && IsSlow(operation));
     Numbers<AnyNumber> specials = few ? FewSpecials<AnyNumber>() : AllSpecials<AnyNumber>();
+    // Series over numbers of this kind end late: one operand is enough for them.
+    if (!few && (operation.arity == 1 || operation.family == Family::Arithmetic)) {
+        AddForeign(specials);
+    }
     if (operation.arity == 1) {
         const auto edges = DomainEdges<AnyNumber>(operation.failureName, operation.family);
         specials.insert(specials.end(), edges.begin(), edges.end());
