@@ -41,6 +41,7 @@ class Tidy:
     """clang-tidy over the files of a build, with a note of what was found clean."""
 
     def __init__(self, root: pathlib.Path, build: pathlib.Path):
+        self.root = root
         self.build = build
         self.notes = build / "tidy"
         self.notes.mkdir(exist_ok=True)
@@ -53,8 +54,11 @@ class Tidy:
         note = self.notes / digest([*self.shared, entry["command"].encode(), source.read_bytes()])
         if note.exists():
             return True
+        # The search for faulty paths takes half of the time; tests prove themselves by running.
+        is_test = (self.root / "tests") in source.parents
+        checks = ["--checks=-clang-analyzer-*"] if is_test else []
         result = subprocess.run(
-            [*TIDY, "-p", str(self.build), str(source)], capture_output=True, text=True, check=False
+            [*TIDY, *checks, "-p", str(self.build), str(source)], capture_output=True, text=True, check=False
         )
         if result.returncode == 0:
             note.touch()
