@@ -31,18 +31,19 @@ RandomSources sources;
 
 }  // namespace
 
-extern "C" __attribute__((visibility("default"))) ssize_t getrandom(void* buffer, std::size_t size,
+extern "C" __attribute__((visibility("default"))) ssize_t getrandom(void* buffer,
+                                                                    std::size_t length,
                                                                     unsigned flags) {
     ++sources.systemCalls;
     if (sources.systemFails) {
         return -1;
     }
-    if (sources.systemNumber && size == sizeof(std::uint32_t)) {
+    if (sources.systemNumber && length == sizeof(std::uint32_t)) {
         const std::uint32_t number = (*sources.systemNumber)++;
-        std::memcpy(buffer, &number, size);
-        return static_cast<ssize_t>(size);
+        std::memcpy(buffer, &number, length);
+        return static_cast<ssize_t>(length);
     }
-    return static_cast<ssize_t>(syscall(SYS_getrandom, buffer, size, flags));
+    return static_cast<ssize_t>(syscall(SYS_getrandom, buffer, length, flags));
 }
 
 extern "C" __attribute__((visibility("default"))) int rand() noexcept {

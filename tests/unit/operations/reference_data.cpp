@@ -19,7 +19,9 @@ std::size_t BitLength(const WideInteger& integer) {
     while (words > 0 && integer[words - 1] == 0) {
         --words;
     }
-    return words == 0 ? 0 : words * WordBits - std::countl_zero(integer[words - 1]);
+    return words == 0
+               ? 0
+               : words * WordBits - static_cast<std::size_t>(std::countl_zero(integer[words - 1]));
 }
 
 WideInteger ShiftedLeft(const WideInteger& integer, std::size_t bits) {

@@ -113,9 +113,9 @@ TEST_CASE("A view of a block without data is empty and holds the block") {
 
 TEST_CASE("A null Variant has no text and is asked nothing") {
     DirectHost host;
-    const auto before = host.lookups();
+    const std::size_t namesAsked = host.lookups().size();
     CHECK_FALSE(vqz::VariantToString(nullptr));
-    CHECK(host.lookups() == before);
+    CHECK(host.lookups().size() == namesAsked);
 }
 
 TEST_CASE("Objects are told by the class that they are of or descend from") {
