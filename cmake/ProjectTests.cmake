@@ -52,11 +52,16 @@ endfunction()
 #
 # For each kind of host, what the library registers there compared with the dump that was kept.
 function(add_golden_tests folder)
-  foreach(version IN ITEMS none 2011.99 2012.0 2014.99 2015.0 2020.02)
+  file(GLOB dumps CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/host-*.txt")
+  foreach(dump IN LISTS dumps)
+    string(REGEX REPLACE "^.*/host-(.*)[.]txt$" "\\1" version "${dump}")
+    set(options --host-version ${version})
+    if(version STREQUAL "current")
+      set(options)
+    endif()
     add_project_test(NAME golden/host-${version}
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/compare_dump.py"
-        "${PROJECT_SOURCE_DIR}/${folder}/host-${version}.txt"
-        ${standin_command} --dump --host-version ${version})
+        "${dump}" ${standin_command} --dump ${options})
   endforeach()
 endfunction()
 
