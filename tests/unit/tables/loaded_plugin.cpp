@@ -74,7 +74,7 @@ std::string NumberClass::Text(Object object) {
     return text ? host_->Bytes(text.Get()) : "null";
 }
 
-std::string NumberClass::ValueBytes(Object object) {
+std::string NumberClass::ValueBytes(Object object) const {
     const char* value = nullptr;
     std::memcpy(&value, host_->InstanceData(object), sizeof value);
     return value == nullptr ? std::string() : std::string(value, 4 * wordCount_ + 1);

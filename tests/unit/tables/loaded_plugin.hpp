@@ -133,7 +133,7 @@ public:
     std::string Text(Object object);
 
     /// The bytes of the object's value: exponent, mantissa and flags; empty without a value.
-    std::string ValueBytes(Object object);
+    std::string ValueBytes(Object object) const;
     /// The flags of the object's value; its number must be there.
     int Flags(Object object);
 

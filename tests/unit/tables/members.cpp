@@ -1,7 +1,10 @@
 #include "tests/unit/tables/members.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <cctype>
+#include <cstddef>
+#include <span>
 #include <utility>
 
 #include <doctest/doctest.h>
@@ -21,6 +24,11 @@ std::string Lower(std::string_view text) {
 std::string TypeAtEnd(std::string_view declaration) {
     declaration = declaration.substr(0, declaration.find(" ="));
     return std::string(declaration.substr(declaration.rfind(' ') + 1));
+}
+
+/// Whether values of a type take two words.
+bool IsWide(std::string_view type) {
+    return type == "int64" || type == "uint64" || type == "currency";
 }
 
 struct Signature {
@@ -51,12 +59,13 @@ Signature SignatureOf(std::string_view declaration) {
 
 }  // namespace
 
-bool Member::Call(const Samples& samples) const {
-    using standin::ReturnKind;
-    // What "byref" arguments point at.
-    String afterText = nullptr;
-    std::uint8_t valueRead = 0;
+bool Member::Takes(std::string_view type) const {
+    return (type == "self" && hasSelf_) ||
+           std::ranges::find(argumentTypes_, type) != argumentTypes_.end();
+}
 
+ArgumentWords Member::Words(const Samples& samples, String& afterText,
+                            std::uint8_t& valueRead) const {
     ArgumentWords words;
     if (hasSelf_) {
         words.Add(samples.self);
@@ -80,7 +89,7 @@ bool Member::Call(const Samples& samples) const {
             words.Add(static_cast<float>(samples.real));
         } else if (type == "boolean") {
             words.Add(samples.flag);
-        } else if (type == "int64" || type == "uint64" || type == "currency") {
+        } else if (IsWide(type)) {
             words.Add(std::int64_t{samples.integer});
         } else {
             INFO(type);
@@ -89,21 +98,60 @@ bool Member::Call(const Samples& samples) const {
             words.Add(type == "parameter" ? 0 : samples.integer);
         }
     }
+    return words;
+}
+
+Answer Member::Take(const standin::ReturnValue& result) const {
+    standin::Host& host = standin::Host::Current();
+    if (resultType_.empty()) {
+        return {};
+    }
+    if (resultType_ == "double") {
+        return {result.real != 0.0, std::to_string(result.real)};
+    }
+    if (resultType_ == "string") {
+        const HeldString text(std::bit_cast<String>(result.low));
+        return {static_cast<bool>(text), Described(text.Get())};
+    }
+    if (resultType_ == "number") {
+        const HeldObject number(std::bit_cast<Object>(result.low));
+        return {static_cast<bool>(number), number ? class_.ValueBytes(number.Get()) : "Nil"};
+    }
+    if (resultType_ == "variant") {
+        const HeldObject variant(std::bit_cast<Object>(result.low));
+        const HeldString text(host.VariantAsString(variant.Get()));
+        return {static_cast<bool>(variant),
+                std::to_string(host.VariantType(variant.Get())) + " " + host.Bytes(text.Get())};
+    }
+    if (resultType_ == "memoryblock") {
+        const HeldObject block(std::bit_cast<Object>(result.low));
+        const std::span<const std::byte> bytes = host.BlockBytes(block.Get());
+        return {static_cast<bool>(block),
+                std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size())};
+    }
+    const std::uint64_t word = IsWide(resultType_)
+                                   ? (std::uint64_t{result.high} << 32U | result.low)
+                                   : result.low & (resultType_ == "boolean" ? 0xFFU : 0xFFFFFFFFU);
+    return {word != 0, std::to_string(word)};
+}
+
+Answer Member::CallForAnswer(const Samples& samples) const {
+    using standin::ReturnKind;
+    // What "byref" arguments point at.
+    String afterText = nullptr;
+    std::uint8_t valueRead = 0;
+    const ArgumentWords words = Words(samples, afterText, valueRead);
 
     const ReturnKind kind = resultType_.empty()       ? ReturnKind::None
                             : resultType_ == "double" ? ReturnKind::Double
+                            : IsWide(resultType_)     ? ReturnKind::TwoWords
                                                       : ReturnKind::Word;
-    standin::Host& host = standin::Host::Current();
-    const standin::ReturnValue result = host.Call(routine_, words.words(), kind);
+    Answer answer = Take(standin::Host::Current().Call(routine_, words.words(), kind));
     const HeldString after(afterText);
-    if (resultType_ == "string") {
-        return static_cast<bool>(HeldString(std::bit_cast<String>(result.low)));
+    if (Takes("byref string")) {
+        answer.shown = Described(after.Get()) + (valueRead != 0 ? ", read" : ", not read");
     }
-    if (resultType_ == "number" || resultType_ == "variant" || resultType_ == "memoryblock") {
-        return static_cast<bool>(HeldObject(std::bit_cast<Object>(result.low)));
-    }
-    return kind == ReturnKind::Word ? result.low != 0
-                                    : kind == ReturnKind::Double && result.real != 0.0;
+    return answer;
 }
 
 std::vector<Member> MembersOf(const NumberClass& number) {
@@ -113,7 +161,7 @@ std::vector<Member> MembersOf(const NumberClass& number) {
         if (routine == nullptr) {
             return;
         }
-        Member member;
+        Member member(number);
         member.name_ = number.name() + "." + declaration;
         member.routine_ = routine;
         member.hasSelf_ = hasSelf;

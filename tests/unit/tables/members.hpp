@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "tests/unit/tables/loaded_plugin.hpp"
@@ -23,6 +24,15 @@ struct Samples {
     bool flag = true;
 };
 
+/// What a call answered.
+struct Answer {
+    /// Whether it is something that is not null, 0 or false.
+    bool given = false;
+    /// The answer as text, equal for equal answers: a number and a memory block by their bytes, a
+    /// text by encoding and bytes; then what "byref" arguments were left as.
+    std::string shown;
+};
+
 /// A routine of a number class with the types of its arguments and its result, in lower case.
 class Member {
 public:
@@ -34,23 +44,35 @@ public:
     bool writesSelf() const { return writesSelf_; }
     /// Whether it answers a number of its own class.
     bool givesNumber() const { return resultType_ == "number"; }
+    /// The type of its answer, "number" for its own class; empty when it answers nothing.
+    const std::string& resultType() const { return resultType_; }
+    /// Whether it has an argument of that type; "self" is one, too.
+    bool Takes(std::string_view type) const;
 
-    /// Calls the routine and drops what it answers. True when it answered something that is not
-    /// null, 0 or false.
-    bool Call(const Samples& samples) const;
+    /// Calls the routine and drops what it answers.
+    Answer CallForAnswer(const Samples& samples) const;
+    /// The same. True when it answered something that is not null, 0 or false.
+    bool Call(const Samples& samples) const { return CallForAnswer(samples).given; }
 
 private:
     friend std::vector<Member> MembersOf(const NumberClass& number);
 
+    ArgumentWords Words(const Samples& samples, String& afterText, std::uint8_t& valueRead) const;
+    Answer Take(const standin::ReturnValue& result) const;
+
+    NumberClass class_;
     std::string name_;
     Routine routine_ = nullptr;
     bool hasSelf_ = false;
     bool writesSelf_ = false;
     std::vector<std::string> argumentTypes_;
     std::string resultType_;
+
+    explicit Member(NumberClass number) : class_(std::move(number)) {}
 };
 
-/// All getters, setters, methods and shared methods of a class that have a routine.
+/// All getters, setters, methods and shared methods of a class that have a routine. The switch of
+/// the debug log is left out.
 std::vector<Member> MembersOf(const NumberClass& number);
 
 }  // namespace tests

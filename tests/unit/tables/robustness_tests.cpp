@@ -11,6 +11,7 @@
 
 #include "tests/unit/tables/loaded_plugin.hpp"
 #include "tests/unit/tables/members.hpp"
+#include "tests/unit/tables/recipes.hpp"
 
 namespace {
 
@@ -22,6 +23,9 @@ using tests::Member;
 using tests::MembersOf;
 using tests::NumberClass;
 using tests::Object;
+using tests::OwnedSamples;
+using tests::Recipe;
+using tests::Recipes;
 using tests::Samples;
 using tests::TakeRaised;
 
@@ -39,33 +43,6 @@ std::string TakeRaisedClass(standin::Host& host) {
     const std::string raised = TakeRaised(host);
     return raised.substr(0, raised.find(':'));
 }
-
-/// Values to call any member of a class with, alive as long as this.
-class OwnedSamples {
-public:
-    OwnedSamples(LoadedPlugin& plugin, NumberClass& number, std::string_view value = "0.5")
-        : self_(number.Make(value)),
-          number_(number.Make("2")),
-          text_(plugin.MakeString("12.5")),
-          variant_(plugin.host().MakeVariant(
-              static_cast<std::int32_t>(host_interface::VariantTypeCode::Int32), std::int64_t{7})),
-          memoryBlock_(plugin.host().MakeMemoryBlock(std::string(8, '\x01'))) {}
-
-    Samples Get() const {
-        return {.self = self_.Get(),
-                .number = number_.Get(),
-                .text = text_.Get(),
-                .variant = variant_.Get(),
-                .memoryBlock = memoryBlock_.Get()};
-    }
-
-private:
-    HeldObject self_;
-    HeldObject number_;
-    HeldString text_;
-    HeldObject variant_;
-    HeldObject memoryBlock_;
-};
 
 /// Functions that a host of any age offers and the library asks for by name.
 constexpr const char* HostFunctions[] = {
@@ -122,7 +99,9 @@ TEST_CASE("Members that read change no operand, and answer a number or raise, ne
     LoadedPlugin plugin;
     for (NumberClass& number : plugin.classes()) {
         for (const char* value : {"0.5", "-4", "0"}) {
-            const OwnedSamples owned(plugin, number, value);
+            Recipe recipe = Recipes().front();
+            recipe.self = value;
+            const OwnedSamples owned(plugin, number, recipe);
             const Samples samples = owned.Get();
             const std::string self = number.ValueBytes(samples.self);
             const std::string argument = number.ValueBytes(samples.number);
