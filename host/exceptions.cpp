@@ -79,7 +79,7 @@ void RaiseOverflowException(const char* operationName) {
     if (DebugEnabled) {
         LogMessage("RaiseOverflowException");
     }
-    const StringReference suffix = BuildFromCString(" operation failed.", HostTextEncoding::Ascii);
+    const StringReference suffix = BuildFromCString(OperationFailed, HostTextEncoding::Ascii);
     const StringReference head = BuildFromCString(operationName, HostTextEncoding::Ascii);
     const StringReference message(RuntimeAddString(head.Get(), suffix.Get()));
     RaiseHostExceptionWithString(NumberErrorClass, message.Get());

@@ -15,6 +15,9 @@ namespace vqz {
 /// The plug-in's own exception class, for number operations that failed.
 inline constexpr const char* NumberErrorClass = "BigNumberErrorExceptionVQZ";
 
+/// What follows the operation's name in the message that has nothing else.
+inline constexpr const char* OperationFailed = " operation failed.";
+
 /// Raises a new instance of a host exception class, by name, with a UTF-8 message; null gives an
 /// empty message. A class that cannot be made is replaced by "RuntimeException"; when that fails
 /// too, nothing is raised.

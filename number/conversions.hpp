@@ -103,14 +103,14 @@ void SetFrom(Object self, Host value) {
 
 /// "Constructor(value as ...)".
 template <typename Value, FixedString LogName, typename Host>
-Routine ConstructFrom() {
-    return AsRoutine([](Object self, Host value) { SetFrom<Value, LogName>(self, value); });
+NamedRoutine ConstructFrom() {
+    return Named<LogName>([](Object self, Host value) { SetFrom<Value, LogName>(self, value); });
 }
 
 /// Setter of a property of type `Host`.
 template <typename Value, FixedString LogName, typename Host>
-Routine SetProperty() {
-    return AsRoutine(
+NamedRoutine SetProperty() {
+    return Named<LogName>(
         [](Object self, Integer, Host value) { SetFrom<Value, LogName>(self, value); });
 }
 
@@ -123,8 +123,8 @@ Object MakeFrom(Host value) {
 
 /// "NumberWith...(value as ...)".
 template <typename Value, FixedString LogName, typename Host>
-Routine NumberWith() {
-    return AsRoutine([](Host value) { return MakeFrom<Value, LogName>(value); });
+NamedRoutine NumberWith() {
+    return Named<LogName>([](Host value) { return MakeFrom<Value, LogName>(value); });
 }
 
 /// A new object with the number that a text in base 10 shows. A failure is reported with the name
@@ -144,8 +144,9 @@ Object MakeFromText(String text) {
 
 /// "NumberWithString(value as String)".
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine NumberWithText() {
-    return AsRoutine([](String text) { return MakeFromText<Value, LogName, FailureName>(text); });
+NamedRoutine NumberWithText() {
+    return Named<LogName, Failure::Name, FailureName>(
+        [](String text) { return MakeFromText<Value, LogName, FailureName>(text); });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -181,8 +182,8 @@ bool NumberTo(const Value& value, Host& result) {
 
 /// Getter of a property of type `Host`; 0 after a failure was raised.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
-Routine GetProperty() {
-    return AsRoutine([](Object self, Integer) {
+NamedRoutine GetProperty() {
+    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer) {
         return MethodBoundaryGuard([&]() -> Host {
             LogEntry<LogName>();
             Host result = 0;
@@ -226,8 +227,8 @@ std::int64_t NumberToCurrency(Value value) {
 
 /// Getter of "CurrencyValue".
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine GetCurrency() {
-    return AsRoutine([](Object self, Integer) {
+NamedRoutine GetCurrency() {
+    return Named<LogName, Failure::Name, FailureName>([](Object self, Integer) {
         return MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             return NumberToCurrency<Value, FailureName>(ReadNumber<Value>(self));
@@ -263,8 +264,8 @@ void RaiseConversionNotSupported();
 
 /// Setter of "VariantValue". The number is 0 until it is replaced by what the Variant holds.
 template <typename Value, FixedString LogName>
-Routine SetVariant() {
-    return AsRoutine([](Object self, Integer, Object variant) {
+NamedRoutine SetVariant() {
+    return Named<LogName, Failure::Other>([](Object self, Integer, Object variant) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             StoreNumberValue(self, ZeroValue<Value>());
@@ -317,8 +318,8 @@ Routine SetVariant() {
 /// "NumberWithVariant(value as variant)"; null for Nil. A Double is read as a Single here, unlike
 /// in the setter of "VariantValue": programs know this method by that precision.
 template <typename Value, FixedString LogName>
-Routine NumberWithVariant() {
-    return AsRoutine([](Object variant) -> Object {
+NamedRoutine NumberWithVariant() {
+    return Named<LogName, Failure::Other>([](Object variant) -> Object {
         LogEntry<LogName>();
         if (variant == nullptr) {
             return nullptr;
@@ -403,8 +404,8 @@ Object VariantOf(Object self) {
 
 /// Getter of "VariantValue".
 template <typename Value, FixedString LogName>
-Routine GetVariant() {
-    return AsRoutine([](Object self, Integer) {
+NamedRoutine GetVariant() {
+    return Named<LogName>([](Object self, Integer) {
         return MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             return VariantOf<Value>(self);

@@ -10,8 +10,8 @@ namespace vqz {
 
 /// "Constructor": the value is 0.
 template <typename Value, FixedString LogName>
-Routine ConstructEmpty() {
-    return AsRoutine([](Object self) {
+NamedRoutine ConstructEmpty() {
+    return Named<LogName>([](Object self) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             StoreNumberValue(self, ZeroValue<Value>());
@@ -21,8 +21,8 @@ Routine ConstructEmpty() {
 
 /// "Constructor(other)": a copy; a missing `other` gives a NaN.
 template <typename Value, FixedString LogName>
-Routine ConstructCopy() {
-    return AsRoutine([](Object self, Object other) {
+NamedRoutine ConstructCopy() {
+    return Named<LogName>([](Object self, Object other) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             StoreNumberValue(self, ReadNumber<Value>(other));
@@ -44,8 +44,8 @@ Routine Destruct() {
 /// The getter of a Boolean property that `test` answers from the value. Nothing here can throw, so
 /// it carries no guard.
 template <typename Value, FixedString LogName, typename Test>
-Routine TestValue(Test) {
-    return AsRoutine([](Object self, Integer) -> BooleanWord {
+NamedRoutine TestValue(Test) {
+    return Named<LogName>([](Object self, Integer) -> BooleanWord {
         LogEntry<LogName>();
         return AsBooleanWord(Test{}(ReadNumber<Value>(self)));
     });
@@ -53,8 +53,8 @@ Routine TestValue(Test) {
 
 /// A method that answers whether `test` holds of two numbers. Carries no guard, like `TestValue`.
 template <typename Value, FixedString LogName, typename Test>
-Routine TestTwoNumbers(Test) {
-    return AsRoutine([](Object self, Object other) -> BooleanWord {
+NamedRoutine TestTwoNumbers(Test) {
+    return Named<LogName>([](Object self, Object other) -> BooleanWord {
         LogEntry<LogName>();
         return AsBooleanWord(Test{}(ReadNumber<Value>(self), ReadNumber<Value>(other)));
     });

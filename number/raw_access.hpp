@@ -30,8 +30,8 @@ Value* RequireNumber(Object self) {
 
 /// Getter of the bytes of one part, the mantissa or the exponent: least significant word first.
 template <typename Value, auto Part>
-Routine GetPart() {
-    return AsRoutine([](Object self, Integer) -> Object {
+NamedRoutine GetPart() {
+    return Unlogged<Failure::Other>([](Object self, Integer) -> Object {
         const Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return nullptr;
@@ -44,8 +44,8 @@ Routine GetPart() {
 /// Setter of the bytes of one part, in place. Takes a block of exactly the part's size, with any
 /// content. Both parts report a wrong size under the one name `methodName`.
 template <typename Value, auto Part, FixedString MethodName>
-Routine SetPart() {
-    return AsRoutine([](Object self, Integer, Object block) {
+NamedRoutine SetPart() {
+    return Unlogged<Failure::Other>([](Object self, Integer, Object block) {
         Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return;
@@ -70,8 +70,8 @@ Routine SetPart() {
 
 /// Getter of the flag byte.
 template <typename Value>
-Routine GetFlags() {
-    return AsRoutine([](Object self, Integer) -> Integer {
+NamedRoutine GetFlags() {
+    return Unlogged<Failure::Other>([](Object self, Integer) -> Integer {
         const Value* value = RequireNumber<Value>(self);
         return value == nullptr ? 0 : value->info;
     });
@@ -79,8 +79,8 @@ Routine GetFlags() {
 
 /// Setter of the flag byte: the low 8 bits, in place.
 template <typename Value>
-Routine SetFlags() {
-    return AsRoutine([](Object self, Integer, Integer flags) {
+NamedRoutine SetFlags() {
+    return Unlogged<Failure::Other>([](Object self, Integer, Integer flags) {
         if (Value* value = RequireNumber<Value>(self)) {
             value->info = static_cast<unsigned char>(flags & 0xFF);
         }
@@ -89,8 +89,8 @@ Routine SetFlags() {
 
 /// "LibTypeStr": the name of ttmath's build.
 template <typename Value>
-Routine GetLibraryType() {
-    return AsRoutine(
+NamedRoutine GetLibraryType() {
+    return Unlogged(
         [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); });
 }
 

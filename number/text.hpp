@@ -58,21 +58,21 @@ String TextOf(Object self) {
 
 /// The getter form of `TextOf`.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine GetText() {
-    return AsRoutine(
+NamedRoutine GetText() {
+    return Named<LogName>(
         [](Object self, Integer) { return TextOf<Value, LogName, FailureName>(self); });
 }
 
 /// The conversion operator form of `TextOf`.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine ConvertToText() {
-    return AsRoutine([](Object self) { return TextOf<Value, LogName, FailureName>(self); });
+NamedRoutine ConvertToText() {
+    return Named<LogName>([](Object self) { return TextOf<Value, LogName, FailureName>(self); });
 }
 
 /// Getter of "StringValue(Base)".
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine GetTextInBase() {
-    return AsRoutine([](Object self, Integer base) {
+NamedRoutine GetTextInBase() {
+    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer base) {
         return MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             return FormatNumber<Value>(self, FormatWithBase(base), FailureName.text);
@@ -82,21 +82,22 @@ Routine GetTextInBase() {
 
 /// "GetStringValue" with all its options.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine GetTextFormatted() {
-    return AsRoutine([](Object self, Integer base, BooleanWord scientific, Integer scientificFrom,
-                        Integer round, BooleanWord trimZeros, String comma) {
-        return MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            TextFormat format = FormatWithBase(base);
-            format.scient = IsTrue(scientific);
-            format.scient_from = scientificFrom;
-            format.round = round;
-            format.trim_zeroes = IsTrue(trimZeros);
-            // ttmath narrows the separator to a char again: the sign extension is harmless.
-            format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
-            return FormatNumber<Value>(self, format, FailureName.text);
+NamedRoutine GetTextFormatted() {
+    return Named<LogName, Failure::OneNumber, FailureName>(
+        [](Object self, Integer base, BooleanWord scientific, Integer scientificFrom, Integer round,
+           BooleanWord trimZeros, String comma) {
+            return MethodBoundaryGuard([&] {
+                LogEntry<LogName>();
+                TextFormat format = FormatWithBase(base);
+                format.scient = IsTrue(scientific);
+                format.scient_from = scientificFrom;
+                format.round = round;
+                format.trim_zeroes = IsTrue(trimZeros);
+                // ttmath narrows the separator to a char again: the sign extension is harmless.
+                format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
+                return FormatNumber<Value>(self, format, FailureName.text);
+            });
         });
-    });
 }
 
 /// Parses text into the object's value and reports a failure with it. The value is replaced by
@@ -116,33 +117,35 @@ void SetTextOf(Object self, String text, Integer base) {
 
 /// "Constructor(value as String)": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine ConstructFromText() {
-    return AsRoutine(
+NamedRoutine ConstructFromText() {
+    return Named<LogName, Failure::OneNumber, FailureName>(
         [](Object self, String text) { SetTextOf<Value, LogName, FailureName>(self, text, 10); });
 }
 
 /// Setter of the property "StringValue": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine SetText() {
-    return AsRoutine([](Object self, Integer, String text) {
+NamedRoutine SetText() {
+    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer, String text) {
         SetTextOf<Value, LogName, FailureName>(self, text, 10);
     });
 }
 
 /// Setter of "StringValue(Base)".
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine SetTextInBase() {
-    return AsRoutine([](Object self, Integer base, String text) {
-        SetTextOf<Value, LogName, FailureName>(self, text, base);
-    });
+NamedRoutine SetTextInBase() {
+    return Named<LogName, Failure::OneNumber, FailureName>(
+        [](Object self, Integer base, String text) {
+            SetTextOf<Value, LogName, FailureName>(self, text, base);
+        });
 }
 
 /// "SetStringValue": parses, and tells what was left of the text and whether digits were read.
 /// The text is held from the start, so that one variable may be both it and the rest.
 template <typename Value, FixedString LogName, FixedString FailureName>
-Routine SetTextAndTellRest() {
-    return AsRoutine([](Object self, String text, Integer base, String* afterText,
-                        std::uint8_t* valueRead) {
+NamedRoutine SetTextAndTellRest() {
+    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, String text,
+                                                              Integer base, String* afterText,
+                                                              std::uint8_t* valueRead) {
         MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             const StringReference held = StringReference::Share(text);

@@ -6,7 +6,7 @@
 namespace vqz {
 
 std::array<host_interface::PropertyDefinition, 1> SharedProperties =
-    Table(NumberSharedProperties());
+    Table(NumberSharedProperties<HelpTexts::Dropped>());
 
 host_interface::ClassDefinition NumberErrorRecord = [] {
     host_interface::ClassDefinition record = {};

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <tuple>
+#include <type_traits>
 
 #include "interface/host_interface.hpp"
 #include "number/number_object.hpp"
@@ -15,9 +16,10 @@
 namespace vqz {
 
 /// A method as the host gets it.
-inline host_interface::MethodDefinition Define(const MethodDescription& method) {
-    return {.function = method.function,
-            .setterFunction = method.setter,
+template <HelpTexts Texts>
+host_interface::MethodDefinition Define(const MethodDescription<Texts>& method) {
+    return {.function = method.function.function,
+            .setterFunction = method.setter.function,
             .declaration = method.declaration,
             .flags = host_interface::flags::AllTargets,
             .attributeCount = method.hidden ? 1U : 0U,
@@ -25,13 +27,14 @@ inline host_interface::MethodDefinition Define(const MethodDescription& method) 
 }
 
 /// A property as the host gets it.
-inline host_interface::PropertyDefinition Define(const PropertyDescription& property) {
+template <HelpTexts Texts>
+host_interface::PropertyDefinition Define(const PropertyDescription<Texts>& property) {
     return {.group = nullptr,
             .name = property.name,
             .type = property.type,
             .flags = property.flags,
-            .getter = property.getter,
-            .setter = property.setter,
+            .getter = property.getter.function,
+            .setter = property.setter.function,
             .parameter = 0,
             .reserved = {},
             .attributeCount = property.hidden ? 1U : 0U,
@@ -39,20 +42,28 @@ inline host_interface::PropertyDefinition Define(const PropertyDescription& prop
 }
 
 /// A table as the host gets it, entry by entry from the descriptions.
-template <typename Description, std::size_t Count>
-auto Table(const std::array<Description, Count>& descriptions) {
-    std::array<decltype(Define(descriptions[0])), Count> table;
-    std::ranges::transform(descriptions, table.begin(),
-                           [](const Description& description) { return Define(description); });
+template <typename... Description, std::size_t... Counts>
+auto Table(const std::array<Description, Counts>&... parts) {
+    using Entry = std::common_type_t<decltype(Define(parts[0]))...>;
+    std::array<Entry, (Counts + ...)> table;
+    auto next = table.begin();
+    ((next = std::ranges::transform(parts, next, [](const auto& row) { return Define(row); }).out),
+     ...);
     return table;
 }
 
+/// A table whose descriptions stand in several arrays.
+template <typename... Parts>
+auto Table(const std::tuple<Parts...>& parts) {
+    return std::apply([](const auto&... part) { return Table(part...); }, parts);
+}
+
 template <typename Value>
-inline auto Properties = Table(NumberProperties<Value>());
+inline auto Properties = Table(NumberProperties<Value, HelpTexts::Dropped>());
 template <typename Value>
-inline auto Methods = Table(NumberMethods<Value>());
+inline auto Methods = Table(NumberMethods<Value, HelpTexts::Dropped>());
 template <typename Value>
-inline auto SharedMethods = Table(NumberSharedMethods<Value>());
+inline auto SharedMethods = Table(NumberSharedMethods<Value, HelpTexts::Dropped>());
 
 /// The record of a number class with its tables.
 template <typename Value>

@@ -18,8 +18,8 @@ namespace vqz {
 
 /// A new object with what `operation` makes of a copy of the object's value. Cannot fail.
 template <typename Value, FixedString LogName, typename Operation>
-Routine OneNumber(Operation) {
-    return AsRoutine([](Object self) {
+NamedRoutine OneNumber(Operation) {
+    return Named<LogName>([](Object self) {
         return MethodBoundaryGuard([&] {
             LogEntry<LogName>();
             Value result = ReadNumber<Value>(self);
@@ -50,16 +50,16 @@ Object ComputeWithTwoNumbers(Object self, Object other, Operation operation) {
 /// A method or operator of two numbers. An `operation` that takes a third argument makes a method
 /// with a `round` argument.
 template <typename Value, FixedString Name, typename Operation>
-Routine TwoNumbers(Operation) {
+NamedRoutine TwoNumbers(Operation) {
     if constexpr (std::is_invocable_v<Operation, Value&, const Value&, bool>) {
-        return AsRoutine([](Object self, Object other, BooleanWord round) {
+        return Named<Name, Failure::TwoNumbers>([](Object self, Object other, BooleanWord round) {
             return ComputeWithTwoNumbers<Value, Name>(
                 self, other, [round](Value& result, const Value& operand) {
                     return Operation{}(result, operand, IsTrue(round));
                 });
         });
     } else {
-        return AsRoutine([](Object self, Object other) {
+        return Named<Name, Failure::TwoNumbers>([](Object self, Object other) {
             return ComputeWithTwoNumbers<Value, Name>(self, other, Operation{});
         });
     }
@@ -68,8 +68,8 @@ Routine TwoNumbers(Operation) {
 /// A new object with the result of `operation` on a copy of the number, or null and the one-number
 /// report when it answers a carry or an error code.
 template <typename Value, FixedString LogName, typename Operation>
-Routine OneNumberOrFailure(Operation) {
-    return AsRoutine([](Object number) {
+NamedRoutine OneNumberOrFailure(Operation) {
+    return Named<LogName, Failure::OneNumber>([](Object number) {
         return MethodBoundaryGuard([&]() -> Object {
             LogEntry<LogName>();
             Value result = ReadNumber<Value>(number);
@@ -84,8 +84,8 @@ Routine OneNumberOrFailure(Operation) {
 
 /// The integer part of a quotient. A failure reports the quotient as it was left, not the receiver.
 template <typename Value, FixedString LogName>
-Routine IntegerDivide() {
-    return AsRoutine([](Object self, Object other) {
+NamedRoutine IntegerDivide() {
+    return Named<LogName, Failure::TwoNumbers>([](Object self, Object other) {
         return MethodBoundaryGuard([&]() -> Object {
             LogEntry<LogName>();
             Value quotient = ReadNumber<Value>(self);
@@ -120,8 +120,8 @@ ttmath::uint MultiplyBy(Value& me, std::int32_t factor) {
 /// A product with a machine integer. A failure reports the product as it was left, not the
 /// receiver.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
-Routine MultiplyByInteger() {
-    return AsRoutine([](Object self, Host factor) {
+NamedRoutine MultiplyByInteger() {
+    return Named<LogName, Failure::TwoNumbers, FailureName>([](Object self, Host factor) {
         return MethodBoundaryGuard([&]() -> Object {
             LogEntry<LogName>();
             Value product = ReadNumber<Value>(self);
@@ -137,8 +137,8 @@ Routine MultiplyByInteger() {
 
 /// The remainder of the division by 2, as an Integer. Carries no guard: nothing here can throw.
 template <typename Value, FixedString LogName>
-Routine RemainderOfTwo() {
-    return AsRoutine([](Object self) -> Integer {
+NamedRoutine RemainderOfTwo() {
+    return Named<LogName>([](Object self) -> Integer {
         LogEntry<LogName>();
         return static_cast<Integer>(ReadNumber<Value>(self).Mod2());
     });
@@ -147,8 +147,8 @@ Routine RemainderOfTwo() {
 /// -1, 0 or 1 as one number is less than, equal to or greater than the other. NaN is not looked
 /// for: it carries the zero flag and compares as 0. Carries no guard: nothing here can throw.
 template <typename Value, FixedString LogName>
-Routine CompareTwoNumbers() {
-    return AsRoutine([](Object self, Object other) -> Integer {
+NamedRoutine CompareTwoNumbers() {
+    return Named<LogName>([](Object self, Object other) -> Integer {
         LogEntry<LogName>();
         const Value& left = ReadNumber<Value>(self);
         const Value& right = ReadNumber<Value>(other);

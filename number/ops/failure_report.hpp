@@ -13,6 +13,10 @@
 
 namespace vqz {
 
+/// What stands between the operation's name and one number, or two of them.
+inline constexpr const char* FailedWithNumber = " operation failed with number ";
+inline constexpr const char* FailedWithNumbers = " operation failed with numbers ";
+
 /// A number's text as messages show it: all digits in base 10, or "nil" for a missing one.
 template <typename Value>
 std::string ReportText(const Value* value) {
@@ -42,7 +46,7 @@ void RaiseOverflowException(const char* operationName, Object number) {
         LogMessage("RaiseOverflowException");
     }
     const std::string text = ReportText(FindNumber<Value>(number));
-    RaiseNumberError({operationName, " operation failed with number ", text.c_str(), "."});
+    RaiseNumberError({operationName, FailedWithNumber, text.c_str(), "."});
 }
 
 /// "NAME operation failed with numbers A and B."; a null value is a missing number.
@@ -53,8 +57,8 @@ void RaiseOverflowException(const char* operationName, const Value* first, const
     }
     const std::string firstText = ReportText(first);
     const std::string secondText = ReportText(second);
-    RaiseNumberError({operationName, " operation failed with numbers ", firstText.c_str(), " and ",
-                      secondText.c_str(), "."});
+    RaiseNumberError(
+        {operationName, FailedWithNumbers, firstText.c_str(), " and ", secondText.c_str(), "."});
 }
 
 }  // namespace vqz

@@ -18,8 +18,8 @@ namespace vqz {
 /// A new object with the function's value, or null and the one-number report when it sets an error
 /// code.
 template <typename Value, FixedString Name, typename Function>
-Routine FunctionOfOne(Function) {
-    return AsRoutine([](Object argument) {
+NamedRoutine FunctionOfOne(Function) {
+    return Named<Name, Failure::OneNumber>([](Object argument) {
         return MethodBoundaryGuard([&]() -> Object {
             LogEntry<Name>();
             ttmath::ErrorCode error = ttmath::err_ok;
@@ -52,25 +52,26 @@ Object ComputeWithShortReport(Function function, Arguments... arguments) {
 
 /// A function of two numbers that reports with its name alone.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Function>
-Routine FunctionOfTwo(Function) {
-    return AsRoutine([](Object first, Object second) {
+NamedRoutine FunctionOfTwo(Function) {
+    return Named<LogName, Failure::Name, FailureName>([](Object first, Object second) {
         return ComputeWithShortReport<Value, LogName, FailureName>(Function{}, first, second);
     });
 }
 
 /// A function of three numbers that reports with its name alone.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Function>
-Routine FunctionOfThree(Function) {
-    return AsRoutine([](Object first, Object second, Object third) {
-        return ComputeWithShortReport<Value, LogName, FailureName>(Function{}, first, second,
-                                                                   third);
-    });
+NamedRoutine FunctionOfThree(Function) {
+    return Named<LogName, Failure::Name, FailureName>(
+        [](Object first, Object second, Object third) {
+            return ComputeWithShortReport<Value, LogName, FailureName>(Function{}, first, second,
+                                                                       third);
+        });
 }
 
 /// A new object with the value that `set` gives. Logs nothing and has no failure.
 template <typename Value, typename Setter>
-Routine Constant(Setter) {
-    return AsRoutine([] {
+NamedRoutine Constant(Setter) {
+    return Unlogged([] {
         return MethodBoundaryGuard([] {
             Value value = NanValue<Value>();
             Setter{}(value);
@@ -89,8 +90,8 @@ inline void FillWithRandomBytes(std::span<std::byte> bytes) {
 /// A positive number whose mantissa and exponent are random in every bit. It is not normalised:
 /// the top bit of its mantissa may be clear.
 template <typename Value, FixedString LogName>
-Routine RandomNumber() {
-    return AsRoutine([] {
+NamedRoutine RandomNumber() {
+    return Named<LogName>([] {
         return MethodBoundaryGuard([] {
             LogEntry<LogName>();
             Value value = NanValue<Value>();

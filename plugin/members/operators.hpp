@@ -1,0 +1,235 @@
+// The operators of the number classes, in the order of the table. An operator on the right has the
+// routine of its left form: the receiver stays the left operand.
+#pragma once
+
+#include <array>
+
+#include "number/lifecycle.hpp"
+#include "number/ops/arithmetic.hpp"
+#include "number/text.hpp"
+#include "plugin/members/constructors.hpp"
+#include "plugin/members/description.hpp"
+#include "plugin/members/methods.hpp"
+
+namespace vqz {
+
+template <typename Value, HelpTexts Texts>
+auto NumberOperators() {
+    using Row = MethodDescription<Texts>;
+    const NamedRoutine add = TwoNumbers<Value, "Operator_Add">(
+        [](auto& me, const auto& other) { return me.Add(other, true, true); });
+    const NamedRoutine subtract = TwoNumbers<Value, "Operator_Subtract">(
+        [](auto& me, const auto& other) { return me.Add(other, true, false); });
+    const NamedRoutine multiply = TwoNumbers<Value, "Operator_Multiply">(
+        [](auto& me, const auto& other) { return me.Mul(other, true); });
+    const NamedRoutine divide = TwoNumbers<Value, "Operator_Divide">(
+        [](auto& me, const auto& other) { return me.Div(other, true); });
+    const NamedRoutine integerDivide = IntegerDivide<Value, "Operator_IntegerDivide">();
+
+    return std::array{
+        Row{"Operator_Convert(value as String)",
+            ConstructFromBase10<Value>(),
+            {.section = Section::Operators,
+             .summary = "Makes the number that a text in base 10 shows.",
+             .details = "Works wherever a number is wanted and a text is given, also for arguments "
+                        "and beside operators.",
+             .fails = "an exponent beyond the range",
+             .example = R"(
+Dim price As BigNumberVQZ = "19.99"
+Print price + "0.01")",
+             .failing = R"(
+Dim huge As BigNumberVQZ = "1e99999999999999999999")"}},
+        Row{"Operator_Convert as String",
+            ConvertToText<Value, "GetStringValue", "StringValue">(),
+            {.section = Section::Operators,
+             .summary = "The number as text in base 10, with all its digits.",
+             .details = "Works wherever a text is wanted. Beside + it does not: there the text "
+                        "becomes a number.",
+             .example = R"(
+Dim price As BigNumberVQZ = "19.99"
+Dim label As String = price
+Print label + " EUR")"}},
+        Row{Declaration<Value, "Operator_Add(other as $) as $">,
+            add,
+            {.section = Section::Operators,
+             .summary = "me + other.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Dim b As BigNumberVQZ = "-4"
+Print a + b)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print a + BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_AddRight(other as $) as $">,
+            add,
+            {.section = Section::Operators,
+             .summary = "me + other, for a text on the left.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print "4" + a)",
+             .failing = R"(
+Print "4" + BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_Subtract(other as $) as $">,
+            subtract,
+            {.section = Section::Operators,
+             .summary = "me - other.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Dim b As BigNumberVQZ = "-4"
+Print a - b)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print a - BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_SubtractRight(other as $) as $">,
+            subtract,
+            {.section = Section::Operators,
+             .summary = "me - other: the operands are not swapped.",
+             .details = "With a text on the left the number is still what is subtracted from.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print "10" - a)",
+             .failing = R"(
+Print "10" - BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_Multiply(other as $) as $">,
+            multiply,
+            {.section = Section::Operators,
+             .summary = "me * other.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Dim b As BigNumberVQZ = "-4"
+Print a * b)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print a * BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_MultiplyRight(other as $) as $">,
+            multiply,
+            {.section = Section::Operators,
+             .summary = "me * other, for a text on the left.",
+             .fails = "results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print "4" * a)",
+             .failing = R"(
+Print "4" * BigNumberVQZ.Nan)"}},
+        Row{Declaration<Value, "Operator_Divide(other as $) as $">,
+            divide,
+            {.section = Section::Operators,
+             .summary = "me / other.",
+             .fails = "division by zero, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Dim b As BigNumberVQZ = "-4"
+Print a / b)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print a / "0")"}},
+        Row{Declaration<Value, "Operator_DivideRight(other as $) as $">,
+            divide,
+            {.section = Section::Operators,
+             .summary = "me / other: the operands are not swapped.",
+             .details = "With a text on the left the number is still what is divided.",
+             .fails = "division by zero, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print "10" / a)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print "0" / a)"}},
+        Row{Declaration<Value, "Operator_IntegerDivide(other as $) as $">,
+            integerDivide,
+            {.section = Section::Operators,
+             .summary = "The integer part of me / other, cut toward zero.",
+             .details = "A failure shows the quotient as it was left instead of the number.",
+             .fails = "division by zero, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "-7"
+Print a \ "2")",
+             .failing = R"(
+Dim a As BigNumberVQZ = "-7"
+Print a \ "0")"}},
+        Row{Declaration<Value, "Operator_IntegerDivideRight(other as $) as $">,
+            integerDivide,
+            {.section = Section::Operators,
+             .summary = "The integer part of me / other: the operands are not swapped.",
+             .details = "With a text on the left the number is still what is divided.",
+             .fails = "division by zero, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "-7"
+Print "2" \ a)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "-7"
+Print "0" \ a)"}},
+        Row{Declaration<Value, "Operator_Modulo(other as $) as $">,
+            Remainder<Value>(),
+            {.section = Section::Operators,
+             .summary = "The remainder of me / other, with the number's sign.",
+             .fails = "division by zero, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "-7"
+Print a Mod "2")",
+             .failing = R"(
+Dim a As BigNumberVQZ = "-7"
+Print a Mod "0")"}},
+        Row{Declaration<Value, "Operator_ModuloRight(other as $) as $">,
+            Remainder<Value>(),
+            {.section = Section::Operators,
+             .summary = "The remainder of me / other: the operands are not swapped.",
+             .details = "With a text on the left the number is still what is divided.",
+             .fails = "division by zero, NaN and Nil",
+             .example = R"(
+Dim a As BigNumberVQZ = "-7"
+Print "2" Mod a)",
+             .failing = R"(
+Dim a As BigNumberVQZ = "-7"
+Print "0" Mod a)"}},
+        Row{Declaration<Value, "Operator_Negate as $">,
+            OneNumber<Value, "Operator_Negate">([](auto& me) { me.ChangeSign(); }),
+            {.section = Section::Operators,
+             .summary = "-me; zero stays zero.",
+             .details = "NaN and Nil give NaN.",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print -a)"}},
+        Row{Declaration<Value, "Operator_Power(other as $) as $">,
+            Power<Value>(),
+            {.section = Section::Operators,
+             .summary = "me ^ other.",
+             .fails = "0 to a power of 0 or below, for negative numbers to powers that are no "
+                      "integers, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim two As BigNumberVQZ = "2"
+Print two ^ "100")",
+             .failing = R"(
+Print BigNumberVQZ.Zero ^ "0")"}},
+        Row{Declaration<Value, "Operator_PowerRight(other as $) as $">,
+            Power<Value>(),
+            {.section = Section::Operators,
+             .summary = "me ^ other: the operands are not swapped.",
+             .details = "With a text on the left the number is still the one that is raised.",
+             .fails = "0 to a power of 0 or below, for negative numbers to powers that are no "
+                      "integers, for results beyond the range, NaN and Nil",
+             .example = R"(
+Dim three As BigNumberVQZ = "3"
+Print "2" ^ three)",
+             .failing = R"(
+Print "0" ^ BigNumberVQZ.Zero)"}},
+        Row{Declaration<Value, "Operator_Compare(other as $) as Integer">,
+            CompareTwoNumbers<Value, "Operator_Compare">(),
+            {.section = Section::Operators,
+             .summary = "-1, 0 or 1 as me is less than, equal to or greater than other.",
+             .details = "The host calls it for =, <>, <, <=, > and >=. NaN and Nil compare as 0.",
+             .range = "-1, 0 or 1",
+             .example = R"(
+Dim a As BigNumberVQZ = "12.5"
+Print a > "12.49"
+Print a = "12.50"
+Print a.Operator_Compare("13"))"}},
+    };
+}
+
+}  // namespace vqz

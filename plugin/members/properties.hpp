@@ -1,0 +1,278 @@
+// The properties of the number classes, in the order of the table.
+#pragma once
+
+#include <array>
+
+#include "number/conversions.hpp"
+#include "number/lifecycle.hpp"
+#include "number/raw_access.hpp"
+#include "number/text.hpp"
+#include "plugin/members/description.hpp"
+#include "plugin/startup_globals.hpp"
+
+namespace vqz {
+
+template <typename Value, HelpTexts Texts>
+auto NumberProperties() {
+    using Row = PropertyDescription<Texts>;
+    return std::array{
+        Row{.name = "IsZero",
+            .type = "Boolean",
+            .getter = TestValue<Value, "IsZero">([](const auto& value) { return value.IsZero(); }),
+            .help = {.section = Section::Tests,
+                     .summary = "Whether the number is zero.",
+                     .details = "True of NaN and of Nil as well: ask IsNan first where they can "
+                                "turn up.",
+                     .example = R"(
+Dim balance As BigNumberVQZ = "0.00"
+Print balance.IsZero)"}},
+        Row{.name = "IsNegative",
+            .type = "Boolean",
+            .getter = TestValue<Value, "IsSign">([](const auto& value) { return value.IsSign(); }),
+            .help = {.section = Section::Tests,
+                     .summary = "Whether the number is below zero.",
+                     .details = "There is no negative zero. Nil and NaN are not negative.",
+                     .example = R"(
+Dim balance As BigNumberVQZ = "-12.50"
+Print balance.IsNegative)"}},
+        Row{.name = "IsNan",
+            .type = "Boolean",
+            .getter = TestValue<Value, "IsNan">([](const auto& value) { return value.IsNan(); }),
+            .help = {.section = Section::Tests,
+                     .summary = "Whether this is not a number; also true of Nil.",
+                     .details = "Comparing cannot tell: NaN compares as equal to 0.",
+                     .example = R"(
+Dim nothing As BigNumberVQZ
+Print nothing.IsNan
+Print BigNumberVQZ.Zero.IsNan)"}},
+        Row{.name = "IsInteger",
+            .type = "Boolean",
+            .getter =
+                TestValue<Value, "IsInteger">([](const auto& value) { return value.IsInteger(); }),
+            .help = {.section = Section::Tests,
+                     .summary = "Whether the number has no fraction; also true of NaN and Nil.",
+                     .details = "Numbers beyond the precision have no bits left for a fraction and "
+                                "are all integers.",
+                     .example = R"(
+Dim pages As BigNumberVQZ = "120"
+Print pages.IsInteger
+Print (pages / "7").IsInteger)"}},
+        Row{.name = "IntegerValue",
+            .type = "Integer",
+            .getter = GetProperty<Value, "GetIntegerValue", "IntegerValue", std::int32_t>(),
+            .setter = SetProperty<Value, "SetIntegerValue", std::int32_t>(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as an Integer, its fraction cut off.",
+                     .details = "An Integer has 32 bits here. NaN and Nil give 0. Setting it never "
+                                "fails.",
+                     .range = "-2147483648 to 2147483647",
+                     .fails = "numbers outside of that range, which give 0",
+                     .example = R"(
+Dim price As BigNumberVQZ = "19.99"
+Print price.IntegerValue
+price.IntegerValue = 20
+Print price)",
+                     .failing = R"(
+Dim large As BigNumberVQZ = "2147483648"
+Print large.IntegerValue)"}},
+        Row{.name = "Int64Value",
+            .type = "Int64",
+            .getter = GetProperty<Value, "GetInt64Value", "Int64Value", std::int64_t>(),
+            .setter = SetProperty<Value, "SetInt64Value", std::int64_t>(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as an Int64, its fraction cut off.",
+                     .details = "NaN and Nil give 0. Setting it never fails.",
+                     .range = "-9223372036854775808 to 9223372036854775807",
+                     .fails = "numbers outside of that range and for numbers between -1 and 0, "
+                              "which give 0",
+                     .example = R"(
+Dim stars As BigNumberVQZ = "2e11"
+Print stars.Int64Value)",
+                     .failing = R"(
+Dim loss As BigNumberVQZ = "-0.4"
+Print loss.Int64Value)"}},
+        Row{.name = "UInt64Value",
+            .type = "UInt64",
+            .getter = GetProperty<Value, "GetUInt64Value", "UInt64Value", std::uint64_t>(),
+            .setter = SetProperty<Value, "SetUInt64Value", std::uint64_t>(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as a UInt64, its fraction cut off.",
+                     .details = "NaN and Nil give 0. Setting it never fails.",
+                     .range = "0 to 18446744073709551615",
+                     .fails = "negative numbers and numbers beyond that range, which give 0",
+                     .example = R"(
+Dim two As BigNumberVQZ = "2"
+Print (two ^ "64" - "1").UInt64Value)",
+                     .failing = R"(
+Dim debt As BigNumberVQZ = "-1"
+Print debt.UInt64Value)"}},
+        Row{.name = "DoubleValue",
+            .type = "Double",
+            .getter = GetProperty<Value, "GetDoubleValue", "DoubleValue", double>(),
+            .setter = SetProperty<Value, "SetDoubleValue", double>(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as a Double, cut to the precision of one.",
+                     .details = "Setting it takes the Double with all its bits, which is seldom "
+                                "the decimal number that the program shows. NaN and Nil give 0.",
+                     .fails = "numbers too large or too small for a Double, which give 0",
+                     .example = R"(
+Dim third As BigNumberVQZ = "1"
+third = third / "3"
+Print third.DoubleValue
+third.DoubleValue = 0.1
+Print third)",
+                     .failing = R"(
+Dim large As BigNumberVQZ = "1e400"
+Print large.DoubleValue)"}},
+        Row{.name = "StringValue",
+            .type = "String",
+            .getter = GetText<Value, "GetStringValue", "StringValue">(),
+            .setter = SetText<Value, "SetStringValue", "StringValue">(),
+            .help = {.section = Section::Text,
+                     .summary = "The number as text in base 10, with all its digits.",
+                     .details = "From 10^15 on the text is scientific; GetStringValue moves that "
+                                "limit. NaN and Nil give NaN. Setting it reads as far as a number "
+                                "goes, takes a point or a comma for the decimal mark, and gives 0 "
+                                "where there is none; the old value is gone in any case.",
+                     .fails = "a text, when it is set, whose exponent is beyond the range",
+                     .example = R"(
+Dim price As New BigNumberVQZ
+price.StringValue = "19,9900 EUR"
+Print price.StringValue
+price.StringValue = "1e15"
+Print price.StringValue)",
+                     .failing = R"(
+Dim huge As New BigNumberVQZ
+huge.StringValue = "1e99999999999999999999")"}},
+        Row{.name = "CurrencyValue",
+            .type = "Currency",
+            .getter = GetCurrency<Value, "GetCurrencyValue", "CurrencyValue">(),
+            .setter = SetProperty<Value, "SetCurrencyValue", CurrencyAmount>(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as a Currency, rounded to four decimal places.",
+                     .details = "Halves are rounded away from zero. NaN and Nil give 0. Setting "
+                                "it never fails.",
+                     .range = "-922337203685477.5808 to 922337203685477.5807",
+                     .fails = "amounts outside of that range, which give 0",
+                     .example = R"(
+Dim amount As BigNumberVQZ = "1.23456"
+Print amount.CurrencyValue
+Dim price As Currency = 19.99
+amount.CurrencyValue = price
+Print amount)",
+                     .failing = R"(
+Dim fortune As BigNumberVQZ = "1e15"
+Print fortune.CurrencyValue)"}},
+        Row{.name = "VariantValue",
+            .type = "Variant",
+            .getter = GetVariant<Value, "GetVariantValue">(),
+            .setter = SetVariant<Value, "SetVariantValue">(),
+            .help = {.section = Section::HostValues,
+                     .summary = "The number as a Variant: an Integer or Int64 when it is one, else "
+                                "text.",
+                     .details = "Integers beyond Int64 become text too. It can be set from "
+                                "numbers of every kind, text, dates (as seconds), Booleans, "
+                                "colours and numbers of the same class; a Double keeps its full "
+                                "precision, and Nil gives 0.",
+                     .fails = "a Variant, when it is set, that holds anything else; the number is "
+                              "0 then",
+                     .example = R"(
+Dim number As BigNumberVQZ = "12"
+Dim v As Variant = number.VariantValue
+Print v.Type
+number.VariantValue = 0.5
+Print number)",
+                     .failing = R"(
+Dim number As BigNumberVQZ = "12"
+number.VariantValue = New MemoryBlock(4))"}},
+        Row{.name = "DataMantissa",
+            .type = "MemoryBlock",
+            .getter = GetPart<Value, &Value::mantissa>(),
+            .setter = SetPart<Value, &Value::mantissa, "DataMantissa">(),
+            .help = {.section = Section::Inside,
+                     .summary = "The bytes of the mantissa, least significant first.",
+                     .details = "32 bytes in a BigNumberVQZ, 256 in a BiggerNumberVQZ, always a "
+                                "copy. Any content can be set; it is neither checked nor changed.",
+                     .units = "bytes",
+                     .fails = "Nil objects, and for a block, when it is set, that is Nil or of "
+                              "another size",
+                     .example = R"(
+Dim one As BigNumberVQZ = "1"
+Dim bytes As MemoryBlock = one.DataMantissa
+Print bytes.Size
+Print bytes.Byte(31))",
+                     .failing = R"(
+Dim number As BigNumberVQZ = "1"
+number.DataMantissa = New MemoryBlock(31)
+
+Dim number As BigNumberVQZ = "1"
+number.DataMantissa = Nil
+
+Dim nothing As BigNumberVQZ
+Print nothing.DataMantissa.Size)"}},
+        Row{.name = "DataExponent",
+            .type = "MemoryBlock",
+            .getter = GetPart<Value, &Value::exponent>(),
+            .setter = SetPart<Value, &Value::exponent, "DataMantissa">(),
+            .help = {.section = Section::Inside,
+                     .summary = "The bytes of the signed exponent, least significant first.",
+                     .details = "8 bytes in a BigNumberVQZ, 64 in a BiggerNumberVQZ. A number is "
+                                "its mantissa times 2 to the power of its exponent. A wrong size "
+                                "is reported under the name DataMantissa.",
+                     .units = "bytes",
+                     .fails = "Nil objects, and for a block, when it is set, that is Nil or of "
+                              "another size",
+                     .example = R"(
+Dim one As BigNumberVQZ = "1"
+Print one.DataExponent.Int64Value(0))",
+                     .failing = R"(
+Dim number As BigNumberVQZ = "1"
+number.DataExponent = New MemoryBlock(9)
+
+Dim number As BigNumberVQZ = "1"
+number.DataExponent = Nil
+
+Dim nothing As BigNumberVQZ
+Print nothing.DataExponent.Size)"}},
+        Row{.name = "DataFlags",
+            .type = "Integer",
+            .getter = GetFlags<Value>(),
+            .setter = SetFlags<Value>(),
+            .help = {.section = Section::Inside,
+                     .summary = "The flags: 128 negative, 64 not a number, 32 zero.",
+                     .details = "Setting it keeps the lowest 8 bits.",
+                     .range = "0 to 255",
+                     .fails = "Nil objects",
+                     .example = R"(
+Dim debt As BigNumberVQZ = "-5"
+Print debt.DataFlags
+Print BigNumberVQZ.Nan.DataFlags)",
+                     .failing = R"(
+Dim nothing As BigNumberVQZ
+Print nothing.DataFlags)"}},
+    };
+}
+
+/// The one shared property of both classes.
+template <HelpTexts Texts>
+auto NumberSharedProperties() {
+    namespace flags = host_interface::flags;
+    return std::array{PropertyDescription<Texts>{
+        .name = "Debugging",
+        .type = "Boolean",
+        .getter = Unlogged([]() -> BooleanWord { return AsBooleanWord(DebugEnabled); }),
+        .setter = Unlogged([](BooleanWord value) { DebugEnabled = IsTrue(value); }),
+        .flags = flags::RunTimeOnly | flags::AllTargets | flags::PublicScope,
+        .hidden = true,
+        .help = {.section = Section::Inside,
+                 .summary = "Whether the plug-in writes its debug log.",
+                 .details = "One switch for both classes. It is on from the start when the "
+                            "environment variable VQZDEBUG is 1, true or yes.",
+                 .example = R"(
+Print BigNumberVQZ.Debugging
+BigNumberVQZ.Debugging = True
+Print BiggerNumberVQZ.Debugging
+BigNumberVQZ.Debugging = False)"}}};
+}
+
+}  // namespace vqz
