@@ -40,6 +40,12 @@ if(BIGNUMBERVQZ_SANITIZE)
   target_link_options(project_options INTERFACE ${sanitizers})
 endif()
 
+# The library is unloaded and loaded again in one process, so the counts are added up in its files.
+if(BIGNUMBERVQZ_COVERAGE)
+  target_compile_options(project_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(project_options INTERFACE --coverage)
+endif()
+
 # A program or library that carries its compiler runtimes with it. The sanitizers need the shared
 # ones, whose functions they intercept.
 add_library(self_contained INTERFACE)

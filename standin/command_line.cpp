@@ -19,6 +19,8 @@ PROGRAM is a file in the host's language, `-` reads it from standard input, -e t
   --dump               the registered tables, entry by entry
   --ledger             counts of strings and objects at the end, on standard error
   --debug-log          the plug-in's log lines, on standard error
+  --max-steps N        ends a program that takes more than N steps
+  --max-memory BYTES   ends a program that needs more for its text, objects and arrays
   --help               this text
 
 What kind of host to be:
@@ -56,8 +58,9 @@ double ReadVersion(const std::string& word) {
     return version;
 }
 
-int ReadCount(const std::string& option, const std::string& word) {
-    int count = 0;
+template <typename Count = int>
+Count ReadCount(const std::string& option, const std::string& word) {
+    Count count = 0;
     const auto* const end = word.data() + word.size();
     const auto result = std::from_chars(word.data(), end, count);
     if (result.ec != std::errc{} || result.ptr != end || count < 1) {
@@ -109,6 +112,14 @@ constexpr auto Settings = std::to_array<Setting>({
     {"--fail-object",
      [](CommandLine& line, const std::string& value) {
          line.failingObject = ReadCount("--fail-object", value);
+     }},
+    {"--max-steps",
+     [](CommandLine& line, const std::string& value) {
+         line.maximumSteps = ReadCount<std::uint64_t>("--max-steps", value);
+     }},
+    {"--max-memory",
+     [](CommandLine& line, const std::string& value) {
+         line.maximumMemory = ReadCount<std::size_t>("--max-memory", value);
      }},
     {"-e", [](CommandLine& line, const std::string& value) { line.text = value; }},
 });

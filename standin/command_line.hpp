@@ -1,6 +1,9 @@
 // The words that the command is called with.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -29,6 +32,9 @@ struct CommandLine {
     std::optional<std::string> text;
     bool showsDebugLog = false;
     bool showsLedger = false;
+    /// Steps that the program may take, and bytes that it may hold.
+    std::uint64_t maximumSteps = std::numeric_limits<std::uint64_t>::max();
+    std::optional<std::size_t> maximumMemory;
     /// Which allocation of the running program fails, counted from 1.
     std::optional<int> failingString;
     std::optional<int> failingObject;

@@ -8,6 +8,7 @@
 #include "standin/language/program.hpp"
 #include "standin/process.hpp"
 #include "standin/runtime/host.hpp"
+#include "standin/runtime/memory_budget.hpp"
 
 namespace standin {
 namespace {
@@ -59,10 +60,14 @@ Status RunProgram(Host& host, const Source& source, const language::TypeTable& t
         if (line.failingObject) {
             host.FailAllocation(Allocation::Object, *line.failingObject, false);
         }
-        program.Run(host, [](std::string_view text) {
+        if (line.maximumMemory) {
+            MemoryBudget::SetLimit(*line.maximumMemory);
+        }
+        const auto print = [](std::string_view text) {
             WriteOutput(text);
             WriteOutput("\n");
-        });
+        };
+        program.Run(host, print, line.maximumSteps);
     } catch (const language::ProgramError& error) {
         WriteError(source.Describe(error));
         return Status::Wrong;

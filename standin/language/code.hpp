@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <exception>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -46,12 +47,16 @@ private:
     Position at_;
 };
 
+/// Statements that a program may take, each turn of a loop and each branch counted as one more.
+inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_t>::max();
+
 /// What a running program needs around it.
 class Machine {
 public:
     using Output = std::function<void(std::string_view utf8)>;
 
-    Machine(Host& host, Output print) : host_(host), print_(std::move(print)) {}
+    Machine(Host& host, Output print, std::uint64_t maximumSteps)
+        : host_(host), print_(std::move(print)), maximumSteps_(maximumSteps) {}
 
     Host& host() const { return host_; }
     void Print(std::string_view utf8) const { print_(utf8); }
@@ -62,6 +67,10 @@ public:
     std::size_t depth = 0;
     /// Where the native stack stood at the first of them.
     std::size_t stackBase = 0;
+
+    /// Counts one step. Throws ProgramError when there were more than the program may take, or when
+    /// it has needed more memory than it may: no Catch of the program sees that.
+    void Step();
 
     /// Throws `exception`, an object that must not be Nil.
     [[noreturn]] void Throw(Value exception) const;
@@ -77,8 +86,12 @@ public:
     Value MakeText(std::string_view utf8) const;
 
 private:
+    void CheckMemory() const;
+
     Host& host_;
     Output print_;
+    std::uint64_t maximumSteps_;
+    std::uint64_t steps_ = 0;
 };
 
 /// A function of the host or of the language itself.

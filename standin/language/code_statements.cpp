@@ -53,8 +53,10 @@ std::optional<Flow> EndOfLoop(Flow flow, Frame& frame) {
 
 Flow Block::Execute(Frame& frame) const {
     const SlotGuard guard(frame, *this);
+    frame.machine.Step();
     for (const auto& statement : statements) {
         frame.machine.position = statement->at();
+        frame.machine.Step();
         const Flow flow = statement->Execute(frame);
         if (flow != Flow::Next) {
             return flow;

@@ -1,14 +1,30 @@
 #include <string>
 
 #include "standin/language/code.hpp"
+#include "standin/runtime/memory_budget.hpp"
 
 namespace standin::language {
+
+void Machine::Step() {
+    if (++steps_ > maximumSteps_) {
+        throw ProgramError(
+            position, "the program takes more than " + std::to_string(maximumSteps_) + " steps");
+    }
+    CheckMemory();
+}
+
+void Machine::CheckMemory() const {
+    if (MemoryBudget::exceeded()) {
+        throw ProgramError(position, "the program needs more memory than there is for it");
+    }
+}
 
 void Machine::Throw(Value exception) const {
     throw Thrown(std::move(exception), position);
 }
 
 void Machine::Raise(std::string_view className, std::string_view message) const {
+    CheckMemory();
     const ClassInfo* info = host_.FindClass(className);
     if (info == nullptr) {
         info = host_.FindClass("RuntimeException");

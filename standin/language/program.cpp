@@ -1,6 +1,7 @@
 #include "standin/language/program.hpp"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
@@ -84,10 +85,14 @@ Program::Program(const Source& source, const TypeTable& types) {
     }
 }
 
-void Program::Run(Host& host, const Machine::Output& print) const {
-    Machine machine(host, print);
+void Program::Run(Host& host, const Machine::Output& print, std::uint64_t maximumSteps) const {
+    Machine machine(host, print, maximumSteps);
     Frame frame(machine, main_.slotCount);
-    main_.body.Execute(frame);
+    try {
+        main_.body.Execute(frame);
+    } catch (const std::bad_alloc&) {
+        throw ProgramError(machine.position, "the program needs more memory than there is for it");
+    }
 }
 
 }  // namespace standin::language

@@ -17,8 +17,10 @@ public:
     Program(const Source& source, const TypeTable& types);
 
     /// Runs the program from its first statement. Throws Thrown for an exception that nothing
-    /// caught, and OutOfObjects. Every reference is given back by then, but the exception's own.
-    void Run(Host& host, const Machine::Output& print) const;
+    /// caught, OutOfObjects, and ProgramError when it takes more steps or more memory than it may.
+    /// Every reference is given back by then, but the exception's own.
+    void Run(Host& host, const Machine::Output& print,
+             std::uint64_t maximumSteps = UnlimitedSteps) const;
 
 private:
     std::vector<std::unique_ptr<code::Routine>> routines_;

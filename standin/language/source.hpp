@@ -14,7 +14,7 @@ using Position = std::size_t;
 /// The largest program that is accepted, in bytes.
 inline constexpr std::size_t MaximumProgramSize = std::size_t{16} * 1024 * 1024;
 
-/// An error in a program, found before it runs.
+/// An error in a program, found before it runs, or the end of one that takes too much.
 class ProgramError : public std::runtime_error {
 public:
     ProgramError(Position at, const std::string& message)

@@ -10,6 +10,7 @@
 #include "standin/language/builtins.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/unicode.hpp"
+#include "standin/runtime/memory_budget.hpp"
 
 namespace standin::language {
 namespace {
@@ -140,6 +141,7 @@ Value Replace(const Arguments& arguments, const Machine& machine) {
         if (found == std::string_view::npos) {
             break;
         }
+        MemoryBudget::Require(result.size() + substitute.size());
         result += text.substr(copied, found - copied) + substitute;
         copied = found + wanted.size();
         if (How == Times::Once) {
@@ -184,6 +186,7 @@ Value JoinParts(const Arguments& arguments, const Machine& machine) {
     const auto delimiter = Utf8Of(arguments[1], machine);
     std::string joined;
     for (std::size_t i = 0; i < parts.size(); ++i) {
+        MemoryBudget::Require(joined.size() + delimiter.size());
         joined += (i == 0 ? "" : delimiter) + Utf8Of(parts[i], machine);
     }
     return machine.MakeText(joined);

@@ -9,6 +9,7 @@
 
 #include "standin/language/types.hpp"
 #include "standin/runtime/host.hpp"
+#include "standin/runtime/memory_budget.hpp"
 
 namespace standin::language {
 
@@ -136,7 +137,7 @@ private:
 /// none can hold itself.
 struct Array {
     Type element;
-    std::vector<Value> items = {};
+    std::vector<Value, BudgetAllocator<Value>> items = {};
     std::size_t references = 1;
 };
 

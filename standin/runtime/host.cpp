@@ -11,6 +11,7 @@
 #include "standin/runtime/host_functions.hpp"
 #include "standin/runtime/platform.hpp"
 #include "standin/runtime/properties.hpp"
+#include "standin/runtime/sanitizer.hpp"
 #include "standin/runtime/state.hpp"
 #include "standin/runtime/variants.hpp"
 
@@ -22,7 +23,7 @@ constexpr const char* HostUser = "stand-in host";
 
 /// By how much the stack of a host that keeps four bytes of alignment only is off: by each in turn.
 /// An address sanitizer keeps its notes in units of eight bytes, and needs that much alignment.
-#if defined(__SANITIZE_ADDRESS__)
+#if STANDIN_ADDRESS_SANITIZER
 constexpr std::array<std::uint32_t, 1> StackOffsets = {8};
 #else
 constexpr std::array<std::uint32_t, 3> StackOffsets = {4, 8, 12};

@@ -5,7 +5,10 @@
 #include <cstring>
 #include <new>
 
-#if defined(__SANITIZE_ADDRESS__)
+#include "standin/runtime/memory_budget.hpp"
+#include "standin/runtime/sanitizer.hpp"
+
+#if STANDIN_ADDRESS_SANITIZER
 #include <sanitizer/asan_interface.h>
 #endif
 
@@ -20,13 +23,13 @@ constexpr std::size_t QuotedBytes = 40;
 constexpr int PoisonByte = 0xDD;
 
 void ForbidAccess([[maybe_unused]] const std::byte* data, [[maybe_unused]] std::size_t size) {
-#if defined(__SANITIZE_ADDRESS__)
+#if STANDIN_ADDRESS_SANITIZER
     __asan_poison_memory_region(data, size);
 #endif
 }
 
 void AllowAccess([[maybe_unused]] const std::byte* data, [[maybe_unused]] std::size_t size) {
-#if defined(__SANITIZE_ADDRESS__)
+#if STANDIN_ADDRESS_SANITIZER
     __asan_unpoison_memory_region(data, size);
 #endif
 }
@@ -34,9 +37,11 @@ void AllowAccess([[maybe_unused]] const std::byte* data, [[maybe_unused]] std::s
 }  // namespace
 
 // The size is kept exact, so that an address sanitizer sees an access one byte past the end.
-VisibleMemory::VisibleMemory(std::size_t size)
-    : data_(static_cast<std::byte*>(std::calloc(1, size == 0 ? 1 : size))), size_(size) {
+VisibleMemory::VisibleMemory(std::size_t size) : size_(size) {
+    MemoryBudget::Take(size);
+    data_ = static_cast<std::byte*>(std::calloc(1, size == 0 ? 1 : size));
     if (data_ == nullptr) {
+        MemoryBudget::Return(size);
         throw std::bad_alloc();
     }
 }
@@ -66,11 +71,13 @@ void VisibleMemory::Poison() {
     }
     std::memset(data_, PoisonByte, size_);
     ForbidAccess(data_, size_);
-    poisoned_ = true;
+    if (!std::exchange(poisoned_, true)) {
+        MemoryBudget::Return(size_);
+    }
 }
 
 bool VisibleMemory::PoisonBroken() const {
-#if defined(__SANITIZE_ADDRESS__)
+#if STANDIN_ADDRESS_SANITIZER
     return false;
 #else
     return poisoned_ && std::any_of(data_, data_ + size_, [](std::byte byte) {
@@ -82,6 +89,8 @@ bool VisibleMemory::PoisonBroken() const {
 void VisibleMemory::Release() {
     if (poisoned_) {
         AllowAccess(data_, size_);
+    } else if (data_ != nullptr) {
+        MemoryBudget::Return(size_);
     }
     std::free(data_);
     data_ = nullptr;

@@ -61,8 +61,12 @@ Object ObjectStore::Make(const ClassEntry& type, ObjectPayload payload) {
         return nullptr;
     }
     ObjectEntry entry;
+    try {
+        entry.memory = VisibleMemory(type.objectSize + TailSize);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
     entry.type = &type;
-    entry.memory = VisibleMemory(type.objectSize + TailSize);
     entry.payload = std::move(payload);
     entry.serial = ++lastSerial_;
     std::fill_n(entry.memory.data(), entry.memory.size(), NoiseByte);
