@@ -4,6 +4,9 @@
 set(BIGNUMBERVQZ_TEST_PREFIX "" CACHE STRING "What the name of every test begins with")
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
+# The words with which a test starts Python with the packages of scripts/checks-requirements.txt.
+set(python_for_checks "${PROJECT_SOURCE_DIR}/scripts/python" checks)
+
 # add_project_test(NAME kind/name [ALONE] [TIMEOUT seconds] COMMAND word...)
 #
 # One test, run in the source folder; ALONE when it keeps all processors busy by itself.
@@ -72,12 +75,12 @@ endfunction()
 function(add_library_tests)
   set(checks exports imports format protections marker paths)
   if(WIN32)
-    list(APPEND checks reproducible)
+    list(APPEND checks version reproducible)
   endif()
   foreach(check IN LISTS checks)
     add_project_test(NAME library/${check}
       TIMEOUT 1200
-      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/delivered_library.py"
+      COMMAND ${python_for_checks} "${PROJECT_SOURCE_DIR}/tests/delivered_library.py"
         ${check} "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}"
         "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
         "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"

@@ -57,7 +57,7 @@ std::uint32_t InterfaceVersionOf(double hostVersion) {
 }
 
 void InitPlugin() {
-    VersionMarker = "$$ Plugin version: 21.3 (2021) $$";
+    VersionMarker = "$$ Plugin version: " BIGNUMBERVQZ_RELEASE " $$";
     if (AsksForDebugLog(std::getenv("VQZDEBUG"))) {
         DebugEnabled = true;
     }

@@ -2,10 +2,11 @@
 
 usage: delivered_library.py CHECK LIBRARY SOURCE_FOLDER [BUILD_SETTING...]
 
-CHECK is one of the functions below with the name check_CHECK. BUILD_SETTING is a -D word with which
+CHECK is one of the methods below with the name check_CHECK. BUILD_SETTING is a -D word with which
 CMake configures the same build again.
 """
 
+import functools
 import os
 import pathlib
 import re
@@ -14,30 +15,11 @@ import subprocess
 import sys
 import tempfile
 
+import pefile
+
 ENTRY = "REALPluginMain"
 MARKER = b"$$ Plugin version: 21.3 (2021) $$"
-WINDOWS_IMPORTS = {"KERNEL32.dll", "msvcrt.dll"}
-LINUX_IMPORTS = {"libc.so.6", "libm.so.6", "ld-linux.so.2"}
 NOT_SOURCES = shutil.ignore_patterns("build", ".deps", ".git", "__pycache__")
-
-
-class Library:
-    """A built library and the place that it was built from."""
-
-    def __init__(self, path: str, source: str, settings: list[str]):
-        self.path = pathlib.Path(path)
-        self.source = pathlib.Path(source)
-        self.settings = settings
-        self.is_windows = self.path.suffix == ".dll"
-
-    def bytes(self) -> bytes:
-        return self.path.read_bytes()
-
-    def described(self, *options: str) -> str:
-        """What objdump tells of the library."""
-        objdump = "i686-w64-mingw32-objdump" if self.is_windows else "objdump"
-        command = [objdump, *options, str(self.path)]
-        return subprocess.run(command, capture_output=True, text=True, check=True).stdout
 
 
 def expect_equal(what: str, actual: object, expected: object) -> None:
@@ -50,86 +32,153 @@ def expect(condition: object, problem: str) -> None:
         sys.exit(problem)
 
 
-def check_exports(library: Library) -> None:
-    """The entry is the one thing that the library offers, under its undecorated name."""
-    if library.is_windows:
-        table = library.described("-p").partition("[Ordinal/Name Pointer] Table")[2]
-        names = re.findall(r"^\t\[ *\d+\] (\S+)", table, re.MULTILINE)
-    else:
-        command = ["nm", "--dynamic", "--defined-only", "--format=posix", str(library.path)]
-        listing = subprocess.run(command, capture_output=True, text=True, check=True).stdout
-        names = [line.split()[0] for line in listing.splitlines()]
-    expect_equal("exports", names, [ENTRY])
+class Library:
+    """A built library, the place that it was built from, and what holds of it everywhere."""
+
+    def __init__(self, path: str, source: str, settings: list[str]):
+        self.path = pathlib.Path(path)
+        self.source = pathlib.Path(source)
+        self.settings = settings
+        self.content = self.path.read_bytes()
+
+    def check_marker(self) -> None:
+        """The version is found by searching the file for it."""
+        expect_equal("version markers", self.content.count(MARKER), 1)
+
+    def check_paths(self) -> None:
+        """Nothing tells where the library was built."""
+        places = {self.source, self.path.parent, pathlib.Path.home() / ".cache"}
+        places |= {pathlib.Path(word.partition("=")[2]) for word in self.settings}
+        for place in places:
+            if place.is_absolute() and len(place.parts) > 2:
+                expect(str(place).encode() not in self.content, f"the library names {place}")
+
+    def check_reproducible(self) -> None:
+        """A second build of the same sources in another place gives the same bytes."""
+        environment = dict(os.environ, CCACHE_DISABLE="1")
+        with tempfile.TemporaryDirectory() as folder:
+            source = pathlib.Path(folder, "another place for the sources")
+            build = pathlib.Path(folder, "build")
+            shutil.copytree(self.source, source, ignore=NOT_SOURCES)
+            for command in (
+                ["cmake", "-S", source, "-B", build, "-G", "Ninja", *self.settings],
+                ["cmake", "--build", build, "--target", "BigNumberVQZ"],
+            ):
+                subprocess.run(command, env=environment, check=True)
+            again = (build / self.path.name).read_bytes()
+        expect(again == self.content, "the second build differs from the first")
 
 
-def check_imports(library: Library) -> None:
-    """The library needs nothing that is not part of the system."""
-    pattern = r"DLL Name: (\S+)" if library.is_windows else r"NEEDED +(\S+)"
-    imports = set(re.findall(pattern, library.described("-p")))
-    if library.is_windows:
-        expect_equal("imports", imports, WINDOWS_IMPORTS)
-    else:
-        expect(imports <= LINUX_IMPORTS, f"imports: {imports} beyond {LINUX_IMPORTS}")
+class WindowsLibrary(Library):
+    """The DLL that is delivered."""
+
+    @functools.cached_property
+    def headers(self) -> pefile.PE:
+        return pefile.PE(data=self.content)
+
+    def check_exports(self) -> None:
+        """The entry is the one thing that the library offers, under its undecorated name."""
+        exports = [symbol.name for symbol in self.headers.DIRECTORY_ENTRY_EXPORT.symbols]
+        expect_equal("exports", exports, [ENTRY.encode()])
+
+    def check_imports(self) -> None:
+        """The library needs nothing that is not part of every Windows."""
+        imports = {entry.dll for entry in self.headers.DIRECTORY_ENTRY_IMPORT}
+        expect_equal("imports", imports, {b"KERNEL32.dll", b"msvcrt.dll"})
+        expect(not hasattr(self.headers, "DIRECTORY_ENTRY_DELAY_IMPORT"), "delayed imports")
+
+    def check_format(self) -> None:
+        """The library is a whole one for 32-bit processes, without debug information."""
+        headers = self.headers
+        expect_equal("machine", headers.FILE_HEADER.Machine, 0x14C)
+        expect_equal("kind of headers", headers.OPTIONAL_HEADER.Magic, 0x10B)
+        expect(headers.is_dll(), "the file is no library")
+        expect(headers.verify_checksum(), "the checksum in the headers is another")
+        expect_equal("what is wrong with the headers", headers.get_warnings(), [])
+        expect(not hasattr(headers, "DIRECTORY_ENTRY_DEBUG"), "there is debug information")
+        expect_equal("symbols", headers.FILE_HEADER.NumberOfSymbols, 0)
+
+    def check_protections(self) -> None:
+        """The library can be loaded anywhere, its data cannot be executed nor its code written."""
+        options = self.headers.OPTIONAL_HEADER
+        expect(options.IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, "DYNAMIC_BASE is not set")
+        expect(options.IMAGE_DLLCHARACTERISTICS_NX_COMPAT, "NX_COMPAT is not set")
+        expect(not self.headers.FILE_HEADER.IMAGE_FILE_RELOCS_STRIPPED, "relocations are stripped")
+        expect(self.headers.DIRECTORY_ENTRY_BASERELOC, "there are no relocations")
+        for section in self.headers.sections:
+            both = section.IMAGE_SCN_MEM_WRITE and section.IMAGE_SCN_MEM_EXECUTE
+            expect(not both, f"{section.Name} is both writable and executable")
+
+    def check_version(self) -> None:
+        """What Windows shows as the version is what the marker and ./run --version tell."""
+        number = re.search(rb"Plugin version: (\S+)", MARKER)[1]
+        copyright_line = re.search(rb"^Copyright.*$", (self.source / "LICENSE").read_bytes(), re.M)
+        expected = {
+            b"FileDescription": b"Big-number classes for the Xojo application runtime",
+            b"FileVersion": number,
+            b"InternalName": b"BigNumberVQZ",
+            b"LegalCopyright": copyright_line[0],
+            b"OriginalFilename": b"BigNumberVQZ.dll",
+            b"ProductName": b"BigNumberVQZ",
+            b"ProductVersion": number,
+        }
+        tables = [
+            table.entries
+            for information in self.headers.FileInfo[0]
+            for table in getattr(information, "StringTable", [])
+        ]
+        expect_equal("version information", tables, [expected])
+
+        fixed = self.headers.VS_FIXEDFILEINFO[0]
+        words = (21 << 16 | 3, 0)
+        expect_equal("file version", (fixed.FileVersionMS, fixed.FileVersionLS), words)
+        expect_equal("product version", (fixed.ProductVersionMS, fixed.ProductVersionLS), words)
+
+        told = subprocess.run([self.source / "run", "--version"], capture_output=True, check=True)
+        release = MARKER.removeprefix(b"$$ Plugin version: ").removesuffix(b" $$")
+        expect_equal("./run --version", told.stdout, b"BigNumberVQZ " + release + b"\n")
 
 
-def check_format(library: Library) -> None:
-    """The library is one for 32-bit processes."""
-    expected = "pei-i386" if library.is_windows else "elf32-i386"
-    expect_equal("format", re.search(r"file format (\S+)", library.described("-f"))[1], expected)
+class LinuxLibrary(Library):
+    """The same sources as a native library."""
 
+    @functools.cached_property
+    def headers(self) -> str:
+        return self.told_by("objdump", "-fp")
 
-def check_protections(library: Library) -> None:
-    """The library can be loaded anywhere and its data cannot be executed."""
-    headers = library.described("-p")
-    if library.is_windows:
-        for flag in ("DYNAMIC_BASE", "NX_COMPAT"):
-            expect(re.search(rf"^\s+{flag}$", headers, re.MULTILINE), f"{flag} is not set")
-        relocations = re.search(r"Entry 5 \S+ ([0-9a-f]+) Base Relocation", headers)
-        expect(int(relocations[1], 16) > 0, "there are no relocations")
-        sections = library.described("-h")
-        size = re.search(r" \.reloc +([0-9a-f]+)", sections)
-        expect(size and int(size[1], 16) > 0, "there is no relocation section")
-    else:
-        stack = re.search(r"STACK.*\n.*flags (\S+)", headers)
+    def told_by(self, *command: str) -> str:
+        """What a tool prints of the library."""
+        result = subprocess.run([*command, self.path], capture_output=True, text=True, check=True)
+        return result.stdout
+
+    def check_exports(self) -> None:
+        """The entry is the one thing that the library offers."""
+        listing = self.told_by("nm", "--dynamic", "--defined-only", "--format=posix")
+        expect_equal("exports", [line.split()[0] for line in listing.splitlines()], [ENTRY])
+
+    def check_imports(self) -> None:
+        """The library needs nothing but the C library."""
+        imports = set(re.findall(r"NEEDED +(\S+)", self.headers))
+        allowed = {"libc.so.6", "libm.so.6", "ld-linux.so.2"}
+        expect(imports <= allowed, f"imports: {imports} beyond {allowed}")
+
+    def check_format(self) -> None:
+        """The library is one for 32-bit processes."""
+        expect_equal("format", re.search(r"file format (\S+)", self.headers)[1], "elf32-i386")
+
+    def check_protections(self) -> None:
+        """The data of the library cannot be executed, its code and linker tables not written."""
+        stack = re.search(r"STACK.*\n.*flags (\S+)", self.headers)
         expect_equal("stack", stack[1], "rw-")
-        expect("RELRO" in headers, "the linker's tables stay writable")
-        expect("TEXTREL" not in headers, "the code itself is relocated")
-
-
-def check_marker(library: Library) -> None:
-    """The version is found by searching the file for it."""
-    expect_equal("version markers", library.bytes().count(MARKER), 1)
-
-
-def check_paths(library: Library) -> None:
-    """Nothing tells where the library was built."""
-    content = library.bytes()
-    places = {library.source, library.path.parent, pathlib.Path.home() / ".cache"}
-    places |= {pathlib.Path(word.partition("=")[2]) for word in library.settings}
-    for place in places:
-        if place.is_absolute() and len(place.parts) > 2:
-            expect(str(place).encode() not in content, f"the library names {place}")
-
-
-def check_reproducible(library: Library) -> None:
-    """A second build of the same sources in another place gives the same bytes."""
-    environment = dict(os.environ, CCACHE_DISABLE="1")
-    with tempfile.TemporaryDirectory() as folder:
-        source = pathlib.Path(folder, "another place for the sources")
-        build = pathlib.Path(folder, "build")
-        shutil.copytree(library.source, source, ignore=NOT_SOURCES)
-        for command in (
-            ["cmake", "-S", source, "-B", build, "-G", "Ninja", *library.settings],
-            ["cmake", "--build", build, "--target", "BigNumberVQZ"],
-        ):
-            subprocess.run(command, env=environment, check=True)
-        again = (build / library.path.name).read_bytes()
-    expect(again == library.bytes(), "the second build differs from the first")
+        expect("flags rwx" not in self.headers, "a segment is both writable and executable")
+        expect("RELRO" in self.headers, "the linker's tables stay writable")
+        expect("TEXTREL" not in self.headers, "the code itself is relocated")
 
 
 def main() -> None:
     check, path, source, *settings = sys.argv[1:]
-    globals()[f"check_{check}"](Library(path, source, settings))
+    kind = WindowsLibrary if path.endswith(".dll") else LinuxLibrary
+    getattr(kind(path, source, settings), f"check_{check}")()
 
 
 if __name__ == "__main__":
