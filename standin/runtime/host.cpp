@@ -47,7 +47,7 @@ void DebugLog::Write(std::string_view line) {
 
 Host::State::State(Host& host, HostOptions hostOptions)
     : options(std::move(hostOptions)),
-      quarantine(violations),
+      quarantine(violations, options.remembersReleased),
       classes(options.missing),
       strings(options.unterminatedStrings, violations, failures, quarantine),
       objects(strings, violations, failures, quarantine,

@@ -52,6 +52,9 @@ struct HostOptions {
     bool changedControlWord = false;
     /// Whether new memory blocks have a size but no data pointer.
     bool blocksWithoutData = false;
+    /// Whether what was released stays known and untouched for a while, so that its use is noticed.
+    /// Without that, calls cost the host less, which is for measuring.
+    bool remembersReleased = true;
 };
 
 /// How the words that a plug-in routine leaves in the registers are to be read.

@@ -174,10 +174,11 @@ Object NewInstance(const char* className) noexcept {
         return nullptr;
     }
     Object object = state.objects.Make(*type);
-    const Routine constructor = EmptyConstructor(*type);
-    if (object != nullptr && constructor != nullptr && state.options.newInstanceRunsConstructor) {
-        const std::array words = {reinterpret_cast<std::uintptr_t>(object)};
-        Host::Current().Call(constructor, words, ReturnKind::None);
+    if (object != nullptr && state.options.newInstanceRunsConstructor) {
+        if (const Routine constructor = EmptyConstructor(*type)) {
+            const std::array words = {reinterpret_cast<std::uintptr_t>(object)};
+            Host::Current().Call(constructor, words, ReturnKind::None);
+        }
     }
     return object;
 }

@@ -97,6 +97,9 @@ void VisibleMemory::Release() {
 }
 
 void Quarantine::Add(VisibleMemory memory, const char* what, std::uint64_t serial) {
+    if (!keeps_) {
+        return;
+    }
     memory.Poison();
     bytes_ += memory.size();
     released_.push_back({std::move(memory), what, serial});
@@ -171,6 +174,9 @@ AllocationFailures::Plan& AllocationFailures::PlanOf(Allocation kind) {
 }
 
 void DeadHandles::Add(const void* handle, std::string description) {
+    if (description.empty()) {
+        return;
+    }
     const std::uint64_t serial = nextSerial_++;
     descriptions_.insert_or_assign(handle, Grave{serial, std::move(description)});
     order_.emplace_back(handle, serial);

@@ -59,7 +59,10 @@ private:
 /// through an old pointer does not find the old bytes, and writing through one is noticed.
 class Quarantine {
 public:
-    explicit Quarantine(ViolationList& violations) : violations_(violations) {}
+    /// One that does not keep memory frees it at once.
+    Quarantine(ViolationList& violations, bool keeps) : violations_(violations), keeps_(keeps) {}
+
+    bool keeps() const { return keeps_; }
 
     /// `what` and the serial number say in a report whose memory it was: "string", 5.
     void Add(VisibleMemory memory, const char* what, std::uint64_t serial);
@@ -75,6 +78,7 @@ private:
     void Check(Released& released);
 
     ViolationList& violations_;
+    bool keeps_;
     std::deque<Released> released_;
     std::size_t bytes_ = 0;
 };
@@ -102,6 +106,7 @@ private:
 /// Remembers what handles that are gone stood for; the oldest are forgotten first.
 class DeadHandles {
 public:
+    /// An empty description is not worth remembering.
     void Add(const void* handle, std::string description);
     /// The address is in use again.
     void Forget(const void* handle) { descriptions_.erase(handle); }
@@ -134,7 +139,7 @@ public:
         return found == living_.end() ? nullptr : &found->second;
     }
 
-    /// Takes a living handle out and remembers it as dead.
+    /// Takes a living handle out and remembers it as dead if there is a description.
     Entry Bury(const void* handle, std::string description) {
         auto node = living_.extract(handle);
         dead_.Add(handle, std::move(description));

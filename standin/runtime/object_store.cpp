@@ -148,7 +148,7 @@ void ObjectStore::Die(Object object, ObjectEntry& entry, const char* user) {
     }
     CheckSurroundings(entry, user);
     ReleasePayload(entry.payload, user);
-    ObjectEntry dead = objects_.Bury(object, Describe(entry));
+    ObjectEntry dead = objects_.Bury(object, quarantine_.keeps() ? Describe(entry) : "");
     if (auto* block = std::get_if<BlockPayload>(&dead.payload)) {
         quarantine_.Add(std::move(block->bytes), "memory block", dead.serial);
     }

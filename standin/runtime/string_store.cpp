@@ -270,7 +270,7 @@ VisibleMemory StringStore::MakeText(std::string_view bytes, std::size_t before) 
 
 void StringStore::Die(String text, const StringEntry& entry, const char* user) {
     CheckUnchanged(entry, user);
-    StringEntry dead = strings_.Bury(text, Describe(entry));
+    StringEntry dead = strings_.Bury(text, quarantine_.keeps() ? Describe(entry) : "");
     quarantine_.Add(std::move(dead.text), "string", dead.serial);
     quarantine_.Add(std::move(dead.record), "string", dead.serial);
 }

@@ -1,0 +1,174 @@
+// The plug-in in the stand-in host: the routines of its registered tables, called as the host calls
+// them. The host's own part of a call is on offer too, so that it can be taken off.
+#include <algorithm>
+#include <cstdint>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+
+#include "bench/contender.hpp"
+#include "bench/operations.hpp"
+#include "standin/runtime/host.hpp"
+
+namespace {
+
+using bench::Operation;
+using bench::Shape;
+using host_interface::Object;
+using host_interface::Routine;
+using host_interface::String;
+
+/// The operations of one number class.
+class Rows {
+public:
+    Rows(bench::Contender& contender, standin::Host& host, const std::string& className,
+         unsigned bits)
+        : contender_(contender), host_(host), class_(*host.FindClass(className)), bits_(bits) {}
+
+    void Offer() {
+        for (const Operation& operation : bench::Operations) {
+            Offer(operation);
+        }
+        OfferHostPart();
+    }
+
+private:
+    template <typename Function>
+    static Function As(Routine routine) {
+        return reinterpret_cast<Function>(routine);
+    }
+
+    /// The routine that the class registers under the operation's declaration.
+    Routine Find(const Operation& operation) const {
+        std::string wanted(operation.declaration);
+        for (std::size_t at = 0; (at = wanted.find('$', at)) != std::string::npos;) {
+            wanted.replace(at, 1, class_.name);
+        }
+        for (const auto* methods : {&class_.methods, &class_.sharedMethods}) {
+            const auto found =
+                std::ranges::find(*methods, wanted, &standin::MethodInfo::declaration);
+            if (found != methods->end()) {
+                return found->function;
+            }
+        }
+        const auto found =
+            std::ranges::find(class_.properties, wanted, &standin::PropertyInfo::name);
+        if (found == class_.properties.end()) {
+            throw std::runtime_error(class_.name + " has no member " + wanted);
+        }
+        return operation.shape == Shape::DoubleSetter ? found->setter : found->getter;
+    }
+
+    /// An object with the operand's value; it lives as long as the process.
+    Object Make(const bench::Operand& operand) {
+        const Operation& fromText = bench::FindOperation("from text");
+        Object object = host_.MakeObject(class_);
+        const String text = Text(operand);
+        As<void (*)(Object, String)>(Find(fromText))(object, text);
+        host_.Unlock(text);
+        return object;
+    }
+
+    String Text(const bench::Operand& operand) {
+        return host_.MakeString(OperandText(operand, bits_),
+                                host_interface::HostTextEncoding::Utf8);
+    }
+
+    template <typename Once>
+    void Repeated(const Operation& operation, Once once) {
+        contender_.OfferRepeated(bits_, operation.name, once);
+    }
+
+    /// A call that answers a new object, which is dropped at once.
+    template <typename Call>
+    void Answering(const Operation& operation, Call call) {
+        Repeated(operation, [call, &host = host_] { host.Unlock(call()); });
+    }
+
+    void Offer(const Operation& operation) {
+        const Routine routine = Find(operation);
+        const Object x = Make(operation.x);
+        const Object y = Make(operation.y);
+        switch (operation.shape) {
+            case Shape::OneNumber:
+                Answering(operation, [f = As<Object (*)(Object)>(routine), x] { return f(x); });
+                break;
+            case Shape::TwoNumbers:
+                Answering(operation,
+                          [f = As<Object (*)(Object, Object)>(routine), x, y] { return f(x, y); });
+                break;
+            case Shape::RoundedPair:
+                Answering(operation, [f = As<Object (*)(Object, Object, int)>(routine), x, y] {
+                    return f(x, y, 1);
+                });
+                break;
+            case Shape::NumberAndInt:
+                Answering(operation,
+                          [f = As<Object (*)(Object, int)>(routine), x] { return f(x, 7); });
+                break;
+            case Shape::Constant:
+                Answering(operation, As<Object (*)()>(routine));
+                break;
+            case Shape::TextOut:
+                Answering(operation, [f = As<String (*)(Object)>(routine), x] { return f(x); });
+                break;
+            case Shape::Comparison:
+                Repeated(operation, [f = As<int (*)(Object, Object)>(routine), x, y] { f(x, y); });
+                break;
+            case Shape::TextIn:
+                Repeated(operation, [f = As<void (*)(Object, String)>(routine), y,
+                                     text = Text(operation.x)] { f(y, text); });
+                break;
+            case Shape::BooleanGetter:
+                Repeated(operation, [f = As<int (*)(Object, int)>(routine), x] { f(x, 0); });
+                break;
+            case Shape::DoubleGetter:
+                Repeated(operation, [f = As<double (*)(Object, int)>(routine), x] { f(x, 0); });
+                break;
+            case Shape::DoubleSetter:
+                Repeated(operation,
+                         [f = As<void (*)(Object, int, double)>(routine), y] { f(y, 0, 1.5); });
+                break;
+        }
+    }
+
+    /// What the host does for each number that it gets: it makes the object and drops it. Dropping
+    /// calls the destructor of the class, which is the plug-in's part and on offer by itself.
+    void OfferHostPart() {
+        const auto newInstance = As<Object (*)(const char*)>(
+            reinterpret_cast<Routine>(standin::Host::Resolve("PluginNewInstance")));
+        contender_.OfferRepeated(bits_, "host: object", [newInstance, this] {
+            host_.Unlock(newInstance(class_.name.c_str()));
+        });
+        contender_.OfferRepeated(bits_, "host: destructor",
+                                 [destruct = As<void (*)(Object)>(class_.destructor),
+                                  empty = host_.MakeObject(class_)] { destruct(empty); });
+    }
+
+    bench::Contender& contender_;
+    standin::Host& host_;
+    const standin::ClassInfo& class_;
+    unsigned bits_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: " << argv[0] << " LIBRARY\n";
+        return 2;
+    }
+    try {
+        standin::Host host({.remembersReleased = false});
+        const standin::PluginLibrary library(argv[1]);
+        bench::Contender contender;
+        Rows small(contender, host, "BigNumberVQZ", 256);
+        Rows large(contender, host, "BiggerNumberVQZ", 2048);
+        small.Offer();
+        large.Offer();
+        return contender.Serve();
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 2;
+    }
+}
