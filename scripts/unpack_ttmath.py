@@ -1,4 +1,4 @@
-"""Unpacks the ttmath headers of a wheel into a folder, with ttmath's licence beside them.
+"""Unpacks the ttmath headers of a wheel into a folder.
 
 usage: unpack_ttmath.py WHEEL FOLDER
 """
@@ -11,15 +11,6 @@ import zipfile
 PREFIX = "include/ttmath/"
 
 
-def licence_of(header: str) -> str:
-    """The licence stands in the comment of each header that carries the conditions."""
-    for comment in re.findall(r"/\*(.*?)\*/", header, re.DOTALL):
-        if "Redistribution and use" in comment:
-            lines = (re.sub(r"^\s*\* ?", "", line).rstrip() for line in comment.splitlines())
-            return "\n".join(lines).strip() + "\n"
-    sys.exit("unpack_ttmath: ttmath.h carries no licence")
-
-
 def main() -> None:
     wheel, folder = sys.argv[1], pathlib.Path(sys.argv[2])
     with zipfile.ZipFile(wheel) as archive:
@@ -28,8 +19,6 @@ def main() -> None:
             sys.exit(f"unpack_ttmath: {wheel} holds no {PREFIX}ttmath.h")
         for name in headers:
             archive.extract(name, folder)
-    text = (folder / PREFIX / "ttmath.h").read_text(encoding="utf-8")
-    (folder / "LICENSE").write_text(licence_of(text), encoding="utf-8")
 
 
 if __name__ == "__main__":
