@@ -1,0 +1,282 @@
+#!/usr/bin/env python3
+"""Measures the contenders of the benchmark side by side and reports medians, spreads and ratios.
+
+Every contender is a process that times what it is asked for. For each operation they are asked in
+turn, round after round, so that whatever else the machine does falls upon all of them alike.
+"""
+import argparse
+import json
+import os
+import platform
+import statistics
+import subprocess
+import sys
+from dataclasses import dataclass, field
+from pathlib import Path
+
+HOST_OBJECT, HOST_DESTRUCTOR = "host: object", "host: destructor"
+PRECISIONS = (2048, 256)
+
+
+class Contender:
+    """A process that measures, and what it offers: operations as (bits, name)."""
+
+    def __init__(self, name, command):
+        self.name = name
+        self.process = subprocess.Popen(
+            command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.offers = set()
+        for line in iter(self._line, ""):
+            bits, operation = line.split(" ", 1)
+            self.offers.add((int(bits), operation))
+        if not self.offers:
+            raise SystemExit(f"the contender {name} does not start: {' '.join(command)}")
+
+    def _line(self):
+        return self.process.stdout.readline().strip()
+
+    def time(self, bits, operation, count):
+        """The nanoseconds that `count` runs took."""
+        self.process.stdin.write(f"{count} {bits} {operation}\n")
+        self.process.stdin.flush()
+        answer = self._line()
+        if not answer:
+            raise SystemExit(f"the contender {self.name} ended at {operation}, {bits} bits")
+        return int(answer)
+
+    def count_for(self, bits, operation, nanoseconds):
+        """How many runs take about that long."""
+        count = 1
+        while (taken := self.time(bits, operation, count)) < nanoseconds:
+            count *= max(2, min(10, nanoseconds // max(taken, 1)))
+        return count
+
+    def close(self):
+        self.process.stdin.close()
+        self.process.wait()
+
+
+@dataclass
+class Measurement:
+    """Nanoseconds of one run of an operation, a sample for each round."""
+
+    samples: list = field(default_factory=list)
+
+    @property
+    def median(self):
+        return statistics.median(self.samples)
+
+    @property
+    def spread(self):
+        """Half of the range in which the middle half of the samples lies, in units of the median."""
+        if len(self.samples) < 2:
+            return 0.0
+        low, _, high = statistics.quantiles(self.samples, n=4, method="inclusive")
+        return (high - low) / 2 / self.median
+
+
+class Results:
+    """Measurements by precision, operation and contender."""
+
+    def __init__(self):
+        self.groups = {}
+        self._all = {}
+
+    def sample(self, bits, operation, contender, nanoseconds):
+        key = (bits, operation, contender)
+        self._all.setdefault(key, Measurement()).samples.append(nanoseconds)
+
+    def get(self, bits, operation, contender):
+        return self._all.get((bits, operation, contender))
+
+    def time(self, bits, operation, contender):
+        """The median, or None. The host's part of a call of the plug-in is taken off."""
+        measured = self.get(bits, operation, contender)
+        if measured is None:
+            return None
+        return measured.median - self.host_part(bits, operation, contender)
+
+    def host_part(self, bits, operation, contender):
+        """What the host spends on the object of a result, which the destructor is no part of."""
+        answered = self.get(bits, HOST_OBJECT, contender)
+        if answered is None or self.groups[operation]["answer"] != "object":
+            return 0.0
+        return answered.median - self.get(bits, HOST_DESTRUCTOR, contender).median
+
+    def ratio(self, bits, operation, contender, base):
+        """How many times as fast as `base` the contender is, or None."""
+        own, other = (self.time(bits, operation, name) for name in (contender, base))
+        return other / own if own and other and own > 0 else None
+
+    def as_json(self):
+        return [
+            {"bits": bits, "operation": operation, "contender": contender,
+             "group": self.groups.get(operation, {}).get("group", "host"),
+             "median_ns": measured.median, "spread": measured.spread,
+             "host_part_ns": self.host_part(bits, operation, contender)
+             if operation in self.groups else 0.0,
+             "samples_ns": measured.samples}
+            for (bits, operation, contender), measured in self._all.items()
+        ]
+
+
+def measure(contenders, operations, rounds, nanoseconds):
+    """Measures every operation at both precisions with every contender that offers it."""
+    results = Results()
+    results.groups = operations
+    names = [*operations, HOST_OBJECT, HOST_DESTRUCTOR]
+    steps = [(bits, name) for bits in PRECISIONS for name in names]
+    for step, (bits, name) in enumerate(steps):
+        progress(f"[{step + 1}/{len(steps)}] {name}, {bits} bits")
+        taking_part = [
+            (contender, contender.count_for(bits, name, nanoseconds))
+            for contender in contenders if (bits, name) in contender.offers
+        ]
+        for _ in range(rounds):
+            for contender, count in taking_part:
+                taken = contender.time(bits, name, count)
+                results.sample(bits, name, contender.name, taken / count)
+    progress("")
+    return results
+
+
+def progress(text):
+    """One line on the terminal that is written over by the next."""
+    if sys.stderr.isatty():
+        print(f"\r\033[K{text}", end="", file=sys.stderr, flush=True)
+
+
+def shown(nanoseconds):
+    """Microseconds with three digits."""
+    if nanoseconds is None:
+        return "-"
+    value = nanoseconds / 1000
+    decimals = max(0, 2 - (len(str(int(value))) - 1)) if value >= 1 else 3
+    return f"{value:,.{decimals}f}"
+
+
+def table(results, bits, names):
+    """The lines of one precision: microseconds of each contender, and the ratio to stock."""
+    ratios = [name for name in ("library", "plug-in") if name in names and "stock" in names]
+    header = ["microseconds", *names, *(f"stock/{name}" for name in ratios)]
+    rows = [header]
+    for operation in results.groups:
+        cells = [operation]
+        for name in names:
+            measured = results.get(bits, operation, name)
+            spread = f" ±{measured.spread:.0%}" if measured else ""
+            cells.append(shown(results.time(bits, operation, name)) + spread)
+        for name in ratios:
+            ratio = results.ratio(bits, operation, name, "stock")
+            cells.append(f"{ratio:.1f}" if ratio else "-")
+        rows.append(cells)
+    widths = [max(len(row[column]) for row in rows) for column in range(len(header))]
+    yield f"{bits} bits"
+    for row in rows:
+        first, *rest = (cell.ljust(width) if column == 0 else cell.rjust(width)
+                        for column, (cell, width) in enumerate(zip(row, widths)))
+        yield "  ".join([first, *rest])
+
+
+def call_costs(results, contender, bare):
+    """What the plug-in adds to the bare operation, for each shape of call."""
+    for bits in PRECISIONS:
+        allowed = (results.time(2048, "multiply", "stock") or 0) * 0.05
+        for operation, row in results.groups.items():
+            if row["group"] != "call" and operation not in ("add", "compare"):
+                continue
+            whole, part = (results.time(bits, operation, name) for name in (contender, bare))
+            if whole is not None and part is not None:
+                host = results.host_part(bits, operation, contender)
+                yield (f"call of {operation}, {bits} bits: {whole - part:.0f} ns"
+                       f" (the host's part, {host:.0f} ns, and the arithmetic, {part:.0f} ns,"
+                       f" taken off; 5 % of a stock 2048-bit multiply is {allowed:.0f} ns)")
+
+
+def summary(results, contender):
+    """Smallest and median ratio to stock for each precision and group."""
+    for bits in PRECISIONS:
+        for group, label in (("basic", "basic operations"), ("function", "functions"),
+                             ("text", "text")):
+            ratios = {
+                operation: ratio for operation, row in results.groups.items()
+                if row["group"] == group
+                and (ratio := results.ratio(bits, operation, contender, "stock"))
+            }
+            if ratios:
+                slowest = min(ratios, key=ratios.get)
+                yield (f"{contender}, {bits} bits, {label}: {ratios[slowest]:.1f} times stock"
+                       f" at least ({slowest}), median {statistics.median(ratios.values()):.1f}")
+
+
+def draw(results, contender, file):
+    """A chart of the ratios to stock, as an SVG that is the same for the same figures."""
+    os.environ.setdefault("SOURCE_DATE_EPOCH", "0")
+    import matplotlib
+    matplotlib.use("svg")
+    matplotlib.rcParams["svg.hashsalt"] = "benchmark"
+    import matplotlib.pyplot as pyplot
+
+    operations = [name for name, row in results.groups.items() if row["group"] != "call"
+                  and results.ratio(2048, name, contender, "stock")]
+    figure, axes = pyplot.subplots(figsize=(8, 0.32 * len(operations) + 1.2))
+    for offset, bits, color in ((-0.2, 2048, "#1f5fa8"), (0.2, 256, "#d98b27")):
+        ratios = [results.ratio(bits, name, contender, "stock") or 0 for name in operations]
+        places = [place + offset for place in range(len(operations))]
+        bars = axes.barh(places, ratios, height=0.38, color=color, label=f"{bits} bits")
+        axes.bar_label(bars, [f"{ratio:.1f}" for ratio in ratios], padding=3, fontsize=7)
+    axes.set_xscale("log")
+    axes.set_yticks(range(len(operations)), operations)
+    axes.invert_yaxis()
+    axes.set_xlabel("times as fast as stock ttmath")
+    axes.axvline(1, color="black", linewidth=0.8)
+    axes.legend(loc="lower right")
+    for side in ("top", "right"):
+        axes.spines[side].set_visible(False)
+    figure.tight_layout()
+    figure.savefig(file, metadata={"Date": None})
+
+
+def parse_arguments():
+    parser = argparse.ArgumentParser(prog="./benchmark", description=__doc__.splitlines()[0])
+    parser.add_argument("--contender", action="append", nargs="+", required=True,
+                        metavar="WORD", help="a contender's name and command (repeatable)")
+    parser.add_argument("--operations", type=Path, required=True,
+                        help="the list of operations, as bench_operations prints it")
+    parser.add_argument("--rounds", type=int, default=7, help="samples of each measurement")
+    parser.add_argument("--batch", type=float, default=5, metavar="MS",
+                        help="milliseconds that a sample lasts at least")
+    parser.add_argument("--only", nargs="*", metavar="OPERATION", help="these operations alone")
+    parser.add_argument("--json", type=Path, help="write every figure to this file")
+    parser.add_argument("--svg", type=Path, help="draw the ratios to stock into this file")
+    return parser.parse_args()
+
+
+def main():
+    arguments = parse_arguments()
+    operations = json.loads(arguments.operations.read_text())
+    if arguments.only:
+        operations = {name: operations[name] for name in arguments.only}
+    contenders = [Contender(name, command) for name, *command in arguments.contender]
+    results = measure(contenders, operations, arguments.rounds, int(arguments.batch * 1e6))
+    for contender in contenders:
+        contender.close()
+
+    names = [contender.name for contender in contenders]
+    for bits in PRECISIONS:
+        print("\n".join(table(results, bits, names)), end="\n\n")
+    if arguments.json:
+        arguments.json.write_text(json.dumps(
+            {"machine": platform.processor() or platform.machine(), "results": results.as_json()},
+            indent=1) + "\n")
+    # A plug-in on the stock library is a call of the stock library.
+    bare = "library" if "library" in names else "stock"
+    if arguments.svg:
+        draw(results, bare, arguments.svg)
+    print("\n".join(call_costs(results, "plug-in", bare)))
+    for name in ("plug-in", "library"):
+        print("\n".join(summary(results, name)))
+
+
+if __name__ == "__main__":
+    main()
