@@ -18,6 +18,8 @@ constexpr std::string_view HostClassNames[] = {
     "OutOfBoundsException",
     "OutOfMemoryException",
     "IllegalCastException",
+    "InvalidArgumentException",
+    "KeyNotFoundException",
     "NilObjectException",
     "UnsupportedOperationException",
     "StackOverflowException",
