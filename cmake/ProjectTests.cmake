@@ -102,7 +102,8 @@ endfunction()
 
 # add_lint_tests()
 #
-# The format of the sources, clang-tidy's findings, who may include whom, and the tests of the tests.
+# The format of the sources, clang-tidy's findings, who may include whom, and the tests of the tests
+# and of what they expect.
 function(add_lint_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests")
   add_project_test(NAME lint/format
@@ -117,4 +118,6 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/source_rules_test.py")
   add_project_test(NAME lint/run_program_test
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
+  add_project_test(NAME lint/examples_check
+    COMMAND Python3::Interpreter "${tests}/examples_check.py" "${PROJECT_SOURCE_DIR}/examples")
 endfunction()
