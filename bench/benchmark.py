@@ -273,9 +273,9 @@ def main():
     bare = "library" if "library" in names else "stock"
     if arguments.svg:
         draw(results, bare, arguments.svg)
-    print("\n".join(call_costs(results, "plug-in", bare)))
-    for name in ("plug-in", "library"):
-        print("\n".join(summary(results, name)))
+    for line in (*call_costs(results, "plug-in", bare), *summary(results, "plug-in"),
+                 *summary(results, "library")):
+        print(line)
 
 
 if __name__ == "__main__":

@@ -28,7 +28,8 @@ def main():
     closing = run.stdout.splitlines()[-1]
     if "times stock at least" not in closing:
         faults.append(f"the last line is no summary: {closing}")
-    sys.exit("\n".join(faults))
+    if faults:
+        sys.exit("\n".join(faults))
 
 
 if __name__ == "__main__":
