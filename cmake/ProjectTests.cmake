@@ -116,6 +116,8 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/source_rules.py" "${PROJECT_SOURCE_DIR}")
   add_project_test(NAME lint/source_rules_test
     COMMAND Python3::Interpreter "${tests}/source_rules_test.py")
+  add_project_test(NAME lint/commands_test
+    COMMAND Python3::Interpreter "${tests}/commands_test.py")
   add_project_test(NAME lint/run_program_test
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
   add_project_test(NAME lint/examples_check

@@ -16,6 +16,35 @@ fail() {
     exit 2
 }
 
+# show_progress TITLE: passes on the lines of a tool under a title. On a terminal each takes the place of
+# the one before; no lines, no title.
+show_progress() {
+    local line title="$1" columns="${COLUMNS:-80}"
+    while IFS= read -r line; do
+        [[ -z $title ]] || say "$title"
+        title=""
+        if [[ -t 2 ]]; then
+            printf '\r\e[K%.*s' "$((columns - 1))" "$line" >&2
+        else
+            printf '%s\n' "$line" >&2
+        fi
+    done
+    [[ -n $title || ! -t 2 ]] || printf '\r\e[K' >&2
+}
+
+# with_progress TITLE COMMAND...: runs a command whose output is worth no more than a glance, unless it
+# fails. The answer is the command's.
+with_progress() {
+    local log status=0
+    log="$(mktemp)"
+    "${@:2}" </dev/null 2>&1 | tee "$log" | show_progress "$1" || status=$?
+    if ((status != 0)) && [[ -t 2 ]]; then
+        grep -v '^\[[0-9]*/[0-9]*\]' "$log" >&2 || true
+    fi
+    rm -f "$log"
+    return "$status"
+}
+
 # under_lock FILE COMMAND...: runs a command while no other holder of the lock is at work. What the
 # command leaves running does not keep the lock.
 under_lock() {
