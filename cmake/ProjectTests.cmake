@@ -51,6 +51,16 @@ function(add_program_tests folder)
   endforeach()
 endfunction()
 
+# add_document_tests(document)
+#
+# The programs that the document shows, run and compared with what it says that they print.
+function(add_document_tests document)
+  cmake_path(GET document STEM stem)
+  add_project_test(NAME documents/${stem}
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/document_programs.py"
+      "${PROJECT_SOURCE_DIR}/${document}" -- ${standin_command})
+endfunction()
+
 # add_golden_tests(folder)
 #
 # For each kind of host, what the library registers there compared with the dump that was kept.
