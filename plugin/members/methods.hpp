@@ -232,8 +232,7 @@ Print price.Multiply(BigNumberVQZ.Nan))"}},
             MultiplyByInteger<Value, "MulInt", "Multiply", std::int32_t>(),
             {.section = Section::Arithmetic,
              .summary = "The product with an Integer.",
-             .details = "Faster than the product of two numbers, and nothing needs to be made of "
-                        "the Integer. A failure shows the product as NaN.",
+             .details = "Needs no number made of the Integer. A failure shows the product as NaN.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"
@@ -246,8 +245,7 @@ Print BigNumberVQZ.Max.Multiply(count))"}},
             MultiplyByInteger<Value, "MulUInt", "Multiply", std::uint32_t>(),
             {.section = Section::Arithmetic,
              .summary = "The product with a UInt32.",
-             .details = "Faster than the product of two numbers, and nothing needs to be made of "
-                        "the UInt32. A failure shows the product as NaN.",
+             .details = "Needs no number made of the UInt32. A failure shows the product as NaN.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"
