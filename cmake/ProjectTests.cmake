@@ -107,7 +107,28 @@ function(add_package_tests)
       "${PROJECT_SOURCE_DIR}" xojo_plugin "$<TARGET_FILE:BigNumberVQZ>" "${package}" --
       "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
       "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"
-      "-DTTMATH_INCLUDE_DIR=${TTMATH_INCLUDE_DIR}")
+      "-DTTMATH_INCLUDE_DIR=${TTMATH_INCLUDE_DIR}"
+      -DBIGNUMBERVQZ_HELP=OFF
+      "-DBIGNUMBERVQZ_HELP_PAGE=${PROJECT_BINARY_DIR}/help/index.html")
+endfunction()
+
+# add_help_tests()
+#
+# What the help tells compared with what the library registers, the help made a second time, what
+# its making refuses, and the page that is delivered in a browser.
+function(add_help_tests)
+  set(tests "${PROJECT_SOURCE_DIR}/tests/help")
+  set(folder "${PROJECT_BINARY_DIR}/help")
+  add_project_test(NAME help/contents
+    COMMAND Python3::Interpreter "${tests}/contents_test.py"
+      "${folder}" "${PROJECT_VERSION}" -- ${standin_command})
+  if(WIN32)
+    add_project_test(NAME help/browser
+      COMMAND ${python_for_checks} "${tests}/browser_test.py" "${folder}/index.html")
+  else()
+    add_project_test(NAME help/examples
+      COMMAND Python3::Interpreter "${tests}/examples_test.py" ${standin_command})
+  endif()
 endfunction()
 
 # add_lint_tests()

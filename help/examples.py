@@ -2,6 +2,7 @@
 
 import dataclasses
 import enum
+import os
 import pathlib
 import re
 import subprocess
@@ -117,8 +118,9 @@ class ExampleRunner:
         with tempfile.TemporaryDirectory() as folder:
             path = pathlib.Path(folder) / "example.xojo_script"
             path.write_text(program, encoding="utf-8")
+            environment = {name: word for name, word in os.environ.items() if name != "VQZDEBUG"}
             result = subprocess.run([*self.command, *options, str(path)], capture_output=True,
-                                    encoding="utf-8", check=False)
+                                    encoding="utf-8", env=environment, check=False)
             result.stderr = result.stderr.replace(str(path), path.name).replace("\r\n", "\n")
             return result
 

@@ -1,7 +1,7 @@
 """Makes the package that users copy into their Plugins folder, a ZIP laid out as the host reads it.
 
-usage: make_package.py --library DLL --link-map FILE --ttmath FILE --project FOLDER
-                       [--help-page HTML] PACKAGE
+usage: make_package.py --library DLL --link-map FILE --ttmath FILE --help-page HTML
+                       --project FOLDER PACKAGE
 
 The link map tells which libraries the DLL contains; for each the package carries its terms, and a
 library whose terms are not known fails the build. The same input gives the same bytes.
@@ -66,9 +66,8 @@ def write_package(path: pathlib.Path, files: dict[str, bytes]) -> None:
 
 def main() -> None:
     parser = argparse.ArgumentParser()
-    for option in ("--library", "--link-map", "--ttmath", "--project"):
+    for option in ("--library", "--link-map", "--ttmath", "--help-page", "--project"):
         parser.add_argument(option, type=pathlib.Path, required=True)
-    parser.add_argument("--help-page", type=pathlib.Path)
     parser.add_argument("package", type=pathlib.Path)
     given = parser.parse_args()
 
@@ -78,8 +77,7 @@ def main() -> None:
     for name in ("LICENSE", "THIRD-PARTY-NOTICES.md"):
         files[f"Licences/{name}"] = (given.project / name).read_bytes()
     files[f"Build Resources/Windows/{NAME}.dll"] = given.library.read_bytes()
-    if given.help_page:
-        files["IDE Resources/Help/index.html"] = given.help_page.read_bytes()
+    files["IDE Resources/Help/index.html"] = given.help_page.read_bytes()
     write_package(given.package, files)
 
 

@@ -15,6 +15,7 @@ import zipfile
 
 PLUGIN = "BigNumberVQZ"
 LIBRARY = f"{PLUGIN}/Build Resources/Windows/{PLUGIN}.dll"
+HELP = f"{PLUGIN}/IDE Resources/Help/index.html"
 LICENCES = {
     "GCC runtime.txt": "GCC RUNTIME LIBRARY EXCEPTION",
     "LICENSE": "MIT License",
@@ -36,7 +37,7 @@ class PackageTest(unittest.TestCase):
 
     def test_layout(self) -> None:
         """The names are those that the host looks for, letter by letter, and nothing else is there."""
-        expected = {LIBRARY} | {f"{PLUGIN}/Licences/{name}" for name in LICENCES}
+        expected = {LIBRARY, HELP} | {f"{PLUGIN}/Licences/{name}" for name in LICENCES}
         self.assertEqual(sorted(self.archive.namelist()), sorted(expected))
         self.assertIsNone(self.archive.testzip())
 
@@ -56,6 +57,9 @@ class PackageTest(unittest.TestCase):
 
     def test_library(self) -> None:
         self.assertEqual(self.archive.read(LIBRARY), self.library.read_bytes())
+
+    def test_help(self) -> None:
+        self.assertTrue(self.archive.read(HELP).startswith(b"<!DOCTYPE html>"))
 
     def test_tour(self) -> None:
         """A user's way: unpack, load, run."""
