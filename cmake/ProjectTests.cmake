@@ -154,3 +154,15 @@ function(add_lint_tests)
   add_project_test(NAME lint/examples_check
     COMMAND Python3::Interpreter "${tests}/examples_check.py" "${PROJECT_SOURCE_DIR}/examples")
 endfunction()
+
+# add_completeness_tests()
+#
+# Whether the tests leave out an entry of the tables, a way in which its call can end, or a text.
+function(add_completeness_tests)
+  set(folder "${PROJECT_SOURCE_DIR}/tests/completeness")
+  add_project_test(NAME completeness/calls
+    COMMAND Python3::Interpreter "${folder}/calls.py"
+      "${PROJECT_SOURCE_DIR}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" ${standin_command})
+  add_project_test(NAME completeness/texts
+    COMMAND Python3::Interpreter "${folder}/texts.py" "${PROJECT_SOURCE_DIR}")
+endfunction()

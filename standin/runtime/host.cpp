@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "standin/runtime/call.hpp"
+#include "standin/runtime/call_record.hpp"
 #include "standin/runtime/host_functions.hpp"
 #include "standin/runtime/platform.hpp"
 #include "standin/runtime/properties.hpp"
@@ -88,6 +89,7 @@ Host::Host(HostOptions options) {
 
 Host::~Host() {
     platform::CaptureDebugOutput({});
+    CallRecord::OfProcess().ForgetRoutines();
     TheHost = nullptr;
 }
 
@@ -114,6 +116,9 @@ void* Host::Resolve(const char* name) {
     const std::string_view asked = name == nullptr ? "" : name;
     const auto lookup = state.lookups.try_emplace(std::string(asked), 0).first;
     ++lookup->second;
+    if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
+        record.NoteLookup(asked);
+    }
     if (state.LacksFunction(asked) || (asked == VersionFunctionName && !state.options.version)) {
         return nullptr;
     }
@@ -333,6 +338,9 @@ ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, R
     }
     if (result.faults.floatStackUnbalanced) {
         state_->violations.Add("a routine left the x87 stack unbalanced");
+    }
+    if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
+        record.NoteCall(routine, words, kind, result.value);
     }
     return result.value;
 }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "interface/host_interface.hpp"
+#include "standin/runtime/call_record.hpp"
 #include "standin/runtime/properties.hpp"
 #include "standin/runtime/state.hpp"
 #include "standin/runtime/variants.hpp"
@@ -70,7 +71,12 @@ void RegisterClass(ClassDefinition* definition) noexcept {
         return;
     }
     Host::State& state = Current();
-    state.classes.Register(*definition, state.pluginInterfaceVersion, state.violations);
+    const ClassEntry* entry =
+        state.classes.Register(*definition, state.pluginInterfaceVersion, state.violations);
+    CallRecord& record = CallRecord::OfProcess();
+    if (record.IsKept() && entry != nullptr) {
+        record.NoteClass(*entry);
+    }
 }
 
 BooleanWord InRuntime() noexcept {
@@ -194,6 +200,9 @@ void RaiseException(Object exception) noexcept {
                                          : "an object of the class \"" + entry->type->name +
                                                "\" is no exception");
         return;
+    }
+    if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
+        record.NoteRaise(entry->type->name, Host::Current().Message(exception));
     }
     if (state.raised == nullptr) {
         state.objects.Lock(exception, user);

@@ -2,6 +2,7 @@
 // their domains, and missing numbers in every place.
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "tests/unit/operations/number_class.hpp"
@@ -15,7 +16,7 @@ struct StatedCall {
     const char* declaration;
     std::vector<std::string_view> operands;
     /// The result's text or, of a failure, its message.
-    std::string_view outcome;
+    std::string outcome;
 };
 
 template <typename AnyNumber>
@@ -39,8 +40,15 @@ public:
     void Fails(const StatedCall& stated) {
         INFO(std::string(stated.declaration));
         CHECK(Call(stated) == 0);
-        CHECK(tests::TakeRaised(host()) ==
-              "BigNumberErrorExceptionVQZ: " + std::string(stated.outcome));
+        CHECK(tests::TakeRaised(host()) == "BigNumberErrorExceptionVQZ: " + stated.outcome);
+    }
+
+    /// The text by which messages show a number: "overflow" where base 10 has none for its
+    /// exponent.
+    std::string ReportedText(std::string_view number) {
+        const tests::HeldObject object = Make(number);
+        const std::string text = TextOf(object.Get());
+        return tests::TakeRaised(host()).empty() ? text : "overflow";
     }
 
     ~StatedTest() { tests::CheckLedger(host()); }
@@ -229,6 +237,32 @@ TEST_CASE_TEMPLATE("arithmetic failures name the operation and its numbers", Any
                 "Multiply operation failed with numbers NaN and 3."});
 }
 
+TEST_CASE_TEMPLATE("results beyond the largest number are failures", AnyNumber, Number256,
+                   Number2048) {
+    StatedTest<AnyNumber> test;
+    const std::string max = test.ReportedText("max");
+    const auto fails = [&](const char* declaration, const char* name, const char* other) {
+        test.Fails({declaration,
+                    {"max", other},
+                    std::string(name) + " operation failed with numbers " + max + " and " +
+                        test.ReportedText(other) + "."});
+    };
+    fails("Add(other as $, round as boolean = true) as $", "Add", "max");
+    fails("Subtract(other as $, round as boolean = true) as $", "Sub", "min");
+    fails("Multiply(other as $, round as boolean = true) as $", "Mul", "max");
+    fails("Operator_Add(other as $) as $", "Operator_Add", "max");
+    fails("Operator_Subtract(other as $) as $", "Operator_Subtract", "min");
+    fails("Operator_SubtractRight(other as $) as $", "Operator_Subtract", "min");
+    fails("Operator_Multiply(other as $) as $", "Operator_Multiply", "max");
+    for (const auto* name :
+         {"Sin", "Cos", "Tan", "Sinh", "Cosh", "Tanh", "ASinh", "Exp", "RadToDeg"}) {
+        const std::string declaration = std::string(name) + "(value as $) as $";
+        test.Fails({declaration.c_str(),
+                    {"max"},
+                    std::string(name) + " operation failed with number " + max + "."});
+    }
+}
+
 TEST_CASE_TEMPLATE("functions fail outside their domain", AnyNumber, Number256, Number2048) {
     StatedTest<AnyNumber> test;
     test.Fails({"Ln(value as $) as $", {"0"}, "Ln operation failed with number 0."});
@@ -284,6 +318,23 @@ TEST_CASE_TEMPLATE("a missing number is reported as nil, NaN as NaN", AnyNumber,
     test.Fails({"Operator_IntegerDivide(other as $) as $",
                 {"nil", "2"},
                 "Operator_IntegerDivide operation failed with numbers NaN and 2."});
+    for (const auto* name :
+         {"Sin",      "Cos",      "Tan",       "Cot",       "ASin",      "ACos",     "Sinh", "Cosh",
+          "Tanh",     "Coth",     "ASinh",     "ACosh",     "ATanh",     "ACoth",    "Exp",  "Ln",
+          "DegToRad", "RadToDeg", "DegToGrad", "GradToDeg", "RadToGrad", "GradToRad"}) {
+        const std::string declaration = std::string(name) + "(value as $) as $";
+        for (const auto& [operand, shown] : {std::pair("nan", "NaN"), std::pair("nil", "nil")}) {
+            test.Fails({declaration.c_str(),
+                        {operand},
+                        std::string(name) + " operation failed with number " + shown + "."});
+        }
+    }
+    test.Fails({"Log(value as $, base as $) as $",
+                {"nan", "2"},
+                "Log operation failed with numbers NaN and 2."});
+    test.Fails({"Log(value as $, base as $) as $",
+                {"2", "nan"},
+                "Log operation failed with numbers 2 and NaN."});
     // What cannot fail hands the NaN on.
     for (const auto* declaration :
          {"Abs as $", "Frac as $", "SkipFraction as $", "Operator_Negate as $", "Negate as $",

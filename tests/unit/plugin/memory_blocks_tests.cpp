@@ -1,13 +1,17 @@
 // Making MemoryBlocks and looking into them.
 #include <cstdint>
 #include <cstring>
+#include <new>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include <doctest/doctest.h>
 
 #include "host/byte_view.hpp"
 #include "host/memory_blocks.hpp"
 #include "host/variants.hpp"
+#include "plugin/host_functions.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {
@@ -27,6 +31,17 @@ std::string TextOf(const vqz::ByteView& view) {
 std::string OutOfMemory(const std::string& size) {
     return "OutOfMemoryException: Failed to allocate a memoryblock with " + size +
            " bytes in size.";
+}
+
+host_interface::Object ThrowForWantOfMemory(std::int32_t) {
+    throw std::bad_alloc();
+}
+
+/// The lookup of a host whose blocks are made by a function that throws.
+void* ResolveThrowing(const char* name) {
+    return std::string_view(name) == "newMemoryBlock"
+               ? reinterpret_cast<void*>(&ThrowForWantOfMemory)
+               : standin::Host::Resolve(name);
 }
 
 }  // namespace
@@ -78,6 +93,18 @@ TEST_CASE("A block that the host does not make is an error that tells the size")
     CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3));
     CHECK(TakeRaised(host) == OutOfMemory("3"));
     host.StopFailing();
+}
+
+TEST_CASE("A native exception for want of memory is logged, and is the same error") {
+    DirectHost host;
+    vqz::HostResolver = ResolveThrowing;
+    const auto bound = std::exchange(
+        vqz::newMemoryBlock,
+        vqz::HostFunctionSlot<host_interface::functions::newMemoryBlock>("newMemoryBlock"));
+    CHECK(host.LogOf([] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3)); }) ==
+          LogLines({"Got C++ exception in REALBuildMemoryblock:  std::bad_alloc"}));
+    vqz::newMemoryBlock = bound;
+    CHECK(TakeRaised(host) == OutOfMemory("3"));
 }
 
 TEST_CASE("A block without data is given back") {

@@ -509,6 +509,8 @@ TEST_CASE("Text that no number of the class can hold fails, and the value is rep
             number.Set("StringValue", other.Get(), text.Get());
             CHECK(TakeRaised(plugin.host()) == FailureOf("StringValue", "0"));
             CHECK(number.Get<bool>("IsNan", other.Get()));
+            number.Set("StringValue", other.Get(), text.Get());
+            CHECK(TakeRaised(plugin.host()) == FailureOf("StringValue", NanText));
 
             const Rest rest = SetText(number, other.Get(), text.Get(), 10);
             CHECK(TakeRaised(plugin.host()) == FailureOf("SetStringValue", NanText));
