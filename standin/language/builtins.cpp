@@ -244,6 +244,18 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
      GetTextEncoding},
 });
 
+/// A function's newer name, which programs use as a member: `count.ToString`.
+struct OtherName {
+    std::string_view name;
+    std::string_view newName;
+};
+
+constexpr auto OtherNames = std::to_array<OtherName>({
+    {"Str", "ToString"},
+    {"Len", "Length"},
+    {"LenB", "Bytes"},
+});
+
 struct EncodingName {
     std::string_view name;
     HostTextEncoding encoding;
@@ -271,8 +283,15 @@ std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     for (const auto& table :
          {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions()}) {
         for (const auto& row : table) {
-            builtIns.push_back(
-                {types.Resolve(ParseDeclaration(row.declaration), row.declaration), row.function});
+            auto signature = types.Resolve(ParseDeclaration(row.declaration), row.declaration);
+            builtIns.push_back({signature, row.function});
+            for (const auto& other : OtherNames) {
+                if (SameName(other.name, signature.name)) {
+                    signature.name = other.newName;
+                    builtIns.push_back({signature, row.function});
+                    break;
+                }
+            }
         }
     }
     return builtIns;

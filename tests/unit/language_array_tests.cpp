@@ -164,4 +164,6 @@ TEST_CASE("functions of the language are methods of values that are no objects")
         host.Run("Dim s As String = \"hello\"\nPrint s.Left(2)\nPrint s.Len\nPrint s.Mid(2, 3)") ==
         "he\n5\nell\n");
     CHECK(host.Run("Dim n As Integer = 255\nPrint n.Hex\nPrint n.Str.Len") == "FF\n3\n");
+    CHECK(host.Run("Dim n As Integer = 255\nPrint n.ToString + True.ToString") == "255True\n");
+    CHECK(host.Run("Dim s As String = \"1½\"\nPrint s.Length\nPrint s.Bytes") == "2\n3\n");
 }
