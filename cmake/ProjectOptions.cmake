@@ -23,10 +23,13 @@ target_compile_options(project_options INTERFACE
   -Wformat=2
   $<$<BOOL:${BIGNUMBERVQZ_WARNINGS_AS_ERRORS}>:-Werror>)
 
-# The same commit gives the same bytes wherever it is built: no path of the machine gets in.
-target_compile_options(project_options INTERFACE
-  "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
-  "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build")
+# The same commit gives the same bytes wherever it is built: no path of the machine gets in. Only who
+# counts what runs has to find the sources again.
+if(NOT BIGNUMBERVQZ_COVERAGE)
+  target_compile_options(project_options INTERFACE
+    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
+    "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build")
+endif()
 
 # A 32-bit host promises a stack aligned to 4 bytes only, and an x87 control word of any kind: each
 # function realigns its stack, and floating point is computed in SSE registers.
@@ -37,6 +40,17 @@ endif()
 if(BIGNUMBERVQZ_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_compile_options(project_options INTERFACE ${sanitizers} -fno-omit-frame-pointer -g1 -O1)
+  target_link_options(project_options INTERFACE ${sanitizers})
+endif()
+
+if(BIGNUMBERVQZ_FUZZ)
+  set(fuzz_folder "${PROJECT_SOURCE_DIR}/tests/fuzz")
+  set(sanitizers -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  target_compile_options(project_options INTERFACE
+    ${sanitizers}
+    "-fsanitize-ignorelist=${fuzz_folder}/ignorelist.txt"
+    "-fsanitize-coverage-ignorelist=${fuzz_folder}/coverage_ignorelist.txt"
+    -fno-omit-frame-pointer -g1 -O1)
   target_link_options(project_options INTERFACE ${sanitizers})
 endif()
 
@@ -51,6 +65,6 @@ endif()
 add_library(self_contained INTERFACE)
 if(WIN32)
   target_link_options(self_contained INTERFACE -static -static-libgcc -static-libstdc++)
-elseif(NOT BIGNUMBERVQZ_SANITIZE)
+elseif(NOT BIGNUMBERVQZ_SANITIZE AND NOT BIGNUMBERVQZ_FUZZ)
   target_link_options(self_contained INTERFACE -static-libgcc -static-libstdc++)
 endif()

@@ -1,8 +1,4 @@
 # The tests of the host's language, and of the command, with a sample plug-in.
-add_library(sample_plugin_objects OBJECT "${PROJECT_SOURCE_DIR}/tests/sample/sample_plugin.cpp")
-target_link_libraries(sample_plugin_objects PUBLIC project_options)
-set_target_properties(sample_plugin_objects PROPERTIES CXX_VISIBILITY_PRESET default)
-
 add_unit_tests(language_tests
   SOURCES
     language_array_tests.cpp

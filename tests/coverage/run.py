@@ -1,0 +1,56 @@
+"""Measures which lines and branches of the plug-in's own code the tests run.
+
+usage: run.py [ctest option...]
+
+Builds without optimisation, runs the tests in the native library, and fails when less is covered than
+is asked for. Branches that only a thrown exception takes do not count. A line that cannot run here is
+marked in the source, with the reason: GCOVR_EXCL_LINE, or GCOVR_EXCL_START to GCOVR_EXCL_STOP.
+"""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+PRESET = "linux-x86-coverage"
+BUILD = ROOT / "build" / PRESET
+FOLDERS = ["plugin", "host", "number", "platform"]
+LINES_PERCENT = 100
+BRANCHES_PERCENT = 95
+# Long computations in the larger precision, and the sizes and sections of the file, say nothing new.
+LEFT_OUT = "unit/operation_tests/(2048|reference)|/library/|/lint/|/fuzz/|/completeness"
+EXCLUDED = re.compile(r"GCOVR_EXCL_(?:LINE|START):? *(.*)")
+
+
+def list_excluded_lines() -> None:
+    for folder in FOLDERS:
+        for path in sorted((ROOT / folder).rglob("*.[ch]pp")):
+            for number, line in enumerate(path.read_text().splitlines(), 1):
+                if found := EXCLUDED.search(line):
+                    print(f"left out: {path.relative_to(ROOT)}:{number}: {found[1]}")
+
+
+def main() -> None:
+    subprocess.run([ROOT / "scripts" / "build", PRESET], check=True)
+    for counts in BUILD.rglob("*.gcda"):
+        counts.unlink()
+    jobs = str(os.cpu_count())
+    tests = ["ctest", "--test-dir", BUILD, "--output-on-failure", "--parallel", jobs, "-E", LEFT_OUT]
+    subprocess.run([*tests, *sys.argv[1:]], check=True)
+
+    report = BUILD / "coverage.html"
+    gcovr = ["gcovr", "--root", ROOT, "--exclude-throw-branches", "--exclude-unreachable-branches"]
+    for folder in FOLDERS:
+        gcovr += ["--filter", f"{ROOT}/{folder}/"]
+    gcovr += ["--txt", "--print-summary", "--html-details", report]
+    gcovr += ["--fail-under-line", str(LINES_PERCENT), "--fail-under-branch", str(BRANCHES_PERCENT)]
+    result = subprocess.run([*gcovr, BUILD / "plugin", BUILD / "tests"], cwd=ROOT, check=False)
+    list_excluded_lines()
+    print(f"Line by line: {report.relative_to(ROOT)}")
+    sys.exit(result.returncode)
+
+
+if __name__ == "__main__":
+    main()
