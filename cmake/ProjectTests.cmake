@@ -128,6 +128,9 @@ function(add_help_tests)
   else()
     add_project_test(NAME help/examples
       COMMAND Python3::Interpreter "${tests}/examples_test.py" ${standin_command})
+    add_project_test(NAME help/texts
+      COMMAND Python3::Interpreter "${tests}/texts_test.py" "${PROJECT_SOURCE_DIR}"
+        "${CMAKE_CXX_COMPILER}" -m32 -isystem "${TTMATH_INCLUDE_DIR}" -DTTMATH_NOASM)
   endif()
 endfunction()
 

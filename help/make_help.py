@@ -50,7 +50,7 @@ def plain_text(member: Member) -> str:
     """A member's block of members.txt."""
     notes = f"  ({', '.join(member.notes)})" if member.notes else ""
     lines = [f"== {member.name}", member.declaration + notes, ""]
-    lines += textwrap.wrap(f"{member.summary} {member.details}", 78)
+    lines += textwrap.wrap(f"{member.summary} {member.details}".replace("`", ""), 78)
     lines += [f"Units: {member.units}"] if member.units else []
     lines += [f"Range: {member.range}"] if member.range else []
     if member.fails:
@@ -79,7 +79,8 @@ def main() -> None:
         lstrip_blocks=True, undefined=jinja2.StrictUndefined)
     page = environment.get_template("index.html.jinja").render(
         version=version, sections=sections, example=markup.example, anchor_of=markup.anchor_of,
-        program=markup.program, with_places=markup.with_places, count=len(members),
+        program=markup.program, with_places=markup.with_places,
+        with_code=markup.with_code, count=len(members),
         introduction=parts[0], guides=parts[1], surprises=parts[2],
         appendices={"accuracy": accuracy.html(), "speed": speed_chart()},
         style=(HERE / "page" / "style.css").read_text(encoding="utf-8"),

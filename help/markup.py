@@ -36,6 +36,11 @@ def with_places(message: str) -> str:
     return re.sub(r"\b[AB]\b(?=[ .])", r"<var>\g<0></var>", html.escape(message, quote=False))
 
 
+def with_code(text: str) -> str:
+    """A text in which words between backticks are code."""
+    return re.sub(r"`([^`]+)`", r"<code>\1</code>", html.escape(text, quote=False))
+
+
 LABELS = {
     Kind.PRINTS: "Prints",
     Kind.RAISES: "Raises",

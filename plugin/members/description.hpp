@@ -88,7 +88,7 @@ struct MemberHelp {
     Section section;
     /// One sentence: what the member is or does.
     RequiredText<Texts> summary;
-    /// Whatever else there is to know.
+    /// Whatever else there is to know; words between backticks are code.
     OptionalText<Texts> details = {};
     /// What the arguments and the result are measured in.
     OptionalText<Texts> units = {};

@@ -197,7 +197,7 @@ Print BigNumberVQZ.ACosh("0.5"))"}},
                 [](const auto& value, auto* error) { return ttmath::ASinh(value, error); }),
             {.section = Section::Hyperbolic,
              .summary = "The inverse hyperbolic sine.",
-             .details = "For negative numbers -ASinh(-x) is more accurate.",
+             .details = "For negative numbers `-ASinh(-x)` is more accurate.",
              .fails = "numbers whose square is beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.ASinh("0.5"))",
@@ -250,7 +250,7 @@ Print BigNumberVQZ.Sinh("1e30"))"}},
             OneNumber<Value, "ACot">([](auto& value) { value = ttmath::ACot(value); }),
             {.section = Section::Trigonometry,
              .summary = "The inverse cotangent, in radians.",
-             .details = "NaN and Nil give NaN. For large numbers ATan(1 / x) is more accurate.",
+             .details = "NaN and Nil give NaN. For large numbers `ATan(1 / x)` is more accurate.",
              .units = "radians",
              .range = "0 to pi",
              .example = R"(
@@ -294,8 +294,8 @@ Print BigNumberVQZ.ASin("1.1"))"}},
                 [](const auto& value, auto* error) { return ttmath::Cot(value, error); }),
             {.section = Section::Trigonometry,
              .summary = "The cotangent of an angle in radians.",
-             .details =
-                 "The larger the angle, the fewer digits are right: one near 2^k loses k bits.",
+             .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
+                        "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .fails = "0, NaN and Nil",
              .example = R"(
@@ -307,8 +307,8 @@ Print BigNumberVQZ.Cot("0"))"}},
                 [](const auto& value, auto* error) { return ttmath::Tan(value, error); }),
             {.section = Section::Trigonometry,
              .summary = "The tangent of an angle in radians.",
-             .details =
-                 "The larger the angle, the fewer digits are right: one near 2^k loses k bits.",
+             .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
+                        "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .fails = "NaN and Nil",
              .example = R"(
@@ -320,8 +320,8 @@ Print BigNumberVQZ.Tan(Nil))"}},
                 [](const auto& value, auto* error) { return ttmath::Cos(value, error); }),
             {.section = Section::Trigonometry,
              .summary = "The cosine of an angle in radians.",
-             .details =
-                 "The larger the angle, the fewer digits are right: one near 2^k loses k bits.",
+             .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
+                        "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .range = "-1 to 1",
              .fails = "NaN and Nil",
@@ -334,8 +334,8 @@ Print BigNumberVQZ.Cos(Nil))"}},
                 [](const auto& value, auto* error) { return ttmath::Sin(value, error); }),
             {.section = Section::Trigonometry,
              .summary = "The sine of an angle in radians.",
-             .details =
-                 "The larger the angle, the fewer digits are right: one near 2^k loses k bits.",
+             .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
+                        "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .range = "-1 to 1",
              .fails = "NaN and Nil",

@@ -73,11 +73,12 @@ Print BigNumberVQZ.Nan.Floor)"}},
             GetTextFormatted<Value, "GetStringValueExt", "DoubleValue">(),
             {.section = Section::Text,
              .summary = "The number as text in a base of 2 to 16, with the options of the format.",
-             .details = "scientific writes every number with an exponent; without it only numbers "
-                        "from base^scientificFrom on have one. round is the number of digits "
-                        "after the point, -1 for all of them; TrimZeros drops zeros at their end. "
-                        "comma gives the decimal mark by its first character. A failure is "
-                        "reported under the name DoubleValue.",
+             .details =
+                 "With `scientific` every number has an exponent; without it only where it is "
+                 "above `scientificFrom` or below its negative. `round` is the number of "
+                 "digits after the point, -1 for all of them; `TrimZeros` drops zeros at "
+                 "their end. `comma` gives the decimal mark by its first character. A "
+                 "failure is reported under the name DoubleValue.",
              .fails = "a base outside of 2 to 16, which gives an empty text",
              .example = R"(
 Dim third As BigNumberVQZ = "100"
@@ -95,7 +96,7 @@ Print number.GetStringValue(17))"}},
              .summary = "Reads the number from text in a base; tells the rest of the text and "
                         "whether there were digits.",
              .details = "Reads as far as a number goes. Without digits the number is 0 and "
-                        "ValueRead False: the way to find out that a text is no number.",
+                        "`ValueRead` False: the way to find out that a text is no number.",
              .fails = "a base outside of 2 to 16, and for an exponent beyond the range",
              .example = R"(
 Dim length As New BigNumberVQZ
@@ -114,8 +115,9 @@ length.SetStringValue("12.5", 17, rest, found))"}},
             .function = GetTextInBase<Value, "GetStringValueBase", "StringValue">(),
             .help = {.section = Section::Text,
                      .summary = "The number as text in a base of 2 to 16; can be assigned to.",
-                     .details = "Digits from 10 on are the letters A to F. From base^15 on the "
-                                "text is scientific, and its exponent is written in the base too.",
+                     .details = "Digits from 10 on are the letters A to F. From base^16 on there "
+                                "is an exponent: `*10^21` in base 16 is 16 to the power of 33. It "
+                                "is not read again; GetStringValue can write without one.",
                      .fails = "a base outside of 2 to 16",
                      .example = R"(
 Dim mask As BigNumberVQZ = "255.5"
@@ -205,8 +207,9 @@ Print seven.Modulate("0"))"}},
                 [](auto& me, const auto& other, bool round) { return me.Div(other, round); }),
             {.section = Section::Arithmetic,
              .summary = "The quotient.",
-             .details = "Without round the bits beyond the precision are cut off. The operator / "
-                        "always rounds.",
+             .details =
+                 "Without `round` the bits beyond the precision are cut off. The operator `/` "
+                 "always rounds.",
              .fails = "division by zero, for results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "100"
@@ -219,8 +222,9 @@ Print price.Divide("0"))"}},
                 [](auto& me, const auto& other, bool round) { return me.Mul(other, round); }),
             {.section = Section::Arithmetic,
              .summary = "The product.",
-             .details = "Without round the bits beyond the precision are cut off. The operator * "
-                        "always rounds.",
+             .details =
+                 "Without `round` the bits beyond the precision are cut off. The operator `*` "
+                 "always rounds.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"
@@ -299,8 +303,9 @@ Print mask.BitAnd("-10"))"}},
             }),
             {.section = Section::Arithmetic,
              .summary = "The difference.",
-             .details = "Without round the bits beyond the precision are cut off. The operator - "
-                        "always rounds.",
+             .details =
+                 "Without `round` the bits beyond the precision are cut off. The operator `-` "
+                 "always rounds.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"
@@ -313,8 +318,9 @@ Print price.Subtract(Nil))"}},
                 [](auto& me, const auto& other, bool round) { return me.Add(other, round, true); }),
             {.section = Section::Arithmetic,
              .summary = "The sum.",
-             .details = "Without round the bits beyond the precision are cut off. The operator + "
-                        "always rounds.",
+             .details =
+                 "Without `round` the bits beyond the precision are cut off. The operator `+` "
+                 "always rounds.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"

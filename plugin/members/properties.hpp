@@ -130,7 +130,7 @@ Print large.DoubleValue)"}},
             .setter = SetText<Value, "SetStringValue", "StringValue">(),
             .help = {.section = Section::Text,
                      .summary = "The number as text in base 10, with all its digits.",
-                     .details = "From 10^15 on the text is scientific; GetStringValue moves that "
+                     .details = "From 10^16 on the text is scientific; GetStringValue moves that "
                                 "limit. NaN and Nil give NaN. Setting it reads as far as a number "
                                 "goes, takes a point or a comma for the decimal mark, and gives 0 "
                                 "where there is none; the old value is gone in any case.",
