@@ -61,6 +61,15 @@ function(add_document_tests document)
       "${PROJECT_SOURCE_DIR}/${document}" -- ${standin_command})
 endfunction()
 
+# add_prompt_test()
+#
+# The interactive prompt, with and without a terminal.
+function(add_prompt_test)
+  add_project_test(NAME prompt
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/prompt_test.py"
+      "${PROJECT_SOURCE_DIR}" -- ${standin_command})
+endfunction()
+
 # add_golden_tests(folder)
 #
 # For each kind of host, what the library registers there compared with the dump that was kept.

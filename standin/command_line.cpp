@@ -10,11 +10,14 @@
 namespace standin {
 
 const std::string_view UsageText =
-    R"(usage: ./run [options] [PROGRAM | - | -e TEXT]
+    R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
 
-PROGRAM is a file in the host's language, `-` reads it from standard input, -e takes its text.
+PROGRAM is a file in the host's language, `-` reads it from standard input, -e takes its text; -i runs
+line by line what is typed.
 
   --library FILE       the plug-in library to load (./run gives it)
+  --documentation FILE what -i tells about the members (./run gives it)
+  --prompts            -i shows where a line is expected (./run gives it on a terminal)
   --list               every registered class with its members as the host sees them
   --dump               the registered tables, entry by entry
   --ledger             counts of strings and objects at the end, on standard error
@@ -43,7 +46,7 @@ Exit status: 0; 1 for an exception nobody caught; 2 for an error in the program 
 )";
 
 const std::string_view UsageHint =
-    "usage: ./run [options] [PROGRAM | - | -e TEXT]; ./run --help tells more\n";
+    "usage: ./run [options] [PROGRAM | - | -e TEXT | -i]; ./run --help tells more\n";
 
 namespace {
 
@@ -76,6 +79,8 @@ struct Switch {
 };
 
 constexpr auto Switches = std::to_array<Switch>({
+    {"-i", [](CommandLine& line) { line.task = Task::Prompt; }},
+    {"--prompts", [](CommandLine& line) { line.showsPrompts = true; }},
     {"--list", [](CommandLine& line) { line.task = Task::List; }},
     {"--dump", [](CommandLine& line) { line.task = Task::Dump; }},
     {"--help", [](CommandLine& line) { line.task = Task::Help; }},
@@ -99,6 +104,8 @@ struct Setting {
 
 constexpr auto Settings = std::to_array<Setting>({
     {"--library", [](CommandLine& line, const std::string& value) { line.library = value; }},
+    {"--documentation",
+     [](CommandLine& line, const std::string& value) { line.documentation = value; }},
     {"--without",
      [](CommandLine& line, const std::string& value) { line.host.missing.insert(value); }},
     {"--host-version",
@@ -152,6 +159,9 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
     }
     if (line.library.empty()) {
         throw UsageError("no library is given");
+    }
+    if (line.task == Task::Prompt && (line.file || line.text)) {
+        throw UsageError("-i takes no program");
     }
     if (line.task == Task::Run && line.file.has_value() == line.text.has_value()) {
         throw UsageError(line.file ? "both a program file and -e are given"

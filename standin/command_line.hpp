@@ -21,7 +21,7 @@ public:
 };
 
 /// What to do with the plug-in library.
-enum class Task { Run, List, Dump, Help };
+enum class Task { Run, Prompt, List, Dump, Help };
 
 struct CommandLine {
     Task task = Task::Run;
@@ -30,6 +30,10 @@ struct CommandLine {
     /// The program: a file's name, `-` for standard input, or the text itself.
     std::optional<std::string> file;
     std::optional<std::string> text;
+    /// A file that tells about the members, for the prompt.
+    std::optional<std::string> documentation;
+    /// Whether the prompt shows where a line is expected; nobody needs that who is no person.
+    bool showsPrompts = false;
     bool showsDebugLog = false;
     bool showsLedger = false;
     /// Steps that the program may take, and bytes that it may hold.

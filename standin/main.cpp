@@ -1,4 +1,5 @@
-// The command: loads a plug-in library in the stand-in host and runs a program against it.
+// The command: loads a plug-in library in the stand-in host and runs a program against it, or
+// what is typed.
 #include <exception>
 #include <string>
 
@@ -7,6 +8,7 @@
 #include "standin/language/plugin_call.hpp"
 #include "standin/language/program.hpp"
 #include "standin/process.hpp"
+#include "standin/prompt.hpp"
 #include "standin/runtime/host.hpp"
 #include "standin/runtime/memory_budget.hpp"
 
@@ -50,19 +52,24 @@ void ReportUnhandled(Host& host, const Source& source, const language::Thrown& t
                std::to_string(source.Locate(thrown.position()).line) + "\n");
 }
 
+/// From now on allocations fail and memory ends where the command says so.
+void SetLimits(Host& host, const CommandLine& line) {
+    if (line.failingString) {
+        host.FailAllocation(Allocation::String, *line.failingString, false);
+    }
+    if (line.failingObject) {
+        host.FailAllocation(Allocation::Object, *line.failingObject, false);
+    }
+    if (line.maximumMemory) {
+        MemoryBudget::SetLimit(*line.maximumMemory);
+    }
+}
+
 Status RunProgram(Host& host, const Source& source, const language::TypeTable& types,
                   const CommandLine& line) {
     try {
         const language::Program program(source, types);
-        if (line.failingString) {
-            host.FailAllocation(Allocation::String, *line.failingString, false);
-        }
-        if (line.failingObject) {
-            host.FailAllocation(Allocation::Object, *line.failingObject, false);
-        }
-        if (line.maximumMemory) {
-            MemoryBudget::SetLimit(*line.maximumMemory);
-        }
+        SetLimits(host, line);
         const auto print = [](std::string_view text) {
             WriteOutput(text);
             WriteOutput("\n");
@@ -120,6 +127,9 @@ Status Perform(const CommandLine& line) {
     const language::TypeTable types(host);
     if (line.task == Task::Run) {
         status = RunProgram(host, *source, types, line);
+    } else if (line.task == Task::Prompt) {
+        SetLimits(host, line);
+        RunPrompt(host, types, line);
     } else {
         WriteOutput(line.task == Task::List ? language::ListClasses(host, types)
                                             : DumpTables(host));

@@ -40,7 +40,7 @@ private:
         Block block;
         for (cursor_.SkipEmptyLines(); !cursor_.IsAtAny(ends); cursor_.SkipEmptyLines()) {
             if (cursor_.IsAt(TokenKind::EndOfText)) {
-                throw ProgramError(openerAt, "this " + Describe(opener) + " is never closed");
+                throw UnclosedError(openerAt, "this " + Describe(opener) + " is never closed");
             }
             block.push_back(ParseStatement());
         }
@@ -485,7 +485,7 @@ auto ParseWhole(std::string_view text, Parse parse) {
     auto result = parse(expressions);
     cursor.SkipEmptyLines();
     if (!cursor.IsAt(TokenKind::EndOfText)) {
-        cursor.Fail("the end of the declaration");
+        cursor.Fail("the end");
     }
     return result;
 }
@@ -494,6 +494,10 @@ auto ParseWhole(std::string_view text, Parse parse) {
 
 syntax::Program ParseProgram(std::string_view text) {
     return StatementParser(text).ParseProgram();
+}
+
+syntax::ExpressionPtr ParseExpression(std::string_view text) {
+    return ParseWhole(text, [](ExpressionParser& parser) { return parser.ParseExpression(); });
 }
 
 syntax::Signature ParseDeclaration(std::string_view text) {

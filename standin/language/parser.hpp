@@ -10,6 +10,9 @@ namespace standin::language {
 /// Parses a whole program. Throws ProgramError at the first mistake.
 syntax::Program ParseProgram(std::string_view text);
 
+/// Parses an expression that stands alone. Throws ProgramError at the first mistake.
+syntax::ExpressionPtr ParseExpression(std::string_view text);
+
 /// Parses a declaration such as `Add(other As Number, round As Boolean = True) As Number`.
 /// Throws ProgramError with a position inside the declaration.
 syntax::Signature ParseDeclaration(std::string_view text);

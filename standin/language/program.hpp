@@ -1,13 +1,16 @@
 // A program of the host's language, from its text to its run.
 #pragma once
 
-#include <memory>
-
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
+#include "standin/language/compiler.hpp"
 #include "standin/language/source.hpp"
 
 namespace standin::language {
+
+/// Runs the statements of a main program. Throws what they throw, and ProgramError when memory
+/// ends.
+void RunStatements(const code::Block& statements, Frame& frame);
 
 /// A program that was found right and can run.
 class Program {
@@ -23,8 +26,8 @@ public:
              std::uint64_t maximumSteps = UnlimitedSteps) const;
 
 private:
-    std::vector<std::unique_ptr<code::Routine>> routines_;
-    code::Routine main_;
+    Compiler compiler_;
+    code::Block main_;
 };
 
 }  // namespace standin::language

@@ -8,16 +8,19 @@ void Scope::EnterBlock() {
     levels_.push_back({{}, nextSlot_});
 }
 
+void Scope::ShareAll() {
+    for (const auto& level : levels_) {
+        for (auto [name, variable] : level.variables) {
+            variable.kind = code::VariableKind::Main;
+            shared_.insert_or_assign(name, variable);
+        }
+    }
+}
+
 void Scope::LeaveBlock(code::Block& block) {
     block.firstSlot = levels_.back().firstSlot;
     block.endSlot = nextSlot_;
     nextSlot_ = block.firstSlot;
-    if (levels_.size() == 1) {
-        shared_ = std::move(levels_.back().variables);
-        for (auto& [name, variable] : shared_) {
-            variable.kind = code::VariableKind::Main;
-        }
-    }
     levels_.pop_back();
 }
 

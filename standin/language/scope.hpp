@@ -31,6 +31,8 @@ public:
     explicit Scope(const Scope* main = nullptr) : main_(main) {}
 
     void EnterBlock();
+    /// Lets routines see the variables of all blocks.
+    void ShareAll();
     /// Ends the innermost block and tells `block` the slots that were its own.
     void LeaveBlock(code::Block& block);
 
@@ -51,7 +53,7 @@ private:
     };
 
     std::vector<Level> levels_;
-    /// What of the main program's variables a routine may see: those of its outermost block.
+    /// The variables that routines see behind their own.
     std::map<std::string, Variable, NameLess> shared_;
     const Scope* main_;
     std::size_t nextSlot_ = 0;

@@ -27,6 +27,12 @@ private:
     Position position_;
 };
 
+/// The text ended inside a block; more text may make it right.
+class UnclosedError : public ProgramError {
+public:
+    using ProgramError::ProgramError;
+};
+
 /// A place as people name it. Lines and columns count from 1, columns in characters.
 struct Place {
     std::size_t line;

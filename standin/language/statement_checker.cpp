@@ -53,6 +53,15 @@ code::Block StatementChecker::CheckBody(const syntax::Block& body,
     });
 }
 
+code::Block StatementChecker::CheckFragment(const syntax::Block& statements) {
+    code::Block code;
+    scope_.EnterBlock();
+    for (const auto& statement : statements) {
+        Add(code, *statement);
+    }
+    return code;
+}
+
 template <typename Before>
 code::Block StatementChecker::CheckBlock(const syntax::Block& block, Before before) {
     code::Block code;

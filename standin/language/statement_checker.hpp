@@ -23,6 +23,9 @@ public:
     code::Block CheckBody(const syntax::Block& body, const std::vector<Parameter>& parameters,
                           const std::vector<syntax::Parameter>& places);
 
+    /// Statements whose variables stay: a block that is entered and never left.
+    code::Block CheckFragment(const syntax::Block& statements);
+
 private:
     /// Statements, in a block of their own that `before` can put variables into.
     template <typename Before>

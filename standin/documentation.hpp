@@ -1,0 +1,29 @@
+// The documentation of the members, for people at the prompt.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "standin/language/names.hpp"
+
+namespace standin {
+
+/// Texts by the names of members.
+class Documentation {
+public:
+    Documentation() = default;
+    /// Reads a file's text: behind each line `== Name` stands what there is to say about that
+    /// member. What is said in several places is shown in their order.
+    explicit Documentation(std::string_view text);
+
+    /// The text of a member, in any letter case; empty when there is none.
+    std::string_view Find(std::string_view name) const;
+    /// The names that contain `part` in any letter case, each in a line of its own.
+    std::string NamesWith(std::string_view part) const;
+
+private:
+    std::map<std::string, std::string, language::NameLess> texts_;
+};
+
+}  // namespace standin

@@ -1,0 +1,121 @@
+#include "standin/prompt.hpp"
+
+#include <iostream>
+#include <string_view>
+
+#include "standin/documentation.hpp"
+#include "standin/language/names.hpp"
+#include "standin/language/session.hpp"
+#include "standin/process.hpp"
+
+namespace standin {
+namespace {
+
+using language::SameName;
+using language::Source;
+using process::WriteError;
+using process::WriteOutput;
+
+constexpr std::string_view Greeting = "Type an expression or a statement; ? helps, Quit ends.\n";
+
+constexpr std::string_view HelpText =
+    R"(An expression prints its value, a statement runs, and variables stay:
+  BigNumberVQZ.Pi
+  Dim a As BigNumberVQZ = "1.5"
+  a.Multiply("2e30")
+If, For, Function and the like run when their End is there.
+? NAME tells about a member, such as ? Sqrt; Quit or Ctrl-D ends.
+)";
+
+std::string_view Trim(std::string_view text) {
+    constexpr std::string_view Blanks = " \t\r";
+    const auto first = text.find_first_not_of(Blanks);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(Blanks) + 1 - first);
+}
+
+Documentation ReadDocumentation(const std::optional<std::string>& file) {
+    if (!file) {
+        return {};
+    }
+    const auto text = process::ReadFile(*file);
+    if (!text) {
+        throw UsageError("cannot read the documentation " + *file);
+    }
+    return Documentation(*text);
+}
+
+/// Answers a line that begins with a question mark, which is left out of `question`.
+void Answer(const Documentation& documentation, std::string_view question) {
+    const auto words = Trim(question);
+    // Whose member it is does not matter: the classes have the same ones.
+    const auto name = words.substr(words.rfind('.') + 1);
+    if (name.empty()) {
+        WriteOutput(HelpText);
+        return;
+    }
+    if (const auto text = documentation.Find(name); !text.empty()) {
+        WriteOutput(text);
+        return;
+    }
+    const auto similar = documentation.NamesWith(name);
+    WriteOutput("Nothing is known about \"" + std::string(name) + "\"" +
+                (similar.empty() ? ".\n" : "; there are:\n" + similar));
+}
+
+/// Runs a fragment and tells what went wrong with it. Answers false when more lines must follow.
+bool RunFragment(Host& host, language::Session& session, const Source& fragment) {
+    try {
+        return session.Run(fragment);
+    } catch (const language::ProgramError& error) {
+        WriteError(fragment.Describe(error));
+    } catch (const language::Thrown& thrown) {
+        auto* const exception = thrown.exception().object();
+        WriteError(host.ClassOf(exception).name + ": " + host.Message(exception) + "\n");
+    } catch (const language::OutOfObjects& error) {
+        WriteError("OutOfMemoryException: " + std::string(error.what()) + "\n");
+    }
+    return true;
+}
+
+}  // namespace
+
+void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line) {
+    const auto documentation = ReadDocumentation(line.documentation);
+    const auto print = [](std::string_view text) {
+        WriteOutput(text);
+        WriteOutput("\n");
+    };
+    language::Session session(host, types, print, line.maximumSteps);
+    std::string fragment;
+    const auto readLine = [&](std::string& text) {
+        if (line.showsPrompts) {
+            WriteOutput(fragment.empty() ? "> " : "... ");
+        }
+        process::FlushOutput();
+        return static_cast<bool>(std::getline(std::cin, text));
+    };
+
+    WriteOutput(line.showsPrompts ? Greeting : "");
+    for (std::string next; readLine(next);) {
+        const auto words = Trim(next);
+        if (fragment.empty() && SameName(words, "Quit")) {
+            return;
+        }
+        if (fragment.empty() && words.starts_with('?')) {
+            Answer(documentation, words.substr(1));
+            continue;
+        }
+        fragment += next + "\n";
+        if (RunFragment(host, session, Source("input", fragment))) {
+            fragment.clear();
+        }
+    }
+    if (!fragment.empty()) {
+        WriteError("The input ended before this was whole:\n" + fragment);
+    }
+    WriteOutput(line.showsPrompts ? "\n" : "");
+}
+
+}  // namespace standin
