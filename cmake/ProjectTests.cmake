@@ -163,6 +163,8 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/commands_test.py")
   add_project_test(NAME lint/run_program_test
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
+  add_project_test(NAME lint/document_programs_test
+    COMMAND Python3::Interpreter "${tests}/document_programs_test.py")
   add_project_test(NAME lint/examples_check
     COMMAND Python3::Interpreter "${tests}/examples_check.py" "${PROJECT_SOURCE_DIR}/examples")
 endfunction()
