@@ -187,7 +187,7 @@ Print BigNumberVQZ.ATanh("1"))"}},
             {.section = Section::Hyperbolic,
              .summary = "The inverse hyperbolic cosine.",
              .range = "0 and above",
-             .fails = "numbers below 1, NaN and Nil",
+             .fails = "numbers below 1 or whose square is beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.ACosh("2"))",
              .failing = R"(
@@ -297,7 +297,7 @@ Print BigNumberVQZ.ASin("1.1"))"}},
              .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
-             .fails = "0, NaN and Nil",
+             .fails = "0, some angles beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Cot("1"))",
              .failing = R"(
@@ -310,7 +310,7 @@ Print BigNumberVQZ.Cot("0"))"}},
              .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
-             .fails = "NaN and Nil",
+             .fails = "some angles beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Tan("1"))",
              .failing = R"(
@@ -324,7 +324,7 @@ Print BigNumberVQZ.Tan(Nil))"}},
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .range = "-1 to 1",
-             .fails = "NaN and Nil",
+             .fails = "some angles beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Cos("1"))",
              .failing = R"(
@@ -338,7 +338,7 @@ Print BigNumberVQZ.Cos(Nil))"}},
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
              .range = "-1 to 1",
-             .fails = "NaN and Nil",
+             .fails = "some angles beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Sin("1")
 Print BigNumberVQZ.Sin(BigNumberVQZ.DegToRad("30")))",

@@ -193,8 +193,10 @@ Print pages.Modulate2)"}},
             Remainder<Value>(),
             {.section = Section::Arithmetic,
              .summary = "The remainder of the division, with the number's sign.",
-             .details = "Both numbers may have fractions.",
-             .fails = "division by zero, NaN and Nil",
+             .details = "Both numbers may have fractions. A quotient with more bits than the class "
+                        "leaves nothing of the remainder: it is 0 then, or the call fails.",
+             .fails =
+                 "division by zero, for some quotients with more bits than the class, NaN and Nil",
              .example = R"(
 Dim seven As BigNumberVQZ = "-7"
 Print seven.Modulate("2")

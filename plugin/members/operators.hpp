@@ -168,7 +168,10 @@ Print "0" \ a)"}},
             Remainder<Value>(),
             {.section = Section::Operators,
              .summary = "The remainder of me / other, with the number's sign.",
-             .fails = "division by zero, NaN and Nil",
+             .details = "A quotient with more bits than the class leaves nothing of the remainder: "
+                        "it is 0 then, or the operator fails.",
+             .fails =
+                 "division by zero, for some quotients with more bits than the class, NaN and Nil",
              .example = R"(
 Dim a As BigNumberVQZ = "-7"
 Print a Mod "2")",
@@ -180,7 +183,8 @@ Print a Mod "0")"}},
             {.section = Section::Operators,
              .summary = "The remainder of me / other: the operands are not swapped.",
              .details = "With a text on the left the number is still what is divided.",
-             .fails = "division by zero, NaN and Nil",
+             .fails =
+                 "division by zero, for some quotients with more bits than the class, NaN and Nil",
              .example = R"(
 Dim a As BigNumberVQZ = "-7"
 Print "2" Mod a)",
