@@ -17,7 +17,10 @@ std::string_view TakeLine(std::string_view& text) {
 }
 
 bool ContainsName(std::string_view name, std::string_view part) {
-    return !std::ranges::search(name, part, {}, language::FoldCase, language::FoldCase).empty();
+    const auto isSame = [](char left, char right) {
+        return language::FoldCase(left) == language::FoldCase(right);
+    };
+    return std::search(name.begin(), name.end(), part.begin(), part.end(), isSame) != name.end();
 }
 
 }  // namespace
