@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <exception>
 
 #include "number/number_value.hpp"
 #include "plugin/class_tables.hpp"
@@ -30,6 +31,12 @@ bool AsksForDebugLog(const char* setting) {
     return setting != nullptr && std::ranges::any_of(Words, [setting](const char* word) {
                return platform::EqualIgnoringCase(setting, word);
            });
+}
+
+/// Makes the language runtime prepare for exceptions. It would do so when the first one is thrown,
+/// and that may be for want of the very memory that this takes.
+void PrepareForExceptions() {
+    std::current_exception();
 }
 
 /// Hides the last shared method, whose declaration uses UInteger.
@@ -64,6 +71,7 @@ void InitPlugin() {
 }
 
 void PluginStartup() {
+    PrepareForExceptions();
     InitPlugin();
     if (HostVersion < FirstVersionWithUInteger) {
         HideUIntegerMethod<BigNumberValue>();

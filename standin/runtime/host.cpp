@@ -359,8 +359,8 @@ void Host::FailAllocation(Allocation kind, int n, bool persistent) {
     state_->failures.Arm(kind, n, persistent);
 }
 
-void Host::StopFailing() {
-    state_->failures.Disarm();
+int Host::StopFailing() {
+    return state_->failures.Disarm();
 }
 
 LedgerCounts Host::Counts() const {

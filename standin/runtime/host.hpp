@@ -239,7 +239,8 @@ public:
 
     // Strictness -----------------------------------------------------------------------------
     void FailAllocation(Allocation kind, int n, bool persistent);
-    void StopFailing();
+    /// Lets all allocations succeed again; how many failed since the last call of this.
+    int StopFailing();
     LedgerCounts Counts() const;
     /// What went wrong so far: over-release, use after free, double dispose, unknown handles.
     std::vector<std::string> Violations() const;
@@ -278,6 +279,8 @@ public:
     PluginLibrary(const PluginLibrary&) = delete;
     PluginLibrary& operator=(const PluginLibrary&) = delete;
 
+    /// The library's entry.
+    Routine entry() const { return reinterpret_cast<Routine>(entry_); }
     /// Calls the entry again, as no host is expected to.
     void CallEntry(host_interface::Resolver resolver);
 

@@ -149,9 +149,10 @@ void AllocationFailures::Arm(Allocation kind, int n, bool persistent) {
     PlanOf(kind) = Plan{n, persistent};
 }
 
-void AllocationFailures::Disarm() {
+int AllocationFailures::Disarm() {
     strings_ = {};
     objects_ = {};
+    return std::exchange(failed_, 0);
 }
 
 bool AllocationFailures::FailsNow(Allocation kind) {
@@ -166,6 +167,7 @@ bool AllocationFailures::FailsNow(Allocation kind) {
     if (!plan.persistent) {
         plan.countdown = 0;
     }
+    ++failed_;
     return true;
 }
 

@@ -88,7 +88,8 @@ class AllocationFailures {
 public:
     /// From now, the n-th allocation of that kind fails (1 is the next), or all from it on.
     void Arm(Allocation kind, int n, bool persistent);
-    void Disarm();
+    /// Nothing fails any more; how many allocations did.
+    int Disarm();
     /// Counts one allocation; whether it has to fail.
     bool FailsNow(Allocation kind);
 
@@ -101,6 +102,7 @@ private:
 
     Plan strings_;
     Plan objects_;
+    int failed_ = 0;
 };
 
 /// Remembers what handles that are gone stood for; the oldest are forgotten first.

@@ -31,7 +31,6 @@ add_library(table_test_support OBJECT
 target_link_libraries(table_test_support PUBLIC unit_test_support)
 target_compile_definitions(table_test_support PRIVATE
   "BIGNUMBERVQZ_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
-add_dependencies(table_test_support BigNumberVQZ)
 
 add_unit_tests(table_tests
   SOURCES
@@ -43,3 +42,4 @@ add_unit_tests(table_tests
     tables/text_tests.cpp
     tables/variant_tests.cpp
   LIBRARIES table_test_support unit_test_support standin_runtime)
+add_dependencies(table_tests BigNumberVQZ)

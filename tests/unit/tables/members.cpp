@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <span>
 #include <utility>
+#include <variant>
 
 #include <doctest/doctest.h>
 
@@ -29,6 +30,19 @@ std::string TypeAtEnd(std::string_view declaration) {
 /// Whether values of a type take two words.
 bool IsWide(std::string_view type) {
     return type == "int64" || type == "uint64" || type == "currency";
+}
+
+/// The type code and what the Variant holds. Asks the host for nothing new.
+std::string DescribedVariant(Object variant) {
+    standin::Host& host = standin::Host::Current();
+    const standin::VariantValue value = host.VariantContents(variant);
+    std::string description = std::to_string(host.VariantType(variant)) + " ";
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
+        description += std::to_string(*number);
+    } else if (const auto* text = std::get_if<String>(&value)) {
+        description += Described(*text);
+    }
+    return description;
 }
 
 struct Signature {
@@ -119,9 +133,7 @@ Answer Member::Take(const standin::ReturnValue& result) const {
     }
     if (resultType_ == "variant") {
         const HeldObject variant(std::bit_cast<Object>(result.low));
-        const HeldString text(host.VariantAsString(variant.Get()));
-        return {static_cast<bool>(variant),
-                std::to_string(host.VariantType(variant.Get())) + " " + host.Bytes(text.Get())};
+        return {static_cast<bool>(variant), DescribedVariant(variant.Get())};
     }
     if (resultType_ == "memoryblock") {
         const HeldObject block(std::bit_cast<Object>(result.low));

@@ -76,7 +76,7 @@ constexpr std::array<std::string_view, 1> OnText = {"string"};
 constexpr std::array<std::string_view, 1> OnVariants = {"variant"};
 constexpr std::array<std::string_view, 1> OnBlocks = {"memoryblock"};
 
-constexpr Recipe OfVariant(const char* name, MakeVariant make) {
+constexpr Recipe OfVariant(std::string_view name, MakeVariant make) {
     return {.name = name, .variant = make, .concerns = OnVariants};
 }
 

@@ -20,7 +20,7 @@ enum class BlockSample { None, Mantissa, Exponent, OfNoUse };
 
 /// One way to call members: a value for each kind of argument.
 struct Recipe {
-    const char* name = "";
+    std::string_view name;
     /// Numbers by their text; null is Nil.
     const char* self = "0.5";
     const char* number = "2";

@@ -1,0 +1,82 @@
+#include <cstdint>
+#include <cstring>
+#include <span>
+
+#include <dlfcn.h>
+#include <doctest/doctest.h>
+#include <link.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "tests/unit/support/imports.hpp"
+
+namespace tests {
+namespace {
+
+using host_interface::Routine;
+using Relocation = ElfW(Rel);
+
+/// What the dynamic section tells of a library; the loader has made addresses of the offsets.
+class Library {
+public:
+    explicit Library(Routine inside) {
+        Dl_info info = {};
+        void* map = nullptr;
+        REQUIRE(dladdr1(reinterpret_cast<const void*>(inside), &info, &map, RTLD_DL_LINKMAP) != 0);
+        map_ = static_cast<const link_map*>(map);
+    }
+
+    std::uintptr_t base() const { return map_->l_addr; }
+    const char* Name(const Relocation& relocation) const {
+        const auto* symbols = reinterpret_cast<const ElfW(Sym)*>(Value(DT_SYMTAB));
+        const auto* names = reinterpret_cast<const char*>(Value(DT_STRTAB));
+        return names + symbols[ELF32_R_SYM(relocation.r_info)].st_name;
+    }
+    std::span<const Relocation> Relocations(int table, int size) const {
+        return {reinterpret_cast<const Relocation*>(Value(table)),
+                Value(size) / sizeof(Relocation)};
+    }
+
+private:
+    std::uintptr_t Value(int tag) const {
+        for (const ElfW(Dyn)* entry = map_->l_ld; entry->d_tag != DT_NULL; ++entry) {
+            if (entry->d_tag == tag) {
+                return entry->d_un.d_ptr;
+            }
+        }
+        return 0;
+    }
+
+    const link_map* map_ = nullptr;
+};
+
+void MakeWritable(void* address) {
+    const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const std::uintptr_t page = reinterpret_cast<std::uintptr_t>(address) / pageSize * pageSize;
+    REQUIRE(mprotect(reinterpret_cast<void*>(page), pageSize, PROT_READ | PROT_WRITE) == 0);
+}
+
+}  // namespace
+
+Routine ReplaceImport(Routine inside, const char* name, Routine replacement) {
+    const Library library(inside);
+    Routine before = nullptr;
+    const auto replaceIn = [&](std::span<const Relocation> relocations) {
+        for (const Relocation& relocation : relocations) {
+            const auto type = ELF32_R_TYPE(relocation.r_info);
+            if ((type == R_386_JMP_SLOT || type == R_386_GLOB_DAT) &&
+                std::strcmp(library.Name(relocation), name) == 0) {
+                auto* slot = reinterpret_cast<Routine*>(library.base() + relocation.r_offset);
+                // The loader has closed the page after it filled the slots.
+                MakeWritable(slot);
+                before = *slot;
+                *slot = replacement;
+            }
+        }
+    };
+    replaceIn(library.Relocations(DT_REL, DT_RELSZ));
+    replaceIn(library.Relocations(DT_JMPREL, DT_PLTRELSZ));
+    return before;
+}
+
+}  // namespace tests
