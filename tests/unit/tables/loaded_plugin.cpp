@@ -86,9 +86,13 @@ int NumberClass::Flags(Object object) {
     return static_cast<unsigned char>(bytes.back());
 }
 
-LoadedPlugin::LibraryCopy::LibraryCopy() {
+LoadedPlugin::LibraryCopy::LibraryCopy(LibraryFile file)
+    : path_(BIGNUMBERVQZ_LIBRARY), isCopy_(file == LibraryFile::Copy) {
+    if (!isCopy_) {
+        return;
+    }
     namespace fs = std::filesystem;
-    const fs::path original = BIGNUMBERVQZ_LIBRARY;
+    const fs::path original = path_;
     fs::path copy = fs::temp_directory_path();
     copy /= "table_tests_" + std::to_string(std::random_device()());
     copy += original.extension();
@@ -97,13 +101,17 @@ LoadedPlugin::LibraryCopy::LibraryCopy() {
 }
 
 LoadedPlugin::LibraryCopy::~LibraryCopy() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
+    if (isCopy_) {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
 }
 
 LoadedPlugin::LoadedPlugin(standin::HostOptions options,
-                           const std::optional<std::string>& debugSetting, bool withResolver)
-    : debugSetting_("VQZDEBUG", debugSetting),
+                           const std::optional<std::string>& debugSetting, bool withResolver,
+                           LibraryFile file)
+    : file_(file),
+      debugSetting_("VQZDEBUG", debugSetting),
       host_(std::move(options)),
       library_(std::in_place, file_.path(), withResolver),
       classes_{NumberClass(host_, "BigNumberVQZ", 2 + 8),

@@ -143,6 +143,9 @@ private:
     std::size_t wordCount_;
 };
 
+/// The file that is loaded: a copy, or the library itself in a process that loads it only once.
+enum class LibraryFile { Copy, Original };
+
 /// A host with the library loaded. At its end the library is unloaded and the ledger must be empty.
 /// Every one has the library's first state, however often the process loaded it before.
 class LoadedPlugin {
@@ -150,7 +153,7 @@ public:
     /// `debugSetting` is the value of VQZDEBUG while the library starts.
     explicit LoadedPlugin(standin::HostOptions options = {},
                           const std::optional<std::string>& debugSetting = std::nullopt,
-                          bool withResolver = true);
+                          bool withResolver = true, LibraryFile file = LibraryFile::Copy);
     /// In a host of this release.
     explicit LoadedPlugin(double version);
     ~LoadedPlugin();
@@ -184,7 +187,7 @@ private:
     /// got; a file of another name is another library.
     class LibraryCopy {
     public:
-        LibraryCopy();
+        explicit LibraryCopy(LibraryFile file);
         ~LibraryCopy();
         LibraryCopy(const LibraryCopy&) = delete;
         LibraryCopy& operator=(const LibraryCopy&) = delete;
@@ -192,6 +195,7 @@ private:
 
     private:
         std::string path_;
+        bool isCopy_;
     };
 
     LibraryCopy file_;

@@ -86,6 +86,7 @@ constexpr std::array AllRecipes = {
     Recipe{.name = "no numbers", .self = "NaN", .number = "NaN", .concerns = OnNumbers},
     Recipe{.name = "long numbers", .self = Long, .number = Long, .concerns = OnNumbers},
     Recipe{.name = "long number and zero", .self = Long, .number = "0", .concerns = OnNumbers},
+    Recipe{.name = "huge number", .self = "-1.25e300", .concerns = OnNumbers},
     Recipe{.name = "no number in the text, no such base",
            .self = Long,
            .text = "a text without any number in it",
