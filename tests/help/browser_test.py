@@ -13,6 +13,8 @@ from playwright.sync_api import sync_playwright
 BROWSER = "/usr/bin/chromium"
 DESKTOP = {"width": 1280, "height": 900}
 PHONE = {"width": 375, "height": 800}
+CONTRAST = "color-contrast"
+REPEATED = [".links li + li", "tbody tr + tr", ".member ~ .member"]
 
 
 class BrowserTest(unittest.TestCase):
@@ -98,23 +100,21 @@ class BrowserTest(unittest.TestCase):
         page.fill("#filter", "number")
         self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), PHONE["width"])
 
-    def assert_accessible(self, page, **rules) -> None:
-        found = Axe().run(page, options={"rules": rules})
+    def assert_accessible(self, page, options: dict) -> None:
+        found = Axe().run(page, options=options)
         self.assertEqual(found.generate_report() if found.violations_count else "", "")
 
     def test_accessible(self) -> None:
-        self.assert_accessible(self.open(PHONE), **{"color-contrast": {"enabled": False}})
+        page = self.open(PHONE)
+        self.assert_accessible(page, {"rules": {CONTRAST: {"enabled": False}}})
 
     def test_contrast(self) -> None:
-        """Looking at every text takes long, so of the members, which are all alike, a few must do."""
+        """Of what repeats, the first of each kind is looked at: looking at every text takes minutes."""
         for scheme in ("light", "dark"):
             with self.subTest(scheme=scheme):
                 page = self.open(DESKTOP, scheme)
-                page.fill("#filter", "stringvalue")
-                self.assert_accessible(page)
-                page.fill("#filter", "")
-                page.evaluate("document.getElementById('members').hidden = true")
-                self.assert_accessible(page)
+                page.add_style_tag(content=f"{', '.join(REPEATED)} {{ display: none; }}")
+                self.assert_accessible(page, {"runOnly": [CONTRAST]})
 
 
 if __name__ == "__main__":

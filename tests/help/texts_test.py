@@ -9,7 +9,7 @@ import unittest
 
 ROW = """
 #include "plugin/members/description.hpp"
-vqz::MethodDescription<vqz::HelpTexts::{texts}> row = {{
+vqz::MethodDescription<vqz::HelpTexts::Dropped> row = {{
     "Zero as BigNumberVQZ", {{}}, {{.section = vqz::Section::Constants, {help}}}}};
 """
 
@@ -18,14 +18,10 @@ class TextsTest(unittest.TestCase):
     command: list[str]
 
     def compiles(self, help_texts: str) -> bool:
-        """Whether a row compiles; it is the same for the library, which drops the texts."""
-        results = [
-            subprocess.run(self.command, input=ROW.format(texts=texts, help=help_texts), text=True,
-                           capture_output=True, check=False).returncode == 0
-            for texts in ("Kept", "Dropped")
-        ]
-        self.assertEqual(results[0], results[1])
-        return results[0]
+        """Whether a row compiles for the library, which drops the texts but wants to see them."""
+        result = subprocess.run(self.command, input=ROW.format(help=help_texts), text=True,
+                                capture_output=True, check=False)
+        return result.returncode == 0
 
     def test_summary_and_example_are_needed(self) -> None:
         self.assertTrue(self.compiles('.summary = "0.", .example = "Print 0"'))
