@@ -44,10 +44,11 @@ private:
 /// The allocator of containers that count.
 template <typename T>
 struct BudgetAllocator {
-    using value_type = T;
+    using value_type = T;  // NOLINT(readability-identifier-naming): the library's name
 
     BudgetAllocator() = default;
     template <typename U>
+    // NOLINTNEXTLINE(google-explicit-constructor): containers convert the allocators of their parts
     explicit(false) BudgetAllocator(const BudgetAllocator<U>&) noexcept {}
 
     T* allocate(std::size_t count) {
