@@ -13,6 +13,7 @@ import textwrap
 import jinja2
 
 import markup
+import speed
 from examples import ExampleError, ExampleRunner
 from members import Member, read_sections
 
@@ -34,12 +35,6 @@ def measured_accuracy(runner: ExampleRunner) -> markup.Guide:
     """What docs/accuracy.md tells, but for how the figures are measured again."""
     text = (DOCS / "accuracy.md").read_text(encoding="utf-8")
     return markup.Guide(text.partition("\n## Measuring")[0], 1, runner)
-
-
-def speed_chart() -> str:
-    """The chart of the measured speed, where there is one."""
-    chart = DOCS / "speed.svg"
-    return f"<figure>{chart.read_text(encoding='utf-8')}</figure>" if chart.exists() else ""
 
 
 def indented(text: str) -> str:
@@ -82,7 +77,7 @@ def main() -> None:
         program=markup.program, with_places=markup.with_places,
         with_code=markup.with_code, count=len(members),
         introduction=parts[0], guides=parts[1], surprises=parts[2],
-        appendices={"accuracy": accuracy.html(), "speed": speed_chart()},
+        appendices={"accuracy": accuracy.html(), "speed": speed.measured(DOCS)},
         style=(HERE / "page" / "style.css").read_text(encoding="utf-8"),
         script=(HERE / "page" / "script.js").read_text(encoding="utf-8"))
     output = pathlib.Path(folder)

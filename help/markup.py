@@ -44,8 +44,8 @@ def with_code(text: str) -> str:
 LABELS = {
     Kind.PRINTS: "Prints",
     Kind.RAISES: "Raises",
-    Kind.LOGS: "Debug log",
-    Kind.REJECTED: "The language says",
+    Kind.LOGS: "Logs",
+    Kind.REJECTED: "Refused",
 }
 
 
