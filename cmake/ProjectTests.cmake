@@ -180,3 +180,16 @@ function(add_completeness_tests)
   add_project_test(NAME completeness/texts
     COMMAND Python3::Interpreter "${folder}/texts.py" "${PROJECT_SOURCE_DIR}")
 endfunction()
+
+# add_host_tests([sample])
+#
+# A program with all members on hosts of every age without each function, or on so many of them.
+function(add_host_tests)
+  set(options)
+  if(ARGC GREATER 0)
+    set(options --sample 20261121 ${ARGV0})
+  endif()
+  add_project_test(NAME hosts/matrix
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/hosts/matrix.py" ${options}
+      "${PROJECT_SOURCE_DIR}/tests/golden/missing-functions.txt" -- ${standin_command})
+endfunction()

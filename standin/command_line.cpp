@@ -38,6 +38,8 @@ What kind of host to be:
                        the plug-in is called with another x87 control word
   --blocks-without-data
                        memory blocks have a size but no data
+  --spare-references   what is released too often lives on, and the ledger tells by how many
+                       references it is off
   --fail-string N      the N-th string that is made while the program runs fails
   --fail-object N      the N-th object that is made while the program runs fails
 
@@ -93,6 +95,7 @@ constexpr auto Switches = std::to_array<Switch>({
     {"--unterminated-strings", [](CommandLine& line) { line.host.unterminatedStrings = true; }},
     {"--misaligned-stack", [](CommandLine& line) { line.host.misalignedStack = true; }},
     {"--changed-control-word", [](CommandLine& line) { line.host.changedControlWord = true; }},
+    {"--spare-references", [](CommandLine& line) { line.host.spareReferences = 1U << 20U; }},
     {"--blocks-without-data", [](CommandLine& line) { line.host.blocksWithoutData = true; }},
 });
 

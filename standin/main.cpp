@@ -100,6 +100,12 @@ bool ReportLedger(const Host& host, bool showsCounts) {
                    " alive\nobjects: " + std::to_string(counts.objectsMade) + " made, " +
                    std::to_string(counts.objectsAlive) +
                    " alive\nstring data: " + std::to_string(counts.stringDataHeld) + " held\n");
+        for (const auto& missing : host.options().missing) {
+            if (const auto found = host.lookups().find(missing); found != host.lookups().end()) {
+                WriteError("looked for in vain: " + missing + ", " + std::to_string(found->second) +
+                           " times\n");
+            }
+        }
     }
     const auto leaks = host.Leaks();
     if (!leaks.empty()) {

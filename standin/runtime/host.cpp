@@ -32,6 +32,18 @@ constexpr std::array<std::uint32_t, 3> StackOffsets = {4, 8, 12};
 
 Host* TheHost = nullptr;
 
+/// What is left in the account of a host with spare references.
+void AppendBalances(std::vector<std::string>& lines, const LedgerCounts& counts) {
+    const auto append = [&](const char* what, std::int64_t count) {
+        if (count != 0) {
+            lines.push_back(std::string(what) + ": off by " + std::to_string(count));
+        }
+    };
+    append("references of strings", counts.stringReferences);
+    append("references of objects", counts.objectReferences);
+    append("string data", static_cast<std::int64_t>(counts.stringDataHeld));
+}
+
 std::uintptr_t AsWord(Object object) {
     return reinterpret_cast<std::uintptr_t>(object);
 }
@@ -50,8 +62,9 @@ Host::State::State(Host& host, HostOptions hostOptions)
     : options(std::move(hostOptions)),
       quarantine(violations, options.remembersReleased),
       classes(options.missing),
-      strings(options.unterminatedStrings, violations, failures, quarantine),
-      objects(strings, violations, failures, quarantine,
+      strings(options.unterminatedStrings, options.spareReferences, violations, failures,
+              quarantine),
+      objects(strings, options.spareReferences, violations, failures, quarantine,
               [&host](Routine destructor, Object object) {
                   const std::array words = {AsWord(object)};
                   host.Call(destructor, words, ReturnKind::None);
@@ -379,6 +392,10 @@ std::vector<std::string> Host::Leaks() const {
     std::vector<std::string> lines = Violations();
     if (state_->raised != nullptr) {
         lines.emplace_back("a raised exception was not taken");
+    }
+    if (state_->options.spareReferences != 0) {
+        AppendBalances(lines, Counts());
+        return lines;
     }
     state_->strings.AppendLeaks(lines);
     state_->objects.AppendLeaks(lines);

@@ -55,6 +55,10 @@ struct HostOptions {
     /// Whether what was released stays known and untouched for a while, so that its use is noticed.
     /// Without that, calls cost the host less, which is for measuring.
     bool remembersReleased = true;
+    /// References that every new string and object has beyond its maker's, so that one which is
+    /// released too often lives on. They count in no ledger; `Leaks` then tells by how many
+    /// references the account is off.
+    std::uint32_t spareReferences = 0;
 };
 
 /// How the words that a plug-in routine leaves in the registers are to be read.
@@ -135,6 +139,10 @@ struct LedgerCounts {
     std::uint64_t objectsMade = 0;
     std::uint64_t objectsAlive = 0;
     std::uint64_t stringDataHeld = 0;
+    /// References to all strings and objects, without the spare ones and those that exceptions and
+    /// Variants have to their texts; below zero where more were released than there were.
+    std::int64_t stringReferences = 0;
+    std::int64_t objectReferences = 0;
 };
 
 /// The host. Made before a plug-in is loaded, destroyed after it was unloaded.

@@ -69,6 +69,7 @@ Object ObjectStore::Make(const ClassEntry& type, ObjectPayload payload) {
     entry.type = &type;
     entry.payload = std::move(payload);
     entry.serial = ++lastSerial_;
+    entry.references += spareReferences_;
     std::fill_n(entry.memory.data(), entry.memory.size(), NoiseByte);
     ForEachData(entry, [](std::span<std::byte> data) { std::ranges::fill(data, std::byte{0}); });
     auto* object = reinterpret_cast<Object>(entry.memory.data());
@@ -112,6 +113,22 @@ void ObjectStore::Count(LedgerCounts& counts) const {
     counts.objectsMade = lastSerial_ - resetSerial_;
     counts.objectsAlive = static_cast<std::uint64_t>(std::ranges::count_if(
         objects_.Living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
+    for (const auto& [handle, entry] : objects_.Living()) {
+        counts.objectReferences += std::int64_t{entry.references} - spareReferences_;
+    }
+    counts.stringReferences -= TextsHeld();
+}
+
+std::int64_t ObjectStore::TextsHeld() const {
+    return std::ranges::count_if(objects_.Living(), [](const auto& item) {
+        const ObjectPayload& payload = item.second.payload;
+        if (const auto* exception = std::get_if<ExceptionPayload>(&payload)) {
+            return exception->message != nullptr;
+        }
+        const auto* variant = std::get_if<VariantPayload>(&payload);
+        const String* text = variant == nullptr ? nullptr : std::get_if<String>(&variant->value);
+        return text != nullptr && *text != nullptr;
+    });
 }
 
 void ObjectStore::AppendLeaks(std::vector<std::string>& lines) const {

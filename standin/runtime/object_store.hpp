@@ -55,9 +55,10 @@ public:
     /// Calls a destructor routine of a plug-in.
     using CallDestructor = std::function<void(Routine destructor, Object object)>;
 
-    ObjectStore(StringStore& strings, ViolationList& violations, AllocationFailures& failures,
-                Quarantine& quarantine, CallDestructor callDestructor)
+    ObjectStore(StringStore& strings, std::uint32_t spareReferences, ViolationList& violations,
+                AllocationFailures& failures, Quarantine& quarantine, CallDestructor callDestructor)
         : strings_(strings),
+          spareReferences_(spareReferences),
           violations_(violations),
           failures_(failures),
           quarantine_(quarantine),
@@ -95,9 +96,12 @@ public:
 private:
     void Die(Object object, ObjectEntry& entry, const char* user);
     void ReleasePayload(ObjectPayload& payload, const char* user);
+    /// How many texts are held by exceptions and Variants.
+    std::int64_t TextsHeld() const;
     void CheckSurroundings(const ObjectEntry& entry, const char* user);
 
     StringStore& strings_;
+    std::uint32_t spareReferences_;
     ViolationList& violations_;
     AllocationFailures& failures_;
     Quarantine& quarantine_;

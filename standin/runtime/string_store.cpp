@@ -65,6 +65,7 @@ String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding
     entry.textHash = std::hash<std::string_view>{}(bytes);
     entry.encoding = encoding;
     entry.serial = ++lastSerial_;
+    entry.references += spareReferences_;
 
     auto* record = reinterpret_cast<StringRecord*>(entry.record.data());
     record->hostWord0 = std::bit_cast<void*>(NoiseWord);
@@ -215,6 +216,9 @@ void StringStore::Count(LedgerCounts& counts) const {
     counts.stringsMade = lastSerial_ - resetSerial_;
     counts.stringsAlive = static_cast<std::uint64_t>(std::ranges::count_if(
         strings_.Living(), [&](const auto& item) { return item.second.serial > resetSerial_; }));
+    for (const auto& [handle, entry] : strings_.Living()) {
+        counts.stringReferences += std::int64_t{entry.references} - spareReferences_;
+    }
     counts.stringDataHeld = static_cast<std::uint64_t>(std::ranges::count_if(
         lent_, [&](const auto& item) { return item.second.serial > resetLentSerial_; }));
 }

@@ -26,9 +26,10 @@ struct StringEntry {
 
 class StringStore {
 public:
-    StringStore(bool unterminated, ViolationList& violations, AllocationFailures& failures,
-                Quarantine& quarantine)
+    StringStore(bool unterminated, std::uint32_t spareReferences, ViolationList& violations,
+                AllocationFailures& failures, Quarantine& quarantine)
         : unterminated_(unterminated),
+          spareReferences_(spareReferences),
           violations_(violations),
           failures_(failures),
           quarantine_(quarantine) {}
@@ -80,6 +81,7 @@ private:
     void CheckUnchanged(const StringEntry& entry, const char* user);
 
     bool unterminated_;
+    std::uint32_t spareReferences_;
     ViolationList& violations_;
     AllocationFailures& failures_;
     Quarantine& quarantine_;

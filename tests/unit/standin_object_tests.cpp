@@ -369,6 +369,30 @@ TEST_CASE("a host may give memory blocks without a data pointer") {
     CHECK(host.Leaks().empty());
 }
 
+TEST_CASE("with spare references the account tells by how many it is off") {
+    Host host(HostOptions{.spareReferences = 100});
+    String text = host.MakeString("abc", HostTextEncoding::Ascii);
+    Object exception = host.MakeObject(*host.FindClass("RuntimeException"));
+    host.SetMessage(exception, "an exception's own text");
+    CHECK(host.Counts().stringReferences == 1);
+    CHECK(host.Counts().objectReferences == 1);
+    host.Unlock(exception);
+    CHECK(Only(host.Leaks()) == "references of strings: off by 1");
+    host.Unlock(text);
+    CHECK(host.Leaks().empty());
+
+    // What is released too often lives on.
+    host.Unlock(text);
+    host.Unlock(exception);
+    CHECK(host.Leaks() == std::vector<std::string>{"references of strings: off by -1",
+                                                   "references of objects: off by -1"});
+    CHECK(host.Bytes(text) == "abc");
+    CHECK(host.Message(exception) == "an exception's own text");
+    host.Lock(text);
+    host.Lock(exception);
+    CHECK(host.Leaks().empty());
+}
+
 TEST_CASE("variants of the host's own making") {
     Host host;
     const auto typeOf =

@@ -1,0 +1,318 @@
+"""Runs a program that uses all members on hosts of every age, each lacking one function in turn.
+
+usage: matrix.py [--sample SEED COUNT] [--write] TABLE -- COMMAND...
+
+COMMAND starts the stand-in host with the library. The program is made of steps.txt, for both number
+classes. On every host it must come to its end without a crash, a leak or a wrong use of the host; the
+functions to take away are those that the library asks for. What it shows otherwise than on a host that
+lacks nothing is compared with TABLE; --write keeps it there instead. With --sample only some of the
+hosts are tried, drawn with that seed.
+
+A host without "RegisterPluginVersion" is the one that crashes, while the library starts. Without a
+function that locks, unlocks or gives back, the account must be off by exactly the calls that the
+library tried to make.
+"""
+
+import collections
+import dataclasses
+import os
+import pathlib
+import random
+import re
+import subprocess
+import sys
+import tempfile
+
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1]))
+import output_check  # noqa: E402
+
+AGES = ("none", "2010.028", "2010.029", "2011.99", "2012.0", "2013.0", "2013.03", "2013.04", "2014.99",
+        "2015.0", "2020.01", "2020.02", "current")
+CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
+NOTHING = "nothing"
+CRASH = ["The library crashes while it starts."]
+
+# What a missing function does to the account: which balance, and its sign for each call not made.
+BALANCES = {
+    "REALLockString": ("references of strings", -1),
+    "REALUnlockString": ("references of strings", 1),
+    "REALLockObject": ("references of objects", -1),
+    "REALUnlockObject": ("references of objects", 1),
+    "PluginDisposeStringData": ("string data", 1),
+}
+# A buffer that was not given back is forgotten when its record is used anew.
+REFILLED = "PluginGetStringData: the record is filled again, but "
+CRASHING = "RegisterPluginVersion"
+VERSION = "REALGetRBVersion"
+
+HEAD = """
+Function ClassOf(e As RuntimeException) As String
+  If e IsA NilObjectException Then Return "NilObjectException"
+  If e IsA OutOfBoundsException Then Return "OutOfBoundsException"
+  If e IsA OutOfMemoryException Then Return "OutOfMemoryException"
+  If e IsA UnsupportedOperationException Then Return "UnsupportedOperationException"
+  If e IsA BigNumberErrorExceptionVQZ Then Return "BigNumberErrorExceptionVQZ"
+  Return "RuntimeException"
+End Function
+Function Shown(text As String) As String
+  Return "'" + ReplaceAll(text, Chr(0), "\\0") + "'"
+End Function
+Function Shown(value As Variant) As String
+  If value.IsNull Then Return "Nil"
+  Return value.StringValue + " of type " + Str(VarType(value))
+End Function
+Function Shown(block As MemoryBlock) As String
+  If block Is Nil Then Return "Nil"
+  Return Str(block.Size) + " bytes, " + Hex(block.UInt32Value(block.Size - 4)) + " at their end"
+End Function
+"""
+# Numbers are shown without the help of the host: neither text nor objects are made for it.
+CLASS_HEAD = """
+Function Shown(number As $) As String
+  If number Is Nil Then Return "Nil"
+  If number.IsNan Then Return "NaN"
+  Try
+    Return "number " + Str(number.DoubleValue)
+  Catch e As RuntimeException
+    Return "number beyond a Double"
+  End Try
+End Function
+Sub Steps(kind As $)
+  Dim x As New $(-12.5)
+  Dim y As New $
+  Dim zero As New $
+  Dim one As New $(CType(1, Int32))
+  Dim two As New $(CType(2, Int32))
+  Dim four As New $(CType(4, Int32))
+  Dim six As New $(CType(6, Int32))
+  Dim big As New $(1e18)
+  Dim none As $
+  Dim huge As String = "1eNINES"
+  Dim rest As String
+  Dim found As Boolean
+""".replace("NINES", 200 * "9")
+STEP = """  Try
+{statements}
+    Print "{label}" + Chr(9) + Shown({value})
+  Catch e As RuntimeException
+    Print "{label}" + Chr(9) + ClassOf(e) + " '" + e.Message + "'"
+  End Try
+"""
+CLASS_END = """End Sub
+Dim as$ As $
+Steps(as$)
+"""
+
+
+def program_for(age: str) -> str:
+    """The program for hosts of that age."""
+    lines = pathlib.Path(__file__).with_name("steps.txt").read_text("utf-8").splitlines()
+    steps = []
+    for line in lines:
+        since, step = re.fullmatch(r"(?:(\d+): )?(.*)", line).groups()
+        new_enough = since is None or age == "current" or age != "none" and float(age) >= float(since)
+        if step and not step.startswith("#") and new_enough:
+            steps.append(step)
+    program = HEAD
+    for name, bits in CLASSES.items():
+        text = CLASS_HEAD
+        for step in steps:
+            *statements, value = step.split(" | ")
+            text += STEP.format(statements="\n".join(f"    {statement}" for statement in statements),
+                                label=f"{bits}: {step}".replace('"', '""').replace("$", "%"),
+                                value=value)
+        program += (text + CLASS_END).replace("$", name).replace("%", "Number")
+    return program
+
+
+@dataclasses.dataclass
+class Outcome:
+    """What became of a run: what each step showed, and what the host says."""
+
+    status: int
+    shown: dict[str, str]
+    errors: str
+
+    def problems(self, missing: str) -> list[str]:
+        """What is wrong, whatever the program shows."""
+        if missing == CRASHING:
+            return [] if self.status not in (0, 1, 2, 3) else ["the library did not crash"]
+        balances = dict(re.findall(r"^  (.*): off by (-?\d+)$", self.errors, re.MULTILINE))
+        wrong = re.findall(r"^  (.*)$", self.errors.partition("The ledger is not clean")[2], re.MULTILINE)
+        problems = [line for line in wrong if ": off by " not in line]
+        tried = re.search(f"looked for in vain: {missing}, (\\d+) times", self.errors)
+        if missing in BALANCES and tried:
+            what, sign = BALANCES[missing]
+            actual = int(balances.pop(what, 0))
+            if what == "string data":
+                refilled = [line for line in problems if line.startswith(REFILLED)]
+                problems = [line for line in problems if line not in refilled]
+                actual += len(refilled)
+            if actual != sign * int(tried[1]):
+                problems.append(f"{what} should be off by {sign * int(tried[1])}:\n{self.errors}")
+        problems += [f"{what} off by {count}" for what, count in balances.items()]
+        if (self.status == 3) != (missing in BALANCES and tried is not None) or self.status not in (0, 2, 3):
+            problems.append(f"the status is {self.status}:\n{self.errors}")
+        return problems
+
+
+class Hosts:
+    """Runs the program; the library's calls and lookups are noted."""
+
+    def __init__(self, command: list[str], folder: pathlib.Path):
+        self.command = command
+        self.folder = folder
+        self.record = folder / "record"
+        self.runs = 0
+        self.programs = {}
+        for age in AGES:
+            self.programs[age] = folder / f"{age}.xojo_script"
+            self.programs[age].write_text(program_for(age), "utf-8")
+
+    def run(self, age: str, missing: str = NOTHING) -> Outcome:
+        options = ["--ledger"]
+        if age != "current":
+            options += ["--host-version", age]
+        if missing != NOTHING:
+            options += ["--without", missing]
+        if missing in BALANCES:
+            options.append("--spare-references")
+        # A host that tells no version is an old one for the library.
+        program = self.programs["none" if missing == VERSION else age]
+        result = output_check.run([*self.command, *options, str(program)],
+                                  {"STANDIN_CALL_RECORD": str(self.record)})
+        self.runs += 1
+        output = result.stdout.decode(**output_check.ENCODING).splitlines()
+        shown = {}
+        for line in output:
+            step, _, value = line.rpartition("\t")
+            while step in shown:
+                step += " again"
+            shown[step] = value
+        return Outcome(result.returncode, shown, result.stderr.decode(**output_check.ENCODING))
+
+    def noted(self, kind: str) -> set[tuple[str, ...]]:
+        """The fields of the record's lines of that kind."""
+        lines = self.record.read_text("utf-8").splitlines()
+        return {tuple(line.split("\t")[1:]) for line in lines if line.startswith(f"{kind}\t")}
+
+
+def differences(plain: Outcome, outcome: Outcome, missing: str) -> list[str]:
+    """What a program sees otherwise, one line each, in the order of what it sees."""
+    if missing == CRASHING:
+        return CRASH
+    if outcome.status == 2:
+        return ["The program is refused: " + outcome.errors.splitlines()[0].partition("error: ")[2]]
+    by_value = collections.defaultdict(list)
+    for step, value in plain.shown.items():
+        other = outcome.shown.get(step, "not reached")
+        if other != value:
+            bits, _, name = step.partition(": ")
+            by_value[name].append((bits, other))
+    grouped = collections.defaultdict(list)
+    for name, changes in by_value.items():
+        values = {value for _, value in changes}
+        if len(changes) == len(CLASSES) and len(values) == 1:
+            grouped[values.pop()].append(name)
+        else:
+            for bits, value in changes:
+                grouped[value].append(f"{name} ({bits})")
+    return [f"{name} -> {value}" for value, names in grouped.items() for name in names]
+
+
+Rows = dict[tuple[str, str], list[str]]
+
+
+def render(rows: Rows, plain: dict[str, str]) -> str:
+    """The table as text: first what is seen on a current host, then, for each function, the hosts
+    that it matters on, in groups that see the same."""
+    text = "What the program shows on a current host that lacks nothing\n\n"
+    text += "".join(f"  {step} -> {value}\n" for step, value in plain.items())
+    for missing in sorted({missing for _, missing in rows}):
+        groups = collections.defaultdict(list)
+        for age in AGES:
+            if (age, missing) in rows:
+                groups[tuple(rows[age, missing])].append(age)
+        text += f"\nWithout {missing}\n"
+        for lines, ages in groups.items():
+            text += f"\n  on hosts {', '.join(ages)}\n"
+            text += "".join(f"    {line}\n" for line in lines or ["nothing changes"])
+    return text
+
+
+def parse(text: str) -> Rows:
+    """The rows of a table, one for each age and function."""
+    rows = {}
+    for block in re.split(r"^Without ", text, flags=re.MULTILINE)[1:]:
+        missing, _, rest = block.partition("\n")
+        for group in re.split(r"^  on hosts ", rest, flags=re.MULTILINE)[1:]:
+            ages, *lines = group.splitlines()
+            shown = [line[4:] for line in lines if line]
+            for age in ages.split(", "):
+                rows[age, missing] = [] if shown == ["nothing changes"] else shown
+    return rows
+
+
+def main() -> None:
+    words, command = sys.argv[1:sys.argv.index("--")], sys.argv[sys.argv.index("--") + 1:]
+    *options, table = words
+    with tempfile.TemporaryDirectory() as folder:
+        hosts = Hosts(command, pathlib.Path(folder))
+        check(hosts, options, pathlib.Path(table))
+
+
+def check(hosts: Hosts, options: list[str], table: pathlib.Path) -> None:
+    problems = []
+    known = parse(table.read_text("utf-8")) if table.exists() else {}
+    rows: Rows = {}
+    plain: dict[str, Outcome] = {}
+
+    def look(age: str, missing: str) -> None:
+        if age not in plain:
+            plain[age] = hosts.run(age)
+            problems.extend(f"on {age}: {what}" for what in plain[age].problems(NOTHING))
+            if plain[age].status != 0:
+                problems.append(f"on {age}: {plain[age].errors}")
+        outcome = hosts.run(age, missing)
+        problems.extend(f"on {age} without {missing}: {what}" for what in outcome.problems(missing))
+        rows[age, missing] = differences(plain[age], outcome, missing)
+
+    if options[:1] == ["--sample"]:
+        seed, count = map(int, options[1:3])
+        for age, missing in random.Random(seed).sample(sorted(known), count):
+            look(age, missing)
+        expected = {place: known[place] for place in rows}
+    else:
+        # A name may be asked for only where another is missing, so the names grow on the way.
+        for age in AGES:
+            plain[age] = hosts.run(age)
+            problems += [f"on {age}: {what}" for what in plain[age].problems(NOTHING)]
+        uncalled = {fields for fields in hosts.noted("entry")} - {
+            fields[:4] for fields in hosts.noted("call")}
+        problems += [f"the steps leave out {' '.join(fields)}" for fields in sorted(uncalled)]
+        done: set[str] = set()
+        while missing_names := {fields[0] for fields in hosts.noted("lookup")} - done:
+            for missing in sorted(missing_names):
+                for age in AGES:
+                    look(age, missing)
+            done |= missing_names
+        expected = known
+
+    current = plain["current"].shown if "current" in plain else {}
+    print(f"{hosts.runs} runs on {len({age for age, _ in rows})} ages of hosts without each of "
+          f"{len({missing for _, missing in rows})} functions: {len(rows)} hosts, "
+          f"{sum(1 for lines in rows.values() if lines)} of them seen by the program")
+    if "--write" in options:
+        table.write_text(render(rows, current), "utf-8")
+    elif rows != expected or ("--sample" not in options and
+                              table.read_text("utf-8") != render(rows, current)):
+        shown = current if "--sample" not in options else {}
+        problems.append(output_check.difference(render(expected, shown).encode(),
+                                                render(rows, shown).encode())
+                        or "what is shown on a current host differs")
+    if problems:
+        sys.exit("\n".join(problems))
+
+
+if __name__ == "__main__":
+    main()
