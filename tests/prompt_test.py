@@ -27,9 +27,9 @@ PATIENCE = 60  # seconds
 class Terminal:
     """A command on a terminal of its own."""
 
-    def __init__(self, *command: str | pathlib.Path):
+    def __init__(self, *command: str | pathlib.Path, columns: int = 100):
         terminal, inner = pty.openpty()
-        fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 25, 100, 0, 0))
+        fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 25, columns, 0, 0))
         self.process = subprocess.Popen(
             command,
             stdin=inner,
@@ -103,6 +103,18 @@ class PromptTest(unittest.TestCase):
             prompt.wait_for(r"\.\.\. ")
             prompt.press("Print i\rNext\r")
             prompt.wait_for(r"\n8\s+> ")
+            prompt.press("\x04")
+            self.assertEqual(prompt.process.wait(PATIENCE), 0)
+
+    def test_terminal_that_does_not_tell_its_width(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            prompt = Terminal(
+                self.source / "scripts/prompt", folder, *self.command, "-i", columns=0
+            )
+            self.addCleanup(prompt.close)
+            prompt.wait_for(r"without line editing[^>]*Quit ends\.\s+> ")
+            prompt.press("20 + 3\r")
+            prompt.wait_for(r"\n23\s+> ")
             prompt.press("\x04")
             self.assertEqual(prompt.process.wait(PATIENCE), 0)
 
