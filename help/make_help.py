@@ -51,6 +51,7 @@ def plain_text(member: Member) -> str:
     if member.fails:
         lines += textwrap.wrap(f"Fails for {member.fails}.", 78)
     lines += [f'Message: "{message}"' for message in member.messages]
+    lines += [f"Debug log: {', '.join(member.log_names) or 'nothing'}"]
     text = "\n".join(lines) + "\n\nExample:\n" + indented(member.example.code)
     return text + "Prints:\n" + indented(member.example.output) + "\n"
 

@@ -38,7 +38,7 @@ Print BigNumberVQZ.Sgn("-12.5"))"}},
              .summary = "The root of the given index.",
              .details = "The roots of whole powers come out exact. A root of index 0 is 1.",
              .fails = "an index that is negative or no integer, for an even root of a negative "
-                      "number, NaN and Nil",
+                      "number, for index 0 of 0, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Root("2", "3")
 Print BigNumberVQZ.Root("-27", "3"))",
