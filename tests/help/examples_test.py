@@ -5,12 +5,16 @@ usage: examples_test.py COMMAND...
 COMMAND starts the stand-in host with the library.
 """
 
+import json
 import pathlib
+import re
 import sys
+import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "help"))
 
+import speed  # noqa: E402
 from examples import ExampleError, ExampleRunner, Kind  # noqa: E402
 from members import Accessor, read_member  # noqa: E402
 
@@ -97,6 +101,35 @@ class MemberTest(unittest.TestCase):
         self.assertTrue(two.fits(head + "Add operation failed with numbers -1.5 and nil."))
         self.assertFalse(two.fits(head + "Add operation failed with number -1.5."))
         self.assertFalse(two.fits("Add operation failed with numbers 1 and 2."))
+
+
+class SpeedTest(unittest.TestCase):
+    def setUp(self) -> None:
+        self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+
+    def test_nothing_measured(self) -> None:
+        self.assertEqual(speed.measured(self.folder), "")
+
+    def test_figures(self) -> None:
+        """The plug-in's own calls, without the host's part, the smaller class first."""
+        rows = [
+            {"operation": operation, "bits": bits, "contender": contender, "group": group,
+             "median_ns": median, "host_part_ns": 50}
+            for operation, bits, contender, group, median in (
+                ("add", 2048, "plug-in", "basic", 1284),
+                ("add", 256, "plug-in", "basic", 84),
+                ("add", 256, "stock", "basic", 1),
+                ("host: object", 256, "plug-in", "host", 1),
+                ("exp", 2048, "plug-in", "function", 13_900_050))
+        ]
+        (self.folder / "speed.json").write_text(json.dumps({"results": rows}), encoding="utf-8")
+        cells = re.findall(r"<td[^>]*>([^<]*)</td>", speed.measured(self.folder))
+        self.assertEqual(cells, ["add", "0.034", "1.23", "exp", "", "13,900"])
+
+    def test_chart_has_a_name(self) -> None:
+        (self.folder / "speed.svg").write_text("<?xml?>\n<svg width='1'/>", encoding="utf-8")
+        chart = speed.measured(self.folder)
+        self.assertRegex(chart, r"^<figure><svg role=.img. aria-label=[^>]+ width='1'/></figure>$")
 
 
 if __name__ == "__main__":
