@@ -95,10 +95,11 @@ class BrowserTest(unittest.TestCase):
         self.assertEqual(page.evaluate("document.activeElement.id"), "content")
 
     def test_fits_a_phone(self) -> None:
-        page = self.open(PHONE)
-        self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), PHONE["width"])
-        page.fill("#filter", "number")
-        self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), PHONE["width"])
+        for width in (PHONE["width"], 320):
+            page = self.open(PHONE | {"width": width})
+            self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
+            page.fill("#filter", "number")
+            self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
 
     def assert_accessible(self, page, options: dict) -> None:
         found = Axe().run(page, options=options)
