@@ -3,11 +3,13 @@ set(system $<IF:$<BOOL:${WIN32}>,windows,linux>)
 add_library(hostile_test_support OBJECT
   support/child_process_${system}.cpp
   support/imports_${system}.cpp
-  support/library_memory.cpp)
+  support/library_memory.cpp
+  support/threads_${system}.cpp)
 target_link_libraries(hostile_test_support PUBLIC doctest_headers project_options)
 
 add_unit_tests(hostile_tests
   SOURCES
     hostile/allocation_tests.cpp
+    hostile/caller_tests.cpp
   LIBRARIES hostile_test_support table_test_support unit_test_support standin_runtime)
 add_dependencies(hostile_tests BigNumberVQZ)

@@ -121,7 +121,7 @@ Answer Member::Take(const standin::ReturnValue& result) const {
         return {};
     }
     if (resultType_ == "double") {
-        return {result.real != 0.0, std::to_string(result.real)};
+        return {result.real != 0.0, std::to_string(std::bit_cast<std::uint64_t>(result.real))};
     }
     if (resultType_ == "string") {
         const HeldString text(std::bit_cast<String>(result.low));
