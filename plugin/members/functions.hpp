@@ -54,7 +54,7 @@ Print BigNumberVQZ.Root("-16", "2"))"}},
              .details = "The sign of the degrees is that of the angle. Minutes and seconds may "
                         "have fractions and may exceed 60.",
              .units = "degrees, minutes and seconds to degrees",
-             .fails = "negative minutes or seconds, NaN and Nil",
+             .fails = "negative minutes or seconds, for results beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.DegToDeg("48", "51", "29.6"))",
              .failing = R"(
@@ -69,7 +69,7 @@ Print BigNumberVQZ.DegToDeg("48", "-51", "0"))"}},
              .details = "The sign of the degrees is that of the angle. Minutes and seconds may "
                         "have fractions and may exceed 60.",
              .units = "degrees, minutes and seconds to radians",
-             .fails = "negative minutes or seconds, NaN and Nil",
+             .fails = "negative minutes or seconds, for results beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.DegToRad("90", "30", "0"))",
              .failing = R"(
@@ -84,7 +84,7 @@ Print BigNumberVQZ.DegToRad("90", "-30", "0"))"}},
              .details = "The sign of the degrees is that of the angle. Minutes and seconds may "
                         "have fractions and may exceed 60.",
              .units = "degrees, minutes and seconds to grads",
-             .fails = "negative minutes or seconds, NaN and Nil",
+             .fails = "negative minutes or seconds, for results beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.DegToGrad("90", "30", "0"))",
              .failing = R"(
@@ -176,7 +176,7 @@ Print BigNumberVQZ.ACoth("1"))"}},
                 [](const auto& value, auto* error) { return ttmath::ATanh(value, error); }),
             {.section = Section::Hyperbolic,
              .summary = "The inverse hyperbolic tangent.",
-             .fails = "numbers outside of -1 to 1 and both ends, NaN and Nil",
+             .fails = "numbers of 1 and above or -1 and below, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.ATanh("0.5"))",
              .failing = R"(
@@ -198,7 +198,8 @@ Print BigNumberVQZ.ACosh("0.5"))"}},
             {.section = Section::Hyperbolic,
              .summary = "The inverse hyperbolic sine.",
              .details = "For negative numbers `-ASinh(-x)` is more accurate.",
-             .fails = "numbers whose square is beyond the range, NaN and Nil",
+             .fails = "some negative numbers with more bits than half of the class, for numbers "
+                      "whose square is beyond the range, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.ASinh("0.5"))",
              .failing = R"(
@@ -209,7 +210,8 @@ Print BigNumberVQZ.ASinh(Nil))"}},
             {.section = Section::Hyperbolic,
              .summary = "The hyperbolic cotangent.",
              .range = "below -1 or above 1",
-             .fails = "0, for numbers too large for Exp, NaN and Nil",
+             .fails = "0 and the numbers next to it, for numbers too far from 0 for Exp, NaN "
+                      "and Nil",
              .example = R"(
 Print BigNumberVQZ.Coth("0.5"))",
              .failing = R"(
@@ -220,7 +222,7 @@ Print BigNumberVQZ.Coth("0"))"}},
             {.section = Section::Hyperbolic,
              .summary = "The hyperbolic tangent.",
              .range = "-1 to 1",
-             .fails = "numbers too large for Exp, NaN and Nil",
+             .fails = "numbers too far from 0 for Exp, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Tanh("0.5"))",
              .failing = R"(
@@ -231,7 +233,7 @@ Print BigNumberVQZ.Tanh("1e30"))"}},
             {.section = Section::Hyperbolic,
              .summary = "The hyperbolic cosine.",
              .range = "1 and above",
-             .fails = "numbers too large for Exp, NaN and Nil",
+             .fails = "numbers too far from 0 for Exp, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Cosh("0.5"))",
              .failing = R"(
@@ -241,7 +243,7 @@ Print BigNumberVQZ.Cosh("1e30"))"}},
                 [](const auto& value, auto* error) { return ttmath::Sinh(value, error); }),
             {.section = Section::Hyperbolic,
              .summary = "The hyperbolic sine.",
-             .fails = "numbers too large for Exp, NaN and Nil",
+             .fails = "numbers too far from 0 for Exp, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Sinh("0.5"))",
              .failing = R"(
@@ -297,7 +299,8 @@ Print BigNumberVQZ.ASin("1.1"))"}},
              .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
-             .fails = "0, some angles beyond the bits of the class, NaN and Nil",
+             .fails = "0, for angles at which the sine comes out as 0, such as Pi, for some angles "
+                      "beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Cot("1"))",
              .failing = R"(
@@ -310,11 +313,12 @@ Print BigNumberVQZ.Cot("0"))"}},
              .details = "The larger the angle, the fewer bits are right: one near 2^k loses k of "
                         "them, and beyond the bits of the class none is left, whatever the result.",
              .units = "radians",
-             .fails = "some angles beyond the bits of the class, NaN and Nil",
+             .fails = "angles at which the cosine comes out as 0, such as HalfPi, for some angles "
+                      "beyond the bits of the class, NaN and Nil",
              .example = R"(
 Print BigNumberVQZ.Tan("1"))",
              .failing = R"(
-Print BigNumberVQZ.Tan(Nil))"}},
+Print BigNumberVQZ.Tan(BigNumberVQZ.HalfPi))"}},
         Row{Declaration<Value, "Cos(value as $) as $">,
             FunctionOfOne<Value, "Cos">(
                 [](const auto& value, auto* error) { return ttmath::Cos(value, error); }),

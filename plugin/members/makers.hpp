@@ -57,12 +57,15 @@ Print BigNumberVQZ.NumberWithUInt32(value))"}},
              .details = "Takes numbers of every kind, text, dates (as seconds), Booleans, colours "
                         "and numbers of the same class. Nil gives Nil. The property VariantValue "
                         "keeps a Double's full precision.",
-             .fails = "a Variant that holds anything else, which gives Nil",
+             .fails = "a Variant that holds anything else, which gives Nil, and for a text with an "
+                      "exponent beyond the range",
              .example = R"(
 Print BigNumberVQZ.NumberWithVariant(0.1)
 Print BigNumberVQZ.NumberWithVariant("0.1"))",
              .failing = R"(
-Print BigNumberVQZ.NumberWithVariant(New MemoryBlock(4)))"}},
+Print BigNumberVQZ.NumberWithVariant(New MemoryBlock(4))
+
+Print BigNumberVQZ.NumberWithVariant("1e99999999999999999999"))"}},
         Row{Declaration<Value, "NumberWithSingle(value as single) as $">,
             NumberWith<Value, "NumberWithSingle", float>(),
             {.section = Section::Making,

@@ -66,7 +66,8 @@ Print (pages / "7").IsInteger)"}},
                      .details = "An Integer has 32 bits here. NaN and Nil give 0. Setting it never "
                                 "fails.",
                      .range = "-2147483648 to 2147483647",
-                     .fails = "numbers outside of that range, which give 0",
+                     .fails = "numbers outside of that range and for numbers between -1 and 0, "
+                              "which give 0",
                      .example = R"(
 Dim price As BigNumberVQZ = "19.99"
 Print price.IntegerValue
@@ -74,7 +75,10 @@ price.IntegerValue = 20
 Print price)",
                      .failing = R"(
 Dim large As BigNumberVQZ = "2147483648"
-Print large.IntegerValue)"}},
+Print large.IntegerValue
+
+Dim loss As BigNumberVQZ = "-0.4"
+Print loss.IntegerValue)"}},
         Row{.name = "Int64Value",
             .type = "Int64",
             .getter = GetProperty<Value, "GetInt64Value", "Int64Value", std::int64_t>(),
@@ -174,8 +178,9 @@ Print fortune.CurrencyValue)"}},
                                 "numbers of every kind, text, dates (as seconds), Booleans, "
                                 "colours and numbers of the same class; a Double keeps its full "
                                 "precision, and Nil gives 0.",
-                     .fails = "a Variant, when it is set, that holds anything else; the number is "
-                              "0 then",
+                     .fails =
+                         "a Variant, when it is set, that holds anything else, which leaves 0, and "
+                         "for a text with an exponent beyond the range, which leaves NaN",
                      .example = R"(
 Dim number As BigNumberVQZ = "12"
 Dim v As Variant = number.VariantValue
@@ -184,7 +189,10 @@ number.VariantValue = 0.5
 Print number)",
                      .failing = R"(
 Dim number As BigNumberVQZ = "12"
-number.VariantValue = New MemoryBlock(4))"}},
+number.VariantValue = New MemoryBlock(4)
+
+Dim number As BigNumberVQZ = "12"
+number.VariantValue = "1e99999999999999999999")"}},
         Row{.name = "DataMantissa",
             .type = "MemoryBlock",
             .getter = GetPart<Value, &Value::mantissa>(),
