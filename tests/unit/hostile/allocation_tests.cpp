@@ -342,7 +342,7 @@ TEST_CASE("Every member survives the failure of each single allocation") {
         one.plugin().SwitchDebugLog(logs);
         one.Run(choose);
         for (std::size_t source = 0; source < points.size(); ++source) {
-            for (const std::size_t mode : {0, 1}) {
+            for (const std::size_t mode : {0U, 1U}) {
                 points.at(source).at(mode) += one.points().at(source).at(mode);
             }
         }

@@ -266,8 +266,8 @@ TEST_CASE("Results are the same in all floating-point modes, and the modes stay"
     for (std::uint16_t rounding = 0; rounding < 4; ++rounding) {
         const auto controlWord =
             static_cast<std::uint16_t>(Precisions.at(rounding % 3U) | (rounding << 10U));
-        const unsigned int mxcsr =
-            MaskedExceptions | (rounding << 13U) | (rounding % 2U == 0 ? TinyIsZero : 0U);
+        const unsigned int mxcsr = MaskedExceptions | (static_cast<unsigned int>(rounding) << 13U) |
+                                   (rounding % 2U == 0 ? TinyIsZero : 0U);
         CAPTURE(controlWord);
         CAPTURE(mxcsr);
         int changed = 0;
