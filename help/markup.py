@@ -89,12 +89,19 @@ class Guide:
                     heading = anchor_of(self.tokens[index + 1].content)
                     token.attrSet("id", f"{self.anchor}-{heading}")
         self.markdown.renderer.rules["fence"] = self._fence
+        self.markdown.renderer.rules["code_inline"] = self._code_inline
 
     def _fence(self, tokens, index, _options, _env) -> str:
         shown = self.examples.get(id(tokens[index]))
         if shown:
             return example(shown)
         return f"<pre><code>{html.escape(tokens[index].content, quote=False)}</code></pre>\n"
+
+    @staticmethod
+    def _code_inline(tokens, index, _options, _env) -> str:
+        """Where it is narrow, a long name may break in front of its capitals."""
+        code = html.escape(tokens[index].content, quote=False)
+        return f"<code>{re.sub('(?<=[a-z])(?=[A-Z])', '<wbr>', code)}</code>"
 
     def html(self) -> str:
         """The text below the title; its examples have been run."""
