@@ -23,6 +23,28 @@ target_compile_options(project_options INTERFACE
   -Wformat=2
   $<$<BOOL:${BIGNUMBERVQZ_WARNINGS_AS_ERRORS}>:-Werror>)
 
+# Clang is asked for everything it knows but what contradicts the language level, the style (default
+# labels, class templates deduced, tables made at the start) or the layout that the host prescribes.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(project_options INTERFACE
+    -Weverything
+    -Wno-c++20-compat
+    -Wno-c++98-compat
+    -Wno-c++98-compat-pedantic
+    -Wno-covered-switch-default
+    -Wno-ctad-maybe-unsupported
+    -Wno-disabled-macro-expansion
+    -Wno-documentation-unknown-command
+    -Wno-double-promotion
+    -Wno-exit-time-destructors
+    -Wno-global-constructors
+    -Wno-missing-noreturn
+    -Wno-padded
+    -Wno-switch-enum
+    -Wno-weak-vtables
+    -Wno-zero-as-null-pointer-constant)
+endif()
+
 # The same commit gives the same bytes wherever it is built: no path of the machine gets in. Only who
 # counts what runs has to find the sources again.
 if(NOT BIGNUMBERVQZ_COVERAGE)

@@ -279,6 +279,7 @@ void rbText::FillByHost(TextSlot slot) {
 void rbText::Terminate(TextSlot slot) {
     const std::size_t index = Index(slot);
     const auto count = static_cast<std::size_t>(length[index]);
+    // cppcheck-suppress charLiteralWithCharPtrCompare ; it takes the byte for an array of them
     if (length[index] <= 0 || data[index][count] == '\0') {
         return;
     }

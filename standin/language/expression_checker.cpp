@@ -465,10 +465,12 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
     const auto& method = *constructors[index];
     if (const auto function = method.host.function) {
         auto filled = Fill(method.signature, std::move(arguments), at, *this);
-        auto code = method.isFactory ? code::ExpressionPtr(std::make_unique<code::BuiltInCall>(
-                                           function, std::move(filled)))
-                                     : std::make_unique<code::NewHostObject>(model.info(), function,
-                                                                             std::move(filled));
+        code::ExpressionPtr code;
+        if (method.isFactory) {
+            code = std::make_unique<code::BuiltInCall>(function, std::move(filled));
+        } else {
+            code = std::make_unique<code::NewHostObject>(model.info(), function, std::move(filled));
+        }
         return {std::move(code), type, at, {}, false};
     }
     auto call = MakePluginCall(model, method, std::move(arguments), at);

@@ -175,9 +175,11 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Select& select,
         code::ExpressionPtr condition;
         for (const auto& test : branch.tests) {
             auto fulfilled = CheckCaseTest(test, variable);
-            condition = condition ? std::make_unique<code::ShortCircuit>(true, std::move(condition),
-                                                                         std::move(fulfilled))
-                                  : std::move(fulfilled);
+            if (condition) {
+                fulfilled = std::make_unique<code::ShortCircuit>(true, std::move(condition),
+                                                                 std::move(fulfilled));
+            }
+            condition = std::move(fulfilled);
         }
         branches.push_back({std::move(condition), CheckBlock(branch.body)});
     }

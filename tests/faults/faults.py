@@ -1,0 +1,192 @@
+"""The deliberate faults: one a line of code, in every folder of the plug-in."""
+
+import dataclasses
+
+
+@dataclasses.dataclass(frozen=True)
+class Fault:
+    """A piece of a source file, which occurs in it once, and what is put in its place."""
+
+    file: str
+    before: str
+    after: str
+
+
+def faults_in(file: str, *pairs: tuple[str, str]) -> list[Fault]:
+    return [Fault(file, before, after) for before, after in pairs]
+
+
+FAULTS = [
+    *faults_in(
+        "host/byte_view.hpp",
+        ("text->storage + 1", "text->storage"),
+        ("length_ = text->length", "length_ = text->length - 1"),
+        ("ObjectReference::Share(block)", "ObjectReference(block)"),
+    ),
+    *faults_in(
+        "host/debug_log.cpp",
+        ("char line[4096]", "char line[4095]"),
+        ("DebugLogStream == nullptr", "DebugLogStream != nullptr"),
+        ('LogLine("%s%s %u"', 'LogLine("%s%s %x"'),
+    ),
+    *faults_in(
+        "host/exceptions.cpp",
+        ("IsAnyOf<std::range_error, std::out_of_range>", "IsAnyOf<std::range_error>"),
+        ("if (!exception) {\n        exception = ", "if (false) {\n        exception = "),
+        ('"ErrorNumber", 0', '"ErrorNumber", 1'),
+        ("RuntimeAddString(head.Get(), suffix.Get())", "RuntimeAddString(suffix.Get(), head.Get())"),
+        ("static_cast<long long>(end - 1)", "static_cast<long long>(end)"),
+        ('value < minimum ? "small"', 'value <= minimum ? "small"'),
+        ("size > sizeof usualMessage ? size : 0", "0"),
+    ),
+    *faults_in(
+        "host/exceptions.hpp",
+        ("HandleStdException(exception);\n    } catch (...)", "(void)exception;\n    } catch (...)"),
+        ("HandleUnknownException();\n    }\n    return", "}\n    return"),
+    ),
+    *faults_in(
+        "host/memory_blocks.cpp",
+        ("size >= INT32_MAX", "size > INT32_MAX"),
+        ("block.Reset();", "(void)block.Release();"),
+    ),
+    *faults_in(
+        "host/rb_text.cpp",
+        ("HighBits = 0x80808080", "HighBits = 0x00808080"),
+        ("if (source != nullptr) {\n        REALUnlockString(source);\n    }\n    for", "for"),
+        ("PluginDisposeStringData(&stringData[slot]);", ""),
+        ("platform::FreeBuffer(temp[slot]);", ""),
+        ("kind = TextKind::NeedsConversion;\n            break;\n        case HostTextEncoding::Unknown",
+         "kind = TextKind::Unchecked;\n            break;\n        case HostTextEncoding::Unknown"),
+        ("std::memcpy(temp[index], data[index], count);", "std::memcpy(temp[index], data[index], count - 1);"),
+        ("HostVersion < FirstVersionWithStringData", "HostVersion <= FirstVersionWithStringData"),
+        ('Fail("REALBuildUnicodeString failed");', ""),
+        ("HostTextEncoding::WindowsAnsi).Get()", "HostTextEncoding::Latin1).Get()"),
+    ),
+    *faults_in(
+        "host/references.hpp",
+        ("LockFunction(handle);", ""),
+        ("UnlockFunction(handle);", ""),
+    ),
+    *faults_in(
+        "host/string_building.cpp",
+        ("FirstVersionBuildingWithEncoding = 2012.0", "FirstVersionBuildingWithEncoding = 2012.5"),
+        ("> 0x7F;", "> 0x80;"),
+        ("codePoint > LastCodePoint", "codePoint >= LastCodePoint"),
+        ("codePoint > LastSurrogate", "codePoint >= LastSurrogate"),
+        ("ascii ? HostTextEncoding::Ascii : encoding", "encoding"),
+    ),
+    *faults_in(
+        "host/terminated_text.hpp",
+        ("copy_.assign(bytes, length);", "copy_.assign(bytes, length > 0 ? length - 1 : 0);"),
+        ("view_ = {bytes, length}", "view_ = {bytes}"),
+    ),
+    *faults_in(
+        "host/variants.cpp",
+        ('"LongValue"', '"Int64Value"'),
+        ("IsInstance(variant, UInt64Class) ? VariantTypeUInt64", "IsInstance(variant, UInt64Class) ? VariantTypeUInt32"),
+        ("object != nullptr && IsInstance", "IsInstance"),
+        ("classReference != nullptr && ", ""),
+    ),
+    *faults_in("host/random.hpp", ("SystemRandom(value) ? value", "SystemRandom(value) ? 4")),
+    *faults_in(
+        "platform/platform_linux.cpp",
+        ("strcasecmp(left, right)", "strcmp(left, right)"),
+        ("OutputDebugStringA(line);\n    } else", "OutputDebugStringA(line + 1);\n    } else"),
+    ),
+    *faults_in(
+        "plugin/entry.cpp",
+        ("FirstVersionWithUInteger = 2015.0", "FirstVersionWithUInteger = 2015.1"),
+        ("{2013.03, 12}", "{2013.035, 12}"),
+        ('"yes"}', '"yeah"}'),
+        ("HideUIntegerMethod<BiggerNumberValue>();", ""),
+        ("if (REALinRuntime())", "if (!REALinRuntime())"),
+    ),
+    *faults_in(
+        "plugin/registration.cpp",
+        ("size + DataSizeUnit - 1", "size + DataSizeUnit"),
+        ("HostVersion < 2020.02", "HostVersion <= 2020.02"),
+        ("word &= ~Unclassified;", ""),
+        ("FixFlagsOf(record.sharedMethods", "FixFlagsOf(record.methods"),
+        ("table[index].reference = ", "table[0].reference = "),
+        ("FirstVersionWithAttributes = 10", "FirstVersionWithAttributes = 11"),
+    ),
+    *faults_in(
+        "plugin/host_functions.hpp",
+        ('"REALGetPropValueCurrency", "REALGetPropValueInt64"', '"REALGetPropValueCurrency"'),
+        ("LowByte = 0xFF", "LowByte = 0xFFFF"),
+    ),
+    *faults_in(
+        "plugin/members/operators.hpp",
+        ("me.Add(other, true, false)", "me.Add(other, true, true)"),
+        ("me.Div(other, true)", "me.Div(other, false)"),
+        ("me.ChangeSign();", "me.SetSign();"),
+    ),
+    *faults_in(
+        "plugin/members/properties.hpp",
+        ('"SetIntegerValue"', '"SetIntegervalue"'),
+    ),
+    *faults_in(
+        "plugin/members/methods.hpp",
+        ('"Mod2"', '"Modulate2"'),
+        ("me.Div(other, round)", "me.Div(other, true)"),
+    ),
+    *faults_in("plugin/members/constants.hpp", ("value.SetLn10()", "value.SetLn2()")),
+    *faults_in(
+        "number/conversions.hpp",
+        ("number.FromUInt(negative ? 0 - bits : bits)", "number.FromUInt(bits)"),
+        ("fits && !value.IsSign()", "fits"),
+        ("const auto roundCarry = value.Round();", "const ttmath::uint roundCarry = 0;"),
+        ("static_cast<double>(VariantToSingle(variant))", "VariantToDouble(variant)"),
+        ("StoreNumberValue(self, ZeroValue<Value>());", ""),
+        ("NumberFrom<Value>(std::numeric_limits<Host>::max())", "NumberFrom<Value>(std::numeric_limits<Host>::max() - 1)"),
+    ),
+    *faults_in(
+        "number/conversions.cpp",
+        ("case VariantTypeCode::PString:\n", ""),
+    ),
+    *faults_in(
+        "number/lifecycle.hpp",
+        ("DropNumberValue<Value>(self);", ""),
+        ("StoreNumberValue(self, ReadNumber<Value>(other));", "StoreNumberValue(self, ZeroValue<Value>());"),
+    ),
+    *faults_in(
+        "number/number_object.hpp",
+        ("value == nullptr ? NilNumberValue<Value> : *value", "*value"),
+        ("std::exchange(InstanceOf<Value>(object).ref, nullptr)", "InstanceOf<Value>(object).ref"),
+    ),
+    *faults_in("number/number_value.hpp", ("value.SetZeroNan();", "value.SetZero();")),
+    *faults_in(
+        "number/raw_access.hpp",
+        ("sizeof words + 1,", "sizeof words + 2,"),
+        ("flags & 0xFF", "flags & 0x7F"),
+    ),
+    *faults_in("number/routine.hpp", ("(word & 0xFF) != 0", "word != 0")),
+    *faults_in(
+        "number/text.hpp",
+        ("scient_from = scientificFrom", "scient_from = scientificFrom + 1"),
+        ("trim_zeroes = IsTrue(trimZeros)", "trim_zeroes = !IsTrue(trimZeros)"),
+        ("text.Utf8Length() > 0", "text.Utf8Length() > 1"),
+        ("StringReference(std::exchange(*afterText, nullptr)).Reset();", ""),
+        ("*valueRead = digitsRead ? 1 : 0;", "*valueRead = 1;"),
+        ("const StringReference held = StringReference::Share(text);", ""),
+    ),
+    *faults_in(
+        "number/ops/arithmetic.hpp",
+        ("quotient.SkipFraction();", ""),
+        ("return left < right ? -1 : 0", "return left < right ? 1 : 0"),
+        ("std::uint32_t{1} << 31", "std::uint32_t{1} << 30"),
+        ("FindNumber<Value>(self), FindNumber<Value>(other)", "FindNumber<Value>(other), FindNumber<Value>(self)"),
+    ),
+    *faults_in(
+        "number/ops/failure_report.hpp",
+        ('return "nil"', 'return "Nil"'),
+        ('" and "', '" or "'),
+        ('LogMessage("RaiseOverflowException");\n        LogMessage', "LogMessage"),
+    ),
+    *faults_in(
+        "number/ops/functions.hpp",
+        ("RandomUInt32() & 0xFF", "RandomUInt32() & 0x7F"),
+        ("value.SetOne();", "value.SetZero();"),
+        ("RaiseOverflowException(FailureName.text);", "RaiseOverflowException(LogName.text);"),
+    ),
+]
