@@ -151,6 +151,8 @@ function(add_lint_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests")
   add_project_test(NAME lint/format
     COMMAND Python3::Interpreter "${tests}/lint.py" format "${PROJECT_SOURCE_DIR}")
+  add_project_test(NAME lint/faults
+    COMMAND Python3::Interpreter "${tests}/faults/run.py" --check)
   add_project_test(NAME lint/cppcheck
     COMMAND Python3::Interpreter "${tests}/lint.py" cppcheck "${PROJECT_SOURCE_DIR}")
   add_project_test(NAME lint/tidy ALONE

@@ -44,7 +44,7 @@ void Run(const std::string& text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Run(std::string(fuzz::Input({data, size}).Rest()));
     const auto leaks = standin::Host::Current().Leaks();
     if (!leaks.empty()) {

@@ -1,7 +1,7 @@
 // Numbers of any bits and the functions that compute long.
 #include "tests/fuzz/raw_values.hpp"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static auto classes = fuzz::FuzzedPlugin::Get().ClassesWith(true);
     fuzz::Input input({data, size});
     fuzz::CallMember(input, classes[fuzz::FuzzedPlugin::TakeClass(input)]);

@@ -114,7 +114,7 @@ void ReadAndWrite(Input& input) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Input input({data, size});
     ReadAndWrite(input);
     fuzz::FuzzedPlugin::Get().FinishInput();

@@ -10,6 +10,9 @@
 #include <string_view>
 #include <type_traits>
 
+/// The entry of a fuzz target: runs it with one input.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 namespace fuzz {
 
 /// Hands out the bytes of an input; behind its end everything is 0.

@@ -437,7 +437,9 @@ void Bind(Function*& function, Resolver resolve, const char* name) {
 
 }  // namespace
 
-extern "C" void REALPluginMain(Resolver resolve) {
+extern "C" void REALPluginMain(Resolver resolve);
+
+void REALPluginMain(Resolver resolve) {
     Bind(host.buildString, resolve, "REALBuildStringWithEncoding");
     Bind(host.getStringData, resolve, "PluginGetStringData");
     Bind(host.disposeStringData, resolve, "PluginDisposeStringData");
