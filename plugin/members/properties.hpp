@@ -118,6 +118,7 @@ Print debt.UInt64Value)"}},
                      .summary = "The number as a Double, cut to the precision of one.",
                      .details = "Setting it takes the Double with all its bits, which is seldom "
                                 "the decimal number that the program shows. NaN and Nil give 0.",
+                     .range = "-1.7976931348623157e+308 to 1.7976931348623157e+308",
                      .fails = "numbers too large or too small for a Double, which give 0",
                      .example = R"(
 Dim third As BigNumberVQZ = "1"
