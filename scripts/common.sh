@@ -59,3 +59,16 @@ under_lock() {
         "$@" 9>&-
     ) 9>"$file"
 }
+
+# announce_package: says where the package lies.
+announce_package() {
+    say "the package for your Plugins folder: build/BigNumberVQZ.xojo_plugin"
+    touch "$root/build/announced"
+}
+
+# announce_new_package: says so once after each build of a package.
+announce_new_package() {
+    if [[ "$root/build/BigNumberVQZ.xojo_plugin" -nt "$root/build/announced" ]]; then
+        announce_package
+    fi
+}

@@ -113,6 +113,17 @@ class CommandsTest(unittest.TestCase):
         self.assertEqual((first.returncode, second.returncode), (0, 0))
         self.assertEqual((second.stdout, second.stderr), ("", ""))
 
+    def test_the_tour_ends_with_the_package(self) -> None:
+        (self.project / "scripts/setup").write_text("#!/bin/bash\n")
+        (self.project / "scripts/wine").write_text("#!/bin/bash\necho toured\nexit 3\n")
+        self.offer("cmake", 'mkdir -p "build/${2}"')
+        self.offer("ninja", 'echo "[1/1] Packing"; touch build/BigNumberVQZ.xojo_plugin')
+        for _ in range(2):
+            result = self.run_command("run")
+            self.assertEqual((result.returncode, result.stdout), (3, "toured\n"), result.stderr)
+            places = [line for line in result.stderr.splitlines() if "xojo_plugin" in line]
+            self.assertEqual(places, result.stderr.splitlines()[-1:])
+
     def test_python_that_is_not_set_up(self) -> None:
         result = self.run_command("scripts/python", "checks", "-c", "")
         self.assert_refused(result, "scripts/setup checks")
