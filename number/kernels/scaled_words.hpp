@@ -6,13 +6,9 @@
 #include <cstdint>
 
 #include "number/kernels/specialisations.hpp"
+#include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
-
-using Word = std::uint32_t;
-using DoubleWord = std::uint64_t;
-inline constexpr int WordBits = 32;
-inline constexpr Word TopBit = Word{1} << (WordBits - 1);
 
 /// What an exact result holds below its leading words, measured by the half of their last bit.
 enum class Tail : std::uint8_t { BelowHalf, Half, AboveHalf };

@@ -1,0 +1,34 @@
+// Words, and the few operations on them that the language has no operator for.
+#pragma once
+
+#include <cstdint>
+
+namespace vqz::kernels {
+
+/// A number's unit of storage; mantissas are words, the lowest first.
+using Word = std::uint32_t;
+using DoubleWord = std::uint64_t;
+
+inline constexpr int WordBits = 32;
+inline constexpr Word TopBit = Word{1} << (WordBits - 1);
+
+inline constexpr Word Low(DoubleWord value) {
+    return static_cast<Word>(value);
+}
+inline constexpr Word High(DoubleWord value) {
+    return static_cast<Word>(value >> WordBits);
+}
+inline constexpr DoubleWord Join(Word high, Word low) {
+    return (DoubleWord{high} << WordBits) | low;
+}
+
+/// How many of `count` words are left without the zero words at the low end.
+inline int WithoutLowZeros(const Word* words, int count) {
+    int zeros = 0;
+    while (zeros < count && words[zeros] == 0) {
+        ++zeros;
+    }
+    return count - zeros;
+}
+
+}  // namespace vqz::kernels
