@@ -2,12 +2,15 @@
 //
 // A word has 32 bits, and the product of two words fills a 64-bit lane of a vector register to its
 // last bit: adding products would need a carry after each. So a mantissa is cut into limbs of 28
-// bits, the lowest first, each alone in a lane of 64 bits. Products of two limbs have 56 bits, and
-// 2^8 of them can be added in a lane before it overflows. The schoolbook's column sums then need no
-// carry at all; carries are made once, when the sums become words again.
+// bits, each alone in a lane of 64 bits. Products of two limbs have 56 bits, and 2^8 of them can be
+// added in a lane before it overflows. The schoolbook's column sums then need no carry at all;
+// carries are made once, when the sums become words again.
 //
-//    words   |    0    |    1    |  ...  |    6    |       7 words of 32 bits
-//    limbs   |   0   |   1   |   2   | ... |   7   |    = 8 limbs of 28 bits = a group
+// Limbs begin at the mantissa's top bit, the highest limb first: a mantissa is a fraction between 0
+// and 1, and limb i weighs 2^(-28 (i + 1)). Words stay in ttmath's order, the lowest first.
+//
+//    words   |    W-1    |    W-2    |  ...  |    W-7    |       7 words of 32 bits
+//    limbs   |    0    |    1    |    2    |   ...  | 7  |    = 8 limbs of 28 bits = a group
 //
 // The pattern of shifts repeats with each group.
 #pragma once
@@ -32,31 +35,36 @@ inline constexpr int GroupLimbs = 8;
 inline constexpr int LimbCount(int words) {
     return (words * WordBits + LimbBits - 1) / LimbBits;
 }
+/// How many groups hold `limbs` limbs.
+inline constexpr int GroupCount(int limbs) {
+    return (limbs + GroupLimbs - 1) / GroupLimbs;
+}
 
-/// The zero limbs that column sums may read below and above a factor: one vector step of columns.
+/// The zero limbs that column sums may read before and behind a factor: one vector step of columns.
 inline constexpr int LimbPadding = 16;
 
-/// Up to `Words` words as limbs, with the padding that column sums want, and room for whole groups.
+/// Up to `Words` words as limbs, with the padding that column sums want.
 template <int Words>
 class LimbBuffer {
 public:
-    /// Cuts up `count` words.
-    LimbBuffer(const Word* words, int count) : count_(LimbCount(count)) {
+    /// Cuts up the highest `count` of the words that end before `wordsEnd`.
+    LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count)) {
         std::fill_n(lanes_.begin(), LimbPadding, 0);
         Limb* limbs = lanes_.data() + LimbPadding;
         for (; count >= GroupWords; count -= GroupWords) {
-            CutGroup(words, limbs);
-            words += GroupWords;
+            CutGroup(wordsEnd, limbs);
+            wordsEnd -= GroupWords;
             limbs += GroupLimbs;
         }
         std::array<Word, GroupWords> rest{};
-        std::copy_n(words, count, rest.begin());
-        CutGroup(rest.data(), limbs);
+        std::copy_n(wordsEnd - count, count, rest.end() - count);
+        CutGroup(rest.data() + GroupWords, limbs);
         std::fill_n(limbs + GroupLimbs, LimbPadding, 0);
     }
 
     const Limb* data() const { return lanes_.data() + LimbPadding; }
     int count() const { return count_; }
+    Limb operator[](int i) const { return data()[i]; }
 
 private:
     static constexpr int Capacity = (Words / GroupWords + 1) * GroupLimbs;
@@ -64,35 +72,40 @@ private:
     alignas(16) std::array<Limb, LimbPadding + Capacity + LimbPadding> lanes_;
     int count_;
 
-    static void CutGroup(const Word* words, Limb* limbs) {
-        limbs[0] = words[0] & LimbMask;
+    static void CutGroup(const Word* end, Limb* limbs) {
+        limbs[0] = end[-1] >> (WordBits - LimbBits);
 #pragma GCC unroll 8
         for (int i = 1; i < GroupLimbs - 1; ++i) {
-            // Limb i begins in the word before word i, 4 * i bits below its upper end.
-            limbs[i] = Low(Join(words[i], words[i - 1]) >> (WordBits - 4 * i)) & LimbMask;
+            // 4 * i bits are left of the word in which the limb begins.
+            limbs[i] = Low(Join(end[-i], end[-i - 1]) >> (4 * (i + 1))) & LimbMask;
         }
-        limbs[GroupLimbs - 1] = words[GroupWords - 1] >> (WordBits - LimbBits);
+        limbs[GroupLimbs - 1] = end[-GroupWords] & LimbMask;
     }
 };
 
-/// Column sums of limbs, the lowest first, as words: `groups` groups of them.
-inline void JoinColumns(const DoubleWord* sums, int groups, Word* words) {
+/// Sums of the weights of limbs, the highest first, as words that end before `wordsEnd`; makes the
+/// carries. Answers the carry out of the highest.
+inline DoubleWord JoinColumns(const DoubleWord* sums, int groups, Word* wordsEnd) {
     DoubleWord carry = 0;
+    sums += groups * GroupLimbs;
+    wordsEnd -= groups * GroupWords;
     for (; groups > 0; --groups) {
+        sums -= GroupLimbs;
+        wordsEnd += GroupWords;
         std::array<Word, GroupLimbs> limbs;
 #pragma GCC unroll 8
-        for (int i = 0; i < GroupLimbs; ++i) {
+        for (int i = GroupLimbs - 1; i >= 0; --i) {
             carry += sums[i];
             limbs[i] = Low(carry) & LimbMask;
             carry >>= LimbBits;
         }
 #pragma GCC unroll 8
         for (int i = 0; i < GroupWords; ++i) {
-            words[i] = (limbs[i] >> (4 * i)) | (limbs[i + 1] << (LimbBits - 4 * i));
+            wordsEnd[-i - 1] =
+                (limbs[i] << (4 * (i + 1))) | (limbs[i + 1] >> (LimbBits - 4 * (i + 1)));
         }
-        sums += GroupLimbs;
-        words += GroupWords;
     }
+    return carry;
 }
 
 }  // namespace vqz::kernels

@@ -31,4 +31,12 @@ inline int WithoutLowZeros(const Word* words, int count) {
     return count - zeros;
 }
 
+/// (high, low) / divisor, for high < divisor. There is no operator for it: the language would
+/// divide two double words, which is a library call on a 32-bit processor.
+inline Word DivideWords(Word high, Word low, Word divisor, Word& remainder) {
+    Word quotient = 0;
+    asm("divl %4" : "=a"(quotient), "=d"(remainder) : "a"(low), "d"(high), "rm"(divisor) : "cc");
+    return quotient;
+}
+
 }  // namespace vqz::kernels
