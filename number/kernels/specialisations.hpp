@@ -15,6 +15,8 @@ namespace ttmath {
 
 #define BIGNUMBER_DECLARE_KERNELS(E, W)             \
     template <>                                     \
+    uint Big<E, W>::Add(Big<E, W>, bool, bool);     \
+    template <>                                     \
     uint Big<E, W>::MulRef(const Big<E, W>&, bool); \
     template <>                                     \
     uint Big<E, W>::DivRef(const Big<E, W>&, bool);
