@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/limbs.hpp"
@@ -12,6 +13,9 @@ namespace vqz::kernels {
 
 /// Up to this many products of words, the schoolbook with words is faster than with limbs.
 inline constexpr int MaxWordProducts = 160;
+
+/// Mantissas of up to this many words are multiplied by code without loops.
+inline constexpr int MaxUnrolledWords = 8;
 
 /// The product of two mantissas of W words, seen as fractions: its words begin at the top.
 template <int W>
@@ -25,7 +29,13 @@ public:
     MantissaProduct(const Word* left, const Word* right, Precision precision) {
         const int leftCount = WithoutLowZeros(left, W);
         const int rightCount = WithoutLowZeros(right, W);
-        if (leftCount * rightCount <= MaxWordProducts) {
+        if constexpr (W <= MaxUnrolledWords) {
+            if (leftCount == W && rightCount == W) {
+                MultiplyWordColumns(left, right, precision);
+                return;
+            }
+        }
+        if (W * W <= MaxWordProducts || leftCount * rightCount <= MaxWordProducts) {
             MultiplyWords(left + W - leftCount, leftCount, right + W - rightCount, rightCount);
         } else {
             MultiplyLimbs(LimbBuffer<W>(left + W, leftCount), LimbBuffer<W>(right + W, rightCount),
@@ -59,6 +69,43 @@ private:
             }
             product[leftCount] = Low(carry);
         }
+    }
+
+    /// The schoolbook, column by column of words, which are summed up in three words. For the
+    /// leading words, columns 0 to W - 3 are left out: at most k + 1 products below 2^64 in column
+    /// k, together less than W * 2^(64 + 32 (W - 3)), are less than W units of the guard word W
+    /// - 1.
+    void MultiplyWordColumns(const Word* left, const Word* right, Precision precision) {
+        if (precision == Precision::Leading) {
+            ComputeWordColumns<W - 2>(left, right);
+            if (IsDecided(upper()[-1], W)) {
+                return;
+            }
+        }
+        ComputeWordColumns<0>(left, right);
+    }
+
+    template <int First>
+    void ComputeWordColumns(const Word* left, const Word* right) {
+        std::fill(words_.data(), words_.data() + Slack + First, 0);
+        Word* product = words_.data() + Slack;
+        ColumnSum sum;
+        [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
+            ((AddWordColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
+        }
+        (std::make_integer_sequence<int, 2 * W - 1 - First>{});
+        product[2 * W - 1] = sum.Next();
+    }
+
+    /// Kept out of line, the sum would live in memory.
+    template <int K>
+    [[gnu::always_inline]] static void AddWordColumn(const Word* left, const Word* right,
+                                                     ColumnSum& sum) {
+        constexpr int First = std::max(0, K - W + 1);
+        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
+            (sum.AddProduct(left[First + I], right[K - First - I]), ...);
+        }
+        (std::make_integer_sequence<int, std::min(K, W - 1) - First + 1>{});
     }
 
     /// The schoolbook, column by column; for the leading words, without the columns that can hardly

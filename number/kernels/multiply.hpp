@@ -59,8 +59,9 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
     const ScaledWords<W> product =
         areNormalised ? MultiplyNormalised<W>(me.mantissa.table, other.mantissa.table)
                       : MultiplyExactly(me.mantissa, other.mantissa);
-    Word carry = me.exponent.Add(Word{W * WordBits} - product.shift);
-    carry += me.exponent.Add(other.exponent);
+    // For mantissas that are not normalised this may wrap; ttmath adds it as it is then.
+    const Word gained = W * WordBits - product.shift;
+    const Word carry = AddToExponent(me.exponent, gained, other.exponent);
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
 }
 

@@ -39,6 +39,23 @@ ScaledWords<W> Scale(ttmath::UInt<2 * W>& integer) {
     return result;
 }
 
+/// exponent += offset + other, each sum with ttmath's carry on overflow; answers how many carried.
+template <std::size_t E>
+Word AddToExponent(ttmath::Int<E>& exponent, Word offset, const ttmath::Int<E>& other) {
+    if constexpr (E == 2) {
+        auto sum = static_cast<std::int64_t>(Join(exponent.table[1], exponent.table[0]));
+        const auto term = static_cast<std::int64_t>(Join(other.table[1], other.table[0]));
+        Word carry = __builtin_add_overflow(sum, offset, &sum) ? 1 : 0;
+        carry += __builtin_add_overflow(sum, term, &sum) ? 1 : 0;
+        exponent.table[0] = Low(static_cast<DoubleWord>(sum));
+        exponent.table[1] = High(static_cast<DoubleWord>(sum));
+        return carry;
+    } else {
+        const Word carry = exponent.Add(offset);
+        return carry + exponent.Add(other);
+    }
+}
+
 /// Makes `number`, whose exponent is set already, the number of these leading words: rounds half to
 /// even, sets the sign and standardises. `carry` is what the exponent has overflowed before.
 /// Answers whether it did, and then makes it a NaN.

@@ -39,4 +39,33 @@ inline Word DivideWords(Word high, Word low, Word divisor, Word& remainder) {
     return quotient;
 }
 
+/// A sum of products of words, and of what the sum before carries over.
+class ColumnSum {
+public:
+    /// Adds left * right. The compiler would find the carry by a comparison.
+    void AddProduct(Word left, Word right) {
+        asm("mull %[right]\n\t"
+            "addl %%eax, %[low]\n\t"
+            "adcl %%edx, %[middle]\n\t"
+            "adcl $0, %[high]"
+            : [low] "+r"(low_), [middle] "+r"(middle_), [high] "+rm"(high_), "+a"(left)
+            : [right] "rm"(right)
+            : "edx", "cc");
+    }
+
+    /// The lowest word; the others are carried over to the next column.
+    Word Next() {
+        const Word lowest = low_;
+        low_ = middle_;
+        middle_ = high_;
+        high_ = 0;
+        return lowest;
+    }
+
+private:
+    Word low_ = 0;
+    Word middle_ = 0;
+    Word high_ = 0;
+};
+
 }  // namespace vqz::kernels
