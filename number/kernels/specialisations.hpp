@@ -13,7 +13,7 @@
 
 namespace ttmath {
 
-#define BIGNUMBER_DECLARE_KERNELS(E, W)             \
+#define BIGNUMBER_DECLARE_OPERATIONS(E, W)          \
     template <>                                     \
     uint Big<E, W>::Add(Big<E, W>, bool, bool);     \
     template <>                                     \
@@ -21,9 +21,39 @@ namespace ttmath {
     template <>                                     \
     uint Big<E, W>::DivRef(const Big<E, W>&, bool);
 
-BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_KERNELS)
+#define BIGNUMBER_DECLARE_SERIES(E, W)                        \
+    template <>                                               \
+    void Big<E, W>::ExpSurrounding0(const Big<E, W>&, uint*); \
+    template <>                                               \
+    void Big<E, W>::LnSurrounding1(const Big<E, W>&, uint*);  \
+    template <>                                               \
+    Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>&);    \
+    template <>                                               \
+    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>&);
 
-#undef BIGNUMBER_DECLARE_KERNELS
+#define BIGNUMBER_DECLARE_READING(E, W)                                               \
+    template <>                                                                       \
+    template <>                                                                       \
+    uint Big<E, W>::FromString_ReadPartBeforeComma(const char*&, const Conv&, bool&); \
+    template <>                                                                       \
+    template <>                                                                       \
+    uint Big<E, W>::FromString_ReadPartAfterComma(const char*&, const Conv&, bool&);
+
+#define BIGNUMBER_DECLARE_WRITING(W) \
+    template <>                      \
+    template <>                      \
+    void UInt<W>::ToStringBase(std::string&, uint, bool) const;
+
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_OPERATIONS)
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_SERIES)
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_READING)
+BIGNUMBER_DECLARE_WRITING(8)
+BIGNUMBER_DECLARE_WRITING(64)
+
+#undef BIGNUMBER_DECLARE_OPERATIONS
+#undef BIGNUMBER_DECLARE_SERIES
+#undef BIGNUMBER_DECLARE_READING
+#undef BIGNUMBER_DECLARE_WRITING
 
 }  // namespace ttmath
 

@@ -1,0 +1,374 @@
+// The power series of ttmath's functions: the first terms as ttmath adds them, the small ones in
+// fixed point, where each costs a fraction of that. Order, rounding and end of each sum are
+// ttmath's.
+#include <limits>
+#include <optional>
+
+#include "number/kernels/series_tail.hpp"
+#include "number/kernels/specialisations.hpp"
+
+namespace vqz::kernels {
+namespace {
+
+using ttmath::Big;
+using ttmath::uint;
+
+/// How a sum is ended: by the first term that does not change it, or looking at every fourth one
+/// only.
+enum class EndTest { EachTerm, EveryFourthTerm };
+
+/// A number's exponent, provided it is a number like any other: neither NaN nor zero, its top bit
+/// set, and so near to 1 that no power in a series can leave the range of exponents.
+template <uint E, uint W>
+std::optional<int> PlainExponent(const Big<E, W>& number) {
+    constexpr int limit = 1 << 20;
+    ttmath::sint exponent = 0;
+    if (number.IsNan() || number.IsZero() || !number.mantissa.IsTheHighestBitSet() ||
+        number.exponent.ToInt(exponent) != 0 || exponent < -limit || exponent > limit) {
+        return {};
+    }
+    return exponent;
+}
+
+/// Whether 2^position, added to or subtracted from the mantissa, leaves its top bit the top bit.
+template <uint W>
+bool HasRoom(const ttmath::UInt<W>& mantissa, int position, bool adding, bool subtracting) {
+    bool set = false;
+    bool clear = false;
+    for (int bit = 32 * static_cast<int>(W) - 2; bit >= position && !(set && clear); --bit) {
+        (mantissa.GetBit(static_cast<uint>(bit)) != 0 ? set : clear) = true;
+    }
+    return (set || !subtracting) && (clear || !adding);
+}
+
+/// Adds what is left of a series in fixed point: all terms from index `next` on. Answers the index
+/// of the last one, or 0 if that cannot be done.
+template <uint E, uint W, typename Ratio>
+uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier, bool subtract,
+             bool alternate, uint next, EndTest endTest, Ratio ratio) {
+    constexpr int bits = 32 * W;
+    constexpr int wanted = 40;
+    const auto sumExponent = PlainExponent(sum);
+    const auto termExponent = PlainExponent(term);
+    const auto multiplierExponent = PlainExponent(multiplier);
+    if (!sumExponent || !termExponent || !multiplierExponent) {
+        return 0;
+    }
+    const int termShift = *sumExponent - *termExponent;
+    const int multiplierShift = -(*multiplierExponent + bits);
+    const TermRatio nextRatio = ratio(next);
+    const int ratioShift = std::bit_width(nextRatio.denominator / nextRatio.numerator) - 1;
+    // The next term and with it all that follow are below 2^-shift of the sum.
+    const int shift = termShift + multiplierShift + ratioShift - 1;
+    if (termShift < 0 || termShift >= bits || multiplierShift < 0 ||
+        multiplierShift + ratioShift < 1 || shift < wanted) {
+        return 0;
+    }
+    // Terms get smaller by a half at least. All together, rounded, they are below four times the
+    // first one, or below 4.
+    if (!HasRoom(sum.mantissa, std::max(bits - shift + 2, 2), !subtract || alternate,
+                 subtract || alternate)) {
+        return 0;
+    }
+    using Words = std::span<const std::uint32_t, W>;
+    SeriesTail<W> tail({Words(sum.mantissa.table), Words(term.mantissa.table), termShift,
+                        Words(multiplier.mantissa.table), multiplierShift, subtract, alternate});
+    const uint last = tail.Run(next, endTest == EndTest::EveryFourthTerm, ratio);
+    if (last != 0) {
+        tail.AddTo(std::span<std::uint32_t, W>(sum.mantissa.table));
+    }
+    return last;
+}
+
+/// Adds the terms of a series to `sum` and answers the index of the last one. A series has
+///
+///     EndTest endTest              how the sum ends
+///     bool alternating             whether terms are subtracted and added by turns
+///     bool MakeTerm()              computes `term`, unless a number gets too large
+///     bool Advance()               prepares for the next one, likewise
+///     TermRatio Ratio(index)       how a term follows from the one before
+///     const Number& multiplier()   likewise
+template <typename Series, typename Number>
+uint Sum(Series& series, Number& sum) {
+    Number oldSum = sum;
+    bool tailMayWork = true;
+    uint index = 1;
+    for (; index <= TTMATH_ARITHMETIC_MAX_LOOP; ++index) {
+        if (!series.MakeTerm()) {
+            break;
+        }
+        const bool subtracted = Series::alternating && index % 2 != 0;
+        if (subtracted) {
+            sum.Sub(series.term);
+        } else {
+            sum.Add(series.term);
+        }
+        if (Series::endTest == EndTest::EachTerm || index % 4 == 0) {
+            if (sum == oldSum) {
+                break;
+            }
+            oldSum = sum;
+            if (tailMayWork) {
+                const Number& multiplier = series.multiplier();
+                const bool alternate = Series::alternating != multiplier.IsSign();
+                const bool against = (series.term.IsSign() != subtracted) != sum.IsSign();
+                const uint last =
+                    AddTail(sum, series.term, multiplier, against != alternate, alternate,
+                            index + 1, Series::endTest, [](uint i) { return Series::Ratio(i); });
+                if (last != 0) {
+                    return last;
+                }
+            }
+        }
+        if (!series.Advance()) {
+            break;
+        }
+    }
+    return index;
+}
+
+/// x + x^2 / 2! + x^3 / 3! + ...
+template <typename Number>
+class ExponentialSeries {
+public:
+    static constexpr EndTest endTest = EndTest::EveryFourthTerm;
+    static constexpr bool alternating = false;
+
+    Number term;
+
+    explicit ExponentialSeries(const Number& x) : x_(x), power_(x) {
+        one_.SetOne();
+        factorial_.SetOne();
+        index_.SetOne();
+    }
+
+    bool MakeTerm() {
+        term = power_;
+        return term.Div(factorial_) == 0;
+    }
+
+    bool Advance() {
+        return index_.Add(one_) == 0 && factorial_.Mul(index_) == 0 && power_.Mul(x_) == 0;
+    }
+
+    static TermRatio Ratio(uint index) { return {1, index}; }
+    const Number& multiplier() const { return x_; }
+
+private:
+    const Number& x_;
+    Number power_;
+    Number factorial_;
+    Number index_;
+    Number one_;
+};
+
+/// y + y^3 / 3 + y^5 / 5 + ...
+template <typename Number>
+class LogarithmSeries {
+public:
+    static constexpr EndTest endTest = EndTest::EveryFourthTerm;
+    static constexpr bool alternating = false;
+
+    Number term;
+
+    explicit LogarithmSeries(const Number& y) : power_(y), square_(y) {
+        square_.Mul(y);
+        denominator_.SetOne();
+        two_ = 2;
+    }
+
+    bool MakeTerm() {
+        term = power_;
+        return term.Div(denominator_) == 0;
+    }
+
+    bool Advance() { return power_.Mul(square_) == 0 && denominator_.Add(two_) == 0; }
+
+    static TermRatio Ratio(uint index) { return {2 * index - 3, 2 * index - 1}; }
+    const Number& multiplier() const { return square_; }
+
+private:
+    Number power_;
+    Number square_;
+    Number denominator_;
+    Number two_;
+};
+
+/// x^3 / 3 - x^5 / 5 + x^7 / 7 - ..., what is subtracted from x
+template <typename Number>
+class ArcTangentSeries {
+public:
+    static constexpr EndTest endTest = EndTest::EachTerm;
+    static constexpr bool alternating = true;
+
+    Number term;
+
+    explicit ArcTangentSeries(const Number& x) : power_(x), square_(x) {
+        square_.Mul(x);
+        denominator_.SetOne();
+        two_ = 2;
+    }
+
+    bool MakeTerm() {
+        carry_ += power_.Mul(square_);
+        carry_ += denominator_.Add(two_);
+        term = power_;
+        carry_ += term.Div(denominator_);
+        return carry_ == 0;
+    }
+
+    bool Advance() const { return true; }
+
+    static TermRatio Ratio(uint index) { return {2 * index - 1, 2 * index + 1}; }
+    const Number& multiplier() const { return square_; }
+
+private:
+    Number power_;
+    Number square_;
+    Number denominator_;
+    Number two_;
+    uint carry_ = 0;
+};
+
+/// x^3 / 3! - x^5 / 5! + ..., what is subtracted from x, if `First` is 2; with `First` 1 it is
+/// x^2 / 2! - x^4 / 4! + ..., what is subtracted from 1.
+template <typename Number, uint First>
+class SineSeries {
+public:
+    static constexpr EndTest endTest = EndTest::EachTerm;
+    static constexpr bool alternating = true;
+
+    Number term;
+
+    SineSeries(const Number& power, const Number& square) : power_(power), square_(square) {
+        one_.SetOne();
+        factorial_.SetOne();
+        index_ = First;
+    }
+
+    bool MakeTerm() {
+        carry_ += power_.Mul(square_);
+        for (int i = 0; i < 2; ++i) {
+            carry_ += factorial_.Mul(index_);
+            carry_ += index_.Add(one_);
+        }
+        term = power_;
+        carry_ += term.Div(factorial_);
+        return carry_ == 0;
+    }
+
+    bool Advance() const { return true; }
+
+    static TermRatio Ratio(uint index) {
+        const uint factor = 2 * index + First - 2;
+        return {1, factor * (factor + 1)};
+    }
+    const Number& multiplier() const { return square_; }
+
+private:
+    Number power_;
+    const Number& square_;
+    Number factorial_;
+    Number index_;
+    Number one_;
+    uint carry_ = 0;
+};
+
+/// e^x for x between -1 and 1, as Big::ExpSurrounding0.
+template <typename Number>
+uint Exponential(Number& result, const Number& x) {
+    ExponentialSeries<Number> series(x);
+    result.SetOne();
+    return Sum(series, result);
+}
+
+/// ln x for x from 1 to 2, as Big::LnSurrounding1: twice the series of (x - 1) / (x + 1).
+template <typename Number>
+std::optional<uint> Logarithm(Number& result, const Number& x) {
+    Number one;
+    one.SetOne();
+    if (x == one) {
+        result.SetZero();
+        return {};
+    }
+    Number y = x;
+    y.Sub(one);
+    Number divisor = x;
+    divisor.Add(one);
+    y.Div(divisor);
+    LogarithmSeries<Number> series(y);
+    result.SetZero();
+    const uint steps = Sum(series, result);
+    result.exponent.AddOne();
+    return steps;
+}
+
+/// The arc tangent of x between -1/2 and 1/2.
+template <typename Number>
+Number ArcTangent(const Number& x) {
+    ArcTangentSeries<Number> series(x);
+    Number result = x;
+    Sum(series, result);
+    return result;
+}
+
+/// The sine of x from 0 to pi/2, from pi/4 on as the cosine of what is missing.
+template <typename Number>
+Number Sine(const Number& x) {
+    Number quarter;
+    quarter.Set05Pi();
+    quarter.exponent.SubOne();
+    Number result;
+    Number square;
+    if (x < quarter) {
+        square = x;
+        square.Mul(x);
+        SineSeries<Number, 2> series(x, square);
+        result = x;
+        Sum(series, result);
+        return result;
+    }
+    Number right;
+    right.Set05Pi();
+    Number distance = x;
+    distance.Sub(right);
+    square = distance;
+    square.Mul(distance);
+    result.SetOne();
+    SineSeries<Number, 1> series(result, square);
+    Sum(series, result);
+    return result;
+}
+
+}  // namespace
+}  // namespace vqz::kernels
+
+namespace ttmath {
+
+#define BIGNUMBER_DEFINE_SERIES(E, W)                                       \
+    template <>                                                             \
+    void Big<E, W>::ExpSurrounding0(const Big<E, W>& x, uint* steps) {      \
+        const uint last = vqz::kernels::Exponential(*this, x);              \
+        if (steps != nullptr) {                                             \
+            *steps = last;                                                  \
+        }                                                                   \
+    }                                                                       \
+    template <>                                                             \
+    void Big<E, W>::LnSurrounding1(const Big<E, W>& x, uint* steps) {       \
+        const std::optional<uint> last = vqz::kernels::Logarithm(*this, x); \
+        if (steps != nullptr && last) {                                     \
+            *steps = *last;                                                 \
+        }                                                                   \
+    }                                                                       \
+    template <>                                                             \
+    Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>& x) {               \
+        return vqz::kernels::ArcTangent(x);                                 \
+    }                                                                       \
+    template <>                                                             \
+    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>& x) {            \
+        return vqz::kernels::Sine(x);                                       \
+    }
+
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_SERIES)
+
+}  // namespace ttmath
