@@ -29,16 +29,15 @@
 // ends the attempt, and the series is summed on plainly.
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <bit>
-#include <cstddef>
 #include <cstdint>
 #include <span>
 
 #include <emmintrin.h>
 
-#include "number/kernels/specialisations.hpp"
+#include "number/kernels/column_sums.hpp"
+#include "number/kernels/limbs.hpp"
 
 namespace vqz::kernels {
 
@@ -77,17 +76,17 @@ public:
     static constexpr std::uint32_t GroupSize = 4;
 
     explicit SeriesTail(const TailStart<W>& start)
-        : size_(LimbsOf(Bits - start.termShift + GuardLimbs * LimbBits)),
-          firstFactor_(static_cast<std::size_t>(start.multiplierShift / LimbBits) + 1),
+        : count_(LimbsOf(Bits - start.termShift) + GuardLimbs),
+          firstFactor_(start.multiplierShift / LimbBits),
           subtract_(start.subtract),
           alternate_(start.alternate) {
-        for (std::size_t i = 0; i < size_; ++i) {
-            term_[i] =
-                LimbAt(start.term, LimbBits * static_cast<int>(i - GuardLimbs) + start.termShift);
+        for (int i = 0; i < count_; ++i) {
+            term()[i] =
+                LimbAt(start.term, start.termShift + LimbBits * (count_ - GuardLimbs - 1 - i));
         }
-        for (std::size_t j = firstFactor_; j < size_; ++j) {
-            multiplier_.limbs[j] = _mm_set1_epi64x(LimbAt(
-                start.multiplier, Bits + start.multiplierShift - LimbBits * static_cast<int>(j)));
+        for (int j = firstFactor_; j < count_; ++j) {
+            multiplier_[j] =
+                LimbAt(start.multiplier, Bits + start.multiplierShift - LimbBits * (j + 1));
         }
     }
 
@@ -97,15 +96,12 @@ public:
     template <typename Ratio>
     std::uint32_t Run(std::uint32_t first, bool wholeGroups, Ratio ratio) {
         for (; first + GroupSize <= MaxTerms; first += GroupSize) {
-            std::array<TermRatio, GroupSize> ratios;
-            for (std::uint32_t i = 0; i < GroupSize; ++i) {
-                ratios[i] = ratio(first + i);
-            }
-            MakeFactors(ratios);
+            MakeFactors(ratio(first), ratio(first + 1), factors_[0].data(), factors_[1].data());
+            MakeFactors(ratio(first + 2), ratio(first + 3), factors_[2].data(), factors_[3].data());
             std::int64_t change = 0;
             for (std::uint32_t i = 0; i < GroupSize; ++i) {
-                Multiply(factors_[i]);
-                const auto added = Accumulate();
+                Multiply(factors_[i].data());
+                const std::int64_t added = Accumulate();
                 if (added == NearTie) {
                     return 0;
                 }
@@ -122,202 +118,196 @@ public:
     }
 
     /// Adds all terms to the sum's mantissa.
-    void AddTo(std::span<std::uint32_t, W> sum) const {
-        std::int64_t limbCarry = 0;
-        std::uint64_t bits = 0;
+    void AddTo(std::span<Word, W> sum) const {
+        std::int64_t limb = 0;
+        DoubleWord bits = 0;
         int bitCount = 0;
-        std::size_t next = 0;
-        std::uint64_t carry = 0;
-        for (std::uint32_t& word : sum) {
-            while (bitCount < 32) {
-                limbCarry += next < total_.size() ? total_[next] : 0;
-                bits |= (static_cast<std::uint64_t>(limbCarry) & LimbMask) << bitCount;
-                limbCarry >>= LimbBits;
+        DoubleWord carry = 0;
+        int next = count_ - GuardLimbs;
+        for (Word& word : sum) {
+            while (bitCount < WordBits) {
+                --next;
+                limb += next >= 0 ? total_[next] : 0;
+                bits |= DoubleWord{static_cast<Word>(limb) & LimbMask} << bitCount;
+                limb >>= LimbBits;
                 bitCount += LimbBits;
-                ++next;
             }
-            carry += std::uint64_t{word} + static_cast<std::uint32_t>(bits);
-            word = static_cast<std::uint32_t>(carry);
-            carry >>= 32;
-            bits >>= 32;
-            bitCount -= 32;
+            carry += DoubleWord{word} + Low(bits);
+            word = Low(carry);
+            carry = High(carry);
+            bits >>= WordBits;
+            bitCount -= WordBits;
         }
     }
 
 private:
-    static constexpr int Bits = 32 * W;
-    static constexpr int LimbBits = 28;
-    static constexpr std::uint64_t LimbMask = (1U << LimbBits) - 1;
+    static constexpr int Bits = WordBits * W;
     static constexpr int GuardLimbs = 3;
-    /// Products are computed eight columns at a time; terms are followed by so many zero limbs.
-    static constexpr std::size_t Block = 8;
 
-    static constexpr std::size_t LimbsOf(int bits) {
-        return static_cast<std::size_t>((bits + LimbBits - 1) / LimbBits);
-    }
+    static constexpr int LimbsOf(int bits) { return (bits + LimbBits - 1) / LimbBits; }
 
-    static constexpr std::size_t MaxLimbs = LimbsOf(Bits + GuardLimbs * LimbBits);
-    // A column of a product is a sum of so many products of a factor's limb, below 2.85 * 2^28, and
+    static constexpr int MaxLimbs = LimbsOf(Bits) + GuardLimbs;
+    // A column of a product is a sum of so many products of a factor's limb, below 2.86 * 2^28, and
     // a term's, below 2^28 + 2^8. It must fit into 64 bits.
-    static_assert(MaxLimbs * 2.86 < 256);
+    static_assert(MaxLimbs * 2.87 < 256);
 
     static constexpr std::int64_t NearTie = INT64_MAX;
     static constexpr std::int64_t Large = std::int64_t{1} << 40;
 
     using Lanes = __m128i;
+    using Factor = std::array<Limb, MaxLimbs>;
 
-    /// Limb j counts 2^(-28 j). Each stands in both lanes.
-    struct Factor {
-        Lanes limbs[MaxLimbs];
-    };
-
-    /// Limb i counts 2^(28 (i - GuardLimbs)) units.
-    alignas(16) std::array<std::uint64_t, MaxLimbs + 2 * Block> term_{};
-    /// The sum of the rounded terms: limb i counts 2^(28 i) units and has a sign of its own.
-    alignas(16) std::array<std::int64_t, MaxLimbs + 2 * Block> total_{};
+    /// Limbs of terms, the highest first; limb i counts 2^(28 (count_ - GuardLimbs - 1 - i)) units.
+    int count_;
+    /// Limbs of the term before this one are 0.
+    int begin_ = 0;
+    std::array<Limb, LimbPadding + MaxLimbs + LimbPadding> term_{};
+    /// The sum of the rounded terms, in the same limbs, each with a sign of its own. The last
+    /// GuardLimbs hold nothing.
+    std::array<std::int64_t, MaxLimbs + 1> total_{};
+    /// Limb j counts 2^(-28 (j + 1)).
     Factor multiplier_;
+    /// What leads from each term of a group to the next, in the same limbs.
     std::array<Factor, GroupSize> factors_;
-    /// Limbs of the term; those above are 0.
-    std::size_t size_;
     /// Limbs of the multiplier before this one are 0.
-    std::size_t firstFactor_;
+    int firstFactor_;
     bool subtract_;
     bool alternate_;
 
+    Limb* term() { return term_.data() + LimbPadding; }
+
     /// The 28 bits of a mantissa from the given one on, which may lie outside.
-    static std::uint32_t LimbAt(std::span<const std::uint32_t, W> mantissa, int position) {
+    static Limb LimbAt(std::span<const Word, W> mantissa, int position) {
         const int index = position >> 5;
-        const auto wordAt = [&mantissa](int i) -> std::uint64_t {
+        const auto wordAt = [&mantissa](int i) -> Word {
             return i >= 0 && i < static_cast<int>(W) ? mantissa[static_cast<std::size_t>(i)] : 0;
         };
-        const std::uint64_t two = wordAt(index) | wordAt(index + 1) << 32;
-        return static_cast<std::uint32_t>((two >> (position & 31)) & LimbMask);
+        const DoubleWord two = Join(wordAt(index + 1), wordAt(index));
+        return Low(two >> (position & 31)) & LimbMask;
     }
 
-    /// Multiplies the multiplier by each ratio, limb by limb from the top, as in division by hand:
-    /// what remains after a limb counts 2^28 in the next. Two divisions go side by side in the two
+    /// Multiplies the multiplier by two ratios, limb by limb from the top, as in division by hand:
+    /// what remains after a limb counts 2^28 in the next. The two divisions go side by side in two
     /// lanes.
     ///
     /// With numerator and denominator d shifted so that 2^23 <= d < 2^24, and r = floor((2^55 - 1)
     /// / d), the quotient of n by d is taken as ((n >> 22) * r) >> 33. It is not too large, and too
     /// small by less than 1/2 for the bits of n that are left out (2^22 / d), 0.36 for those of r
-    /// (a quotient below 2.85 * 2^28 times 2^-31), and 1 for rounding down. What remains is
+    /// (a quotient below 2.86 * 2^28 times 2^-31), and 1 for rounding down. What remains is
     /// below 1.86 d, and as the numerator is not above d, the next n is below 2.86 * 2^28 d < 2^54,
     /// the quotient below 2.86 * 2^28.
-    void MakeFactors(const std::array<TermRatio, GroupSize>& ratios) {
-        MakeTwoFactors(ratios[0], ratios[1], factors_[0], factors_[1]);
-        MakeTwoFactors(ratios[2], ratios[3], factors_[2], factors_[3]);
-    }
-
-    void MakeTwoFactors(TermRatio low, TermRatio high, Factor& lowFactor, Factor& highFactor) {
+    void MakeFactors(TermRatio low, TermRatio high, Limb* lowFactor, Limb* highFactor) const {
         constexpr int denominatorBits = 24;
-        const int lowShift = denominatorBits - std::bit_width(low.denominator);
-        const int highShift = denominatorBits - std::bit_width(high.denominator);
-        low = {low.numerator << lowShift, low.denominator << lowShift};
-        high = {high.numerator << highShift, high.denominator << highShift};
-        const auto reciprocal = [](std::uint32_t denominator) {
-            return static_cast<std::int64_t>(((std::uint64_t{1} << (31 + denominatorBits)) - 1) /
+        const auto aligned = [](TermRatio ratio) -> TermRatio {
+            const int shift = denominatorBits - std::bit_width(ratio.denominator);
+            return {ratio.numerator << shift, ratio.denominator << shift};
+        };
+        const auto reciprocal = [](Word denominator) -> std::int64_t {
+            return static_cast<std::int64_t>(((DoubleWord{1} << (31 + denominatorBits)) - 1) /
                                              denominator);
         };
+        low = aligned(low);
+        high = aligned(high);
         const Lanes numerators = _mm_set_epi64x(high.numerator, low.numerator);
         const Lanes denominators = _mm_set_epi64x(high.denominator, low.denominator);
         const Lanes reciprocals =
             _mm_set_epi64x(reciprocal(high.denominator), reciprocal(low.denominator));
         Lanes rest = _mm_setzero_si128();
-        for (std::size_t j = firstFactor_; j < size_; ++j) {
-            const Lanes dividend = _mm_add_epi64(_mm_slli_epi64(rest, LimbBits),
-                                                 _mm_mul_epu32(multiplier_.limbs[j], numerators));
+        for (int j = firstFactor_; j < count_ - begin_; ++j) {
+            const Lanes limb = _mm_set1_epi64x(static_cast<std::int64_t>(multiplier_[j]));
+            const Lanes dividend =
+                _mm_add_epi64(_mm_slli_epi64(rest, LimbBits), _mm_mul_epu32(limb, numerators));
             const Lanes quotient = _mm_srli_epi64(
                 _mm_mul_epu32(_mm_srli_epi64(dividend, denominatorBits - 2), reciprocals), 33);
             rest = _mm_sub_epi64(dividend, _mm_mul_epu32(quotient, denominators));
-            lowFactor.limbs[j] = _mm_unpacklo_epi64(quotient, quotient);
-            highFactor.limbs[j] = _mm_unpackhi_epi64(quotient, quotient);
+            _mm_storel_epi64(reinterpret_cast<Lanes*>(lowFactor + j), quotient);
+            _mm_storel_epi64(reinterpret_cast<Lanes*>(highFactor + j),
+                             _mm_unpackhi_epi64(quotient, quotient));
         }
     }
 
-    static Lanes Load(const std::uint64_t* limbs) {
-        return _mm_loadu_si128(reinterpret_cast<const Lanes*>(limbs));
-    }
-
-    static void Store(std::uint64_t* limbs, Lanes lanes) {
-        _mm_storeu_si128(reinterpret_cast<Lanes*>(limbs), lanes);
-    }
-
-    /// Multiplies the term by a factor: column c is the sum of factor[j] * term[c + j]. Later
-    /// columns need no earlier limb of the term, so that the product takes its place.
-    void Multiply(const Factor& factor) {
-        for (std::size_t column = 0; column < size_; column += Block) {
-            Lanes sums[Block / 2] = {};
-            for (std::size_t j = firstFactor_; column + j < size_; ++j) {
-                const std::uint64_t* limbs = &term_[column + j];
-                for (std::size_t lane = 0; lane < Block / 2; ++lane) {
-                    sums[lane] = _mm_add_epi64(
-                        sums[lane], _mm_mul_epu32(factor.limbs[j], Load(limbs + 2 * lane)));
-                }
-            }
-            for (std::size_t lane = 0; lane < Block / 2; ++lane) {
-                Store(&term_[column + 2 * lane], sums[lane]);
-            }
+    /// Multiplies the term by a factor, without the columns below the term's last limb.
+    void Multiply(const Limb* factor) {
+        // The carries of the highest column reach two limbs further up, and columns are taken in
+        // pairs.
+        constexpr int above = 3;
+        std::array<DoubleWord, above + MaxLimbs + ColumnStep> sums;
+        std::fill_n(sums.begin(), above, 0);
+        const int top = begin_ + firstFactor_ + 1;
+        const int columns = count_ - top;
+        if (columns > 0) {
+            columnSums(factor + firstFactor_, columns, term() + begin_, columns, 0, columns,
+                       sums.data() + above);
+            Carry(sums.data() + above, top - 2);
         }
-        Carry();
-        while (size_ > 0 && term_[size_ - 1] == 0) {
-            --size_;
+        const int end = columns > 0 ? top - 2 : count_;
+        for (; begin_ < end; ++begin_) {
+            term()[begin_] = 0;
+        }
+        while (begin_ < count_ && term()[begin_] == 0) {
+            ++begin_;
         }
     }
 
-    /// Hands on what exceeds 28 bits of a limb, twice: the first time up to 36 bits, the second
-    /// time up to 8. Limbs are below 2^28 + 2^8 then, which is good enough.
-    void Carry() {
-        const Lanes mask = _mm_set1_epi64x(static_cast<std::int64_t>(LimbMask));
-        const auto handOn = [mask](Lanes limbs, Lanes& above) {
-            const Lanes carries = _mm_srli_epi64(limbs, LimbBits);
+    /// Makes limbs of columns, down to limb `top` of the term. What exceeds 28 bits of a column is
+    /// handed on, twice: the first time up to 36 bits, the second time up to 8. Limbs are below
+    /// 2^28 + 2^8 then, which is good enough.
+    void Carry(const DoubleWord* sums, int top) {
+        const Lanes mask = _mm_set1_epi64x(LimbMask);
+        const auto handOn = [mask](Lanes columns, Lanes& below) {
+            const Lanes carries = _mm_srli_epi64(columns, LimbBits);
             const Lanes shifted = _mm_castpd_si128(
-                _mm_shuffle_pd(_mm_castsi128_pd(above), _mm_castsi128_pd(carries), 1));
-            above = carries;
-            return _mm_add_epi64(_mm_and_si128(limbs, mask), shifted);
+                _mm_shuffle_pd(_mm_castsi128_pd(carries), _mm_castsi128_pd(below), 1));
+            below = carries;
+            return _mm_add_epi64(_mm_and_si128(columns, mask), shifted);
         };
         Lanes first = _mm_setzero_si128();
         Lanes second = _mm_setzero_si128();
-        for (std::size_t i = 0; i < size_; i += 2) {
-            Store(&term_[i], handOn(handOn(Load(&term_[i]), first), second));
+        for (int i = count_ - 2; i > top - 2; i -= 2) {
+            Store(term() + i, handOn(handOn(Load(sums + (i - top - 2)), first), second));
         }
     }
+
+    static Lanes Load(const void* two) { return _mm_loadu_si128(static_cast<const Lanes*>(two)); }
+
+    static void Store(void* two, Lanes lanes) { _mm_storeu_si128(static_cast<Lanes*>(two), lanes); }
 
     /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Answers what
     /// was added, with its sign; or Large for more than a limb, whatever its sign; or NearTie.
     std::int64_t Accumulate() {
         constexpr int fractionBits = 2 * LimbBits;
-        constexpr std::uint64_t half = std::uint64_t{1} << (fractionBits - 1);
-        const std::uint64_t guard = (term_[2] << LimbBits) + term_[1] + (term_[0] >> LimbBits);
-        const std::uint64_t fraction = guard & (2 * half - 1);
+        constexpr DoubleWord half = DoubleWord{1} << (fractionBits - 1);
+        const Limb* end = term() + count_;
+        const DoubleWord guard = (end[-3] << LimbBits) + end[-2] + (end[-1] >> LimbBits);
+        const DoubleWord fraction = guard & (2 * half - 1);
         if (fraction + TieMargin - half < 2 * TieMargin) {
             return NearTie;
         }
         const auto unit = static_cast<std::int64_t>((guard >> fractionBits) + (fraction >= half));
         const std::int64_t sign = subtract_ ? -1 : 1;
         subtract_ ^= alternate_;
-        const std::int64_t added = static_cast<std::int64_t>(term_[GuardLimbs]) + unit;
-        total_[0] += sign * unit;
+        const int last = count_ - GuardLimbs - 1;
         if (sign > 0) {
-            AddTerm([](Lanes total, Lanes term) { return _mm_add_epi64(total, term); });
+            AddTerm([](Lanes total, Lanes limbs) { return _mm_add_epi64(total, limbs); });
         } else {
-            AddTerm([](Lanes total, Lanes term) { return _mm_sub_epi64(total, term); });
+            AddTerm([](Lanes total, Lanes limbs) { return _mm_sub_epi64(total, limbs); });
         }
-        return size_ > GuardLimbs + 1 ? Large : sign * added;
+        total_[last] += sign * unit;
+        return begin_ < last ? Large : sign * (static_cast<std::int64_t>(term()[last]) + unit);
     }
 
     template <typename Operation>
     void AddTerm(Operation operation) {
-        for (std::size_t i = 0; i + GuardLimbs < size_; i += 2) {
-            auto* total = reinterpret_cast<Lanes*>(&total_[i]);
-            _mm_store_si128(total, operation(_mm_load_si128(total), Load(&term_[i + GuardLimbs])));
+        for (int i = begin_; i < count_ - GuardLimbs; i += 2) {
+            Store(&total_[i], operation(Load(&total_[i]), Load(term() + i)));
         }
     }
 
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
-    static constexpr std::uint64_t TieMargin = std::uint64_t{1} << 50;
+    // An attempt or two in each series.
+    static constexpr DoubleWord TieMargin = DoubleWord{1} << 50;
 #else
-    static constexpr std::uint64_t TieMargin = std::uint64_t{1} << (2 * LimbBits - 26);
+    static constexpr DoubleWord TieMargin = DoubleWord{1} << (2 * LimbBits - 26);
 #endif
 };
 

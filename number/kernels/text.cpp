@@ -7,6 +7,7 @@
 #include <string>
 
 #include "number/kernels/specialisations.hpp"
+#include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
 namespace {
@@ -28,23 +29,6 @@ constexpr BasePower LargestPower(uint base) {
         ++largest.digits;
     }
     return largest;
-}
-
-/// What a division by a word leaves.
-struct Division {
-    uint quotient;
-    uint rest;
-};
-
-/// Divides a word that follows on the rest of the words before it. The compiler would divide 64
-/// bits by 64 for this.
-inline Division DivideWord(uint restBefore, uint word, uint divisor) {
-    Division result;
-    asm("divl %4"
-        : "=a"(result.quotient), "=d"(result.rest)
-        : "a"(word), "d"(restBefore), "rm"(divisor)
-        : "cc");
-    return result;
 }
 
 /// Writes the digits of a block, the last first, and ends where they end. `Base` 0 is any base.
@@ -69,15 +53,14 @@ void AppendDigits(std::string& text, UInt<W> integer, uint base) {
     const BasePower block = LargestPower(base);
     std::size_t count = 0;
     for (std::size_t words = W; words > 0; count += 2) {
-        Division first{};
-        Division second{};
+        uint first = 0;
+        uint second = 0;
         for (std::size_t i = words; i > 0; --i) {
-            first = DivideWord(first.rest, integer.table[i - 1], block.power);
-            second = DivideWord(second.rest, first.quotient, block.power);
-            integer.table[i - 1] = second.quotient;
+            const uint quotient = DivideWords(first, integer.table[i - 1], block.power, first);
+            integer.table[i - 1] = DivideWords(second, quotient, block.power, second);
         }
-        blocks[count] = first.rest;
-        blocks[count + 1] = second.rest;
+        blocks[count] = first;
+        blocks[count + 1] = second;
         while (words > 0 && integer.table[words - 1] == 0) {
             --words;
         }
