@@ -96,8 +96,7 @@ public:
     template <typename Ratio>
     std::uint32_t Run(std::uint32_t first, bool wholeGroups, Ratio ratio) {
         for (; first + GroupSize <= MaxTerms; first += GroupSize) {
-            MakeFactors(ratio(first), ratio(first + 1), factors_[0].data(), factors_[1].data());
-            MakeFactors(ratio(first + 2), ratio(first + 3), factors_[2].data(), factors_[3].data());
+            MakeFactors({ratio(first), ratio(first + 1), ratio(first + 2), ratio(first + 3)});
             std::int64_t change = 0;
             for (std::uint32_t i = 0; i < GroupSize; ++i) {
                 Multiply(factors_[i].data());
@@ -196,51 +195,59 @@ private:
     /// (a quotient below 2.86 * 2^28 times 2^-31), and 1 for rounding down. What remains is
     /// below 1.86 d, and as the numerator is not above d, the next n is below 2.86 * 2^28 d < 2^54,
     /// the quotient below 2.86 * 2^28.
-    void MakeFactors(TermRatio low, TermRatio high, Limb* lowFactor, Limb* highFactor) const {
+    void MakeFactors(const std::array<TermRatio, GroupSize>& ratios) {
         constexpr int denominatorBits = 24;
-        const auto aligned = [](TermRatio ratio) -> TermRatio {
-            const int shift = denominatorBits - std::bit_width(ratio.denominator);
-            return {ratio.numerator << shift, ratio.denominator << shift};
-        };
-        const auto reciprocal = [](Word denominator) -> std::int64_t {
-            return static_cast<std::int64_t>(((DoubleWord{1} << (31 + denominatorBits)) - 1) /
-                                             denominator);
-        };
-        low = aligned(low);
-        high = aligned(high);
-        const Lanes numerators = _mm_set_epi64x(high.numerator, low.numerator);
-        const Lanes denominators = _mm_set_epi64x(high.denominator, low.denominator);
-        const Lanes reciprocals =
-            _mm_set_epi64x(reciprocal(high.denominator), reciprocal(low.denominator));
-        Lanes rest = _mm_setzero_si128();
+        constexpr int pairs = GroupSize / 2;
+        Lanes numerators[pairs];
+        Lanes denominators[pairs];
+        Lanes reciprocals[pairs];
+        for (int p = 0; p < pairs; ++p) {
+            DoubleWord lanes[3][2];
+            for (int lane = 0; lane < 2; ++lane) {
+                const TermRatio ratio = ratios[static_cast<std::size_t>(2 * p + lane)];
+                const int shift = denominatorBits - std::bit_width(ratio.denominator);
+                const Word denominator = ratio.denominator << shift;
+                lanes[0][lane] = ratio.numerator << shift;
+                lanes[1][lane] = denominator;
+                lanes[2][lane] = ((DoubleWord{1} << (31 + denominatorBits)) - 1) / denominator;
+            }
+            numerators[p] = Load(lanes[0]);
+            denominators[p] = Load(lanes[1]);
+            reciprocals[p] = Load(lanes[2]);
+        }
+        Lanes rests[pairs] = {};
         for (int j = firstFactor_; j < count_ - begin_; ++j) {
             const Lanes limb = _mm_set1_epi64x(static_cast<std::int64_t>(multiplier_[j]));
-            const Lanes dividend =
-                _mm_add_epi64(_mm_slli_epi64(rest, LimbBits), _mm_mul_epu32(limb, numerators));
-            const Lanes quotient = _mm_srli_epi64(
-                _mm_mul_epu32(_mm_srli_epi64(dividend, denominatorBits - 2), reciprocals), 33);
-            rest = _mm_sub_epi64(dividend, _mm_mul_epu32(quotient, denominators));
-            _mm_storel_epi64(reinterpret_cast<Lanes*>(lowFactor + j), quotient);
-            _mm_storel_epi64(reinterpret_cast<Lanes*>(highFactor + j),
-                             _mm_unpackhi_epi64(quotient, quotient));
+#pragma GCC unroll 2
+            for (int p = 0; p < pairs; ++p) {
+                const Lanes dividend = _mm_add_epi64(_mm_slli_epi64(rests[p], LimbBits),
+                                                     _mm_mul_epu32(limb, numerators[p]));
+                const Lanes quotient = _mm_srli_epi64(
+                    _mm_mul_epu32(_mm_srli_epi64(dividend, denominatorBits - 2), reciprocals[p]),
+                    33);
+                rests[p] = _mm_sub_epi64(dividend, _mm_mul_epu32(quotient, denominators[p]));
+                _mm_storel_epi64(reinterpret_cast<Lanes*>(&factors_[2 * p][j]), quotient);
+                _mm_storel_epi64(reinterpret_cast<Lanes*>(&factors_[2 * p + 1][j]),
+                                 _mm_unpackhi_epi64(quotient, quotient));
+            }
         }
     }
 
     /// Multiplies the term by a factor, without the columns below the term's last limb.
     void Multiply(const Limb* factor) {
-        // The carries of the highest column reach two limbs further up, and columns are taken in
-        // pairs.
-        constexpr int above = 3;
-        std::array<DoubleWord, above + MaxLimbs + ColumnStep> sums;
+        // Columns are handed to limbs in pairs; the carries of the highest one need two limbs more.
+        constexpr int above = 4;
+        alignas(32) std::array<DoubleWord, above + MaxLimbs + ColumnStep> sums;
         std::fill_n(sums.begin(), above, 0);
         const int top = begin_ + firstFactor_ + 1;
         const int columns = count_ - top;
+        int end = count_;
         if (columns > 0) {
             columnSums(factor + firstFactor_, columns, term() + begin_, columns, 0, columns,
                        sums.data() + above);
-            Carry(sums.data() + above, top - 2);
+            Carry(sums.data() + above, columns);
+            end = top - 2;
         }
-        const int end = columns > 0 ? top - 2 : count_;
         for (; begin_ < end; ++begin_) {
             term()[begin_] = 0;
         }
@@ -249,28 +256,35 @@ private:
         }
     }
 
-    /// Makes limbs of columns, down to limb `top` of the term. What exceeds 28 bits of a column is
-    /// handed on, twice: the first time up to 36 bits, the second time up to 8. Limbs are below
-    /// 2^28 + 2^8 then, which is good enough.
-    void Carry(const DoubleWord* sums, int top) {
+    /// Makes the last limbs of the term of as many columns, and two more limbs of their carries.
+    /// What exceeds 28 bits of a column is handed on, twice: the first time up to 36 bits, the
+    /// second time up to 8. Limbs are below 2^28 + 2^8 then, which is good enough.
+    void Carry(const DoubleWord* sums, int columns) {
         const Lanes mask = _mm_set1_epi64x(LimbMask);
-        const auto handOn = [mask](Lanes columns, Lanes& below) {
-            const Lanes carries = _mm_srli_epi64(columns, LimbBits);
+        const auto handOn = [mask](Lanes limbs, Lanes& below) {
+            const Lanes carries = _mm_srli_epi64(limbs, LimbBits);
             const Lanes shifted = _mm_castpd_si128(
                 _mm_shuffle_pd(_mm_castsi128_pd(carries), _mm_castsi128_pd(below), 1));
             below = carries;
-            return _mm_add_epi64(_mm_and_si128(columns, mask), shifted);
+            return _mm_add_epi64(_mm_and_si128(limbs, mask), shifted);
         };
         Lanes first = _mm_setzero_si128();
         Lanes second = _mm_setzero_si128();
-        for (int i = count_ - 2; i > top - 2; i -= 2) {
-            Store(term() + i, handOn(handOn(Load(sums + (i - top - 2)), first), second));
+        Limb* limbs = term() + count_ - columns;
+        // With an odd number of columns the last pair has one that is not wanted.
+        for (int i = (columns - 1) & ~1; i >= -2; i -= 2) {
+            Store(limbs + i, handOn(handOn(Load(sums + i), first), second));
         }
+        limbs[columns] = 0;
     }
 
-    static Lanes Load(const void* two) { return _mm_loadu_si128(static_cast<const Lanes*>(two)); }
+    static Lanes Load(const void* two) {
+        return _mm_loadu_si128(static_cast<const Lanes*>(two));
+    }
 
-    static void Store(void* two, Lanes lanes) { _mm_storeu_si128(static_cast<Lanes*>(two), lanes); }
+    static void Store(void* two, Lanes lanes) {
+        _mm_storeu_si128(static_cast<Lanes*>(two), lanes);
+    }
 
     /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Answers what
     /// was added, with its sign; or Large for more than a limb, whatever its sign; or NearTie.
