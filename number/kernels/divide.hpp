@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
+#include <iterator>
+#include <utility>
 
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
@@ -64,68 +65,105 @@ private:
     /// which are column sums as in a multiplication. Blocks of columns get the sums of the digits
     /// before the block at once; within a block each digit is subtracted as soon as it is known.
     ///
-    /// Digit k is what the divisor goes into x = remaining(k) + 2^(-28) remaining(k + 1) + ..., all
-    /// later columns reduced by the digits before k only. It is estimated by t, the first two of
-    /// these, and must never be too great: all remainders stay positive, while a digit may be a bit
-    /// greater than a limb. Let v be the divisor in units of its first limb, 2^27 <= v < 2^28, and
-    /// b the greatest digit over 2^28.
+    /// Digit k is how often the divisor goes into x = remaining(k) + 2^(-28) remaining(k + 1) +
+    /// ..., all columns reduced by the digits before k. The digit must never be too great, so that
+    /// all remainders stay positive; it may be too small, since the next digit, which may be
+    /// greater than a limb, makes up for it. Let v be the divisor in units of its first limb, 2^27
+    /// <= v < 2^28, let it have n <= 74 limbs, and let all digits be below b * 2^28.
     ///
-    ///  - The columns from k + 2 on are at least -n * b * 2^56 each for n limbs, so x > t - 2 * n *
-    ///  b;
-    ///    n is 74 at most and b < 1.34 (below), hence LaterColumns = 256 is subtracted.
-    ///  - The estimate divides by d > 8 v, d <= 8 v + 1, and is rounded down. With x < t + 2 it
-    ///  stays
-    ///    below x / v by less than x / v / (8 v) + 8 * 258 / d + 1 < b * 2^28 / 2^30 + 1.00001.
-    ///  - What is left is the next digit's x / v: b = b / 4 + 1.00001, so b < 1.34.
-    ///  - A column of remaining(k) is at most 74 * 1.34 * 2^56 < 2^63: lanes do not overflow.
+    ///  - `current` is the first two columns. The columns behind them are not less than -n * b in
+    ///    its units, so x > current - LaterColumns.
+    ///  - The estimate cuts off 25 bits, which are less than 1/4 of v. It multiplies by an inverse
+    ///    that is too small by 2^-31 of it for the divisor's bits that it does not see and by
+    ///    another 2^-31 for its own, together by less than b * 2^28 / 2^30 = b / 4 of a digit.
+    ///    Cutting off the digit's fraction takes less than 1. A digit is too small by b / 4
+    ///    + 1.2501 at most.
+    ///  - This is what is left for the next digit, in units of 2^28: b = b / 4 + 1.2501, b < 1.67.
+    ///  - A column of remaining(k) is more than -74 * 1.67 * 2^56 > -2^63: lanes do not overflow.
     ///
-    /// The last digit leaves the quotient open by less than 1.34 of its units, and it has some bits
-    /// more than the words need. Answers whether the words are decided.
+    /// The last digit is too small by less than 2, too, and it has some bits more than the words
+    /// need. Answers whether the words are decided.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
-        constexpr std::int64_t LaterColumns = 256;
         const LimbBuffer<W> numerator(dividend + W, W);
         const LimbBuffer<W> denominator(divisor + W, divisorCount);
-        // The divisor's upper 31 bits, plus 1.
-        const Word estimator = (divisor[W - 1] >> 1) + 1;
-
-        std::array<Limb, GroupCount(Digits - 1) * GroupLimbs + 1> digits;
-        std::int64_t current = static_cast<std::int64_t>(numerator[0]);
-        for (int start = 0; start < Digits; start += Block) {
-            // The columns behind the block's first one.
-            std::array<std::int64_t, ColumnStep> remaining;
-            std::array<DoubleWord, ColumnStep> sums{};
-            if (start > 0) {
-                columnSums(digits.data(), start, denominator.data(), denominator.count(), start + 1,
-                           start + 1 + Block, sums.data());
-            }
-            for (int i = 0; i < Block; ++i) {
-                remaining[i] = static_cast<std::int64_t>(numerator[start + 1 + i] - sums[i]);
-            }
-            const int count = std::min(Block, Digits - start);
-            for (int i = 0; i < count; ++i) {
-                current += remaining[i] >> LimbBits;
-                const std::int64_t safe = current - LaterColumns;
-                Word rest = 0;
-                const Word digit = safe < 0 ? 0
-                                            : DivideWords(High(static_cast<DoubleWord>(safe) << 3),
-                                                          Low(static_cast<DoubleWord>(safe) << 3),
-                                                          estimator, rest);
-                digits[start + i] = digit;
-                const DoubleWord left = static_cast<DoubleWord>(current) - denominator[0] * digit;
-                current = static_cast<std::int64_t>((left << LimbBits) +
-                                                    (static_cast<Word>(remaining[i]) & LimbMask) -
-                                                    denominator[1] * digit);
-                for (int j = i + 1; j < Block; ++j) {
-                    remaining[j] -= static_cast<std::int64_t>(denominator[j - i + 1] * digit);
-                }
-            }
+        DigitChain chain(denominator, divisor[W - 1], numerator[0]);
+        DigitBuffer digits;
+        constexpr int FullBlocks = Digits / Block * Block;
+        for (int start = 0; start < FullBlocks; start += Block) {
+            ComputeBlock<Block>(start, numerator, denominator, chain, digits);
         }
+        ComputeBlock<Digits - FullBlocks>(FullBlocks, numerator, denominator, chain, digits);
         std::fill(digits.begin() + Digits, digits.end(), 0);
         topBit_ = digits[0] + JoinColumns(digits.data() + 1, GroupCount(Digits - 1),
                                           words_.data() + words_.size()) !=
                   0;
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - (Digits - 1) * LimbBits);
         return IsDecided(words_[Slack - 1], 2 * Unit);
+    }
+
+    using DigitBuffer = std::array<Limb, GroupCount(Digits - 1) * GroupLimbs + 1>;
+
+    /// What goes from digit to digit.
+    class DigitChain {
+    public:
+        DigitChain(const LimbBuffer<W>& denominator, Word divisorTop, Limb numeratorTop)
+            : current_(numeratorTop) {
+            std::copy_n(denominator.data(), Block + 1, divisor_.begin());
+            // 2^63 / (divisorTop + 1), which has 32 bits.
+            Word rest = 0;
+            inverse_ = divisorTop + 1 == 0 ? TopBit : DivideWords(TopBit, 0, divisorTop + 1, rest);
+        }
+
+        /// The digit of the current column. `remaining` are the `Count` columns behind it, from
+        /// which the digit is subtracted.
+        template <int Count>
+        [[gnu::always_inline]] Word Next(DoubleWord* remaining) {
+            constexpr std::int64_t LaterColumns = 128;
+            current_ +=
+                static_cast<DoubleWord>(static_cast<std::int64_t>(remaining[0]) >> LimbBits);
+            const std::int64_t safe = static_cast<std::int64_t>(current_) - LaterColumns;
+            const Word visible = safe < 0 ? 0 : Low(static_cast<DoubleWord>(safe) >> VisibleFrom);
+            const Word digit = High(DoubleWord{visible} * inverse_) >> 2;
+            current_ -= DoubleWord{divisor_[0]} * digit;
+            current_ = (current_ << LimbBits) + (Low(remaining[0]) & LimbMask) -
+                       DoubleWord{divisor_[1]} * digit;
+#pragma GCC unroll 8
+            for (int i = 1; i < Count; ++i) {
+                remaining[i] -= DoubleWord{divisor_[i + 1]} * digit;
+            }
+            return digit;
+        }
+
+    private:
+        /// visible * 2^25 / (v in units of 2^28) * 2^34 = visible * 2^63 / divisor.
+        static constexpr int VisibleFrom = 25;
+
+        DoubleWord current_;
+        Word inverse_;
+        /// The divisor's first limbs.
+        std::array<Word, Block + 1> divisor_;
+    };
+
+    /// Computes digits `start` to `start + Count - 1`.
+    template <int Count>
+    static void ComputeBlock(int start, const LimbBuffer<W>& numerator,
+                             const LimbBuffer<W>& denominator, DigitChain& chain,
+                             DigitBuffer& digits) {
+        // The columns behind the first one, which the chain has already.
+        std::array<DoubleWord, ColumnStep> remaining;
+        if (start == 0) {
+            std::copy_n(numerator.data() + 1, Count, remaining.begin());
+        } else {
+            columnSums(digits.data(), start, denominator.data(), denominator.count(), start + 1,
+                       start + 1 + Count, remaining.data());
+            for (int i = 0; i < Count; ++i) {
+                remaining[i] = numerator[start + 1 + i] - remaining[i];
+            }
+        }
+        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
+            ((digits[start + I] = chain.template Next<Count - I>(remaining.data() + I)), ...);
+        }
+        (std::make_integer_sequence<int, Count>{});
     }
 
     /// Whether the words above the guard stay the same when up to `error` is added to it.
