@@ -21,6 +21,10 @@ namespace ttmath {
     template <>                                     \
     uint Big<E, W>::DivRef(const Big<E, W>&, bool);
 
+#define BIGNUMBER_DECLARE_POWER(E, W) \
+    template <>                       \
+    uint Big<E, W>::PowUInt(Big<E, W>);
+
 #define BIGNUMBER_DECLARE_SERIES(E, W)                        \
     template <>                                               \
     void Big<E, W>::ExpSurrounding0(const Big<E, W>&, uint*); \
@@ -39,20 +43,31 @@ namespace ttmath {
     template <>                                                                       \
     uint Big<E, W>::FromString_ReadPartAfterComma(const char*&, const Conv&, bool&);
 
+#define BIGNUMBER_DECLARE_SCALING(E, W)                                       \
+    template <>                                                               \
+    template <>                                                               \
+    uint Big<E, W>::ToString_CreateNewMantissaAndExponent<std::string, char>( \
+        std::string&, const Conv&, Int<E + 1>&) const;
+
 #define BIGNUMBER_DECLARE_WRITING(W) \
     template <>                      \
     template <>                      \
     void UInt<W>::ToStringBase(std::string&, uint, bool) const;
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_OPERATIONS)
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_POWER)
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_SERIES)
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_READING)
+BIGNUMBER_DECLARE_SCALING(2, 8)
+BIGNUMBER_DECLARE_SCALING(16, 64)
 BIGNUMBER_DECLARE_WRITING(8)
 BIGNUMBER_DECLARE_WRITING(64)
 
 #undef BIGNUMBER_DECLARE_OPERATIONS
+#undef BIGNUMBER_DECLARE_POWER
 #undef BIGNUMBER_DECLARE_SERIES
 #undef BIGNUMBER_DECLARE_READING
+#undef BIGNUMBER_DECLARE_SCALING
 #undef BIGNUMBER_DECLARE_WRITING
 
 }  // namespace ttmath

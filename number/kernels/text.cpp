@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "number/kernels/growing_integer.hpp"
+#include "number/kernels/power.hpp"
 #include "number/kernels/specialisations.hpp"
 #include "number/kernels/words.hpp"
 
@@ -84,43 +86,6 @@ void AppendDigits(std::string& text, UInt<W> integer, uint base) {
     }
 }
 
-/// An integer that grows by digits at its end.
-template <uint W>
-class GrowingInteger {
-public:
-    /// integer * factor + summand, unless it gets too large. Answers whether it has been done.
-    bool Append(uint factor, uint summand) {
-        const UInt<W> before = words_ == W ? integer_ : UInt<W>();
-        std::uint64_t carry = summand;
-        for (std::size_t i = 0; i < words_; ++i) {
-            carry += std::uint64_t{integer_.table[i]} * factor;
-            integer_.table[i] = static_cast<uint>(carry);
-            carry >>= 32;
-        }
-        if (carry != 0 && words_ == W) {
-            integer_ = before;
-            return false;
-        }
-        if (carry != 0) {
-            integer_.table[words_] = static_cast<uint>(carry);
-            ++words_;
-        }
-        return true;
-    }
-
-    /// The integer as a number.
-    template <uint E>
-    void StoreTo(Big<E, W>& number) const {
-        number.SetZero();
-        number.mantissa = integer_;
-        number.Standardizing();
-    }
-
-private:
-    UInt<W> integer_{0U};
-    std::size_t words_ = 0;
-};
-
 /// Goes over the digits of a text.
 class DigitReader {
 public:
@@ -153,6 +118,27 @@ private:
         return ttmath::Misc::CharToDigit(static_cast<uint>(*place_), conv_.base);
     }
 };
+
+/// The least integer that is not below exponent * log10(2), if that can be told.
+template <uint E>
+std::optional<ttmath::sint> DecimalExponent(const ttmath::Int<E>& exponent) {
+    // log10(2) * 2^32. It is off by less than 1/2, so that the product with at most 2^20 is off by
+    // less than 2^-12; unless it is that near to an integer, the integers around it are those
+    // around the exact one. (2^0 is 1, whose logarithm is exact.)
+    constexpr std::int64_t logarithm = 1292913986;
+    constexpr ttmath::sint limit = 1 << 20;
+    constexpr std::int64_t margin = std::int64_t{1} << (32 - 12);
+    ttmath::sint small = 0;
+    if (exponent.ToInt(small) != 0 || small < -limit || small > limit) {
+        return {};
+    }
+    const std::int64_t scaled = small * logarithm;
+    const std::int64_t fraction = scaled & 0xFFFFFFFF;
+    if (small != 0 && (fraction < margin || fraction > (std::int64_t{1} << 32) - margin)) {
+        return {};
+    }
+    return static_cast<ttmath::sint>((scaled + 0xFFFFFFFF) >> 32);
+}
 
 /// Reads digits as long as their integer fits into a mantissa, where no step on the way would be
 /// rounded. They are read by blocks that fit into a word, near the end one by one. Answers how many
@@ -230,7 +216,7 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
     reader.SkipDigits();
     source = reader.place();
     valueRead = count != 0 || valueRead;
-    carry += base.Pow(UInt<1>(count));
+    carry += RaiseToPower(base, count);
     carry += fraction.Div(base);
     carry += number.Add(fraction);
     return carry == 0 ? 0 : 1;
@@ -256,6 +242,55 @@ namespace ttmath {
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
+
+#define BIGNUMBER_DEFINE_SCALING(E, W)                                                           \
+    template <>                                                                                  \
+    template <>                                                                                  \
+    uint Big<E, W>::ToString_CreateNewMantissaAndExponent<std::string, char>(                    \
+        std::string & new_man, const Conv& conv, Int<E + 1>& new_exp) const {                    \
+        switch (conv.base) {                                                                     \
+            case 2:                                                                              \
+                return ToString_CreateNewMantissaAndExponent_Base2(new_man, new_exp);            \
+            case 4:                                                                              \
+                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 2);      \
+            case 8:                                                                              \
+                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 3);      \
+            case 16:                                                                             \
+                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 4);      \
+            default:                                                                             \
+                break;                                                                           \
+        }                                                                                        \
+        Big<E + 1, W> digits;                                                                    \
+        uint c = 0;                                                                              \
+        const auto known =                                                                       \
+            conv.base == 10 ? vqz::kernels::DecimalExponent(exponent) : std::nullopt;            \
+        if (known) {                                                                             \
+            digits.FromInt(*known);                                                              \
+        } else {                                                                                 \
+            Big<E + 1, W> power;                                                                 \
+            power.info = 0;                                                                      \
+            power.exponent = exponent;                                                           \
+            power.mantissa.SetOne();                                                             \
+            c += power.Standardizing();                                                          \
+            c += digits.ToString_Log(power, conv.base);                                          \
+            if (!digits.IsInteger()) {                                                           \
+                if (!digits.IsSign()) {                                                          \
+                    c += digits.AddOne();                                                        \
+                }                                                                                \
+                digits.SkipFraction();                                                           \
+            }                                                                                    \
+        }                                                                                        \
+        if (ToString_CreateNewMantissaTryExponent<std::string, char>(new_man, conv, digits,      \
+                                                                     new_exp) != 0) {            \
+            digits.AddOne();                                                                     \
+            c += ToString_CreateNewMantissaTryExponent<std::string, char>(new_man, conv, digits, \
+                                                                          new_exp);              \
+        }                                                                                        \
+        return c == 0 ? 0 : 1;                                                                   \
+    }
+
+BIGNUMBER_DEFINE_SCALING(2, 8)
+BIGNUMBER_DEFINE_SCALING(16, 64)
 
 #define BIGNUMBER_DEFINE_WRITING(W)                                                       \
     template <>                                                                           \

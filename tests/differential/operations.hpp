@@ -62,6 +62,15 @@ std::vector<Operation<Number>> Operations() {
          }},
         {"Sqrt", Group::Composed, [](N& me, const N&, auto&) { return me.Sqrt(); }},
         {"Pow", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); }},
+        {"PowInteger", Group::Composed,
+         [](N& me, const N& other, auto&) {
+             N power;
+             power = ttmath::sint(other.mantissa.table[0] % 2500) - 400;
+             if (other.IsSign()) {
+                 me = ttmath::sint(other.mantissa.table[0] / 2500 % 40);
+             }
+             return me.Pow(power);
+         }},
         {"Mod", Group::Composed, [](N& me, const N& other, auto&) { return me.Mod(other); }},
         {"Log", Group::Composed,
          [](N& me, const N& other, auto&) {
