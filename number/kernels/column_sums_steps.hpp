@@ -19,6 +19,9 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
     const int end = leftCount < beyond ? leftCount : beyond;
     const Limb* run = right + (k - begin);
     for (int i = begin; i < end; ++i, --run) {
+        // Runs overlap from turn to turn. The compiler would keep the common vectors, for which
+        // there are no registers; it must not know where the run is.
+        asm("" : "+r"(run));
         const auto factor = Lanes::Broadcast(left + i);
 #pragma GCC unroll 4
         for (int v = 0; v < Vectors; ++v) {

@@ -259,8 +259,8 @@ Word Divide(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
     const ScaledWords<W> quotient =
         areNormalised ? DivideNormalised<W>(me.mantissa.table, other.mantissa.table)
                       : DivideExactly(me.mantissa, other.mantissa);
-    Word carry = me.exponent.Sub(quotient.shift);
-    carry += me.exponent.Sub(other.exponent);
+    Word carry = SubtractFromExponent<E>(me.exponent, quotient.shift);
+    carry += SubtractFromExponent<E>(me.exponent, other.exponent);
     return Finish(me, quotient, round, me.IsSign() != other.IsSign(), carry);
 }
 

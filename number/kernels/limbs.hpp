@@ -19,6 +19,8 @@
 #include <array>
 #include <cstdint>
 
+#include <emmintrin.h>
+
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
@@ -49,7 +51,7 @@ class LimbBuffer {
 public:
     /// Cuts up the highest `count` of the words that end before `wordsEnd`.
     LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count)) {
-        std::fill_n(lanes_.begin(), LimbPadding, 0);
+        Pad(lanes_.data());
         Limb* limbs = lanes_.data() + LimbPadding;
         for (; count >= GroupWords; count -= GroupWords) {
             CutGroup(wordsEnd, limbs);
@@ -57,9 +59,11 @@ public:
             limbs += GroupLimbs;
         }
         std::array<Word, GroupWords> rest{};
-        std::copy_n(wordsEnd - count, count, rest.end() - count);
+        for (int i = 1; i <= count; ++i) {
+            rest[GroupWords - i] = wordsEnd[-i];
+        }
         CutGroup(rest.data() + GroupWords, limbs);
-        std::fill_n(limbs + GroupLimbs, LimbPadding, 0);
+        Pad(limbs + GroupLimbs);
     }
 
     const Limb* data() const { return lanes_.data() + LimbPadding; }
@@ -71,6 +75,15 @@ private:
 
     alignas(16) std::array<Limb, LimbPadding + Capacity + LimbPadding> lanes_;
     int count_;
+
+    /// Clears a padding. (As a call it would take as long as cutting up a mantissa of 8 words.)
+    static void Pad(Limb* limbs) {
+        static_assert(LimbPadding % 2 == 0);
+#pragma GCC unroll 8
+        for (int i = 0; i < LimbPadding; i += 2) {
+            _mm_store_si128(reinterpret_cast<__m128i*>(limbs + i), _mm_setzero_si128());
+        }
+    }
 
     static void CutGroup(const Word* end, Limb* limbs) {
         limbs[0] = end[-1] >> (WordBits - LimbBits);

@@ -61,7 +61,8 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
                       : MultiplyExactly(me.mantissa, other.mantissa);
     // For mantissas that are not normalised this may wrap; ttmath adds it as it is then.
     const Word gained = W * WordBits - product.shift;
-    const Word carry = AddToExponent(me.exponent, gained, other.exponent);
+    Word carry = AddToExponent<E>(me.exponent, gained);
+    carry += AddToExponent<E>(me.exponent, other.exponent);
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
 }
 

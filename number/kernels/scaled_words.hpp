@@ -39,20 +39,39 @@ ScaledWords<W> Scale(ttmath::UInt<2 * W>& integer) {
     return result;
 }
 
-/// exponent += offset + other, each sum with ttmath's carry on overflow; answers how many carried.
+/// An exponent of two words as what it is.
+inline std::int64_t ToInteger(const ttmath::Int<2>& exponent) {
+    return static_cast<std::int64_t>(Join(exponent.table[1], exponent.table[0]));
+}
+inline void SetInteger(ttmath::Int<2>& exponent, std::int64_t value) {
+    exponent.table[0] = Low(static_cast<DoubleWord>(value));
+    exponent.table[1] = High(static_cast<DoubleWord>(value));
+}
+
+/// exponent += term, with ttmath's carry on overflow.
 template <std::size_t E>
-Word AddToExponent(ttmath::Int<E>& exponent, Word offset, const ttmath::Int<E>& other) {
+Word AddToExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) {
     if constexpr (E == 2) {
-        auto sum = static_cast<std::int64_t>(Join(exponent.table[1], exponent.table[0]));
-        const auto term = static_cast<std::int64_t>(Join(other.table[1], other.table[0]));
-        Word carry = __builtin_add_overflow(sum, offset, &sum) ? 1 : 0;
-        carry += __builtin_add_overflow(sum, term, &sum) ? 1 : 0;
-        exponent.table[0] = Low(static_cast<DoubleWord>(sum));
-        exponent.table[1] = High(static_cast<DoubleWord>(sum));
-        return carry;
+        std::int64_t sum = 0;
+        const bool carry = __builtin_add_overflow(ToInteger(exponent), ToInteger(term), &sum);
+        SetInteger(exponent, sum);
+        return carry ? 1 : 0;
     } else {
-        const Word carry = exponent.Add(offset);
-        return carry + exponent.Add(other);
+        return exponent.Add(term);
+    }
+}
+
+/// exponent -= term, with ttmath's carry on overflow.
+template <std::size_t E>
+Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) {
+    if constexpr (E == 2) {
+        std::int64_t difference = 0;
+        const bool carry =
+            __builtin_sub_overflow(ToInteger(exponent), ToInteger(term), &difference);
+        SetInteger(exponent, difference);
+        return carry ? 1 : 0;
+    } else {
+        return exponent.Sub(term);
     }
 }
 
