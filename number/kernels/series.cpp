@@ -274,6 +274,78 @@ private:
     uint carry_ = 0;
 };
 
+/// x^3 / (2 * 3) + (1 * 3) x^5 / (2 * 4 * 5) + ..., what is added to x. `Halved` is the series that
+/// has x for x^2 and is halved with each term: x / (2 * 3) / 2 + (1 * 3) x^2 / (2 * 4 * 5) / 4 +
+/// ...
+template <typename Number, bool Halved>
+class ArcSineSeries {
+public:
+    static constexpr EndTest endTest = EndTest::EachTerm;
+    static constexpr bool alternating = false;
+
+    Number term;
+
+    ArcSineSeries(const Number& power, const Number& factor)
+        : power_(power), factor_(factor), multiplier_(factor) {
+        odds_.SetOne();
+        odd_.SetOne();
+        two_ = 2;
+        evens_ = two_;
+        even_ = two_;
+        halves_ = two_;
+        denominator_ = 3;
+        if (Halved) {
+            multiplier_.exponent.SubOne();
+        }
+    }
+
+    bool MakeTerm() {
+        carry_ += power_.Mul(factor_);
+        term = power_;
+        carry_ += term.Mul(odds_);
+        Number divisor = evens_;
+        carry_ += divisor.Mul(denominator_);
+        if (Halved) {
+            carry_ += divisor.Mul(halves_);
+        }
+        carry_ += term.Div(divisor);
+        return carry_ == 0;
+    }
+
+    bool Advance() {
+        carry_ += odd_.Add(two_);
+        carry_ += even_.Add(two_);
+        carry_ += odds_.Mul(odd_);
+        carry_ += evens_.Mul(even_);
+        carry_ += denominator_.Add(two_);
+        if (Halved) {
+            carry_ += halves_.Mul(two_);
+        }
+        return true;
+    }
+
+    static TermRatio Ratio(uint index) {
+        const uint odd = 2 * index - 1;
+        return {odd * odd, (odd + 1) * (odd + 2)};
+    }
+    const Number& multiplier() const { return multiplier_; }
+
+private:
+    Number power_;
+    const Number& factor_;
+    Number multiplier_;
+    /// 1 * 3 * 5 * ..., and its last factor.
+    Number odds_;
+    Number odd_;
+    /// 2 * 4 * 6 * ..., and its last factor.
+    Number evens_;
+    Number even_;
+    Number halves_;
+    Number denominator_;
+    Number two_;
+    uint carry_ = 0;
+};
+
 /// e^x for x between -1 and 1, as Big::ExpSurrounding0.
 template <typename Number>
 uint Exponential(Number& result, const Number& x) {
@@ -340,6 +412,38 @@ Number Sine(const Number& x) {
     return result;
 }
 
+/// The arc sine of x from 0 to 1/2.
+template <typename Number>
+Number ArcSineToHalf(const Number& x) {
+    Number square = x;
+    square.Mul(x);
+    ArcSineSeries<Number, false> series(x, square);
+    Number result = x;
+    Sum(series, result);
+    return result;
+}
+
+/// The arc sine of x from 1/2 to 1: pi/2 - sqrt(2 (1 - x)) (1 + the series).
+template <typename Number>
+Number ArcSineFromHalf(const Number& x) {
+    Number one;
+    one.SetOne();
+    Number distance = one;
+    distance.Sub(x);
+    Number sum = one;
+    ArcSineSeries<Number, true> series(one, distance);
+    Sum(series, sum);
+    distance.exponent.AddOne();
+    Number half = one;
+    half.exponent.SubOne();
+    distance.Pow(half);
+    sum.Mul(distance);
+    Number result;
+    result.Set05Pi();
+    result.Sub(sum);
+    return result;
+}
+
 }  // namespace
 }  // namespace vqz::kernels
 
@@ -367,6 +471,14 @@ namespace ttmath {
     template <>                                                             \
     Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>& x) {            \
         return vqz::kernels::Sine(x);                                       \
+    }                                                                       \
+    template <>                                                             \
+    Big<E, W> auxiliaryfunctions::ASin_0(const Big<E, W>& x) {              \
+        return vqz::kernels::ArcSineToHalf(x);                              \
+    }                                                                       \
+    template <>                                                             \
+    Big<E, W> auxiliaryfunctions::ASin_1(const Big<E, W>& x) {              \
+        return vqz::kernels::ArcSineFromHalf(x);                            \
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_SERIES)

@@ -33,7 +33,11 @@ namespace ttmath {
     template <>                                               \
     Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>&);    \
     template <>                                               \
-    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>&);
+    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>&); \
+    template <>                                               \
+    Big<E, W> auxiliaryfunctions::ASin_0(const Big<E, W>&);   \
+    template <>                                               \
+    Big<E, W> auxiliaryfunctions::ASin_1(const Big<E, W>&);
 
 #define BIGNUMBER_DECLARE_READING(E, W)                                               \
     template <>                                                                       \
