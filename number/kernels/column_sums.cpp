@@ -3,6 +3,7 @@
 namespace vqz::kernels {
 
 constinit ColumnSumsFunction* columnSums = ColumnSumsSse2;
+constinit bool avx2Chosen = false;
 
 namespace {
 
@@ -13,6 +14,7 @@ namespace {
 #ifndef BIGNUMBER_KERNELS_SSE2_ONLY
     if (__builtin_cpu_supports("avx2")) {
         columnSums = ColumnSumsAvx2;
+        avx2Chosen = true;
     }
 #endif
     return true;

@@ -22,5 +22,7 @@ ColumnSumsFunction ColumnSumsAvx2;
 
 /// The faster one that this machine can run. (It can be called before it is chosen.)
 extern ColumnSumsFunction* columnSums;
+/// Whether that is the one with AVX2. Kernels of both kinds are not mixed, which would be slow.
+extern bool avx2Chosen;
 
 }  // namespace vqz::kernels

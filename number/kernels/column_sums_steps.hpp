@@ -10,7 +10,7 @@ namespace vqz::kernels {
 /// One step: `Vectors` vectors of neighbouring columns from column k on. Each left limb is
 /// multiplied by the run of right limbs that falls in these columns; where the run leaves the
 /// factor it meets the padding.
-template <typename Lanes, int Vectors>
+template <typename Lanes, int Stride, int Vectors>
 inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
                            int k, DoubleWord* sums) {
     typename Lanes::Vector totals[Vectors] = {};
@@ -22,7 +22,7 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
         // Runs overlap from turn to turn. The compiler would keep the common vectors, for which
         // there are no registers; it must not know where the run is.
         asm("" : "+r"(run));
-        const auto factor = Lanes::Broadcast(left + i);
+        const auto factor = Lanes::Broadcast(left + i * Stride);
 #pragma GCC unroll 4
         for (int v = 0; v < Vectors; ++v) {
             totals[v] += Lanes::Product(factor, run + v * Lanes::Count);
@@ -34,18 +34,19 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
     }
 }
 
-/// ColumnSumsFunction in steps of four vectors, which share each broadcast limb.
-template <typename Lanes>
+/// ColumnSumsFunction in steps of four vectors, which share each broadcast limb. From one left limb
+/// to the next it is `Stride` limbs.
+template <typename Lanes, int Stride = 1>
 inline void ColumnSumsInSteps(const Limb* left, int leftCount, const Limb* right, int rightCount,
                               int first, int last, DoubleWord* sums) {
     constexpr int Step = 4 * Lanes::Count;
     static_assert(Step <= ColumnStep);
     int k = first;
     for (; k + Step / 2 < last; k += Step) {
-        ColumnStepSums<Lanes, 4>(left, leftCount, right, rightCount, k, sums + (k - first));
+        ColumnStepSums<Lanes, Stride, 4>(left, leftCount, right, rightCount, k, sums + (k - first));
     }
     for (; k < last; k += Step / 2) {
-        ColumnStepSums<Lanes, 2>(left, leftCount, right, rightCount, k, sums + (k - first));
+        ColumnStepSums<Lanes, Stride, 2>(left, leftCount, right, rightCount, k, sums + (k - first));
     }
 }
 

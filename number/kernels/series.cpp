@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "number/kernels/column_sums.hpp"
 #include "number/kernels/series_tail.hpp"
 #include "number/kernels/specialisations.hpp"
 
@@ -43,9 +44,9 @@ bool HasRoom(const ttmath::UInt<W>& mantissa, int position, bool adding, bool su
 
 /// Adds what is left of a series in fixed point: all terms from index `next` on. Answers the index
 /// of the last one, or 0 if that cannot be done.
-template <uint E, uint W, typename Ratio>
+template <auto Ratio, uint E, uint W>
 uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier, bool subtract,
-             bool alternate, uint next, EndTest endTest, Ratio ratio) {
+             bool alternate, uint next, EndTest endTest) {
     constexpr int bits = 32 * W;
     constexpr int wanted = 40;
     const auto sumExponent = PlainExponent(sum);
@@ -56,7 +57,7 @@ uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier,
     }
     const int termShift = *sumExponent - *termExponent;
     const int multiplierShift = -(*multiplierExponent + bits);
-    const TermRatio nextRatio = ratio(next);
+    const TermRatio nextRatio = Ratio(next);
     const int ratioShift = std::bit_width(nextRatio.denominator / nextRatio.numerator) - 1;
     // The next term and with it all that follow are below 2^-shift of the sum.
     const int shift = termShift + multiplierShift + ratioShift - 1;
@@ -70,14 +71,18 @@ uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier,
                  subtract || alternate)) {
         return 0;
     }
-    using Words = std::span<const std::uint32_t, W>;
-    SeriesTail<W> tail({Words(sum.mantissa.table), Words(term.mantissa.table), termShift,
-                        Words(multiplier.mantissa.table), multiplierShift, subtract, alternate});
-    const uint last = tail.Run(next, endTest == EndTest::EveryFourthTerm, ratio);
-    if (last != 0) {
-        tail.AddTo(std::span<std::uint32_t, W>(sum.mantissa.table));
-    }
-    return last;
+    const TailStart start{.sum = sum.mantissa.table,
+                          .term = term.mantissa.table,
+                          .multiplier = multiplier.mantissa.table,
+                          .termShift = termShift,
+                          .multiplierShift = multiplierShift,
+                          .subtract = subtract,
+                          .alternate = alternate,
+                          .wholeGroups = endTest == EndTest::EveryFourthTerm,
+                          .next = next,
+                          .ratio = [](Word index) { return PreparedRatio(Ratio(index)); }};
+    const auto add = avx2Chosen ? AddTailAvx2<W> : AddTailSse2<W>;
+    return add(sum.mantissa.table, start);
 }
 
 /// Adds the terms of a series to `sum` and answers the index of the last one. A series has
@@ -113,8 +118,8 @@ uint Sum(Series& series, Number& sum) {
                 const bool alternate = Series::alternating != multiplier.IsSign();
                 const bool against = (series.term.IsSign() != subtracted) != sum.IsSign();
                 const uint last =
-                    AddTail(sum, series.term, multiplier, against != alternate, alternate,
-                            index + 1, Series::endTest, [](uint i) { return Series::Ratio(i); });
+                    AddTail<Series::Ratio>(sum, series.term, multiplier, against != alternate,
+                                           alternate, index + 1, Series::endTest);
                 if (last != 0) {
                     return last;
                 }
