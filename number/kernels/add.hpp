@@ -15,52 +15,47 @@ namespace vqz::kernels {
 
 /// result = words >> bits, for less than W words of bits.
 template <int W>
-void ShiftRight(const Word* words, int bits, Word* result) {
+void ShiftRight(const Word* words, Word bits, Word* result) {
     constexpr int VectorWords = 4;
-    const int skipped = bits / WordBits;
-    const Word* source = words + skipped;
-    const int count = W - skipped;
-    const __m128i right = _mm_cvtsi32_si128(bits % WordBits);
-    const __m128i left = _mm_cvtsi32_si128(WordBits - bits % WordBits);
+    const Word rest = bits % WordBits;
+    const Word* source = words + bits / WordBits;
+    const int count = W - static_cast<int>(bits / WordBits);
+    const __m128i right = _mm_cvtsi32_si128(static_cast<int>(rest));
+    const __m128i left = _mm_cvtsi32_si128(static_cast<int>(WordBits - rest));
     int i = 0;
-    for (; i + VectorWords < count; i += VectorWords) {
+    for (; i + VectorWords <= count; i += VectorWords) {
         const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + i));
-        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + i + 1));
+        const __m128i high = i + VectorWords < count
+                                 ? _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + i + 1))
+                                 : _mm_srli_si128(low, sizeof(Word));
         // A shift of a whole word gives 0, unlike the language's own.
         _mm_storeu_si128(reinterpret_cast<__m128i*>(result + i),
                          _mm_or_si128(_mm_srl_epi32(low, right), _mm_sll_epi32(high, left)));
     }
     for (; i < count; ++i) {
         const Word above = i + 1 < count ? source[i + 1] : 0;
-        result[i] = Low(Join(above, source[i]) >> (bits % WordBits));
+        result[i] = (source[i] >> rest) | (above << 1 << (WordBits - 1 - rest));
     }
-    std::fill(result + count, result + W, 0);
+    for (; i < W; ++i) {
+        result[i] = 0;
+    }
 }
 
 /// By how many bits the smaller of two numbers is to be moved: the magnitude of the difference of
-/// their exponents as ttmath computes it, which wraps. Greater distances than W words all answer
-/// TooFar.
-template <int E, int W>
-class ExponentDistance {
-public:
-    static constexpr int TooFar = W * WordBits + 1;
-
-    static int Compute(const ttmath::Int<E>& greater, const ttmath::Int<E>& smaller) {
-        if (std::equal(greater.table + 1, greater.table + E, smaller.table + 1)) {
-            return Clamp(greater.table[0] - smaller.table[0]);
-        }
-        ttmath::Int<E> distance(greater);
-        distance.Sub(smaller);
-        if (distance.Abs() != 0 ||
-            std::any_of(distance.table + 1, distance.table + E, [](Word w) { return w != 0; })) {
-            return TooFar;
-        }
-        return Clamp(distance.table[0]);
+/// their exponents as ttmath computes it, which wraps. What is more than W words comes out as one
+/// bit more than these.
+template <std::size_t E, std::size_t W>
+Word ExponentDistance(const ttmath::Int<E>& greater, const ttmath::Int<E>& smaller) {
+    constexpr Word TooFar = W * WordBits + 1;
+    if (std::equal(greater.table + 1, greater.table + E, smaller.table + 1)) {
+        return std::min(greater.table[0] - smaller.table[0], TooFar);
     }
-
-private:
-    static int Clamp(Word distance) { return static_cast<int>(std::min<Word>(distance, TooFar)); }
-};
+    ttmath::Int<E> distance(greater);
+    distance.Sub(smaller);
+    const bool isHuge = distance.Abs() != 0 || std::any_of(distance.table + 1, distance.table + E,
+                                                           [](Word word) { return word != 0; });
+    return isHuge ? TooFar : std::min(distance.table[0], TooFar);
+}
 
 /// What adding leaves below the mantissa: the first bit, and whether all others are 0.
 struct Remains {
@@ -70,11 +65,11 @@ struct Remains {
 
 /// What is moved out of a mantissa by `bits` bits, from 1 to all of them.
 template <int W>
-Remains RemainsOfShift(const ttmath::UInt<W>& mantissa, int bits) {
-    const int first = bits - 1;
+[[gnu::always_inline]] inline Remains RemainsOfShift(const ttmath::UInt<W>& mantissa, Word bits) {
+    const Word first = bits - 1;
     const Word word = mantissa.table[first / WordBits];
     return {.firstBit = (word >> (first % WordBits) & 1) != 0,
-            .othersZero = mantissa.AreFirstBitsZero(static_cast<Word>(first))};
+            .othersZero = mantissa.AreFirstBitsZero(first)};
 }
 
 /// me = greater +- smaller, or the same the other way round: `greater` and `smaller` are `me` and
@@ -82,8 +77,8 @@ Remains RemainsOfShift(const ttmath::UInt<W>& mantissa, int bits) {
 template <std::size_t E, std::size_t W>
 Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
                 const ttmath::Big<E, W>& smaller, bool round) {
-    constexpr int Bits = W * WordBits;
-    const int distance = ExponentDistance<E, W>::Compute(greater.exponent, smaller.exponent);
+    constexpr Word Bits = W * WordBits;
+    const Word distance = ExponentDistance<E, W>(greater.exponent, smaller.exponent);
     const bool isSum = greater.IsSign() == smaller.IsSign();
     Remains remains{.firstBit = false, .othersZero = true};
     if (distance > 0 && distance <= Bits) {

@@ -24,7 +24,7 @@ PRECISIONS = [256, 2048]
 
 
 def compute(options: argparse.Namespace, program: pathlib.Path, job: list[str]) -> list[str]:
-    words = [*filter(None, [options.emulator]), str(program), *job]
+    words = [*filter(None, [options.emulator]), str(program.resolve()), *job]
     return subprocess.run(words, stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
 
 
