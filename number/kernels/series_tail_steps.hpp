@@ -80,8 +80,8 @@ private:
 
     static constexpr int Bits = WordBits * W;
     static constexpr int GuardLimbs = 3;
-    /// Factors are made two vectors at a time.
-    static constexpr int FactorVectors = 2;
+    /// Factors are made four vectors at a time: each division waits for itself only.
+    static constexpr int FactorVectors = 4;
     static constexpr int FactorCount = FactorVectors * Lanes::Count;
 
     static constexpr int LimbsOf(int bits) { return (bits + LimbBits - 1) / LimbBits; }
@@ -160,7 +160,7 @@ private:
         Limb* factor = factors_ + firstFactor_ * FactorCount;
         for (int j = firstFactor_; j < count_ - begin_; ++j) {
             const Vector limb = Lanes::Broadcast(multiplier_ + j);
-#pragma GCC unroll 2
+#pragma GCC unroll 4
             for (int v = 0; v < FactorVectors; ++v, factor += Lanes::Count) {
                 const Vector dividend = Lanes::template ShiftLeft<LimbBits>(rests[v]) +
                                         Lanes::Multiply(limb, numerators[v]);
