@@ -58,7 +58,7 @@ struct PreparedRatio {
     Word reciprocal;
 
     explicit PreparedRatio(TermRatio ratio) {
-        const int shift = DenominatorBits - std::bit_width(ratio.denominator);
+        const int shift = DenominatorBits - static_cast<int>(std::bit_width(ratio.denominator));
         numerator = ratio.numerator << shift;
         denominator = ratio.denominator << shift;
         constexpr DoubleWord dividend = (DoubleWord{1} << (31 + DenominatorBits)) - 1;

@@ -47,11 +47,9 @@ namespace ttmath {
     template <>                                                                       \
     uint Big<E, W>::FromString_ReadPartAfterComma(const char*&, const Conv&, bool&);
 
-#define BIGNUMBER_DECLARE_SCALING(E, W)                                       \
-    template <>                                                               \
-    template <>                                                               \
-    uint Big<E, W>::ToString_CreateNewMantissaAndExponent<std::string, char>( \
-        std::string&, const Conv&, Int<E + 1>&) const;
+#define BIGNUMBER_DECLARE_LOGARITHM(E, W) \
+    template <>                           \
+    uint Big<E, W>::ToString_Log(const Big<E, W>&, uint);
 
 #define BIGNUMBER_DECLARE_WRITING(W) \
     template <>                      \
@@ -62,8 +60,8 @@ BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_OPERATIONS)
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_POWER)
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_SERIES)
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_READING)
-BIGNUMBER_DECLARE_SCALING(2, 8)
-BIGNUMBER_DECLARE_SCALING(16, 64)
+BIGNUMBER_DECLARE_LOGARITHM(3, 8)
+BIGNUMBER_DECLARE_LOGARITHM(17, 64)
 BIGNUMBER_DECLARE_WRITING(8)
 BIGNUMBER_DECLARE_WRITING(64)
 
@@ -71,7 +69,7 @@ BIGNUMBER_DECLARE_WRITING(64)
 #undef BIGNUMBER_DECLARE_POWER
 #undef BIGNUMBER_DECLARE_SERIES
 #undef BIGNUMBER_DECLARE_READING
-#undef BIGNUMBER_DECLARE_SCALING
+#undef BIGNUMBER_DECLARE_LOGARITHM
 #undef BIGNUMBER_DECLARE_WRITING
 
 }  // namespace ttmath

@@ -86,6 +86,29 @@ void AppendDigits(std::string& text, UInt<W> integer, uint base) {
     }
 }
 
+/// Writes an integer, as UInt::ToStringBase. `digitsPerBit` is what the base needs.
+template <uint W>
+void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool negative,
+                  double digitsPerBit) {
+    text.clear();
+    uint word = 0;
+    uint bit = 0;
+    if (base < 2 || base > 16) {
+        return;
+    }
+    if (!integer.FindLeadingBit(word, bit)) {
+        text = '0';
+        return;
+    }
+    // The plain member reserves as much, and nothing after it asks for memory.
+    const double bits = static_cast<double>(word) * WordBits + bit + 1;
+    text.reserve(static_cast<std::size_t>(bits * digitsPerBit) + 3);
+    if (negative) {
+        text = '-';
+    }
+    AppendDigits(text, integer, base);
+}
+
 /// Goes over the digits of a text.
 class DigitReader {
 public:
@@ -119,25 +142,35 @@ private:
     }
 };
 
-/// The least integer that is not below exponent * log10(2), if that can be told.
-template <uint E>
-std::optional<ttmath::sint> DecimalExponent(const ttmath::Int<E>& exponent) {
+/// Makes `number` what ToString wants to know of the logarithm of x = 2^n to the base 10: between
+/// which integers it lies. It is the half between them then; or 0 if n is 0. Answers whether that
+/// can be told.
+template <uint E, uint W>
+bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
     // log10(2) * 2^32. It is off by less than 1/2, so that the product with at most 2^20 is off by
-    // less than 2^-12; unless it is that near to an integer, the integers around it are those
-    // around the exact one. (2^0 is 1, whose logarithm is exact.)
+    // less than 2^19, which is 2^-13 of one.
     constexpr std::int64_t logarithm = 1292913986;
+    constexpr std::int64_t one = std::int64_t{1} << 32;
+    constexpr std::int64_t margin = one >> 12;
     constexpr ttmath::sint limit = 1 << 20;
-    constexpr std::int64_t margin = std::int64_t{1} << (32 - 12);
-    ttmath::sint small = 0;
-    if (exponent.ToInt(small) != 0 || small < -limit || small > limit) {
-        return {};
+    ttmath::sint n = 0;
+    if (x.exponent.ToInt(n) != 0 || n < -limit ||
+        n > limit - static_cast<ttmath::sint>(WordBits * W)) {
+        return false;
     }
-    const std::int64_t scaled = small * logarithm;
-    const std::int64_t fraction = scaled & 0xFFFFFFFF;
-    if (small != 0 && (fraction < margin || fraction > (std::int64_t{1} << 32) - margin)) {
-        return {};
+    n += WordBits * W - 1;
+    const std::int64_t scaled = n * logarithm;
+    const std::int64_t fraction = scaled & (one - 1);
+    if (n == 0) {
+        number.SetZero();
+        return true;
     }
-    return static_cast<ttmath::sint>((scaled + 0xFFFFFFFF) >> 32);
+    if (fraction < margin || fraction > one - margin) {
+        return false;
+    }
+    number = static_cast<ttmath::sint>(2 * (scaled >> 32) + 1);
+    number.exponent.SubOne();
+    return true;
 }
 
 /// Reads digits as long as their integer fits into a mantissa, where no step on the way would be
@@ -243,75 +276,32 @@ namespace ttmath {
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
 
-#define BIGNUMBER_DEFINE_SCALING(E, W)                                                           \
-    template <>                                                                                  \
-    template <>                                                                                  \
-    uint Big<E, W>::ToString_CreateNewMantissaAndExponent<std::string, char>(                    \
-        std::string & new_man, const Conv& conv, Int<E + 1>& new_exp) const {                    \
-        switch (conv.base) {                                                                     \
-            case 2:                                                                              \
-                return ToString_CreateNewMantissaAndExponent_Base2(new_man, new_exp);            \
-            case 4:                                                                              \
-                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 2);      \
-            case 8:                                                                              \
-                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 3);      \
-            case 16:                                                                             \
-                return ToString_CreateNewMantissaAndExponent_BasePow2(new_man, new_exp, 4);      \
-            default:                                                                             \
-                break;                                                                           \
-        }                                                                                        \
-        Big<E + 1, W> digits;                                                                    \
-        uint c = 0;                                                                              \
-        const auto known =                                                                       \
-            conv.base == 10 ? vqz::kernels::DecimalExponent(exponent) : std::nullopt;            \
-        if (known) {                                                                             \
-            digits.FromInt(*known);                                                              \
-        } else {                                                                                 \
-            Big<E + 1, W> power;                                                                 \
-            power.info = 0;                                                                      \
-            power.exponent = exponent;                                                           \
-            power.mantissa.SetOne();                                                             \
-            c += power.Standardizing();                                                          \
-            c += digits.ToString_Log(power, conv.base);                                          \
-            if (!digits.IsInteger()) {                                                           \
-                if (!digits.IsSign()) {                                                          \
-                    c += digits.AddOne();                                                        \
-                }                                                                                \
-                digits.SkipFraction();                                                           \
-            }                                                                                    \
-        }                                                                                        \
-        if (ToString_CreateNewMantissaTryExponent<std::string, char>(new_man, conv, digits,      \
-                                                                     new_exp) != 0) {            \
-            digits.AddOne();                                                                     \
-            c += ToString_CreateNewMantissaTryExponent<std::string, char>(new_man, conv, digits, \
-                                                                          new_exp);              \
-        }                                                                                        \
-        return c == 0 ? 0 : 1;                                                                   \
+#define BIGNUMBER_DEFINE_LOGARITHM(E, W)                                         \
+    template <>                                                                  \
+    uint Big<E, W>::ToString_Log(const Big<E, W>& x, uint base) {                \
+        if (base == 10 && vqz::kernels::SetHalfNearDecimalLogarithm(*this, x)) { \
+            return 0;                                                            \
+        }                                                                        \
+        Big<E, W> divisor;                                                       \
+        uint c = 0;                                                              \
+        if (base == 10) {                                                        \
+            divisor.SetLn10();                                                   \
+        } else {                                                                 \
+            c += ToString_LogBase(base, divisor);                                \
+        }                                                                        \
+        c += Ln(x);                                                              \
+        c += Div(divisor);                                                       \
+        return c == 0 ? 0 : 1;                                                   \
     }
 
-BIGNUMBER_DEFINE_SCALING(2, 8)
-BIGNUMBER_DEFINE_SCALING(16, 64)
+BIGNUMBER_DEFINE_LOGARITHM(3, 8)
+BIGNUMBER_DEFINE_LOGARITHM(17, 64)
 
-#define BIGNUMBER_DEFINE_WRITING(W)                                                       \
-    template <>                                                                           \
-    template <>                                                                           \
-    void UInt<W>::ToStringBase(std::string& result, uint b, bool negative) const {        \
-        result.clear();                                                                   \
-        uint word = 0;                                                                    \
-        uint bit = 0;                                                                     \
-        if (b < 2 || b > 16) {                                                            \
-            return;                                                                       \
-        }                                                                                 \
-        if (!FindLeadingBit(word, bit)) {                                                 \
-            result = '0';                                                                 \
-            return;                                                                       \
-        }                                                                                 \
-        /* as much as the plain member reserves */                                        \
-        result.reserve(static_cast<uint>((32.0 * word + bit + 1) * ToStringLog2(b)) + 3); \
-        if (negative) {                                                                   \
-            result = '-';                                                                 \
-        }                                                                                 \
-        vqz::kernels::AppendDigits(result, *this, b);                                     \
+#define BIGNUMBER_DEFINE_WRITING(W)                                                \
+    template <>                                                                    \
+    template <>                                                                    \
+    void UInt<W>::ToStringBase(std::string& result, uint b, bool negative) const { \
+        vqz::kernels::WriteInteger(result, *this, b, negative, ToStringLog2(b));   \
     }
 
 BIGNUMBER_DEFINE_WRITING(8)
