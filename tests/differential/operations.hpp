@@ -35,6 +35,29 @@ ttmath::uint WriteAndRead(Number& me, const Number&, std::string& text) {
     return failed * 2 + me.FromString(text, Base);
 }
 
+/// Reads a text that the operands tell: digits of any base, few or more than a mantissa holds, and
+/// now and then something else. How far it was read counts, too.
+template <typename Number>
+ttmath::uint ReadText(Number& me, const Number& other, std::string& text) {
+    constexpr std::string_view digits = "0123456789aBcDeF";
+    constexpr std::string_view others = "0000'''.,.e+- g";
+    Random random(std::uint64_t{other.mantissa.table[0]} << 32 | me.mantissa.table[0]);
+    ttmath::Conv conv;
+    conv.base = random.OneIn(2) ? 10 : 2 + random.Below(15);
+    conv.group = random.OneIn(2) ? '\'' : 0;
+    const std::uint32_t rareness = 2 + random.Below(4000);
+    const std::uint32_t limit = sizeof(me.mantissa) * (random.OneIn(2) ? 2 : 10);
+    for (std::uint32_t i = random.Below(limit); i > 0; --i) {
+        text += random.OneIn(rareness) ? others[random.Below(others.size())]
+                                       : digits[random.Below(conv.base)];
+    }
+    const char* after = nullptr;
+    bool read = false;
+    const ttmath::uint carry = me.FromString(text, conv, &after, &read);
+    text += std::to_string(after - text.c_str()) + (read ? " read" : "");
+    return carry;
+}
+
 /// All operations of a number type.
 template <typename Number>
 std::vector<Operation<Number>> Operations() {
@@ -99,6 +122,7 @@ std::vector<Operation<Number>> Operations() {
         {"ACosh", Group::Composed, CallFunction<N, ttmath::ACosh<N>>},
         {"ATanh", Group::Composed, CallFunction<N, ttmath::ATanh<N>>},
         {"ACoth", Group::Composed, CallFunction<N, ttmath::ACoth<N>>},
+        {"ReadText", Group::Text, ReadText<N>},
         {"Text10", Group::Text, WriteAndRead<N, 10>},
         {"Text16", Group::Text, WriteAndRead<N, 16>},
         {"Text3", Group::Text, WriteAndRead<N, 3>},
