@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include <emmintrin.h>
@@ -84,9 +83,9 @@ Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
     if (distance > 0 && distance <= Bits) {
         remains = RemainsOfShift<W>(smaller.mantissa, distance);
     }
-    std::array<Word, W> moved;
+    Word moved[W];
     if (distance < Bits) {
-        ShiftRight<W>(smaller.mantissa.table, distance, moved.data());
+        ShiftRight<W>(smaller.mantissa.table, distance, moved);
     }
     if (&me != &greater) {
         me.exponent = greater.exponent;
@@ -101,8 +100,8 @@ Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
             return 0;
         }
     } else if (!isSum) {
-        SubtractWords<W>(greater.mantissa.table, moved.data(), me.mantissa.table);
-    } else if (AddWords<W>(greater.mantissa.table, moved.data(), me.mantissa.table)) {
+        SubtractWords<W>(greater.mantissa.table, moved, me.mantissa.table);
+    } else if (AddWords<W>(greater.mantissa.table, moved, me.mantissa.table)) {
         remains = {.firstBit = me.mantissa.IsTheLowestBitSet(),
                    .othersZero = !remains.firstBit && remains.othersZero};
         me.mantissa.Rcr(1, 1);

@@ -29,6 +29,7 @@ inline constexpr int ChainWords = 8;
 
 /// result = left + right, of W words, which may all be the same. Answers the carry.
 template <int W>
+// The assembly writes there. NOLINTNEXTLINE(readability-non-const-parameter)
 bool AddWords(const Word* left, const Word* right, Word* result) {
     static_assert(W % ChainWords == 0);
     Word carry = 0;
@@ -43,6 +44,7 @@ bool AddWords(const Word* left, const Word* right, Word* result) {
 
 /// result = left - right, of W words, which may all be the same. Answers the borrow.
 template <int W>
+// The assembly writes there. NOLINTNEXTLINE(readability-non-const-parameter)
 bool SubtractWords(const Word* left, const Word* right, Word* result) {
     static_assert(W % ChainWords == 0);
     Word carry = 0;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 
@@ -28,7 +27,7 @@ public:
     /// The bit above the words.
     bool hasTopBit() const { return topBit_; }
     /// The W words below it.
-    const Word* words() const { return words_.data() + Slack; }
+    const Word* words() const { return words_ + Slack; }
 
 private:
     /// The quotient's digits are limbs: digit 0 is the top bit, the others are the words and some
@@ -41,7 +40,7 @@ private:
     static_assert(Slack > 0 && LimbPadding >= Block);
 
     bool topBit_ = false;
-    std::array<Word, Slack + W> words_;
+    Word words_[Slack + W];
 
     /// The schoolbook's division by one digit.
     void DivideByWord(const Word* dividend, Word divisor) {
@@ -87,28 +86,25 @@ private:
         const LimbBuffer<W> numerator(dividend + W, W);
         const LimbBuffer<W> denominator(divisor + W, divisorCount);
         DigitChain chain(denominator, divisor[W - 1], numerator[0]);
-        DigitBuffer digits;
+        Limb digits[GroupCount(Digits - 1) * GroupLimbs + 1];
         constexpr int FullBlocks = Digits / Block * Block;
         for (int start = 0; start < FullBlocks; start += Block) {
             ComputeBlock<Block>(start, numerator, denominator, chain, digits);
         }
         ComputeBlock<Digits - FullBlocks>(FullBlocks, numerator, denominator, chain, digits);
-        std::fill(digits.begin() + Digits, digits.end(), 0);
-        topBit_ = digits[0] + JoinColumns(digits.data() + 1, GroupCount(Digits - 1),
-                                          words_.data() + words_.size()) !=
-                  0;
+        std::fill(digits + Digits, std::end(digits), 0);
+        topBit_ =
+            digits[0] + JoinColumns(digits + 1, GroupCount(Digits - 1), std::end(words_)) != 0;
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - (Digits - 1) * LimbBits);
         return IsDecided(words_[Slack - 1], 2 * Unit);
     }
-
-    using DigitBuffer = std::array<Limb, GroupCount(Digits - 1) * GroupLimbs + 1>;
 
     /// What goes from digit to digit.
     class DigitChain {
     public:
         DigitChain(const LimbBuffer<W>& denominator, Word divisorTop, Limb numeratorTop)
             : current_(numeratorTop) {
-            std::copy_n(denominator.data(), Block + 1, divisor_.begin());
+            std::copy_n(denominator.data(), Block + 1, divisor_);
             // 2^63 / (divisorTop + 1), which has 32 bits.
             Word rest = 0;
             inverse_ = divisorTop + 1 == 0 ? TopBit : DivideWords(TopBit, 0, divisorTop + 1, rest);
@@ -141,27 +137,26 @@ private:
         DoubleWord current_;
         Word inverse_;
         /// The divisor's first limbs.
-        std::array<Word, Block + 1> divisor_;
+        Word divisor_[Block + 1];
     };
 
     /// Computes digits `start` to `start + Count - 1`.
     template <int Count>
     static void ComputeBlock(int start, const LimbBuffer<W>& numerator,
-                             const LimbBuffer<W>& denominator, DigitChain& chain,
-                             DigitBuffer& digits) {
+                             const LimbBuffer<W>& denominator, DigitChain& chain, Limb* digits) {
         // The columns behind the first one, which the chain has already.
-        std::array<DoubleWord, ColumnStep> remaining;
+        DoubleWord remaining[ColumnStep];
         if (start == 0) {
-            std::copy_n(numerator.data() + 1, Count, remaining.begin());
+            std::copy_n(numerator.data() + 1, Count, remaining);
         } else {
-            columnSums(digits.data(), start, denominator.data(), denominator.count(), start + 1,
-                       start + 1 + Count, remaining.data());
+            columnSums(digits, start, denominator.data(), denominator.count(), start + 1,
+                       start + 1 + Count, remaining);
             for (int i = 0; i < Count; ++i) {
                 remaining[i] = numerator[start + 1 + i] - remaining[i];
             }
         }
         [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
-            ((digits[start + I] = chain.template Next<Count - I>(remaining.data() + I)), ...);
+            ((digits[start + I] = chain.template Next<Count - I>(remaining + I)), ...);
         }
         (std::make_integer_sequence<int, Count>{});
     }
@@ -182,7 +177,7 @@ private:
         const Product product(words(), divisor, Product::Precision::Full);
         // remainder = dividend * 2^(32 W) - (top bit and words) * divisor
         bool borrow = false;
-        std::array<Word, W> remainder;
+        Word remainder[W];
         for (int i = 0; i < W; ++i) {
             const DoubleWord difference = DoubleWord{0} - product.lower()[i] - borrow;
             remainder[i] = Low(difference);
@@ -190,9 +185,10 @@ private:
         }
         const Word above =
             dividend[0] - (topBit_ ? divisor[0] : 0) - product.upper()[0] - (borrow ? 1 : 0);
-        if (above != 0 || !std::lexicographical_compare(remainder.rbegin(), remainder.rend(),
-                                                        std::make_reverse_iterator(divisor + W),
-                                                        std::make_reverse_iterator(divisor))) {
+        if (above != 0 ||
+            !std::lexicographical_compare(std::rbegin(remainder), std::rend(remainder),
+                                          std::make_reverse_iterator(divisor + W),
+                                          std::make_reverse_iterator(divisor))) {
             AddOne();
         }
     }
@@ -216,7 +212,7 @@ ScaledWords<W> DivideNormalised(const Word* dividend, const Word* divisor) {
     if (!quotient.hasTopBit()) {
         result.shift = W * WordBits;
         result.tail = Tail::BelowHalf;
-        std::copy_n(words, W, result.words.begin());
+        std::copy_n(words, W, result.words);
     } else {
         result.shift = W * WordBits - 1;
         result.tail = (words[0] & 1) != 0 ? Tail::Half : Tail::BelowHalf;

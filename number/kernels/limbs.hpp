@@ -16,7 +16,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 #include <emmintrin.h>
@@ -51,29 +50,29 @@ class LimbBuffer {
 public:
     /// Cuts up the highest `count` of the words that end before `wordsEnd`.
     LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count)) {
-        Pad(lanes_.data());
-        Limb* limbs = lanes_.data() + LimbPadding;
+        Pad(lanes_);
+        Limb* limbs = lanes_ + LimbPadding;
         for (; count >= GroupWords; count -= GroupWords) {
             CutGroup(wordsEnd, limbs);
             wordsEnd -= GroupWords;
             limbs += GroupLimbs;
         }
-        std::array<Word, GroupWords> rest{};
+        Word rest[GroupWords] = {};
         for (int i = 1; i <= count; ++i) {
             rest[GroupWords - i] = wordsEnd[-i];
         }
-        CutGroup(rest.data() + GroupWords, limbs);
+        CutGroup(rest + GroupWords, limbs);
         Pad(limbs + GroupLimbs);
     }
 
-    const Limb* data() const { return lanes_.data() + LimbPadding; }
+    const Limb* data() const { return lanes_ + LimbPadding; }
     int count() const { return count_; }
     Limb operator[](int i) const { return data()[i]; }
 
 private:
     static constexpr int Capacity = (Words / GroupWords + 1) * GroupLimbs;
 
-    alignas(16) std::array<Limb, LimbPadding + Capacity + LimbPadding> lanes_;
+    alignas(16) Limb lanes_[LimbPadding + Capacity + LimbPadding];
     int count_;
 
     /// Clears a padding. (As a call it would take as long as cutting up a mantissa of 8 words.)
@@ -105,7 +104,7 @@ inline DoubleWord JoinColumns(const DoubleWord* sums, int groups, Word* wordsEnd
     for (; groups > 0; --groups) {
         sums -= GroupLimbs;
         wordsEnd += GroupWords;
-        std::array<Word, GroupLimbs> limbs;
+        Word limbs[GroupLimbs];
 #pragma GCC unroll 8
         for (int i = GroupLimbs - 1; i >= 0; --i) {
             carry += sums[i];

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <utility>
 
 #include "number/kernels/column_sums.hpp"
@@ -44,22 +44,22 @@ public:
     }
 
     /// The upper W words. The guard word lies before them.
-    const Word* upper() const { return words_.data() + Slack + W; }
+    const Word* upper() const { return words_ + Slack + W; }
     /// The lower W words, the guard word last.
-    const Word* lower() const { return words_.data() + Slack; }
+    const Word* lower() const { return words_ + Slack; }
 
 private:
     /// Words below the product, that whole groups may reach into.
     static constexpr int Slack = GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
 
-    std::array<Word, Slack + 2 * W> words_;
+    Word words_[Slack + 2 * W];
 
-    Word* end() { return words_.data() + words_.size(); }
+    Word* end() { return std::end(words_); }
 
     /// The schoolbook, row by row.
     void MultiplyWords(const Word* left, int leftCount, const Word* right, int rightCount) {
         Word* product = end() - (leftCount + rightCount);
-        std::fill(words_.data(), product + leftCount, 0);
+        std::fill(words_, product + leftCount, 0);
         for (int j = 0; j < rightCount; ++j, ++product) {
             DoubleWord carry = 0;
             for (int i = 0; i < leftCount; ++i) {
@@ -87,8 +87,8 @@ private:
 
     template <int First>
     void ComputeWordColumns(const Word* left, const Word* right) {
-        std::fill(words_.data(), words_.data() + Slack + First, 0);
-        Word* product = words_.data() + Slack;
+        std::fill(words_, words_ + Slack + First, 0);
+        Word* product = words_ + Slack;
         ColumnSum sum;
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
             ((AddWordColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
@@ -144,13 +144,12 @@ private:
     void ComputeColumns(const LimbBuffer<W>& left, const LimbBuffer<W>& right, int columns) {
         // Column k is limb k + 1 of the product; limb 0 is the carry out of column 0.
         const int groups = GroupCount(columns + 1);
-        std::array<DoubleWord, GroupCount(2 * LimbCount(W)) * GroupLimbs + ColumnStep> sums;
+        DoubleWord sums[GroupCount(2 * LimbCount(W)) * GroupLimbs + ColumnStep];
         sums[0] = 0;
-        columnSums(left.data(), left.count(), right.data(), right.count(), 0, columns,
-                   sums.data() + 1);
-        std::fill(sums.begin() + columns + 1, sums.begin() + groups * GroupLimbs, 0);
-        JoinColumns(sums.data(), groups, end());
-        std::fill(words_.data(), end() - groups * GroupWords, 0);
+        columnSums(left.data(), left.count(), right.data(), right.count(), 0, columns, sums + 1);
+        std::fill(sums + columns + 1, sums + groups * GroupLimbs, 0);
+        JoinColumns(sums, groups, end());
+        std::fill(words_, end() - groups * GroupWords, 0);
     }
 };
 

@@ -17,7 +17,7 @@ ScaledWords<W> MultiplyNormalised(const Word* left, const Word* right) {
     ScaledWords<W> result;
     result.shift = (upper[W - 1] & TopBit) == 0 ? 1 : 0;
     if (result.shift == 0) {
-        std::copy_n(upper, W, result.words.begin());
+        std::copy_n(upper, W, result.words);
     } else {
         for (int i = 0; i < W; ++i) {
             result.words[i] = (upper[i] << 1) | (upper[i - 1] >> (WordBits - 1));

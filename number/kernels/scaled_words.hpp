@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 #include "number/kernels/specialisations.hpp"
@@ -17,7 +16,7 @@ enum class Tail : std::uint8_t { BelowHalf, Half, AboveHalf };
 template <std::size_t W>
 struct ScaledWords {
     /// The upper half after the shift.
-    std::array<Word, W> words;
+    Word words[W];
     /// What the lower half is after the shift.
     Tail tail;
     /// By how many bits it was shifted; 0 for the integer 0.
@@ -29,7 +28,7 @@ template <std::size_t W>
 ScaledWords<W> Scale(ttmath::UInt<2 * W>& integer) {
     ScaledWords<W> result;
     result.shift = integer.CompensationToLeft();
-    std::copy_n(integer.table + W, W, result.words.begin());
+    std::copy_n(integer.table + W, W, result.words);
     Word rest = integer.table[W - 1] & (TopBit - 1);
     for (std::size_t i = 0; i < W - 1; ++i) {
         rest |= integer.table[i];
@@ -81,7 +80,7 @@ Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) 
 template <std::size_t E, std::size_t W>
 Word Finish(ttmath::Big<E, W>& number, const ScaledWords<W>& result, bool round, bool negative,
             Word carry) {
-    std::copy_n(result.words.begin(), W, number.mantissa.table);
+    std::copy_n(result.words, W, number.mantissa.table);
     const bool up = result.tail == Tail::AboveHalf ||
                     (result.tail == Tail::Half && number.mantissa.IsTheLowestBitSet());
     if (round && up && number.mantissa.AddOne() != 0) {
