@@ -39,6 +39,9 @@ private:
     static constexpr int Block = 8;
     static_assert(Slack > 0 && LimbPadding >= Block);
 
+    /// The dividend's limbs are no factors.
+    using Numerator = LimbBuffer<W, 0>;
+
     bool topBit_ = false;
     Word words_[Slack + W];
 
@@ -83,7 +86,7 @@ private:
     /// The last digit is too small by less than 2, too, and it has some bits more than the words
     /// need. Answers whether the words are decided.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
-        const LimbBuffer<W> numerator(dividend + W, W);
+        const Numerator numerator(dividend + W, W);
         const LimbBuffer<W> denominator(divisor + W, divisorCount);
         DigitChain chain(denominator, divisor[W - 1], numerator[0]);
         Limb digits[GroupCount(Digits - 1) * GroupLimbs + 1];
@@ -142,7 +145,7 @@ private:
 
     /// Computes digits `start` to `start + Count - 1`.
     template <int Count>
-    static void ComputeBlock(int start, const LimbBuffer<W>& numerator,
+    static void ComputeBlock(int start, const Numerator& numerator,
                              const LimbBuffer<W>& denominator, DigitChain& chain, Limb* digits) {
         // The columns behind the first one, which the chain has already.
         DoubleWord remaining[ColumnStep];

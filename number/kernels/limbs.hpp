@@ -44,14 +44,14 @@ inline constexpr int GroupCount(int limbs) {
 /// The zero limbs that column sums may read before and behind a factor: one vector step of columns.
 inline constexpr int LimbPadding = 16;
 
-/// Up to `Words` words as limbs, with the padding that column sums want.
-template <int Words>
+/// Up to `Words` words as limbs, with the padding that column sums want of a factor.
+template <int Words, int Padding = LimbPadding>
 class LimbBuffer {
 public:
     /// Cuts up the highest `count` of the words that end before `wordsEnd`.
     LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count)) {
         Pad(lanes_);
-        Limb* limbs = lanes_ + LimbPadding;
+        Limb* limbs = lanes_ + Padding;
         for (; count >= GroupWords; count -= GroupWords) {
             CutGroup(wordsEnd, limbs);
             wordsEnd -= GroupWords;
@@ -65,21 +65,21 @@ public:
         Pad(limbs + GroupLimbs);
     }
 
-    const Limb* data() const { return lanes_ + LimbPadding; }
+    const Limb* data() const { return lanes_ + Padding; }
     int count() const { return count_; }
     Limb operator[](int i) const { return data()[i]; }
 
 private:
     static constexpr int Capacity = (Words / GroupWords + 1) * GroupLimbs;
 
-    alignas(16) Limb lanes_[LimbPadding + Capacity + LimbPadding];
+    alignas(16) Limb lanes_[Padding + Capacity + Padding];
     int count_;
 
     /// Clears a padding. (As a call it would take as long as cutting up a mantissa of 8 words.)
     static void Pad(Limb* limbs) {
-        static_assert(LimbPadding % 2 == 0);
+        static_assert(Padding % 2 == 0);
 #pragma GCC unroll 8
-        for (int i = 0; i < LimbPadding; i += 2) {
+        for (int i = 0; i < Padding; i += 2) {
             _mm_store_si128(reinterpret_cast<__m128i*>(limbs + i), _mm_setzero_si128());
         }
     }
