@@ -57,9 +57,9 @@ Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     return number.Pow(ttmath::UInt<1>(power));
 }
 
-/// number = number^[|power|], as Big::PowUInt.
+/// number = number^[|power|], as Big::PowUInt; `power` is used up.
 template <ttmath::uint E, ttmath::uint W>
-Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W> power) {
+Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
     if (number.IsNan() || power.IsNan()) {
         return number.CheckCarry(1);
     }

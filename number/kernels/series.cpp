@@ -1,7 +1,8 @@
 // The power series of ttmath's functions: the first terms as ttmath adds them, the small ones in
 // fixed point, where each costs a fraction of that. Order, rounding and end of each sum are
 // ttmath's.
-#include <limits>
+#include <algorithm>
+#include <bit>
 #include <optional>
 
 #include "number/kernels/column_sums.hpp"
@@ -43,33 +44,36 @@ bool HasRoom(const ttmath::UInt<W>& mantissa, int position, bool adding, bool su
 }
 
 /// Adds what is left of a series in fixed point: all terms from index `next` on. Answers the index
-/// of the last one, or 0 if that cannot be done.
+/// of the last one; 0 if a term cannot be rounded with certainty; nothing if it is too early.
 template <auto Ratio, uint E, uint W>
-uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier, bool subtract,
-             bool alternate, uint next, EndTest endTest) {
+std::optional<uint> AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier,
+                            bool subtract, bool alternate, uint next, EndTest endTest) {
     constexpr int bits = 32 * W;
     constexpr int wanted = 40;
     const auto sumExponent = PlainExponent(sum);
     const auto termExponent = PlainExponent(term);
     const auto multiplierExponent = PlainExponent(multiplier);
     if (!sumExponent || !termExponent || !multiplierExponent) {
-        return 0;
+        return {};
     }
     const int termShift = *sumExponent - *termExponent;
     const int multiplierShift = -(*multiplierExponent + bits);
     const TermRatio nextRatio = Ratio(next);
-    const int ratioShift = std::bit_width(nextRatio.denominator / nextRatio.numerator) - 1;
+    const int ratioShift =
+        static_cast<int>(std::bit_width(nextRatio.denominator / nextRatio.numerator)) - 1;
     // The next term and with it all that follow are below 2^-shift of the sum.
     const int shift = termShift + multiplierShift + ratioShift - 1;
-    if (termShift < 0 || termShift >= bits || multiplierShift < 0 ||
-        multiplierShift + ratioShift < 1 || shift < wanted) {
-        return 0;
+    if (termShift < 0 || termShift >= bits || multiplierShift < 0 || multiplierShift >= bits ||
+        shift < wanted) {
+        return {};
     }
-    // Terms get smaller by a half at least. All together, rounded, they are below four times the
+    // Each term is at most half of the one before: the multiplier is below 1/2, or the ratio is 1 /
+    // d with d from 2 on, and gets smaller. So all together, rounded, are below four times the
     // first one, or below 4.
-    if (!HasRoom(sum.mantissa, std::max(bits - shift + 2, 2), !subtract || alternate,
-                 subtract || alternate)) {
-        return 0;
+    const bool halves = multiplierShift >= 1 || (nextRatio.numerator == 1 && ratioShift >= 1);
+    if (!halves || !HasRoom(sum.mantissa, std::max(bits - shift + 2, 2), !subtract || alternate,
+                            subtract || alternate)) {
+        return {};
     }
     const TailStart start{.sum = sum.mantissa.table,
                           .term = term.mantissa.table,
@@ -96,7 +100,7 @@ uint AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier,
 template <typename Series, typename Number>
 uint Sum(Series& series, Number& sum) {
     Number oldSum = sum;
-    bool tailMayWork = true;
+    bool tailFailed = false;
     uint index = 1;
     for (; index <= TTMATH_ARITHMETIC_MAX_LOOP; ++index) {
         if (!series.MakeTerm()) {
@@ -113,16 +117,17 @@ uint Sum(Series& series, Number& sum) {
                 break;
             }
             oldSum = sum;
-            if (tailMayWork) {
+            if (!tailFailed) {
                 const Number& multiplier = series.multiplier();
                 const bool alternate = Series::alternating != multiplier.IsSign();
                 const bool against = (series.term.IsSign() != subtracted) != sum.IsSign();
-                const uint last =
+                const auto last =
                     AddTail<Series::Ratio>(sum, series.term, multiplier, against != alternate,
                                            alternate, index + 1, Series::endTest);
-                if (last != 0) {
-                    return last;
+                if (last && *last != 0) {
+                    return *last;
                 }
+                tailFailed = last.has_value();
             }
         }
         if (!series.Advance()) {

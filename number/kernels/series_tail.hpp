@@ -13,17 +13,18 @@
 //
 // How far such a term may be off, in units:
 //
-// - The plain sum rounds at most four numbers on the way from one term to the next, each by 2^-32W
-// of
-//   its size. A term before MaxTerms differs from the exact one by at most 4 * 2^11 * 2^-32W of its
-//   size; the tail begins with terms below 2^(32W - 40) units, which leaves 2^13 * 2^-40 = 2^-27.
-//   The tail's first term is taken over from the plain sum with such an error, too: another 2^-27
-//   at most, but for both to be reached there would have to be twice as many terms.
+// - The plain sum rounds at most three numbers on the way from one term to the next, and four more
+// to
+//   make a term of them, each by 2^-32W of its size. A term before MaxTerms < 2^11 differs from the
+//   exact one by less than 2^13 * 2^-32W of its size. The tail's terms are below 2^(32W - 41)
+//   units, which leaves 2^-28. The term that the tail starts from is taken over from the plain sum
+//   and hands on as much: 2^-27 together.
 // - Factors are cut off where a term's lowest limb ends, and products below that. With n < 2^7
-// limbs and
-//   factor limbs below 2.85 * 2^28 each neglected column is less than n * 2.85 * 2^56 = 2^64.6, one
-//   limb below the lowest, which counts 2^-84: less than 2^-47. Each further column counts 2^-28 of
-//   that. As factors are below 1/2, the sum of all such errors stays below 2^-46.
+// limbs
+//   and factor limbs below 2.86 * 2^28 the highest column that is neglected is less than
+//   n * 2.87 * 2^56 < 2^65, and it counts 2^-28 of the lowest limb, which counts 2^-84: less than
+//   2^-47. Each further column counts 2^-28 of that. Factors are below 1/2, so that the sum of all
+//   such errors stays below 2^-45.
 //
 // Together less than 2^-26, the TieMargin: a term that is nearer to the middle between two integers
 // ends the attempt, and the series is summed on plainly.
