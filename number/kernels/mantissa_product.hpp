@@ -61,13 +61,11 @@ private:
         Word* product = end() - (leftCount + rightCount);
         std::fill(words_, product + leftCount, 0);
         for (int j = 0; j < rightCount; ++j, ++product) {
-            DoubleWord carry = 0;
+            Word carry = 0;
             for (int i = 0; i < leftCount; ++i) {
-                carry += DoubleWord{left[i]} * right[j] + product[i];
-                product[i] = Low(carry);
-                carry = High(carry);
+                carry = AddProduct(product[i], left[i], right[j], carry);
             }
-            product[leftCount] = Low(carry);
+            product[leftCount] = carry;
         }
     }
 

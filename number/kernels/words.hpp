@@ -39,6 +39,21 @@ inline Word DivideWords(Word high, Word low, Word divisor, Word& remainder) {
     return quotient;
 }
 
+/// target += left * right + carry. Answers the word that is carried over. The compiler would keep
+/// the carry in memory.
+inline Word AddProduct(Word& target, Word left, Word right, Word carry) {
+    Word high = 0;
+    asm("mull %[right]\n\t"
+        "addl %[carry], %%eax\n\t"
+        "adcl $0, %%edx\n\t"
+        "addl %%eax, %[target]\n\t"
+        "adcl $0, %%edx"
+        : [target] "+m"(target), "=&d"(high), "+a"(left)
+        : [right] "r"(right), [carry] "r"(carry)
+        : "cc");
+    return high;
+}
+
 /// A sum of products of words, and of what the sum before carries over.
 class ColumnSum {
 public:
