@@ -58,6 +58,7 @@ inline Word AddProduct(Word& target, Word left, Word right, Word carry) {
 class ColumnSum {
 public:
     /// Adds left * right. The compiler would find the carry by a comparison.
+    // NOLINTNEXTLINE(misc-unused-parameters): the assembly uses them.
     void AddProduct(Word left, Word right) {
         asm("mull %[right]\n\t"
             "addl %%eax, %[low]\n\t"
