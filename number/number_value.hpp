@@ -1,10 +1,9 @@
 // The two number values and the values that stand for nothing.
 #pragma once
 
-#include <ttmath/ttmath.h>
-
 #include "interface/host_interface.hpp"
 #include "number/fixed_string.hpp"
+#include "number/kernels/specialisations.hpp"
 
 namespace vqz {
 

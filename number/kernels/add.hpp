@@ -1,0 +1,145 @@
+// Addition and subtraction of numbers.
+#pragma once
+
+#include <algorithm>
+#include <utility>
+
+#include <emmintrin.h>
+
+#include "number/kernels/carry_chains.hpp"
+#include "number/kernels/specialisations.hpp"
+#include "number/kernels/words.hpp"
+
+namespace vqz::kernels {
+
+/// result = words >> bits, for less than W words of bits.
+template <int W>
+void ShiftRight(const Word* words, Word bits, Word* result) {
+    constexpr int VectorWords = 4;
+    const Word rest = bits % WordBits;
+    const Word* source = words + bits / WordBits;
+    const int count = W - static_cast<int>(bits / WordBits);
+    const __m128i right = _mm_cvtsi32_si128(static_cast<int>(rest));
+    const __m128i left = _mm_cvtsi32_si128(static_cast<int>(WordBits - rest));
+    int i = 0;
+    for (; i + VectorWords <= count; i += VectorWords) {
+        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + i));
+        const __m128i high = i + VectorWords < count
+                                 ? _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + i + 1))
+                                 : _mm_srli_si128(low, sizeof(Word));
+        // A shift of a whole word gives 0, unlike the language's own.
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(result + i),
+                         _mm_or_si128(_mm_srl_epi32(low, right), _mm_sll_epi32(high, left)));
+    }
+    for (; i < count; ++i) {
+        const Word above = i + 1 < count ? source[i + 1] : 0;
+        result[i] = (source[i] >> rest) | (above << 1 << (WordBits - 1 - rest));
+    }
+    for (; i < W; ++i) {
+        result[i] = 0;
+    }
+}
+
+/// By how many bits the smaller of two numbers is to be moved: the magnitude of the difference of
+/// their exponents as ttmath computes it, which wraps. What is more than W words comes out as one
+/// bit more than these.
+template <std::size_t E, std::size_t W>
+Word ExponentDistance(const ttmath::Int<E>& greater, const ttmath::Int<E>& smaller) {
+    constexpr Word TooFar = W * WordBits + 1;
+    if (std::equal(greater.table + 1, greater.table + E, smaller.table + 1)) {
+        return std::min(greater.table[0] - smaller.table[0], TooFar);
+    }
+    ttmath::Int<E> distance(greater);
+    distance.Sub(smaller);
+    const bool isHuge = distance.Abs() != 0 || std::any_of(distance.table + 1, distance.table + E,
+                                                           [](Word word) { return word != 0; });
+    return isHuge ? TooFar : std::min(distance.table[0], TooFar);
+}
+
+/// What adding leaves below the mantissa: the first bit, and whether all others are 0.
+struct Remains {
+    bool firstBit;
+    bool othersZero;
+};
+
+/// What is moved out of a mantissa by `bits` bits, from 1 to all of them.
+template <int W>
+[[gnu::always_inline]] inline Remains RemainsOfShift(const ttmath::UInt<W>& mantissa, Word bits) {
+    const Word first = bits - 1;
+    const Word word = mantissa.table[first / WordBits];
+    return {.firstBit = (word >> (first % WordBits) & 1) != 0,
+            .othersZero = mantissa.AreFirstBitsZero(first)};
+}
+
+/// me = greater +- smaller, or the same the other way round: `greater` and `smaller` are `me` and
+/// `other` in the order of their magnitudes. Both are not 0.
+template <std::size_t E, std::size_t W>
+Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
+                const ttmath::Big<E, W>& smaller, bool round) {
+    constexpr Word Bits = W * WordBits;
+    const Word distance = ExponentDistance<E, W>(greater.exponent, smaller.exponent);
+    const bool isSum = greater.IsSign() == smaller.IsSign();
+    Remains remains{.firstBit = false, .othersZero = true};
+    if (distance > 0 && distance <= Bits) {
+        remains = RemainsOfShift<W>(smaller.mantissa, distance);
+    }
+    Word moved[W];
+    if (distance < Bits) {
+        ShiftRight<W>(smaller.mantissa.table, distance, moved);
+    }
+    if (&me != &greater) {
+        me.exponent = greater.exponent;
+        me.info = greater.info;
+    }
+    Word carry = 0;
+    if (distance >= Bits) {
+        if (&me != &greater) {
+            me.mantissa = greater.mantissa;
+        }
+        if (distance > Bits) {
+            return 0;
+        }
+    } else if (!isSum) {
+        SubtractWords<W>(greater.mantissa.table, moved, me.mantissa.table);
+    } else if (AddWords<W>(greater.mantissa.table, moved, me.mantissa.table)) {
+        remains = {.firstBit = me.mantissa.IsTheLowestBitSet(),
+                   .othersZero = !remains.firstBit && remains.othersZero};
+        me.mantissa.Rcr(1, 1);
+        carry += me.exponent.AddOne();
+    }
+    const bool isRounded = round && remains.firstBit;
+    if (isRounded && (!remains.othersZero || me.mantissa.IsTheLowestBitSet())) {
+        if (!isSum) {
+            me.mantissa.SubOne();
+        } else if (me.mantissa.AddOne() != 0) {
+            me.mantissa.Rcr(1, 1);
+            carry += me.exponent.AddOne();
+        }
+    }
+    if (isRounded || distance < Bits) {
+        carry += me.Standardizing();
+    }
+    return me.CheckCarry(carry);
+}
+
+/// me = me + other, or me - other when `adding` is false. `other` is a copy of the operand. Answers
+/// a carry when the exponent overflows, and for a NaN.
+template <std::size_t E, std::size_t W>
+Word Add(ttmath::Big<E, W>& me, ttmath::Big<E, W>& other, bool round, bool adding) {
+    if (me.IsNan() || other.IsNan()) {
+        return me.CheckCarry(1);
+    }
+    if (!adding) {
+        other.ChangeSign();
+    }
+    const bool isSwapped = me.SmallerWithoutSignThan(other);
+    if ((isSwapped ? me : other).IsZero()) {
+        if (isSwapped) {
+            me = other;
+        }
+        return 0;
+    }
+    return isSwapped ? AddOrdered(me, other, me, round) : AddOrdered(me, me, other, round);
+}
+
+}  // namespace vqz::kernels

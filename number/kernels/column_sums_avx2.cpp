@@ -1,0 +1,11 @@
+#include "number/kernels/column_sums_steps.hpp"
+#include "number/kernels/lanes_avx2.hpp"
+
+namespace vqz::kernels {
+
+void ColumnSumsAvx2(const Limb* left, int leftCount, const Limb* right, int rightCount, int first,
+                    int last, DoubleWord* sums) {
+    ColumnSumsInSteps<Avx2Lanes>(left, leftCount, right, rightCount, first, last, sums);
+}
+
+}  // namespace vqz::kernels

@@ -1,0 +1,53 @@
+// How column sums are computed with vectors of any width. `Lanes` tells of one width; each width is
+// instantiated in a source file of its own, compiled for its processors, and nothing but templates
+// on `Lanes` may be called here: the linker must not take common code from there.
+#pragma once
+
+#include "number/kernels/column_sums.hpp"
+
+namespace vqz::kernels {
+
+/// One step: `Vectors` vectors of neighbouring columns from column k on. Each left limb is
+/// multiplied by the run of right limbs that falls in these columns; where the run leaves the
+/// factor it meets the padding.
+template <typename Lanes, int Stride, int Vectors>
+inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
+                           int k, DoubleWord* sums) {
+    typename Lanes::Vector totals[Vectors] = {};
+    const int begin = k < rightCount ? 0 : k - rightCount + 1;
+    const int beyond = k + Vectors * Lanes::Count;
+    const int end = leftCount < beyond ? leftCount : beyond;
+    const Limb* run = right + (k - begin);
+    for (int i = begin; i < end; ++i, --run) {
+        // Runs overlap from turn to turn. The compiler would keep the common vectors, for which
+        // there are no registers; it must not know where the run is.
+        asm("" : "+r"(run));
+        const auto factor = Lanes::Broadcast(left + i * Stride);
+#pragma GCC unroll 4
+        for (int v = 0; v < Vectors; ++v) {
+            totals[v] += Lanes::Product(factor, run + v * Lanes::Count);
+        }
+    }
+#pragma GCC unroll 4
+    for (int v = 0; v < Vectors; ++v) {
+        Lanes::Store(sums + v * Lanes::Count, totals[v]);
+    }
+}
+
+/// ColumnSumsFunction in steps of four vectors, which share each broadcast limb. From one left limb
+/// to the next it is `Stride` limbs.
+template <typename Lanes, int Stride = 1>
+inline void ColumnSumsInSteps(const Limb* left, int leftCount, const Limb* right, int rightCount,
+                              int first, int last, DoubleWord* sums) {
+    constexpr int Step = 4 * Lanes::Count;
+    static_assert(Step <= ColumnStep);
+    int k = first;
+    for (; k + Step / 2 < last; k += Step) {
+        ColumnStepSums<Lanes, Stride, 4>(left, leftCount, right, rightCount, k, sums + (k - first));
+    }
+    for (; k < last; k += Step / 2) {
+        ColumnStepSums<Lanes, Stride, 2>(left, leftCount, right, rightCount, k, sums + (k - first));
+    }
+}
+
+}  // namespace vqz::kernels

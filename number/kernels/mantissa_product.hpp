@@ -1,0 +1,154 @@
+// Products of mantissas.
+#pragma once
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "number/kernels/column_sums.hpp"
+#include "number/kernels/limbs.hpp"
+#include "number/kernels/words.hpp"
+
+namespace vqz::kernels {
+
+/// Up to this many products of words, the schoolbook with words is faster than with limbs.
+inline constexpr int MaxWordProducts = 160;
+
+/// Mantissas of up to this many words are multiplied by code without loops.
+inline constexpr int MaxUnrolledWords = 8;
+
+/// The product of two mantissas of W words, seen as fractions: its words begin at the top.
+template <int W>
+class MantissaProduct {
+public:
+    /// How much of the product is wanted.
+    enum class Precision { Full, Leading };
+
+    /// Full: all 2 * W words. Leading: the upper W words, and what rounds them, of normalised
+    /// mantissas; below the guard word there may be an error then, but no words that are all 0.
+    MantissaProduct(const Word* left, const Word* right, Precision precision) {
+        const int leftCount = WithoutLowZeros(left, W);
+        const int rightCount = WithoutLowZeros(right, W);
+        if constexpr (W <= MaxUnrolledWords) {
+            if (leftCount == W && rightCount == W) {
+                MultiplyWordColumns(left, right, precision);
+                return;
+            }
+        }
+        if (W * W <= MaxWordProducts || leftCount * rightCount <= MaxWordProducts) {
+            MultiplyWords(left + W - leftCount, leftCount, right + W - rightCount, rightCount);
+        } else {
+            MultiplyLimbs(LimbBuffer<W>(left + W, leftCount), LimbBuffer<W>(right + W, rightCount),
+                          precision);
+        }
+    }
+
+    /// The upper W words. The guard word lies before them.
+    const Word* upper() const { return words_ + Slack + W; }
+    /// The lower W words, the guard word last.
+    const Word* lower() const { return words_ + Slack; }
+
+private:
+    /// Words below the product, that whole groups may reach into.
+    static constexpr int Slack = GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
+
+    Word words_[Slack + 2 * W];
+
+    Word* end() { return std::end(words_); }
+
+    /// The schoolbook, row by row.
+    void MultiplyWords(const Word* left, int leftCount, const Word* right, int rightCount) {
+        Word* product = end() - (leftCount + rightCount);
+        std::fill(words_, product + leftCount, 0);
+        for (int j = 0; j < rightCount; ++j, ++product) {
+            Word carry = 0;
+            for (int i = 0; i < leftCount; ++i) {
+                carry = AddProduct(product[i], left[i], right[j], carry);
+            }
+            product[leftCount] = carry;
+        }
+    }
+
+    /// The schoolbook, column by column of words, which are summed up in three words. For the
+    /// leading words, columns 0 to W - 3 are left out: at most k + 1 products below 2^64 in column
+    /// k, together less than W * 2^(64 + 32 (W - 3)), are less than W units of the guard word W
+    /// - 1.
+    void MultiplyWordColumns(const Word* left, const Word* right, Precision precision) {
+        if (precision == Precision::Leading) {
+            ComputeWordColumns<W - 2>(left, right);
+            if (IsDecided(upper()[-1], W)) {
+                return;
+            }
+        }
+        ComputeWordColumns<0>(left, right);
+    }
+
+    template <int First>
+    void ComputeWordColumns(const Word* left, const Word* right) {
+        std::fill(words_, words_ + Slack + First, 0);
+        Word* product = words_ + Slack;
+        ColumnSum sum;
+        [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
+            ((AddWordColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
+        }
+        (std::make_integer_sequence<int, 2 * W - 1 - First>{});
+        product[2 * W - 1] = sum.Next();
+    }
+
+    /// Kept out of line, the sum would live in memory.
+    template <int K>
+    [[gnu::always_inline]] static void AddWordColumn(const Word* left, const Word* right,
+                                                     ColumnSum& sum) {
+        constexpr int First = std::max(0, K - W + 1);
+        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
+            (sum.AddProduct(left[First + I], right[K - First - I]), ...);
+        }
+        (std::make_integer_sequence<int, std::min(K, W - 1) - First + 1>{});
+    }
+
+    /// The schoolbook, column by column; for the leading words, without the columns that can hardly
+    /// matter.
+    ///
+    /// Column k weighs 2^(-28 (k + 2)) and sums up at most n products below 2^56, where n is the
+    /// number of limbs of a factor: it is less than n * 2^(-28 k). A unit of the guard word is
+    /// 2^(-32 (W + 1)). When columns up to K - 1 are computed and 28 * K >= 32 * (W + 1), all
+    /// others together are less than n * 2^(-28 K) * (1 + 2^-27), that is, at most n units.
+    void MultiplyLimbs(const LimbBuffer<W>& left, const LimbBuffer<W>& right, Precision precision) {
+        constexpr int LeadingColumns = LimbCount(W + 1);
+        const int columns = left.count() + right.count() - 1;
+        if (precision == Precision::Leading && columns > LeadingColumns) {
+            ComputeColumns(left, right, LeadingColumns);
+            if (IsDecided(upper()[-1], std::min(left.count(), right.count()))) {
+                return;
+            }
+        }
+        ComputeColumns(left, right, columns);
+    }
+
+    /// Whether the words above the guard, and how they are rounded, stay the same when up to
+    /// `error` units are added to it. The bit that rounds is its highest or, when the product has
+    /// a leading 0 bit, the next. The bits below must not carry into these, nor be all 0: whether
+    /// they are a half would be open then.
+    static bool IsDecided([[maybe_unused]] Word guard, [[maybe_unused]] int error) {
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+        return false;
+#else
+        constexpr Word Rest = (Word{1} << (WordBits - 2)) - 1;
+        const Word rest = guard & Rest;
+        return rest != 0 && rest <= Rest - static_cast<Word>(error);
+#endif
+    }
+
+    void ComputeColumns(const LimbBuffer<W>& left, const LimbBuffer<W>& right, int columns) {
+        // Column k is limb k + 1 of the product; limb 0 is the carry out of column 0.
+        const int groups = GroupCount(columns + 1);
+        DoubleWord sums[GroupCount(2 * LimbCount(W)) * GroupLimbs + ColumnStep];
+        sums[0] = 0;
+        columnSums(left.data(), left.count(), right.data(), right.count(), 0, columns, sums + 1);
+        std::fill(sums + columns + 1, sums + groups * GroupLimbs, 0);
+        JoinColumns(sums, groups, end());
+        std::fill(words_, end() - groups * GroupWords, 0);
+    }
+};
+
+}  // namespace vqz::kernels

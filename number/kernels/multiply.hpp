@@ -1,0 +1,69 @@
+// Multiplication of numbers.
+#pragma once
+
+#include <algorithm>
+
+#include "number/kernels/mantissa_product.hpp"
+#include "number/kernels/scaled_words.hpp"
+
+namespace vqz::kernels {
+
+/// The product of two normalised mantissas.
+template <int W>
+ScaledWords<W> MultiplyNormalised(const Word* left, const Word* right) {
+    using Product = MantissaProduct<W>;
+    const Product product(left, right, Product::Precision::Leading);
+    const Word* upper = product.upper();
+    ScaledWords<W> result;
+    result.shift = (upper[W - 1] & TopBit) == 0 ? 1 : 0;
+    if (result.shift == 0) {
+        std::copy_n(upper, W, result.words);
+    } else {
+        for (int i = 0; i < W; ++i) {
+            result.words[i] = (upper[i] << 1) | (upper[i - 1] >> (WordBits - 1));
+        }
+    }
+    const Word guard = upper[-1] << result.shift;
+    if ((guard & TopBit) == 0) {
+        result.tail = Tail::BelowHalf;
+    } else {
+        const bool isHalf = guard == TopBit && WithoutLowZeros(product.lower(), W - 1) == 0;
+        result.tail = isHalf ? Tail::Half : Tail::AboveHalf;
+    }
+    return result;
+}
+
+/// The product of two mantissas of any form, by ttmath.
+template <std::size_t W>
+ScaledWords<W> MultiplyExactly(ttmath::UInt<W>& left, const ttmath::UInt<W>& right) {
+    ttmath::UInt<2 * W> product;
+    left.MulBig(right, product);
+    return Scale<W>(product);
+}
+
+/// me = me * other. Answers a carry when the exponent overflows, and for a NaN.
+template <std::size_t E, std::size_t W>
+Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
+    if (me.IsNan() || other.IsNan()) {
+        return me.CheckCarry(1);
+    }
+    if (me.IsZero()) {
+        return 0;
+    }
+    if (other.IsZero()) {
+        me.SetZero();
+        return 0;
+    }
+    const bool areNormalised =
+        me.mantissa.IsTheHighestBitSet() && other.mantissa.IsTheHighestBitSet();
+    const ScaledWords<W> product =
+        areNormalised ? MultiplyNormalised<W>(me.mantissa.table, other.mantissa.table)
+                      : MultiplyExactly(me.mantissa, other.mantissa);
+    // For mantissas that are not normalised this may wrap; ttmath adds it as it is then.
+    const Word gained = W * WordBits - product.shift;
+    Word carry = AddToExponent<E>(me.exponent, gained);
+    carry += AddToExponent<E>(me.exponent, other.exponent);
+    return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
+}
+
+}  // namespace vqz::kernels

@@ -1,0 +1,102 @@
+// Powers with an integer as exponent.
+#pragma once
+
+#include <bit>
+#include <optional>
+
+#include "number/kernels/growing_integer.hpp"
+#include "number/kernels/specialisations.hpp"
+
+namespace vqz::kernels {
+
+/// number^power, if the number is a word times a power of 2 and its power fits into the mantissa:
+/// no square or product on the way to it would be rounded, so that it does not matter how it is
+/// computed.
+template <ttmath::uint E, ttmath::uint W>
+std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Word power) {
+    constexpr ttmath::sint limit = 1 << 20;
+    const Word top = number.mantissa.table[W - 1];
+    ttmath::sint exponent = 0;
+    if (number.IsNan() || number.IsZero() || (top & TopBit) == 0 ||
+        WithoutLowZeros(number.mantissa.table, W) != 1 || number.exponent.ToInt(exponent) != 0 ||
+        exponent < -limit || exponent > limit || power > WordBits * W) {
+        return {};
+    }
+    const int twos = std::countr_zero(top);
+    const Word odd = top >> twos;
+    const Word powers = power;
+    GrowingInteger<W> result;
+    result.Append(1, 1);
+    // As many factors at once as a word holds.
+    while (power > 0) {
+        Word factor = odd;
+        for (--power; power > 0 && High(DoubleWord{factor} * odd) == 0; --power) {
+            factor *= odd;
+        }
+        if (!result.Append(factor, 0)) {
+            return {};
+        }
+    }
+    ttmath::Big<E, W> value;
+    result.StoreTo(value);
+    exponent += static_cast<int>(WordBits * (W - 1)) + twos;
+    value.exponent.Add(ttmath::Int<E>(exponent * static_cast<ttmath::sint>(powers)));
+    if (number.IsSign() && powers % 2 != 0) {
+        value.SetSign();
+    }
+    return value;
+}
+
+/// number = number^power. Answers whether that got too large, or 2 for 0^0.
+template <ttmath::uint E, ttmath::uint W>
+Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
+    if (const auto exact = ExactPower(number, power)) {
+        number = *exact;
+        return 0;
+    }
+    return number.Pow(ttmath::UInt<1>(power));
+}
+
+/// number = number^[|power|], as Big::PowUInt; `power` is used up.
+template <ttmath::uint E, ttmath::uint W>
+Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
+    if (number.IsNan() || power.IsNan()) {
+        return number.CheckCarry(1);
+    }
+    if (number.IsZero()) {
+        if (power.IsZero()) {
+            number.SetNan();
+            return 2;
+        }
+        return 0;
+    }
+    if (power.IsSign()) {
+        power.Abs();
+    }
+    Word small = 0;
+    if (power.mantissa.IsTheHighestBitSet() && power.IsInteger() && power.ToUInt(small) == 0) {
+        if (const auto exact = ExactPower(number, small)) {
+            number = *exact;
+            return 0;
+        }
+    }
+    // Squares, of which those are multiplied that the bits of the power tell.
+    ttmath::Big<E, W> square = number;
+    ttmath::Big<E, W> one;
+    one.SetOne();
+    number = one;
+    Word carry = 0;
+    while (carry == 0) {
+        if (power.Mod2() != 0) {
+            carry += number.Mul(square);
+        }
+        carry += power.exponent.SubOne();
+        if (power < one) {
+            break;
+        }
+        carry += square.Mul(square);
+    }
+    return number.CheckCarry(carry);
+}
+
+}  // namespace vqz::kernels

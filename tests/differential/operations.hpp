@@ -1,0 +1,132 @@
+// What is compared: each operation by its name, its group and a call.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/differential/operands.hpp"
+
+namespace differential {
+
+/// Operations of one group are run equally often.
+enum class Group { Basic, Function, Composed, Text };
+
+/// What an operation of a number type does to `me`; text goes to `text`. Answers its carry or
+/// error.
+template <typename Number>
+struct Operation {
+    std::string_view name;
+    Group group;
+    ttmath::uint (*call)(Number& me, const Number& other, std::string& text);
+};
+
+/// A shared function of one number as an operation.
+template <typename Number, auto Function>
+ttmath::uint CallFunction(Number& me, const Number&, std::string&) {
+    ttmath::ErrorCode error = ttmath::err_ok;
+    me = Function(me, &error);
+    return error;
+}
+
+template <typename Number, ttmath::uint Base>
+ttmath::uint WriteAndRead(Number& me, const Number&, std::string& text) {
+    const ttmath::uint failed = me.ToString(text, Base);
+    return failed * 2 + me.FromString(text, Base);
+}
+
+/// Reads a text that the operands tell: digits of any base, few or more than a mantissa holds, and
+/// now and then something else. How far it was read counts, too.
+template <typename Number>
+ttmath::uint ReadText(Number& me, const Number& other, std::string& text) {
+    constexpr std::string_view digits = "0123456789aBcDeF";
+    constexpr std::string_view others = "0000'''.,.e+- g";
+    Random random(std::uint64_t{other.mantissa.table[0]} << 32 | me.mantissa.table[0]);
+    ttmath::Conv conv;
+    conv.base = random.OneIn(2) ? 10 : 2 + random.Below(15);
+    conv.group = random.OneIn(2) ? '\'' : 0;
+    const std::uint32_t rareness = 2 + random.Below(4000);
+    const std::uint32_t limit = sizeof(me.mantissa) * (random.OneIn(2) ? 2 : 10);
+    for (std::uint32_t i = random.Below(limit); i > 0; --i) {
+        text += random.OneIn(rareness) ? others[random.Below(others.size())]
+                                       : digits[random.Below(conv.base)];
+    }
+    const char* after = nullptr;
+    bool read = false;
+    const ttmath::uint carry = me.FromString(text, conv, &after, &read);
+    text += std::to_string(after - text.c_str()) + (read ? " read" : "");
+    return carry;
+}
+
+/// All operations of a number type.
+template <typename Number>
+std::vector<Operation<Number>> Operations() {
+    using N = Number;
+    return {
+        {"Add", Group::Basic, [](N& me, const N& other, auto&) { return me.Add(other); }},
+        {"AddCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Add(other, false); }},
+        {"Sub", Group::Basic, [](N& me, const N& other, auto&) { return me.Sub(other); }},
+        {"SubCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Sub(other, false); }},
+        {"Mul", Group::Basic, [](N& me, const N& other, auto&) { return me.Mul(other); }},
+        {"MulCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Mul(other, false); }},
+        {"Div", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other); }},
+        {"DivCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other, false); }},
+        {"AddSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Add(me); }},
+        {"SubSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Sub(me); }},
+        {"MulSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Mul(me); }},
+        {"DivSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Div(me); }},
+        {"Exp", Group::Function, CallFunction<N, ttmath::Exp<N>>},
+        {"Ln", Group::Function, CallFunction<N, ttmath::Ln<N>>},
+        {"Sin", Group::Function, CallFunction<N, ttmath::Sin<N>>},
+        {"ATan", Group::Function,
+         [](N& me, const N&, auto&) {
+             me = ttmath::ATan(me);
+             return ttmath::uint{0};
+         }},
+        {"Sqrt", Group::Composed, [](N& me, const N&, auto&) { return me.Sqrt(); }},
+        {"Pow", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); }},
+        {"PowInteger", Group::Composed,
+         [](N& me, const N& other, auto&) {
+             N power;
+             power = ttmath::sint(other.mantissa.table[0] % 2500) - 400;
+             if (other.IsSign()) {
+                 me = ttmath::sint(other.mantissa.table[0] / 2500 % 40);
+             }
+             return me.Pow(power);
+         }},
+        {"Mod", Group::Composed, [](N& me, const N& other, auto&) { return me.Mod(other); }},
+        {"Log", Group::Composed,
+         [](N& me, const N& other, auto&) {
+             ttmath::ErrorCode error = ttmath::err_ok;
+             me = ttmath::Log(me, other, &error);
+             return ttmath::uint{error};
+         }},
+        {"Root", Group::Composed,
+         [](N& me, const N& other, auto&) {
+             ttmath::ErrorCode error = ttmath::err_ok;
+             N index;
+             index = other.exponent.table[0] % 12;
+             me = ttmath::Root(me, index, &error);
+             return ttmath::uint{error};
+         }},
+        {"Cos", Group::Composed, CallFunction<N, ttmath::Cos<N>>},
+        {"Tan", Group::Composed, CallFunction<N, ttmath::Tan<N>>},
+        {"Cot", Group::Composed, CallFunction<N, ttmath::Cot<N>>},
+        {"ASin", Group::Composed, CallFunction<N, ttmath::ASin<N>>},
+        {"ACos", Group::Composed, CallFunction<N, ttmath::ACos<N>>},
+        {"Sinh", Group::Composed, CallFunction<N, ttmath::Sinh<N>>},
+        {"Cosh", Group::Composed, CallFunction<N, ttmath::Cosh<N>>},
+        {"Tanh", Group::Composed, CallFunction<N, ttmath::Tanh<N>>},
+        {"Coth", Group::Composed, CallFunction<N, ttmath::Coth<N>>},
+        {"ASinh", Group::Composed, CallFunction<N, ttmath::ASinh<N>>},
+        {"ACosh", Group::Composed, CallFunction<N, ttmath::ACosh<N>>},
+        {"ATanh", Group::Composed, CallFunction<N, ttmath::ATanh<N>>},
+        {"ACoth", Group::Composed, CallFunction<N, ttmath::ACoth<N>>},
+        {"ReadText", Group::Text, ReadText<N>},
+        {"Text10", Group::Text, WriteAndRead<N, 10>},
+        {"Text16", Group::Text, WriteAndRead<N, 16>},
+        {"Text3", Group::Text, WriteAndRead<N, 3>},
+    };
+}
+
+}  // namespace differential
