@@ -87,8 +87,12 @@ private:
         Hash hash;
         for (std::uint32_t i = 0; i < size; ++i) {
             typename Operands<E, W>::Pair pair;
-            if (operation.group == Group::Basic || operands.random().OneIn(16)) {
+            if (operation.group == Group::Basic) {
                 pair = operands.NextPair();
+            } else if (operands.random().OneIn(16)) {
+                pair = operands.NextPair();
+                Operands<E, W>::MakeBearable(pair.first);
+                Operands<E, W>::MakeBearable(pair.second);
             } else {
                 pair = {operands.NextArgument(), operands.NextArgument()};
             }

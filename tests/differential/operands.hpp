@@ -84,6 +84,15 @@ public:
         return number;
     }
 
+    /// The exponential of a number is squared as often as its exponent tells, until it overflows.
+    /// That of a number that is not normalised may be 1, and would be squared for years.
+    static void MakeBearable(Number& number) {
+        constexpr ttmath::sint squares = 100;
+        if (!number.mantissa.IsTheHighestBitSet() && number.exponent > squares) {
+            number.exponent = squares;
+        }
+    }
+
 private:
     using Mantissa = ttmath::UInt<W>;
 
