@@ -18,7 +18,7 @@ import pathlib
 import subprocess
 import sys
 
-FOLDERS = ["help", "host", "interface", "number", "platform", "plugin", "standin", "tests"]
+FOLDERS = ["bench", "help", "host", "interface", "number", "platform", "plugin", "standin", "tests"]
 # clang-tidy finds the style file and the flags by itself; what GCC knows and Clang does not, passes.
 TIDY = ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option"]
 

@@ -128,7 +128,7 @@ private:
                        DoubleWord{divisor_[1]} * digit;
 #pragma GCC unroll 8
             for (int i = 1; i < Count; ++i) {
-                remaining[i] -= DoubleWord{divisor_[i + 1]} * digit;
+                remaining[i] -= digit * DoubleWord{divisor_[i + 1]};
             }
             return digit;
         }

@@ -93,9 +93,12 @@ code::Block Compiler::CompileStatements(const syntax::Block& statements) {
 code::Block Compiler::CompileShown(syntax::ExpressionPtr expression) {
     const Position at = expression->at;
     ExpressionChecker checker(types_, callables_, scope_);
-    const bool hasValue = checker.CheckCall(*expression).type.kind != Kind::None;
-    auto node = hasValue ? syntax::Statement::Node(syntax::Print{std::move(expression)})
-                         : syntax::CallStatement{std::move(expression)};
+    syntax::Statement::Node node;
+    if (checker.CheckCall(*expression).type.kind != Kind::None) {
+        node = syntax::Print{std::move(expression)};
+    } else {
+        node = syntax::CallStatement{std::move(expression)};
+    }
     syntax::Block statements;
     statements.push_back(
         std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)}));
