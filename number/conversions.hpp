@@ -153,24 +153,15 @@ NamedRoutine NumberWithText() {
 // To host values
 
 /// Converts with the fraction cut; false when the value does not fit. A negative value must give a
-/// result with the sign bit, so -0.4 does not fit.
-template <std::signed_integral Host, typename Value>
+/// result with the sign bit: -0.4 does not fit, and no negative value fits without a sign.
+template <std::integral Host, typename Value>
 bool NumberTo(const Value& value, Host& result) {
-    ttmath::Int<TTMATH_BITS(8 * sizeof(Host))> words;
+    constexpr ttmath::uint Size = TTMATH_BITS(8 * sizeof(Host));
+    std::conditional_t<std::signed_integral<Host>, ttmath::Int<Size>, ttmath::UInt<Size>> words;
     words.SetZero();
     const bool fits = value.ToInt(words) == 0;
     std::memcpy(&result, words.table, sizeof result);
     return fits;
-}
-
-/// Converts with the fraction cut; false when the value does not fit or is negative.
-template <std::unsigned_integral Host, typename Value>
-bool NumberTo(const Value& value, Host& result) {
-    ttmath::UInt<TTMATH_BITS(8 * sizeof(Host))> words;
-    words.SetZero();
-    const bool fits = value.ToUInt(words) == 0;
-    std::memcpy(&result, words.table, sizeof result);
-    return fits && !value.IsSign();
 }
 
 /// Converts to a Double, cut to its precision; false when the value is too large or too small for

@@ -77,7 +77,7 @@ const ClassEntry& Host::State::Class(std::string_view name) const {
     throw std::runtime_error("the host has no class \"" + std::string(name) + "\"");
 }
 
-bool Host::State::LacksFunction(std::string_view name) const {
+bool Host::State::Lacks(std::string_view name) const {
     return options.missing.contains(name);
 }
 
@@ -132,7 +132,7 @@ void* Host::Resolve(const char* name) {
     if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
         record.NoteLookup(asked);
     }
-    if (state.LacksFunction(asked) || (asked == VersionFunctionName && !state.options.version)) {
+    if (state.Lacks(asked) || (asked == VersionFunctionName && !state.options.version)) {
         return nullptr;
     }
     return FindHostFunction(asked);

@@ -37,7 +37,7 @@ struct HostOptions {
     /// What "REALGetRBVersion" answers; without a value the host does not offer that function.
     std::optional<double> version = CurrentHostVersion;
     /// What the host lacks: functions by the name that the resolver is asked for, global methods by
-    /// declaration or name, and classes of its own by name.
+    /// declaration or name, and classes and properties of its own by name.
     std::set<std::string, std::less<>> missing = {};
     /// What "REALinRuntime" answers.
     bool builtApplication = false;

@@ -108,7 +108,11 @@ constexpr std::array HostProperties = {
 /// Every object is a Variant of itself, and so its type can be asked for.
 constexpr HostProperty TypeProperty{Payload::None, "Type", ReadType, nullptr};
 
-const HostProperty* FindHostProperty(Payload owner, std::string_view name) {
+const HostProperty* FindHostProperty(const Host::State& state, Payload owner,
+                                     std::string_view name) {
+    if (state.Lacks(name)) {
+        return nullptr;
+    }
     if (SameName(name, TypeProperty.name)) {
         return &TypeProperty;
     }
@@ -240,7 +244,7 @@ std::optional<PropertyValue> ReadProperty(Host& host, Object object, std::string
     if (const PropertyInfo* property = FindPluginProperty(entry->type, name)) {
         return ReadPluginProperty(host, object, *property);
     }
-    if (const HostProperty* property = FindHostProperty(entry->type->payload, name)) {
+    if (const HostProperty* property = FindHostProperty(host.state(), entry->type->payload, name)) {
         return property->read(host.state(), object, user);
     }
     return std::nullopt;
@@ -255,7 +259,7 @@ bool WriteProperty(Host& host, Object object, std::string_view name, const Prope
     if (const PropertyInfo* property = FindPluginProperty(entry->type, name)) {
         return WritePluginProperty(host, object, *property, value);
     }
-    const HostProperty* property = FindHostProperty(entry->type->payload, name);
+    const HostProperty* property = FindHostProperty(host.state(), entry->type->payload, name);
     return property != nullptr && property->write != nullptr &&
            property->write(host.state(), object, value, user);
 }

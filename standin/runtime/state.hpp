@@ -31,8 +31,8 @@ struct Host::State {
     /// The class of the host that is needed by that name; throws std::runtime_error when the host
     /// is without it.
     const ClassEntry& Class(std::string_view name) const;
-    /// Whether the options take that function away; letter case counts.
-    bool LacksFunction(std::string_view name) const;
+    /// Whether the options take that function or property away; letter case counts.
+    bool Lacks(std::string_view name) const;
     /// Whether the options take that global method away, by its declaration or its name.
     bool LacksGlobalMethod(std::string_view declaration) const;
 

@@ -90,7 +90,7 @@ FAULTS = [
     *faults_in("host/random.hpp", ("SystemRandom(value) ? value", "SystemRandom(value) ? 4")),
     *faults_in(
         "platform/platform_linux.cpp",
-        ("strcasecmp(left, right)", "strcmp(left, right)"),
+        ("strcasecmp(left, right)", "strncasecmp(left, right, 2)"),
         ("OutputDebugStringA(line);\n    } else", "OutputDebugStringA(line + 1);\n    } else"),
     ),
     *faults_in(
@@ -134,7 +134,7 @@ FAULTS = [
     *faults_in(
         "number/conversions.hpp",
         ("number.FromUInt(negative ? 0 - bits : bits)", "number.FromUInt(bits)"),
-        ("fits && !value.IsSign()", "fits"),
+        ("const bool fits = value.ToInt(words) == 0", "const bool fits = value.ToInt(words) <= 1"),
         ("const auto roundCarry = value.Round();", "const ttmath::uint roundCarry = 0;"),
         ("static_cast<double>(VariantToSingle(variant))", "VariantToDouble(variant)"),
         ("StoreNumberValue(self, ZeroValue<Value>());", ""),

@@ -4,8 +4,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "interface/host_interface.hpp"
+#include "plugin/startup_globals.hpp"
 #include "standin/runtime/host.hpp"
 #include "tests/unit/support/host_values.hpp"
 
@@ -45,6 +48,34 @@ private:
     static Globals ReadGlobals();
 
     Globals before_ = ReadGlobals();
+};
+
+/// While it lives, a binding of the plug-in calls a function of the test instead of the host's.
+/// There is one at a time, in a `DirectHost`.
+template <typename Binding>
+class Rebound {
+public:
+    template <typename Function>
+    Rebound(Binding& binding, Function* function)
+        : binding_(binding), before_(std::exchange(binding, Binding(Name))) {
+        function_ = reinterpret_cast<void*>(function);
+        vqz::HostResolver = [](const char* name) {
+            return std::string_view(name) == Name ? function_ : standin::Host::Resolve(name);
+        };
+    }
+    ~Rebound() {
+        binding_ = before_;
+        vqz::HostResolver = &standin::Host::Resolve;
+    }
+    Rebound(const Rebound&) = delete;
+    Rebound& operator=(const Rebound&) = delete;
+
+private:
+    static constexpr const char* Name = "function of the test";
+    static inline void* function_ = nullptr;
+
+    Binding& binding_;
+    Binding before_;
 };
 
 }  // namespace tests

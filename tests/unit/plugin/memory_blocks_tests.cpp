@@ -3,8 +3,6 @@
 #include <cstring>
 #include <new>
 #include <string>
-#include <string_view>
-#include <utility>
 
 #include <doctest/doctest.h>
 
@@ -20,6 +18,7 @@ using standin::Allocation;
 using tests::DirectHost;
 using tests::HeldObject;
 using tests::LogLines;
+using tests::Rebound;
 using tests::TakeRaised;
 
 std::string TextOf(const vqz::ByteView& view) {
@@ -37,31 +36,35 @@ host_interface::Object ThrowForWantOfMemory(std::int32_t) {
     throw std::bad_alloc();
 }
 
-/// The lookup of a host whose blocks are made by a function that throws.
-void* ResolveThrowing(const char* name) {
-    return std::string_view(name) == "newMemoryBlock"
-               ? reinterpret_cast<void*>(&ThrowForWantOfMemory)
-               : standin::Host::Resolve(name);
+/// How often a function of these tests was called.
+int calls = 0;
+
+host_interface::Object MakeNoBlock(std::int32_t) {
+    ++calls;
+    return nullptr;
+}
+
+host_interface::BooleanWord SayYes(host_interface::Object, host_interface::ClassReference) {
+    ++calls;
+    return 1;
 }
 
 }  // namespace
 
 TEST_CASE("A block is asked of the host for sizes from 0 to 0x7FFFFFFE") {
     DirectHost host;
-    const auto objects = [&] { return host.Counts().objectsMade; };
-    const auto before = objects();
+    const Rebound newMemoryBlock(vqz::newMemoryBlock, &MakeNoBlock);
+    calls = 0;
     for (const std::int64_t size : {std::int64_t{-1}, std::int64_t{0x7FFFFFFF},
                                     std::int64_t{0x80000000}, INT64_MIN, INT64_MAX}) {
         CAPTURE(size);
         CHECK_FALSE(vqz::NewMemoryBlock64(size));
     }
-    CHECK(objects() == before);
-    CHECK(vqz::NewMemoryBlock64(0));
-    CHECK(vqz::NewMemoryBlock64(1));
-    CHECK(objects() == before + 2);
-    // The host is asked, and has not that much.
-    CHECK_FALSE(vqz::NewMemoryBlock64(0x7FFFFFFE));
-    CHECK(host.lookups().at("newMemoryBlock") >= 1);
+    CHECK(calls == 0);
+    for (const std::int64_t size : {0, 1, 0x7FFFFFFE}) {
+        CHECK_FALSE(vqz::NewMemoryBlock64(size));
+    }
+    CHECK(calls == 3);
     CHECK(TakeRaised(host) == "");
 }
 
@@ -97,13 +100,9 @@ TEST_CASE("A block that the host does not make is an error that tells the size")
 
 TEST_CASE("A native exception for want of memory is logged, and is the same error") {
     DirectHost host;
-    vqz::HostResolver = ResolveThrowing;
-    const auto bound = std::exchange(
-        vqz::newMemoryBlock,
-        vqz::HostFunctionSlot<host_interface::functions::newMemoryBlock>("newMemoryBlock"));
+    const Rebound newMemoryBlock(vqz::newMemoryBlock, &ThrowForWantOfMemory);
     CHECK(host.LogOf([] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3)); }) ==
           LogLines({"Got C++ exception in REALBuildMemoryblock:  std::bad_alloc"}));
-    vqz::newMemoryBlock = bound;
     CHECK(TakeRaised(host) == OutOfMemory("3"));
 }
 
@@ -154,6 +153,18 @@ TEST_CASE("Objects are told by the class that they are of or descend from") {
     CHECK_FALSE(vqz::ObjectIsA(exception.Get(), "BigNumberVQZ"));
     CHECK_FALSE(vqz::ObjectIsA(exception.Get(), "NobodyKnows"));
     CHECK_FALSE(vqz::ObjectIsA(nullptr, "RuntimeException"));
+}
+
+TEST_CASE("The host is not asked what class no object has, nor whether one is of no class") {
+    DirectHost host;
+    const Rebound isa(vqz::RuntimeObjectIsa, &SayYes);
+    calls = 0;
+    const HeldObject block(host.MakeMemoryBlock("x"));
+    CHECK_FALSE(vqz::ObjectIsA(nullptr, "RuntimeException"));
+    CHECK_FALSE(vqz::ObjectIsA(block.Get(), "NobodyKnows"));
+    CHECK(calls == 0);
+    CHECK(vqz::ObjectIsA(block.Get(), "RuntimeException"));
+    CHECK(calls == 1);
 }
 
 TEST_CASE("What a date cannot tell is 0 and logged where it counts") {

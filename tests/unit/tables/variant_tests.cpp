@@ -259,6 +259,38 @@ TEST_CASE("Hosts without classes for unsigned Variants, readers or a type method
     }
 }
 
+TEST_CASE("Without its reader a Variant is read by the property that belongs to it, or is 0") {
+    struct Row {
+        const char* reader;
+        const char* property;
+        std::int32_t code;
+        const char* set;
+        const char* made;
+    };
+    constexpr Row Rows[] = {
+        {"VariantToInt32", "Int32Value", 2, "0", "0"},
+        {"VariantToInt64", "LongValue", 3, "0", "0"},
+        {"VariantToUInt32", "UInt32Value", 102, "0", "0"},
+        {"VariantToUInt64", "UInt64Value", 103, "0", "0"},
+        {"VariantToSingle", "SingleValue", 5, "65", "0"},
+        {"VariantToDouble", "DoubleValue", 5, "0", "65"},
+        {"none", "CurrencyValue", 6, "0", "0"},
+        {"VariantToString", "StringValue", 8, "0", "0"},
+    };
+    for (const Row& row : Rows) {
+        CAPTURE(std::string(row.property));
+        LoadedPlugin plugin(standin::HostOptions{.missing = {row.reader, row.property}});
+        for (NumberClass& number : plugin.classes()) {
+            const HeldObject variant = VariantOf(plugin, row.code);
+            const HeldObject set = number.Make("7");
+            number.Set("VariantValue", set.Get(), variant.Get());
+            CHECK(number.Text(set.Get()) == row.set);
+            CHECK(number.Text(NumberWith(number, variant.Get()).Get()) == row.made);
+        }
+        CHECK(TakeRaised(plugin.host()) == "");
+    }
+}
+
 TEST_CASE("An unsigned Variant is told from a signed one where the host has its class") {
     struct Row {
         const char* missing;
