@@ -24,8 +24,9 @@ public:
     /// How much of the product is wanted.
     enum class Precision { Full, Leading };
 
-    /// Full: all 2 * W words. Leading: the upper W words, and what rounds them, of normalised
-    /// mantissas; below the guard word there may be an error then, but no words that are all 0.
+    /// Full: all 2 * W words. Leading, for normalised mantissas: the upper W words and the bit of
+    /// the guard word that rounds them. What lies below that bit may be too small then, but it is
+    /// not 0, and neither are the exact bits.
     MantissaProduct(const Word* left, const Word* right, Precision precision) {
         const int leftCount = WithoutLowZeros(left, W);
         const int rightCount = WithoutLowZeros(right, W);

@@ -13,18 +13,18 @@
 //
 // How far such a term may be off, in units:
 //
-// - The plain sum rounds at most three numbers on the way from one term to the next, and four more
-// to
-//   make a term of them, each by 2^-32W of its size. A term before MaxTerms < 2^11 differs from the
-//   exact one by less than 2^13 * 2^-32W of its size. The tail's terms are below 2^(32W - 41)
-//   units, which leaves 2^-28. The term that the tail starts from is taken over from the plain sum
-//   and hands on as much: 2^-27 together.
-// - Factors are cut off where a term's lowest limb ends, and products below that. With n < 2^7
-// limbs
-//   and factor limbs below 2.86 * 2^28 the highest column that is neglected is less than
-//   n * 2.87 * 2^56 < 2^65, and it counts 2^-28 of the lowest limb, which counts 2^-84: less than
-//   2^-47. Each further column counts 2^-28 of that. Factors are below 1/2, so that the sum of all
-//   such errors stays below 2^-45.
+// - The plain sum rounds at most three numbers on the way from one term to the next, all of them
+//   products, by 2^-32W of their size each; and three to make a term of them, of which a quotient,
+//   whose remainder ttmath drops, counts twice. A term before MaxTerms < 2^11 differs from the
+//   exact one by less than (3 * 2^11 + 4) * 2^-32W < 2^13 * 2^-32W of its size. The tail's terms
+//   are below 2^(32W - 41) units, which leaves 2^-28. The term that the tail starts from is taken
+//   over from the plain sum and hands on as much: 2^-27 together.
+// - Factors are cut off where a term's lowest limb ends, and so are the first term and products.
+//   With n < 2^7 limbs and factor limbs below 2.86 * 2^28 the highest column that is neglected is
+//   less than n * 2.87 * 2^56 < 2^65, and it counts 2^-28 of the lowest limb, which counts 2^-84:
+//   less than 2^-47. All that is cut off below it is less than 2^-70. Factors are below 1/2, so
+//   that the sum of all such errors stays below 2^-45.
+// - The lowest limb is left out when a term is rounded: less than 2^-55.
 //
 // Together less than 2^-26, the TieMargin: a term that is nearer to the middle between two integers
 // ends the attempt, and the series is summed on plainly.

@@ -173,7 +173,9 @@ private:
         }
     }
 
-    /// Multiplies the term by a factor, without the columns below the term's last limb.
+    /// Multiplies the term by a factor, without the columns below the term's last limb. The right
+    /// factor is followed by the term's other limbs instead of a padding: they add to neglected
+    /// columns only, which are more exact for it.
     void Multiply(const Limb* factor) {
         // Columns are handed to limbs by vectors; the carries of the highest one need two limbs
         // more.
