@@ -1,4 +1,4 @@
-// The column sums of a product, the one place where long mantissas spend their time.
+// The column sums of a product with vectors of any width. `Lanes` tells of one width.
 #pragma once
 
 #include "number/kernels/limbs.hpp"
@@ -9,20 +9,49 @@ namespace vqz::kernels {
 inline constexpr int ColumnStep = 16;
 static_assert(ColumnStep <= LimbPadding);
 
-/// sums[k - first] = sum of left[i] * right[k - i] over all i, for each column k from `first` to
-/// before `last`; up to ColumnStep - 1 sums more are written. At most 2^8 products fall in a
-/// column. `right` has LimbPadding zero limbs below and above its own.
-using ColumnSumsFunction = void(const Limb* left, int leftCount, const Limb* right, int rightCount,
-                                int first, int last, DoubleWord* sums);
+/// One step: `Vectors` vectors of neighbouring columns from column k on. Each left limb is
+/// multiplied by the run of right limbs that falls in these columns; where the run leaves the
+/// factor it meets the padding.
+template <typename Lanes, int Stride, int Vectors>
+inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
+                           int k, DoubleWord* sums) {
+    typename Lanes::Vector totals[Vectors] = {};
+    const int begin = k < rightCount ? 0 : k - rightCount + 1;
+    const int beyond = k + Vectors * Lanes::Count;
+    const int end = leftCount < beyond ? leftCount : beyond;
+    const Limb* run = right + (k - begin);
+    for (int i = begin; i < end; ++i, --run) {
+        // Runs overlap from turn to turn. The compiler would keep the common vectors, for which
+        // there are no registers; it must not know where the run is.
+        asm("" : "+r"(run));
+        const auto factor = Lanes::Broadcast(left + i * Stride);
+#pragma GCC unroll 4
+        for (int v = 0; v < Vectors; ++v) {
+            totals[v] += Lanes::Product(factor, run + v * Lanes::Count);
+        }
+    }
+#pragma GCC unroll 4
+    for (int v = 0; v < Vectors; ++v) {
+        Lanes::Store(sums + v * Lanes::Count, totals[v]);
+    }
+}
 
-/// With what every processor of the platform has.
-ColumnSumsFunction ColumnSumsSse2;
-/// For processors with AVX2, of systems that know its registers.
-ColumnSumsFunction ColumnSumsAvx2;
-
-/// The faster one that this machine can run. (It can be called before it is chosen.)
-extern ColumnSumsFunction* columnSums;
-/// Whether that is the one with AVX2. Kernels of both kinds are not mixed, which would be slow.
-extern bool avx2Chosen;
+/// sums[k - first] = sum of left[i * Stride] * right[k - i] over all i, for each column k from
+/// `first` to before `last`; up to ColumnStep - 1 sums more are written. At most 2^8 products fall
+/// in a column. `right` has LimbPadding zero limbs below and above its own. Steps are of four
+/// vectors, which share each broadcast limb, and at the end of two.
+template <typename Lanes, int Stride = 1>
+inline void ColumnSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
+                       int first, int last, DoubleWord* sums) {
+    constexpr int Step = 4 * Lanes::Count;
+    static_assert(Step <= ColumnStep);
+    int k = first;
+    for (; k + Step / 2 < last; k += Step) {
+        ColumnStepSums<Lanes, Stride, 4>(left, leftCount, right, rightCount, k, sums + (k - first));
+    }
+    for (; k < last; k += Step / 2) {
+        ColumnStepSums<Lanes, Stride, 2>(left, leftCount, right, rightCount, k, sums + (k - first));
+    }
+}
 
 }  // namespace vqz::kernels

@@ -20,9 +20,11 @@
 
 #include <emmintrin.h>
 
+#include "number/kernels/instruction_set.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
+inline namespace BIGNUMBER_INSTRUCTION_SET {
 
 /// A limb as the multiplication wants it: in the low 28 bits of a lane.
 using Limb = std::uint64_t;
@@ -84,40 +86,61 @@ private:
         }
     }
 
+    /// Two neighbouring words hold each limb but the first and the last one.
     static void CutGroup(const Word* end, Limb* limbs) {
-        limbs[0] = end[-1] >> (WordBits - LimbBits);
-#pragma GCC unroll 8
-        for (int i = 1; i < GroupLimbs - 1; ++i) {
-            // 4 * i bits are left of the word in which the limb begins.
-            limbs[i] = Low(Join(end[-i], end[-i - 1]) >> (4 * (i + 1))) & LimbMask;
-        }
-        limbs[GroupLimbs - 1] = end[-GroupWords] & LimbMask;
+        StorePair(limbs, _mm_cvtsi32_si128(static_cast<int>(end[-1] >> (WordBits - LimbBits))),
+                  LimbAcross<1>(end));
+        StorePair(limbs + 2, LimbAcross<2>(end), LimbAcross<3>(end));
+        StorePair(limbs + 4, LimbAcross<4>(end), LimbAcross<5>(end));
+        StorePair(limbs + 6, LimbAcross<6>(end),
+                  _mm_cvtsi32_si128(static_cast<int>(end[-GroupWords])));
+    }
+
+    /// Limb `I` of a group, with bits above it: 4 * I bits are left of the word in which it begins.
+    template <int I>
+    static __m128i LimbAcross(const Word* end) {
+        const __m128i words = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(end - I - 1));
+        return _mm_srli_epi64(words, 4 * (I + 1));
+    }
+
+    static void StorePair(Limb* limbs, __m128i first, __m128i second) {
+        const __m128i mask = _mm_set_epi32(0, LimbMask, 0, LimbMask);
+        _mm_store_si128(reinterpret_cast<__m128i*>(limbs),
+                        _mm_and_si128(_mm_unpacklo_epi64(first, second), mask));
     }
 };
 
 /// Sums of the weights of limbs, the highest first, as words that end before `wordsEnd`; makes the
 /// carries. Answers the carry out of the highest.
 inline DoubleWord JoinColumns(const DoubleWord* sums, int groups, Word* wordsEnd) {
-    DoubleWord carry = 0;
+    // In a vector register, where 64 bits are one lane.
+    const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
+    __m128i carry = _mm_setzero_si128();
+    const auto next = [&](const DoubleWord* sum) __attribute__((always_inline)) {
+        carry = _mm_add_epi64(carry, _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sum)));
+        const __m128i limb = _mm_and_si128(carry, mask);
+        carry = _mm_srli_epi64(carry, LimbBits);
+        return limb;
+    };
     sums += groups * GroupLimbs;
     wordsEnd -= groups * GroupWords;
     for (; groups > 0; --groups) {
         sums -= GroupLimbs;
         wordsEnd += GroupWords;
-        Word limbs[GroupLimbs];
+        __m128i below = next(sums + GroupLimbs - 1);
 #pragma GCC unroll 8
-        for (int i = GroupLimbs - 1; i >= 0; --i) {
-            carry += sums[i];
-            limbs[i] = Low(carry) & LimbMask;
-            carry >>= LimbBits;
-        }
-#pragma GCC unroll 8
-        for (int i = 0; i < GroupWords; ++i) {
-            wordsEnd[-i - 1] =
-                (limbs[i] << (4 * (i + 1))) | (limbs[i + 1] >> (LimbBits - 4 * (i + 1)));
+        for (int i = GroupWords - 1; i >= 0; --i) {
+            const __m128i limb = next(sums + i);
+            const __m128i word = _mm_or_si128(_mm_slli_epi64(limb, 4 * (i + 1)),
+                                              _mm_srli_epi64(below, LimbBits - 4 * (i + 1)));
+            wordsEnd[-i - 1] = static_cast<Word>(_mm_cvtsi128_si32(word));
+            below = limb;
         }
     }
-    return carry;
+    DoubleWord answer = 0;
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(&answer), carry);
+    return answer;
 }
 
+}  // namespace BIGNUMBER_INSTRUCTION_SET
 }  // namespace vqz::kernels

@@ -5,7 +5,8 @@
 #include <iterator>
 #include <utility>
 
-#include "number/kernels/column_sums.hpp"
+#include "number/kernels/instruction_set.hpp"
+#include "number/kernels/limb_arithmetic.hpp"
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/words.hpp"
 
@@ -36,12 +37,13 @@ public:
                 return;
             }
         }
-        if (W * W <= MaxWordProducts || leftCount * rightCount <= MaxWordProducts) {
-            MultiplyWords(left + W - leftCount, leftCount, right + W - rightCount, rightCount);
-        } else {
-            MultiplyLimbs(LimbBuffer<W>(left + W, leftCount), LimbBuffer<W>(right + W, rightCount),
-                          precision);
+        if constexpr (W * W > MaxWordProducts) {
+            if (leftCount * rightCount > MaxWordProducts) {
+                MultiplyByLimbs(left + W, leftCount, right + W, rightCount, precision);
+                return;
+            }
         }
+        MultiplyWords(left + W - leftCount, leftCount, right + W - rightCount, rightCount);
     }
 
     /// The upper W words. The guard word lies before them.
@@ -114,16 +116,22 @@ private:
     /// number of limbs of a factor: it is less than n * 2^(-28 k). A unit of the guard word is
     /// 2^(-32 (W + 1)). When columns up to K - 1 are computed and 28 * K >= 32 * (W + 1), all
     /// others together are less than n * 2^(-28 K) * (1 + 2^-27), that is, at most n units.
-    void MultiplyLimbs(const LimbBuffer<W>& left, const LimbBuffer<W>& right, Precision precision) {
+    void MultiplyByLimbs(const Word* leftEnd, int leftCount, const Word* rightEnd, int rightCount,
+                         Precision precision) {
+        const auto compute = [&](int columns) {
+            (avx2Chosen ? MultiplyLimbsAvx2<W> : MultiplyLimbsSse2<W>)(leftEnd, leftCount, rightEnd,
+                                                                       rightCount, columns, end());
+            std::fill(words_, end() - GroupCount(columns + 1) * GroupWords, 0);
+        };
         constexpr int LeadingColumns = LimbCount(W + 1);
-        const int columns = left.count() + right.count() - 1;
+        const int columns = LimbCount(leftCount) + LimbCount(rightCount) - 1;
         if (precision == Precision::Leading && columns > LeadingColumns) {
-            ComputeColumns(left, right, LeadingColumns);
-            if (IsDecided(upper()[-1], std::min(left.count(), right.count()))) {
+            compute(LeadingColumns);
+            if (IsDecided(upper()[-1], LimbCount(std::min(leftCount, rightCount)))) {
                 return;
             }
         }
-        ComputeColumns(left, right, columns);
+        compute(columns);
     }
 
     /// Whether the words above the guard, and how they are rounded, stay the same when up to
@@ -138,17 +146,6 @@ private:
         const Word rest = guard & Rest;
         return rest != 0 && rest <= Rest - static_cast<Word>(error);
 #endif
-    }
-
-    void ComputeColumns(const LimbBuffer<W>& left, const LimbBuffer<W>& right, int columns) {
-        // Column k is limb k + 1 of the product; limb 0 is the carry out of column 0.
-        const int groups = GroupCount(columns + 1);
-        DoubleWord sums[GroupCount(2 * LimbCount(W)) * GroupLimbs + ColumnStep];
-        sums[0] = 0;
-        columnSums(left.data(), left.count(), right.data(), right.count(), 0, columns, sums + 1);
-        std::fill(sums + columns + 1, sums + groups * GroupLimbs, 0);
-        JoinColumns(sums, groups, end());
-        std::fill(words_, end() - groups * GroupWords, 0);
     }
 };
 

@@ -1,10 +1,8 @@
 // How the tail of a series is computed with vectors of any width; series_tail.hpp tells what is
-// computed. `Lanes` tells of one width; each width is instantiated in a source file of its own,
-// compiled for its processors, and nothing but templates on `Lanes` may be called here: the linker
-// must not take common code from there.
+// computed. `Lanes` tells of one width.
 #pragma once
 
-#include "number/kernels/column_sums_steps.hpp"
+#include "number/kernels/column_sums.hpp"
 #include "number/kernels/series_tail.hpp"
 
 namespace vqz::kernels {
@@ -185,9 +183,8 @@ private:
         const int columns = count_ - top;
         int end = count_;
         if (columns > 0) {
-            ColumnSumsInSteps<Lanes, FactorCount>(factor + firstFactor_ * FactorCount, columns,
-                                                  term() + begin_, columns, 0, columns,
-                                                  sums + above);
+            ColumnSums<Lanes, FactorCount>(factor + firstFactor_ * FactorCount, columns,
+                                           term() + begin_, columns, 0, columns, sums + above);
             Lanes::Store(sums, Vector{});
             Carry(sums + above, columns);
             end = top - 2;

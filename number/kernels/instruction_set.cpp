@@ -1,8 +1,7 @@
-#include "number/kernels/column_sums.hpp"
+#include "number/kernels/instruction_set.hpp"
 
 namespace vqz::kernels {
 
-constinit ColumnSumsFunction* columnSums = ColumnSumsSse2;
 constinit bool avx2Chosen = false;
 
 namespace {
@@ -10,12 +9,9 @@ namespace {
 /// The compiler's own look at cpuid and xgetbv: the processor has the instructions, and the system
 /// saves the registers.
 [[maybe_unused]] const bool Chosen = [] {
-    __builtin_cpu_init();
 #ifndef BIGNUMBER_KERNELS_SSE2_ONLY
-    if (__builtin_cpu_supports("avx2")) {
-        columnSums = ColumnSumsAvx2;
-        avx2Chosen = true;
-    }
+    __builtin_cpu_init();
+    avx2Chosen = __builtin_cpu_supports("avx2") != 0;
 #endif
     return true;
 }();

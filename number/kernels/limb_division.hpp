@@ -1,0 +1,180 @@
+// How the quotient of two long mantissas is computed with vectors of any width. `Lanes` tells of
+// one width.
+//
+// It is the schoolbook's division with limbs as digits, turned around twice.
+//
+// First, both numbers are multiplied by an inverse of the divisor's first word, which makes the
+// divisor 1 - d for a small fraction d: then a digit of the quotient is what is left of the
+// dividend at its place, without an estimate, and what is taken off becomes something to add. Let
+// dividend and divisor be fractions, 1/2 <= divisor < 1, and let the inverse be m = 2^63 / (t + 1),
+// rounded down, where t is the divisor's first word. Then
+//
+//     1 - d = divisor * m / 2^31,    8 * quotient = dividend * m / 2^28 / (1 - d).
+//
+// Rounding m down takes off 2^-31 of it at most, and t + 1 in place of the divisor as much again:
+// 0 <= d < 2^-30.
+//
+// Second, instead of changing all that is left of the dividend for each digit, each column of it is
+// completed when its turn comes, by all products of digits and limbs of d that fall in it,
+//
+//     left(k) = dividend(k) + sum over i < k of digit(i) * d(k - i),
+//
+// which are column sums as in a multiplication. Blocks of columns get the sums of the digits before
+// the block at once; within a block each digit's products are added as soon as it is known. Nothing
+// is ever negative: a digit is never too great. It may be too small, since the next digit, which
+// may be greater than a limb, makes up for it.
+//
+// Digit k takes column k and what the next two columns carry into it, of which it leaves the limbs.
+// Let all digits be below b * 2^28. In units of column k there is left then
+//
+//  - less than 1 of the next column and less than 2^-28 of the one behind it,
+//  - of the later columns, each below 2^63, together less than 2^-20,
+//  - of the digit itself, for the columns behind it, less than b * 2^28 * d < b / 4.
+//
+// This is what the next digit finds, in units of 2^28: b = 1 + b / 4 + 2^-20 + 2^-28, b < 1.34. A
+// column sums up at most LimbCount(W + 1) <= 75 products below b * 2^56, one product of a limb of
+// the dividend and m, below 2^60, and a carry, together less than 2^63.
+//
+// So less than 2 units are left behind the last digit, too.
+#pragma once
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "number/kernels/column_sums.hpp"
+#include "number/kernels/limbs.hpp"
+
+namespace vqz::kernels {
+
+/// The quotient of mantissas of W words.
+template <typename Lanes, int W>
+class LimbDivision {
+public:
+    /// See DivideLimbsSse2.
+    static Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
+                       Word* quotientEnd) {
+        Word rest = 0;
+        const Word above = divisor[W - 1] + 1;
+        const Word inverse = above == 0 ? TopBit : DivideWords(TopBit, 0, above, rest);
+        Word complement[W + 1];
+        Complement(divisor + W - divisorCount, divisorCount, inverse, complement);
+
+        const Dividend limbs(dividend + W, W);
+        const Factor factor(complement + divisorCount + 1, divisorCount + 1);
+        const BlockFactors blockFactors(factor);
+        DigitChain chain;
+        Limb digits[1 + Groups * GroupLimbs];
+        constexpr int FullBlocks = Digits / Block * Block;
+        for (int start = 0; start < FullBlocks; start += Block) {
+            ComputeBlock<Block>(start, limbs, inverse, factor, blockFactors, chain, digits);
+        }
+        ComputeBlock<Digits - FullBlocks>(FullBlocks, limbs, inverse, factor, blockFactors, chain,
+                                          digits);
+        std::fill(digits + Digits, std::end(digits), 0);
+        return Low(digits[0] + JoinColumns(digits + 1, Groups, quotientEnd));
+    }
+
+private:
+    /// Digit 0 is the integer part, the others are limbs of the fraction.
+    static constexpr int Digits = 1 + LimbCount(W);
+    static constexpr int Groups = GroupCount(Digits - 1);
+    /// The digits whose columns are summed up together.
+    static constexpr int Block = 8;
+    static_assert(Digits % Block != 0 && Block <= ColumnStep);
+
+    /// The dividend's limbs are no factors of column sums.
+    using Dividend = LimbBuffer<W, 0>;
+    /// The limbs of d: limb i weighs 2^(-28 (i + 1)), and limb 0 is 0.
+    using Factor = LimbBuffer<W + 1>;
+
+    /// d = 1 - divisor * 2 m / 2^32, which has one word more than the divisor. (2 m has 33 bits;
+    /// for the highest one, the divisor is added one word higher.) It is kept out of line for the
+    /// sake of the registers. The divisor has more than one word, so that d is not 0.
+    [[gnu::noinline]] static void Complement(const Word* divisor, int count, Word inverse,
+                                             Word* words) {
+        const Word lowBits = inverse << 1;
+        DoubleWord product = DoubleWord{divisor[0]} * lowBits;
+        words[0] = ~Low(product);
+        for (int i = 1; i < count; ++i) {
+            product = DoubleWord{divisor[i]} * lowBits + divisor[i - 1] + High(product);
+            words[i] = ~Low(product);
+        }
+        words[count] = ~(High(product) + divisor[count - 1]);
+        while (++*words == 0) {
+            ++words;
+        }
+    }
+
+    /// Limbs of d from the second on, each in the low lane of a register.
+    struct BlockFactors {
+        explicit BlockFactors(const Factor& factor) {
+            for (int i = 0; i < Block; i += 2) {
+                lanes[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(factor.data() + i + 1));
+                lanes[i + 1] = _mm_unpackhi_epi64(lanes[i], lanes[i]);
+            }
+        }
+
+        __m128i lanes[Block];
+    };
+
+    /// What goes from digit to digit: the current column and the next one, in the low lanes of
+    /// registers.
+    struct DigitChain {
+        __m128i current = _mm_setzero_si128();
+        __m128i next = _mm_setzero_si128();
+
+        /// The digit of the current column. `columns` are the `Count` columns that begin two behind
+        /// it, to which its products are added.
+        template <int Count>
+        [[gnu::always_inline]] __m128i Next(const BlockFactors& factors, __m128i* columns) {
+            const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
+            next = _mm_add_epi64(next, _mm_srli_epi64(columns[0], LimbBits));
+            const __m128i digit = _mm_add_epi64(current, _mm_srli_epi64(next, LimbBits));
+            current = _mm_and_si128(next, mask);
+            next = _mm_add_epi64(_mm_and_si128(columns[0], mask),
+                                 _mm_mul_epu32(digit, factors.lanes[0]));
+#pragma GCC unroll 8
+            for (int i = 1; i < Count; ++i) {
+                columns[i] = _mm_add_epi64(columns[i], _mm_mul_epu32(digit, factors.lanes[i]));
+            }
+            return digit;
+        }
+    };
+
+    /// Computes digits `start` to `start + Count - 1`.
+    template <int Count>
+    static void ComputeBlock(int start, const Dividend& dividend, Word inverse,
+                             const Factor& factor, const BlockFactors& factors, DigitChain& chain,
+                             Limb* digits) {
+        // The columns from start + 2 on; the chain has those before.
+        alignas(16) DoubleWord sums[ColumnStep];
+        if (start == 0) {
+            std::fill_n(sums, Block, 0);
+        } else {
+            ColumnSums<Lanes>(digits, start, factor.data(), factor.count(), start + 1,
+                              start + 1 + Count, sums);
+        }
+        const __m128i inverses =
+            _mm_set_epi32(0, static_cast<int>(inverse), 0, static_cast<int>(inverse));
+        __m128i columns[Block];
+#pragma GCC unroll 8
+        for (int i = 0; i < Count; i += 2) {
+            const __m128i sum = _mm_load_si128(reinterpret_cast<const __m128i*>(sums + i));
+            const __m128i limbs =
+                _mm_load_si128(reinterpret_cast<const __m128i*>(dividend.data() + start + i));
+            columns[i] = _mm_add_epi64(sum, _mm_mul_epu32(limbs, inverses));
+            columns[i + 1] = _mm_unpackhi_epi64(columns[i], columns[i]);
+        }
+        DigitChain state = chain;
+        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
+            (_mm_storel_epi64(reinterpret_cast<__m128i*>(digits + start + I),
+                              state.template Next<Count - I>(factors, columns + I)),
+             ...);
+        }
+        (std::make_integer_sequence<int, Count>{});
+        chain = state;
+    }
+};
+
+}  // namespace vqz::kernels

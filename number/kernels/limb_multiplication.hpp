@@ -1,0 +1,25 @@
+// How the product of two long mantissas is computed with vectors of any width. `Lanes` tells of one
+// width.
+#pragma once
+
+#include <algorithm>
+
+#include "number/kernels/column_sums.hpp"
+#include "number/kernels/limbs.hpp"
+
+namespace vqz::kernels {
+
+/// The highest columns of a product, summed up as words that end before `productEnd`.
+template <typename Lanes, int W>
+void MultiplyLimbs(const LimbBuffer<W>& left, const LimbBuffer<W>& right, int columns,
+                   Word* productEnd) {
+    // Column k is limb k + 1 of the product; limb 0 is the carry out of column 0.
+    const int groups = GroupCount(columns + 1);
+    DoubleWord sums[GroupCount(2 * LimbCount(W)) * GroupLimbs + ColumnStep];
+    sums[0] = 0;
+    ColumnSums<Lanes>(left.data(), left.count(), right.data(), right.count(), 0, columns, sums + 1);
+    std::fill(sums + columns + 1, sums + groups * GroupLimbs, 0);
+    JoinColumns(sums, groups, productEnd);
+}
+
+}  // namespace vqz::kernels
