@@ -99,7 +99,16 @@ private:
         topBit_ =
             digits[0] + JoinColumns(digits + 1, GroupCount(Digits - 1), std::end(words_)) != 0;
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - (Digits - 1) * LimbBits);
-        return IsDecided(words_[Slack - 1], 2 * Unit);
+        const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+        // Exact words are made 1 too small, for the correction to make up for it.
+        if (isDecided) {
+            SubtractOne();
+        }
+        return false;
+#else
+        return isDecided;
+#endif
     }
 
     /// What goes from digit to digit.
@@ -165,12 +174,8 @@ private:
     }
 
     /// Whether the words above the guard stay the same when up to `error` is added to it.
-    static bool IsDecided([[maybe_unused]] Word guard, [[maybe_unused]] Word error) {
-#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
-        return false;
-#else
+    static bool IsDecided(Word guard, Word error) {
         return guard <= ~error;
-#endif
     }
 
     /// Adds 1 if the quotient is 1 too small, which the remainder tells: it is less than twice
@@ -204,6 +209,17 @@ private:
         }
         topBit_ = true;
     }
+
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+    void SubtractOne() {
+        for (int i = Slack; i < Slack + W; ++i) {
+            if (words_[i]-- != 0) {
+                return;
+            }
+        }
+        topBit_ = false;
+    }
+#endif
 };
 
 /// The quotient of two normalised mantissas. Of one more than W words the last bit is a half.
