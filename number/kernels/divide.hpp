@@ -117,9 +117,10 @@ private:
         DigitChain(const LimbBuffer<W>& denominator, Word divisorTop, Limb numeratorTop)
             : current_(numeratorTop) {
             std::copy_n(denominator.data(), Block + 1, divisor_);
-            // 2^63 / (divisorTop + 1), which has 32 bits.
+            // 2^63 / (divisorTop + 1), which has 32 bits. For the greatest divisor 2^63 /
+            // divisorTop is the same.
             Word rest = 0;
-            inverse_ = divisorTop + 1 == 0 ? TopBit : DivideWords(TopBit, 0, divisorTop + 1, rest);
+            inverse_ = DivideWords(TopBit, 0, divisorTop + (~divisorTop != 0 ? 1 : 0), rest);
         }
 
         /// The digit of the current column. `remaining` are the `Count` columns behind it, from
