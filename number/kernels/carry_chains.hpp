@@ -23,7 +23,7 @@ inline constexpr int ChainWords = 8;
                 BIGNUMBER_CHAIN_LINK(OPERATION, "12") BIGNUMBER_CHAIN_LINK(OPERATION, "16")     \
                     BIGNUMBER_CHAIN_LINK(OPERATION, "20") BIGNUMBER_CHAIN_LINK(OPERATION, "24") \
                         BIGNUMBER_CHAIN_LINK(OPERATION, "28") "sbbl %[carry], %[carry]"         \
-        : [carry] "+r"(carry)                                                                   \
+        : [carry] "+&r"(carry)                                                                  \
         : [left] "r"(left), [right] "r"(right), [result] "r"(result)                            \
         : "eax", "cc", "memory")
 

@@ -65,16 +65,20 @@ private:
         ShiftRight<W>(words_ + Slack, 3, words_ + Slack);
         words_[Slack + W - 1] |= integer << (WordBits - 3);
         topBit_ = integer >> 3 != 0;
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+        // Exact words are made 1 too small, for the correction to make up for it.
+        if (isDecided) {
+            SubtractOne();
+        }
+        return false;
+#else
         return isDecided;
+#endif
     }
 
     /// Whether the words above the guard stay the same when up to `error` is added to it.
-    static bool IsDecided([[maybe_unused]] Word guard, [[maybe_unused]] Word error) {
-#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
-        return false;
-#else
+    static bool IsDecided(Word guard, Word error) {
         return guard <= ~error;
-#endif
     }
 
     /// Adds 1 if the quotient is 1 too small, which the remainder tells: it is less than twice
@@ -108,6 +112,17 @@ private:
         }
         topBit_ = true;
     }
+
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+    void SubtractOne() {
+        for (int i = Slack; i < Slack + W; ++i) {
+            if (words_[i]-- != 0) {
+                return;
+            }
+        }
+        topBit_ = false;
+    }
+#endif
 };
 
 /// The quotient of two normalised mantissas. Of one more than W words the last bit is a half.

@@ -54,9 +54,10 @@ public:
     /// See DivideLimbsSse2.
     static Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
                        Word* quotientEnd) {
+        // For the greatest first word, 2^63 / t is the same.
+        const Word top = divisor[W - 1];
         Word rest = 0;
-        const Word above = divisor[W - 1] + 1;
-        const Word inverse = above == 0 ? TopBit : DivideWords(TopBit, 0, above, rest);
+        const Word inverse = DivideWords(TopBit, 0, top + (~top != 0 ? 1 : 0), rest);
         Word complement[W + 1];
         Complement(divisor + W - divisorCount, divisorCount, inverse, complement);
 

@@ -165,7 +165,12 @@ bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
         number.SetZero();
         return true;
     }
-    if (fraction < margin || fraction > one - margin) {
+#ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
+    constexpr bool isForced = true;
+#else
+    constexpr bool isForced = false;
+#endif
+    if (isForced || fraction < margin || fraction > one - margin) {
         return false;
     }
     number = static_cast<ttmath::sint>(2 * (scaled >> 32) + 1);

@@ -48,7 +48,7 @@ inline Word AddProduct(Word& target, Word left, Word right, Word carry) {
         "adcl $0, %%edx\n\t"
         "addl %%eax, %[target]\n\t"
         "adcl $0, %%edx"
-        : [target] "+m"(target), "=&d"(high), "+a"(left)
+        : [target] "+m"(target), "=&d"(high), "+&a"(left)
         : [right] "r"(right), [carry] "r"(carry)
         : "cc");
     return high;
