@@ -2,6 +2,7 @@
 #pragma once
 
 #include <bit>
+#include <cstdint>
 #include <optional>
 
 #include "number/kernels/growing_integer.hpp"
@@ -14,7 +15,10 @@ namespace vqz::kernels {
 /// computed.
 template <ttmath::uint E, ttmath::uint W>
 std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Word power) {
-    constexpr ttmath::sint limit = 1 << 20;
+    // An exponent below 2^19 in magnitude, raised by less than a mantissa's bits to be that of an
+    // odd number, times at most as many: the product stays below 2^31.
+    constexpr ttmath::sint limit = 1 << 19;
+    static_assert((std::int64_t{limit} + WordBits * W) * (WordBits * W) < std::int64_t{1} << 31);
     const Word top = number.mantissa.table[W - 1];
     ttmath::sint exponent = 0;
     if (number.IsNan() || number.IsZero() || (top & TopBit) == 0 ||

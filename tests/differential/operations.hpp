@@ -35,6 +35,22 @@ ttmath::uint WriteAndRead(Number& me, const Number&, std::string& text) {
     return failed * 2 + me.FromString(text, Base);
 }
 
+/// A word times a power of 2 near which integers of a machine may overflow, to an integer power.
+template <typename Number>
+ttmath::uint PowHuge(Number& me, const Number& other, std::string&) {
+    Random random(std::uint64_t{other.mantissa.table[0]} << 32 | me.mantissa.table[0]);
+    const bool isNegative = random.OneIn(2);
+    me = random.OneIn(2) ? 1 : random.Word() >> random.Below(32);
+    const auto twos = ttmath::sint((1U << (18 + random.Below(4))) + random.Below(8192) - 4096);
+    me.exponent.Add(random.OneIn(2) ? twos : -twos);
+    if (isNegative) {
+        me.ChangeSign();
+    }
+    Number power;
+    power = random.OneIn(2) ? sizeof(me.mantissa) * 8 - random.Below(64) : random.Below(2500);
+    return me.Pow(power);
+}
+
 /// Reads a text that the operands tell: digits of any base, few or more than a mantissa holds, and
 /// now and then something else. How far it was read counts, too.
 template <typename Number>
@@ -94,6 +110,7 @@ std::vector<Operation<Number>> Operations() {
              }
              return me.Pow(power);
          }},
+        {"PowHuge", Group::Composed, PowHuge<N>},
         {"Mod", Group::Composed, [](N& me, const N& other, auto&) { return me.Mod(other); }},
         {"Log", Group::Composed,
          [](N& me, const N& other, auto&) {
