@@ -16,6 +16,8 @@ from pathlib import Path
 
 HOST_OBJECT, HOST_DESTRUCTOR = "host: object", "host: destructor"
 PRECISIONS = (2048, 256)
+# Besides the rows that do nothing but call.
+CHEAPEST_OF_THEIR_SHAPE = ("add", "multiply by integer", "remainder", "compare", "to text", "from text")
 
 
 class Contender:
@@ -78,13 +80,18 @@ class Measurement:
 class Results:
     """Measurements by precision, operation and contender."""
 
-    def __init__(self):
-        self.groups = {}
+    def __init__(self, operations):
+        self.groups = operations
         self._all = {}
+        self._hosts = {}
 
     def sample(self, bits, operation, contender, nanoseconds):
         key = (bits, operation, contender)
         self._all.setdefault(key, Measurement()).samples.append(nanoseconds)
+
+    def sample_host(self, bits, operation, contender, nanoseconds):
+        key = (bits, operation, contender)
+        self._hosts.setdefault(key, Measurement()).samples.append(nanoseconds)
 
     def get(self, bits, operation, contender):
         return self._all.get((bits, operation, contender))
@@ -98,10 +105,8 @@ class Results:
 
     def host_part(self, bits, operation, contender):
         """What the host spends on the object of a result, which the destructor is no part of."""
-        answered = self.get(bits, HOST_OBJECT, contender)
-        if answered is None or self.groups[operation]["answer"] != "object":
-            return 0.0
-        return answered.median - self.get(bits, HOST_DESTRUCTOR, contender).median
+        measured = self._hosts.get((bits, operation, contender))
+        return measured.median if measured else 0.0
 
     def ratio(self, bits, operation, contender, base):
         """How many times as fast as `base` the contender is, or None."""
@@ -111,31 +116,43 @@ class Results:
     def as_json(self):
         return [
             {"bits": bits, "operation": operation, "contender": contender,
-             "group": self.groups.get(operation, {}).get("group", "host"),
+             "group": self.groups[operation]["group"],
              "median_ns": measured.median, "spread": measured.spread,
-             "host_part_ns": self.host_part(bits, operation, contender)
-             if operation in self.groups else 0.0,
+             "host_part_ns": self.host_part(bits, operation, contender),
              "samples_ns": measured.samples}
             for (bits, operation, contender), measured in self._all.items()
         ]
 
 
 def measure(contenders, operations, rounds, nanoseconds):
-    """Measures every operation at both precisions with every contender that offers it."""
-    results = Results()
-    results.groups = operations
-    names = [*operations, HOST_OBJECT, HOST_DESTRUCTOR]
-    steps = [(bits, name) for bits in PRECISIONS for name in names]
+    """Measures every operation at both precisions with every contender that offers it.
+
+    What a host spends on objects changes with what else it has in memory, so it is measured in the
+    same round as the operation that answers one."""
+    results = Results(operations)
+    steps = [(bits, name) for bits in PRECISIONS for name in operations]
     for step, (bits, name) in enumerate(steps):
         progress(f"[{step + 1}/{len(steps)}] {name}, {bits} bits")
-        taking_part = [
-            (contender, contender.count_for(bits, name, nanoseconds))
-            for contender in contenders if (bits, name) in contender.offers
-        ]
+
+        def count_for(contender, row, bits=bits):
+            return contender.count_for(bits, row, nanoseconds) if (bits, row) in contender.offers else 0
+
+        answers_object = operations[name]["answer"] == "object"
+        taking_part = [(contender, count) for contender in contenders if (count := count_for(contender, name))]
+        host_counts = {
+            contender: [count_for(contender, row) for row in (HOST_OBJECT, HOST_DESTRUCTOR)]
+            for contender, _ in taking_part
+            if answers_object and (bits, HOST_OBJECT) in contender.offers
+        }
         for _ in range(rounds):
             for contender, count in taking_part:
                 taken = contender.time(bits, name, count)
                 results.sample(bits, name, contender.name, taken / count)
+                if contender in host_counts:
+                    created, destroyed = (
+                        contender.time(bits, row, count) / count
+                        for row, count in zip((HOST_OBJECT, HOST_DESTRUCTOR), host_counts[contender]))
+                    results.sample_host(bits, name, contender.name, created - destroyed)
     progress("")
     return results
 
@@ -183,7 +200,7 @@ def call_costs(results, contender, bare):
     for bits in PRECISIONS:
         allowed = (results.time(2048, "multiply", "stock") or 0) * 0.05
         for operation, row in results.groups.items():
-            if row["group"] != "call" and operation not in ("add", "compare"):
+            if row["group"] != "call" and operation not in CHEAPEST_OF_THEIR_SHAPE:
                 continue
             whole, part = (results.time(bits, operation, name) for name in (contender, bare))
             if whole is not None and part is not None:
