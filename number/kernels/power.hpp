@@ -18,7 +18,8 @@ std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Wor
     // An exponent below 2^19 in magnitude, raised by less than a mantissa's bits to be that of an
     // odd number, times at most as many: the product stays below 2^31.
     constexpr ttmath::sint limit = 1 << 19;
-    static_assert((std::int64_t{limit} + WordBits * W) * (WordBits * W) < std::int64_t{1} << 31);
+    constexpr auto bits = std::int64_t{WordBits} * W;
+    static_assert((limit + bits) * bits < std::int64_t{1} << 31);
     const Word top = number.mantissa.table[W - 1];
     ttmath::sint exponent = 0;
     if (number.IsNan() || number.IsZero() || (top & TopBit) == 0 ||
