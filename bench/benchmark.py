@@ -117,9 +117,9 @@ class Results:
         return [
             {"bits": bits, "operation": operation, "contender": contender,
              "group": self.groups[operation]["group"],
-             "median_ns": measured.median, "spread": measured.spread,
-             "host_part_ns": self.host_part(bits, operation, contender),
-             "samples_ns": measured.samples}
+             "median_ns": round(measured.median, 1), "spread": round(measured.spread, 3),
+             "samples": len(measured.samples),
+             "host_part_ns": round(self.host_part(bits, operation, contender), 1)}
             for (bits, operation, contender), measured in self._all.items()
         ]
 
@@ -283,9 +283,9 @@ def main():
     for bits in PRECISIONS:
         print("\n".join(table(results, bits, names)), end="\n\n")
     if arguments.json:
-        arguments.json.write_text(json.dumps(
-            {"machine": platform.processor() or platform.machine(), "results": results.as_json()},
-            indent=1) + "\n")
+        rows = ",\n".join(map(json.dumps, results.as_json()))
+        arguments.json.write_text(
+            f'{{"machine": {json.dumps(platform.machine())}, "results": [\n{rows}\n]}}\n')
     # A plug-in on the stock library is a call of the stock library.
     bare = "library" if "library" in names else "stock"
     if arguments.svg:
