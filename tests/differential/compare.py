@@ -1,7 +1,7 @@
 """Compares what builds of the arithmetic compute, byte for byte, with plain ttmath.
 
 usage: compare.py [--basic N] [--function N] [--composed N] [--text N] [--seed S] [--cache FOLDER]
-                  [--emulator PROGRAM] STOCK VARIANT...
+                  [--emulator PROGRAM] [--library FILE] STOCK VARIANT...
 
 Each operation of a group is called N times per precision and program (tests/differential/differential.cpp
 says what with). The answers of the stock program are kept in the cache, if there is one, for the next
@@ -9,6 +9,13 @@ variants and runs. A thorough run takes an hour:
 
     compare.py --basic 1000000 --function 20000 --composed 2000 --text 20000 --cache build/differential
                build/linux-x86/bin/differential_{stock,kernels,sse2,forced}
+
+With a library, the variants are programs that call its members (plugin_differential.cpp); an emulator
+runs programs for Windows:
+
+    compare.py --basic 100000 --function 2000 --composed 200 --text 2000 --emulator scripts/wine
+               --library build/windows-x86/BigNumberVQZ.dll
+               build/linux-x86/bin/differential_stock build/windows-x86/bin/plugin_differential.exe
 """
 
 import argparse
@@ -23,12 +30,16 @@ GROUPS = ["basic", "function", "composed", "text"]
 PRECISIONS = [256, 2048]
 
 
-def compute(options: argparse.Namespace, program: pathlib.Path, job: list[str]) -> list[str]:
-    words = [*filter(None, [options.emulator]), str(program.resolve()), *job]
-    return subprocess.run(words, stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
+def compute(options: argparse.Namespace, program: pathlib.Path, words: list[str]) -> list[str]:
+    command = [str(program.resolve()), *words]
+    if options.emulator and program.suffix == ".exe":
+        command.insert(0, options.emulator)
+    return subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
 
 
 def compute_stock(options: argparse.Namespace, job: list[str]) -> list[str]:
+    if options.library:
+        job = [*job, "--members"]
     if not options.cache:
         return compute(options, options.stock, job)
     key = hashlib.sha256(options.stock.read_bytes() + " ".join(job).encode()).hexdigest()
@@ -45,8 +56,9 @@ def compare(options: argparse.Namespace, job: list[str]) -> list[str]:
     """One line for each operation and variant that differs."""
     expected = compute_stock(options, job)
     problems = []
+    library = [str(options.library.resolve()), "--members"] if options.library else []
     for variant in options.variants:
-        actual = compute(options, variant, job)
+        actual = compute(options, variant, [*library, *job])
         if not expected or len(actual) != len(expected):
             problems.append(f"{variant.name}: {len(actual)} blocks instead of {len(expected)}")
         differences = {}
@@ -69,6 +81,7 @@ def main() -> None:
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--cache", type=pathlib.Path)
     parser.add_argument("--emulator")
+    parser.add_argument("--library", type=pathlib.Path)
     parser.add_argument("stock", type=pathlib.Path)
     parser.add_argument("variants", type=pathlib.Path, nargs="+")
     options = parser.parse_args()

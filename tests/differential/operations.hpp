@@ -1,6 +1,7 @@
 // What is compared: each operation by its name, its group and a call.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,11 @@ template <typename Number>
 struct Operation {
     std::string_view name;
     Group group;
-    ttmath::uint (*call)(Number& me, const Number& other, std::string& text);
+    std::function<ttmath::uint(Number& me, const Number& other, std::string& text)> call;
+    /// Makes operands of its own out of the operands.
+    void (*prepare)(Number& me, Number& other) = nullptr;
+    /// Whether a member of the plug-in does the same.
+    bool isMember = true;
 };
 
 /// A shared function of one number as an operation.
@@ -35,9 +40,9 @@ ttmath::uint WriteAndRead(Number& me, const Number&, std::string& text) {
     return failed * 2 + me.FromString(text, Base);
 }
 
-/// A word times a power of 2 near which integers of a machine may overflow, to an integer power.
+/// A word times a power of 2 near which integers of a machine may overflow, for an integer power.
 template <typename Number>
-ttmath::uint PowHuge(Number& me, const Number& other, std::string&) {
+void MakeHugePower(Number& me, Number& other) {
     Random random(std::uint64_t{other.mantissa.table[0]} << 32 | me.mantissa.table[0]);
     const bool isNegative = random.OneIn(2);
     me = random.OneIn(2) ? 1 : random.Word() >> random.Below(32);
@@ -46,9 +51,16 @@ ttmath::uint PowHuge(Number& me, const Number& other, std::string&) {
     if (isNegative) {
         me.ChangeSign();
     }
-    Number power;
-    power = random.OneIn(2) ? sizeof(me.mantissa) * 8 - random.Below(64) : random.Below(2500);
-    return me.Pow(power);
+    other = random.OneIn(2) ? sizeof(me.mantissa) * 8 - random.Below(64) : random.Below(2500);
+}
+
+template <typename Number>
+void MakeIntegerPower(Number& me, Number& other) {
+    const ttmath::uint word = other.mantissa.table[0];
+    if (other.IsSign()) {
+        me = ttmath::sint(word / 2500 % 40);
+    }
+    other = ttmath::sint(word % 2500) - 400;
 }
 
 /// Reads a text that the operands tell: digits of any base, few or more than a mantissa holds, and
@@ -101,16 +113,10 @@ std::vector<Operation<Number>> Operations() {
          }},
         {"Sqrt", Group::Composed, [](N& me, const N&, auto&) { return me.Sqrt(); }},
         {"Pow", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); }},
-        {"PowInteger", Group::Composed,
-         [](N& me, const N& other, auto&) {
-             N power;
-             power = ttmath::sint(other.mantissa.table[0] % 2500) - 400;
-             if (other.IsSign()) {
-                 me = ttmath::sint(other.mantissa.table[0] / 2500 % 40);
-             }
-             return me.Pow(power);
-         }},
-        {"PowHuge", Group::Composed, PowHuge<N>},
+        {"PowInteger", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); },
+         MakeIntegerPower<N>},
+        {"PowHuge", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); },
+         MakeHugePower<N>},
         {"Mod", Group::Composed, [](N& me, const N& other, auto&) { return me.Mod(other); }},
         {"Log", Group::Composed,
          [](N& me, const N& other, auto&) {
@@ -121,11 +127,10 @@ std::vector<Operation<Number>> Operations() {
         {"Root", Group::Composed,
          [](N& me, const N& other, auto&) {
              ttmath::ErrorCode error = ttmath::err_ok;
-             N index;
-             index = other.exponent.table[0] % 12;
-             me = ttmath::Root(me, index, &error);
+             me = ttmath::Root(me, other, &error);
              return ttmath::uint{error};
-         }},
+         },
+         [](N&, N& other) { other = other.exponent.table[0] % 12; }},
         {"Cos", Group::Composed, CallFunction<N, ttmath::Cos<N>>},
         {"Tan", Group::Composed, CallFunction<N, ttmath::Tan<N>>},
         {"Cot", Group::Composed, CallFunction<N, ttmath::Cot<N>>},
@@ -139,10 +144,10 @@ std::vector<Operation<Number>> Operations() {
         {"ACosh", Group::Composed, CallFunction<N, ttmath::ACosh<N>>},
         {"ATanh", Group::Composed, CallFunction<N, ttmath::ATanh<N>>},
         {"ACoth", Group::Composed, CallFunction<N, ttmath::ACoth<N>>},
-        {"ReadText", Group::Text, ReadText<N>},
+        {"ReadText", Group::Text, ReadText<N>, nullptr, false},
         {"Text10", Group::Text, WriteAndRead<N, 10>},
-        {"Text16", Group::Text, WriteAndRead<N, 16>},
-        {"Text3", Group::Text, WriteAndRead<N, 3>},
+        {"Text16", Group::Text, WriteAndRead<N, 16>, nullptr, false},
+        {"Text3", Group::Text, WriteAndRead<N, 3>, nullptr, false},
     };
 }
 
