@@ -80,7 +80,7 @@ std::string NumberClass::ValueBytes(Object object) const {
     return value == nullptr ? std::string() : std::string(value, 4 * wordCount_ + 1);
 }
 
-int NumberClass::Flags(Object object) {
+int NumberClass::Flags(Object object) const {
     const std::string bytes = ValueBytes(object);
     REQUIRE_FALSE(bytes.empty());
     return static_cast<unsigned char>(bytes.back());

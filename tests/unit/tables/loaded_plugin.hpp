@@ -135,7 +135,7 @@ public:
     /// The bytes of the object's value: exponent, mantissa and flags; empty without a value.
     std::string ValueBytes(Object object) const;
     /// The flags of the object's value; its number must be there.
-    int Flags(Object object);
+    int Flags(Object object) const;
 
 private:
     standin::Host* host_;
