@@ -174,8 +174,9 @@ private:
                 mantissa = ShortMantissa(1 + random_.Below(W));
                 break;
             case 4:
+                // All ones but for a few; all of them give products their largest columns.
                 mantissa.SetZero();
-                mantissa.Sub(SparseMantissa());
+                mantissa.Sub(random_.OneIn(4) ? Mantissa(1U) : SparseMantissa());
                 break;
             default:
                 mantissa = RandomMantissa();

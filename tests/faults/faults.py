@@ -189,4 +189,65 @@ FAULTS = [
         ("value.SetOne();", "value.SetZero();"),
         ("RaiseOverflowException(FailureName.text);", "RaiseOverflowException(LogName.text);"),
     ),
+    *faults_in(
+        "number/kernels/add.hpp",
+        ("i + VectorWords < count\n", "i + VectorWords <= count\n"),
+        ("!remains.firstBit && remains.othersZero", "remains.othersZero"),
+        ("return {.firstBit = (word >> (first % WordBits) & 1) != 0", "return {.firstBit = word != 0"),
+    ),
+    *faults_in(
+        "number/kernels/column_sums_steps.hpp",
+        ("k - rightCount + 1;", "k - rightCount + 2;"),
+    ),
+    *faults_in(
+        "number/kernels/divide.hpp",
+        ("IsDecided(words_[Slack - 1], 2 * Unit)", "IsDecided(words_[Slack - 1], 0)"),
+        ("if (above != 0 ||", "if (above > 1 ||"),
+        ("if (++words_[i] != 0)", "if (++words_[i] != 1)"),
+        ("LaterColumns = 128", "LaterColumns = 0"),
+        ("divisorTop + 1 == 0 ? TopBit", "divisorTop + 1 == 0 ? 0"),
+    ),
+    *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W - 1 &&")),
+    *faults_in(
+        "number/kernels/lanes_avx2.hpp",
+        ("blend_epi32(vector, next, 0x03)", "blend_epi32(vector, next, 0x01)"),
+    ),
+    *faults_in(
+        "number/kernels/lanes_sse2.hpp",
+        ("_mm_castsi128_pd(next), 1)", "_mm_castsi128_pd(next), 0)"),
+    ),
+    *faults_in(
+        "number/kernels/mantissa_product.hpp",
+        ("rest <= Rest - static_cast<Word>(error)", "rest <= Rest"),
+        ("return rest != 0 && ", "return "),
+        ("IsDecided(upper()[-1], W)", "IsDecided(upper()[-1], W / 2)"),
+    ),
+    *faults_in(
+        "number/kernels/multiply.hpp",
+        ("WithoutLowZeros(product.lower(), W - 1)", "WithoutLowZeros(product.lower(), W - 2)"),
+    ),
+    *faults_in("number/kernels/power.hpp", ("powers % 2 != 0", "powers % 2 == 0")),
+    *faults_in(
+        "number/kernels/scaled_words.hpp",
+        ("number.mantissa.table[W - 1] = TopBit;", ""),
+        ("Tail::Half && number.mantissa.IsTheLowestBitSet()", "Tail::Half"),
+    ),
+    *faults_in(
+        "number/kernels/series.cpp",
+        ("against != alternate", "against"),
+        ("constexpr int wanted = 40;", "constexpr int wanted = 4;"),
+    ),
+    *faults_in(
+        "number/kernels/series_tail_steps.hpp",
+        ("top = begin_ + firstFactor_ + 1", "top = begin_ + firstFactor_ + 2"),
+        ("limb >>= LimbBits;", "limb /= std::int64_t{1} << LimbBits;"),
+        ("subtract_ ^= start_.alternate;", "subtract_ |= start_.alternate;"),
+    ),
+    *faults_in(
+        "number/kernels/text.cpp",
+        ("reader.GoTo(start);", ""),
+        ("(count - 1) * static_cast<std::size_t>(block.digits)",
+         "count * static_cast<std::size_t>(block.digits)"),
+        ("logarithm = 1292913986", "logarithm = 1292013986"),
+    ),
 ]

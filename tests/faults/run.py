@@ -22,7 +22,7 @@ from faults import FAULTS, Fault
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PRESET = "linux-x86-faults"
-SECONDS_FOR_A_TEST = 300
+SECONDS_FOR_A_TEST = 200
 SLOW_PROGRAMS = "bad_input/(long_text|exponents)|raw_nonsense|hosts/every_host|functions/known_values"
 
 
@@ -41,6 +41,10 @@ GOLDEN = Stage(COMMAND, "golden/")
 PROGRAMS = Stage(COMMAND, "tests/programs/", SLOW_PROGRAMS)
 TABLES = Stage(("BigNumberVQZ", "table_tests"), "unit/table_tests")
 OPERATIONS = Stage(("BigNumberVQZ", "operation_tests"), "unit/operation_tests/(others|256)")
+KERNELS = Stage(
+    tuple(f"differential_{variant}" for variant in ("stock", "kernels", "sse2", "forced")),
+    "differential/",
+)
 
 # Where the first failure is likely, by the beginning of the file's name; the rest follows.
 LIKELY = {
@@ -48,6 +52,7 @@ LIKELY = {
     "platform/": [UNIT],
     "plugin/members/": [],
     "plugin/": [UNIT, GOLDEN],
+    "number/kernels/": [KERNELS],
     "number/conversions": [Stage(COMMAND, "programs/(values|errors|debug_log)", SLOW_PROGRAMS)],
     "number/text": [Stage(COMMAND, "programs/(text|bad_input|encodings)", SLOW_PROGRAMS)],
     "number/ops": [Stage(COMMAND, "programs/(arithmetic|errors|comparison|debug_log)", SLOW_PROGRAMS)],
@@ -70,7 +75,7 @@ class Workshop:
         self.log = folder.with_suffix(".log").open("w")
         self.copy_sources()
         self.run("cmake", "--preset", PRESET)
-        targets = {target for stage in ALL for target in stage.targets}
+        targets = {target for stage in [*ALL, KERNELS] for target in stage.targets}
         if not self.run("ninja", "-C", self.build, *sorted(targets)):
             sys.exit(f"the sources do not build without a fault; see {self.log.name}")
 
