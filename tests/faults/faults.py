@@ -196,7 +196,7 @@ FAULTS = [
         ("return {.firstBit = (word >> (first % WordBits) & 1) != 0", "return {.firstBit = word != 0"),
     ),
     *faults_in(
-        "number/kernels/column_sums_steps.hpp",
+        "number/kernels/column_sums.hpp",
         ("k - rightCount + 1;", "k - rightCount + 2;"),
     ),
     *faults_in(
@@ -204,8 +204,11 @@ FAULTS = [
         ("IsDecided(words_[Slack - 1], 2 * Unit)", "IsDecided(words_[Slack - 1], 0)"),
         ("if (above != 0 ||", "if (above > 1 ||"),
         ("if (++words_[i] != 0)", "if (++words_[i] != 1)"),
-        ("LaterColumns = 128", "LaterColumns = 0"),
-        ("divisorTop + 1 == 0 ? TopBit", "divisorTop + 1 == 0 ? 0"),
+    ),
+    *faults_in(
+        "number/kernels/limb_division.hpp",
+        ("top + (~top != 0 ? 1 : 0)", "top + 1"),
+        ("next = _mm_add_epi64(next, _mm_srli_epi64(columns[0], LimbBits));", ""),
     ),
     *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W - 1 &&")),
     *faults_in(

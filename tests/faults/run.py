@@ -82,7 +82,12 @@ class Workshop:
     def copy_sources(self) -> None:
         """Writes what changed since the last time, so that little has to be built again."""
         listing = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, capture_output=True, check=True)
-        for name in listing.stdout.decode().split("\0")[:-1]:
+        names = listing.stdout.decode().split("\0")[:-1]
+        for path in self.folder.rglob("*.[ch]pp"):
+            name = str(path.relative_to(self.folder))
+            if name not in names and not name.startswith("build/"):
+                path.unlink()
+        for name in names:
             source, copy = ROOT / name, self.folder / name
             if not source.exists() or (copy.exists() and copy.read_bytes() == source.read_bytes()):
                 continue
