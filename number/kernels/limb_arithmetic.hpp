@@ -27,4 +27,11 @@ template <int W>
 Word DivideLimbsAvx2(const Word* dividend, const Word* divisor, int divisorCount,
                      Word* quotientEnd);
 
+extern template void MultiplyLimbsSse2<64>(const Word*, int, const Word*, int, int, Word*);
+extern template void MultiplyLimbsAvx2<64>(const Word*, int, const Word*, int, int, Word*);
+extern template Word DivideLimbsSse2<8>(const Word*, const Word*, int, Word*);
+extern template Word DivideLimbsSse2<64>(const Word*, const Word*, int, Word*);
+extern template Word DivideLimbsAvx2<8>(const Word*, const Word*, int, Word*);
+extern template Word DivideLimbsAvx2<64>(const Word*, const Word*, int, Word*);
+
 }  // namespace vqz::kernels

@@ -100,4 +100,9 @@ Word AddTailSse2(Word* sum, const TailStart& start);
 template <std::size_t W>
 Word AddTailAvx2(Word* sum, const TailStart& start);
 
+extern template Word AddTailSse2<8>(Word*, const TailStart&);
+extern template Word AddTailSse2<64>(Word*, const TailStart&);
+extern template Word AddTailAvx2<8>(Word*, const TailStart&);
+extern template Word AddTailAvx2<64>(Word*, const TailStart&);
+
 }  // namespace vqz::kernels
