@@ -16,6 +16,8 @@ from pathlib import Path
 
 HOST_OBJECT, HOST_DESTRUCTOR = "host: object", "host: destructor"
 PRECISIONS = (2048, 256)
+# The contenders that are measured against stock.
+RATIOS = ("library", "SSE2", "plug-in")
 # Besides the rows that do nothing but call.
 CHEAPEST_OF_THEIR_SHAPE = ("add", "multiply by integer", "remainder", "compare", "to text", "from text")
 
@@ -174,7 +176,7 @@ def shown(nanoseconds):
 
 def table(results, bits, names):
     """The lines of one precision: microseconds of each contender, and the ratio to stock."""
-    ratios = [name for name in ("library", "plug-in") if name in names and "stock" in names]
+    ratios = [name for name in RATIOS if name in names and "stock" in names]
     header = ["microseconds", *names, *(f"stock/{name}" for name in ratios)]
     rows = [header]
     for operation in results.groups:
@@ -290,9 +292,10 @@ def main():
     bare = "library" if "library" in names else "stock"
     if arguments.svg:
         draw(results, bare, arguments.svg)
-    for line in (*call_costs(results, "plug-in", bare), *summary(results, "plug-in"),
-                 *summary(results, "library")):
-        print(line)
+    print("\n".join(call_costs(results, "plug-in", bare)))
+    for name in reversed(RATIOS):
+        for line in summary(results, name):
+            print(line)
 
 
 if __name__ == "__main__":
