@@ -24,8 +24,9 @@ RUNTIMES = (
 
 
 def linked_libraries(link_map: str) -> set[str]:
-    """The libraries of which at least one member was linked."""
-    return {pathlib.PurePath(path).name for path in re.findall(r"^(\S+\.a)\(", link_map, re.M)}
+    """The libraries of which at least one member was linked. Those of this build have relative paths
+    in a link map, and are no others' work."""
+    return {pathlib.PurePath(path).name for path in re.findall(r"^(/\S+\.a)\(", link_map, re.M)}
 
 
 def runtime_terms(libraries: set[str]) -> dict[str, bytes]:
