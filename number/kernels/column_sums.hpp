@@ -27,7 +27,7 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
         const auto factor = Lanes::Broadcast(left + i * Stride);
 #pragma GCC unroll 4
         for (int v = 0; v < Vectors; ++v) {
-            totals[v] += Lanes::Product(factor, run + v * Lanes::Count);
+            totals[v] = Lanes::Add(totals[v], Lanes::Product(factor, run + v * Lanes::Count));
         }
     }
 #pragma GCC unroll 4

@@ -23,6 +23,8 @@ struct Avx2Lanes {
     }
     static Vector Multiply(Vector left, Vector right) { return _mm256_mul_epu32(left, right); }
     static Vector Product(Vector factor, const Limb* run) { return Multiply(factor, Load(run)); }
+    static Vector Add(Vector left, Vector right) { return _mm256_add_epi64(left, right); }
+    static Vector Subtract(Vector left, Vector right) { return _mm256_sub_epi64(left, right); }
     template <int Bits>
     static Vector ShiftLeft(Vector vector) {
         return _mm256_slli_epi64(vector, Bits);

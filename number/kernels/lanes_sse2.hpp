@@ -26,6 +26,9 @@ struct Sse2Lanes {
     /// Products of the low 32 bits of lanes.
     static Vector Multiply(Vector left, Vector right) { return _mm_mul_epu32(left, right); }
     static Vector Product(Vector factor, const Limb* run) { return Multiply(factor, Load(run)); }
+    /// Sums and differences, which wrap: the vector types' own operators are signed.
+    static Vector Add(Vector left, Vector right) { return _mm_add_epi64(left, right); }
+    static Vector Subtract(Vector left, Vector right) { return _mm_sub_epi64(left, right); }
     template <int Bits>
     static Vector ShiftLeft(Vector vector) {
         return _mm_slli_epi64(vector, Bits);

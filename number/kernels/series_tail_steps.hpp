@@ -160,12 +160,12 @@ private:
             const Vector limb = Lanes::Broadcast(multiplier_ + j);
 #pragma GCC unroll 4
             for (int v = 0; v < FactorVectors; ++v, factor += Lanes::Count) {
-                const Vector dividend = Lanes::template ShiftLeft<LimbBits>(rests[v]) +
-                                        Lanes::Multiply(limb, numerators[v]);
+                const Vector dividend = Lanes::Add(Lanes::template ShiftLeft<LimbBits>(rests[v]),
+                                                   Lanes::Multiply(limb, numerators[v]));
                 const Vector quotient = Lanes::template ShiftRight<33>(Lanes::Multiply(
                     Lanes::template ShiftRight<PreparedRatio::DenominatorBits - 2>(dividend),
                     reciprocals[v]));
-                rests[v] = dividend - Lanes::Multiply(quotient, denominators[v]);
+                rests[v] = Lanes::Subtract(dividend, Lanes::Multiply(quotient, denominators[v]));
                 Lanes::Store(factor, quotient);
             }
         }
@@ -218,7 +218,7 @@ private:
 
     static Vector HandOn(Vector limbs, Vector mask, Vector& below) {
         const Vector carries = Lanes::template ShiftRight<LimbBits>(limbs);
-        const Vector result = (limbs & mask) + Lanes::Follow(carries, below);
+        const Vector result = Lanes::Add(limbs & mask, Lanes::Follow(carries, below));
         below = carries;
         return result;
     }
@@ -240,7 +240,8 @@ private:
         for (int i = begin_; i < count_ - GuardLimbs; i += Lanes::Count) {
             const Vector total = Lanes::Load(total_ + i);
             const Vector limbs = Lanes::Load(term() + i);
-            Lanes::Store(total_ + i, subtract_ ? total - limbs : total + limbs);
+            Lanes::Store(total_ + i,
+                         subtract_ ? Lanes::Subtract(total, limbs) : Lanes::Add(total, limbs));
         }
         subtract_ ^= start_.alternate;
         const int last = count_ - GuardLimbs - 1;

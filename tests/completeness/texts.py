@@ -19,6 +19,8 @@ import re
 import sys
 
 FOLDERS = ("plugin", "host", "number", "platform")
+# It says nothing: its literals are instructions.
+SILENT = "number/kernels"
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 NO_TEXT = re.compile(r'(?ms)R"\(.*?\)"|(?<!:)//[^\n]*$|^#include[^\n]*$|extern "C"')
 CONVERSION = re.compile(r"%(?:lld|[sdpuf])")
@@ -93,6 +95,8 @@ def texts_of(sources: pathlib.Path) -> list[Text]:
     members is none: the library does not hold it."""
     found = []
     for path in sorted(itertools.chain(*((sources / folder).rglob("*.?pp") for folder in FOLDERS))):
+        if sources / SILENT in path.parents:
+            continue
         code = joined(NO_TEXT.sub("", path.read_text("utf-8")))
         for match in LITERAL.finditer(code):
             text = unescaped(match[1])

@@ -72,6 +72,13 @@ public:
     NumberClass(standin::Host& host, const std::string& name)
         : host_(host), class_(*host.FindClass(name)), first_(Make()), second_(Make()) {}
 
+    ~NumberClass() {
+        host_.Unlock(first_);
+        host_.Unlock(second_);
+    }
+    NumberClass(const NumberClass&) = delete;
+    NumberClass& operator=(const NumberClass&) = delete;
+
     std::vector<Operation<Number>> Operations() {
         std::vector<Operation<Number>> operations = differential::Operations<Number>();
         std::erase_if(operations, [](const auto& operation) { return !operation.isMember; });
