@@ -6,8 +6,8 @@ usage: lint.py format SOURCE_FOLDER
 
 `format` holds every C++ file against .clang-format. `cppcheck` runs that over all but the tests: what
 it is wrong about is marked in the source, with the reason. `tidy` runs clang-tidy over what the build
-compiles, most thoroughly over what gets into the library; a file that was found clean is not looked at again until something changes that it may
-depend on.
+compiles, most thoroughly over what gets into the library; a file that was found clean is not looked
+at again until something changes that it may depend on.
 """
 
 import concurrent.futures
