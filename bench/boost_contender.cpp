@@ -56,13 +56,7 @@ public:
 private:
     template <typename Compute>
     void Function(std::string_view name, Compute compute) {
-        const bench::Operation& operation = bench::FindOperation(name);
-        const Value x(OperandText(operation.x, Bits));
-        const Value y(OperandText(operation.y, Bits));
-        contender_.OfferRepeated(Bits, name, [=] {
-            auto result = compute(x, y);
-            bench::Keep(result);
-        });
+        contender_.OfferComputation<Value>(Bits, name, compute);
     }
 
     bench::Contender& contender_;

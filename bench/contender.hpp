@@ -9,6 +9,8 @@
 #include <string_view>
 #include <utility>
 
+#include "bench/operations.hpp"
+
 namespace bench {
 
 /// Keeps the compiler from leaving out the computation of a value.
@@ -33,6 +35,18 @@ public:
             for (; count > 0; --count) {
                 once();
             }
+        });
+    }
+
+    /// Offers the computation of a new value from the operands of the operation's row.
+    template <typename Value, typename Compute>
+    void OfferComputation(unsigned bits, std::string_view operation, Compute compute) {
+        const Operation& row = FindOperation(operation);
+        const Value x(OperandText(row.x, bits));
+        const Value y(OperandText(row.y, bits));
+        OfferRepeated(bits, operation, [=] {
+            auto result = compute(x, y);
+            Keep(result);
         });
     }
 

@@ -1,6 +1,5 @@
 // The plug-in in the stand-in host: the routines of its registered tables, called as the host calls
 // them. The host's own part of a call is on offer too, so that it can be taken off.
-#include <algorithm>
 #include <cstdint>
 #include <iostream>
 #include <stdexcept>
@@ -40,23 +39,15 @@ private:
 
     /// The routine that the class registers under the operation's declaration.
     Routine Find(const Operation& operation) const {
-        std::string wanted(operation.declaration);
-        for (std::size_t at = 0; (at = wanted.find('$', at)) != std::string::npos;) {
-            wanted.replace(at, 1, class_.name);
+        switch (operation.shape) {
+            case Shape::BooleanGetter:
+            case Shape::DoubleGetter:
+                return class_.Property(operation.declaration).getter;
+            case Shape::DoubleSetter:
+                return class_.Property(operation.declaration).setter;
+            default:
+                return class_.Method(operation.declaration).function;
         }
-        for (const auto* methods : {&class_.methods, &class_.sharedMethods}) {
-            const auto found =
-                std::ranges::find(*methods, wanted, &standin::MethodInfo::declaration);
-            if (found != methods->end()) {
-                return found->function;
-            }
-        }
-        const auto found =
-            std::ranges::find(class_.properties, wanted, &standin::PropertyInfo::name);
-        if (found == class_.properties.end()) {
-            throw std::runtime_error(class_.name + " has no member " + wanted);
-        }
-        return operation.shape == Shape::DoubleSetter ? found->setter : found->getter;
     }
 
     /// An object with the operand's value; it lives as long as the process.

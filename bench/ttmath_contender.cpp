@@ -77,13 +77,7 @@ private:
     /// A computation of a new value from two operands.
     template <typename Compute>
     void Function(std::string_view name, Compute compute) {
-        const bench::Operation& operation = bench::FindOperation(name);
-        const Value x(OperandText(operation.x, Bits));
-        const Value y(OperandText(operation.y, Bits));
-        contender_.OfferRepeated(Bits, name, [=] {
-            auto result = compute(x, y);
-            bench::Keep(result);
-        });
+        contender_.OfferComputation<Value>(Bits, name, compute);
     }
 
     /// A member that changes its number.

@@ -50,7 +50,7 @@ ExceptionMapping MapException(const std::exception& exception) {
         return {"C++ reports underflow error", "OutOfBoundsException"};
     }
     if (IsAnyOf<std::underflow_error>(exception)) {
-        return {"C++ Illegal Cast Exception", "IllegalCastException"};  // GCOVR_EXCL_LINE: dead
+        return {"C++ Illegal Cast Exception", "IllegalCastException"};  // GCOVR_EXCL_LINE: taken above
     }
     return {"C++ Exception", "RuntimeException"};
 }

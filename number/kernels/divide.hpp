@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <iterator>
 
-#include "number/kernels/add.hpp"
 #include "number/kernels/instruction_set.hpp"
 #include "number/kernels/limb_arithmetic.hpp"
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
+#include "number/kernels/shift_words.hpp"
 
 namespace vqz::kernels {
 
@@ -62,9 +62,10 @@ private:
         // The unit of the last limb, in units of the guard word.
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
         const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
-        ShiftRight<W>(words_ + Slack, 3, words_ + Slack);
-        words_[Slack + W - 1] |= integer << (WordBits - 3);
-        topBit_ = integer >> 3 != 0;
+        constexpr Word Eighth = 3;  // bits
+        ShiftRight<W>(words_ + Slack, Eighth, words_ + Slack);
+        words_[Slack + W - 1] |= integer << (WordBits - Eighth);
+        topBit_ = integer >> Eighth != 0;
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
         // Exact words are made 1 too small, for the correction to make up for it.
         if (isDecided) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <stdexcept>
 #include <utility>
 
 namespace standin {
@@ -211,6 +212,28 @@ bool ClassInfo::IsA(const ClassInfo& other) const {
         }
     }
     return false;
+}
+
+const MethodInfo& ClassInfo::Method(std::string_view pattern) const {
+    std::string declaration;
+    for (const char character : pattern) {
+        declaration.append(character == '$' ? name : std::string(1, character));
+    }
+    for (const auto* list : {&methods, &sharedMethods}) {
+        const auto found = std::ranges::find(*list, declaration, &MethodInfo::declaration);
+        if (found != list->end()) {
+            return *found;
+        }
+    }
+    throw std::runtime_error(name + " has no method " + declaration);
+}
+
+const PropertyInfo& ClassInfo::Property(std::string_view propertyName) const {
+    const auto found = std::ranges::find(properties, propertyName, &PropertyInfo::name);
+    if (found == properties.end()) {
+        throw std::runtime_error(name + " has no property " + std::string(propertyName));
+    }
+    return *found;
 }
 
 ClassTable::ClassTable(const std::set<std::string, std::less<>>& missing) {

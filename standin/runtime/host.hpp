@@ -126,6 +126,11 @@ struct ClassInfo {
 
     /// Whether this class is `other` or descends from it.
     bool IsA(const ClassInfo& other) const;
+    /// The method or shared method with that declaration, in which '$' stands for the name of the
+    /// class. Throws std::runtime_error when there is none.
+    const MethodInfo& Method(std::string_view pattern) const;
+    /// The property with that name. Throws std::runtime_error when there is none.
+    const PropertyInfo& Property(std::string_view propertyName) const;
 };
 
 /// What a Variant of the host holds. Integers of unsigned type are told apart from signed ones by

@@ -2,7 +2,6 @@
 // tables in the stand-in host: prints what `differential --members` prints.
 //
 // usage: plugin_differential LIBRARY [option...]
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -84,8 +83,8 @@ public:
         std::erase_if(operations, [](const auto& operation) { return !operation.isMember; });
         for (Operation<Number>& operation : operations) {
             const Member member = FindMember(operation.name);
-            operation.call = [this, member, routine = Find(member)](Number& me, const Number& other,
-                                                                    std::string& text) {
+            operation.call = [this, member, routine = RoutineOf(member)](
+                                 Number& me, const Number& other, std::string& text) {
                 Write(first_, me);
                 Write(second_, other);
                 return Call(member, routine, me, text);
@@ -102,47 +101,25 @@ private:
 
     Object Make() {
         Object object = host_.MakeObject(class_);
-        As<void (*)(Object)>(Find({"Constructor", Shape::Method}))(object);
+        As<void (*)(Object)>(class_.Method("Constructor").function)(object);
         return object;
     }
 
-    Routine Find(const Member& member) const {
-        if (member.shape == Shape::Text) {
-            return nullptr;
-        }
-        std::string wanted = member.declaration;
-        for (std::size_t at = 0; (at = wanted.find('$', at)) != std::string::npos;) {
-            wanted.replace(at, 1, class_.name);
-        }
-        for (const auto* methods : {&class_.methods, &class_.sharedMethods}) {
-            const auto found =
-                std::ranges::find(*methods, wanted, &standin::MethodInfo::declaration);
-            if (found != methods->end()) {
-                return found->function;
-            }
-        }
-        throw std::runtime_error(class_.name + " has no member " + wanted);
-    }
-
-    const standin::PropertyInfo& Property(std::string_view name) const {
-        const auto found = std::ranges::find(class_.properties, name, &standin::PropertyInfo::name);
-        if (found == class_.properties.end()) {
-            throw std::runtime_error(class_.name + " has no property " + std::string(name));
-        }
-        return *found;
+    Routine RoutineOf(const Member& member) const {
+        return member.shape == Shape::Text ? nullptr : class_.Method(member.declaration).function;
     }
 
     void Write(Object object, const Number& number) {
         WritePart(object, "DataMantissa", number.mantissa.table);
         WritePart(object, "DataExponent", number.exponent.table);
-        As<void (*)(Object, int, int)>(Property("DataFlags").setter)(object, 0, number.info);
+        As<void (*)(Object, int, int)>(class_.Property("DataFlags").setter)(object, 0, number.info);
     }
 
     template <std::size_t Count>
     void WritePart(Object object, std::string_view name, const ttmath::uint (&words)[Count]) {
         const Object block =
             host_.MakeMemoryBlock({reinterpret_cast<const char*>(words), sizeof words});
-        As<void (*)(Object, int, Object)>(Property(name).setter)(object, 0, block);
+        As<void (*)(Object, int, Object)>(class_.Property(name).setter)(object, 0, block);
         host_.Unlock(block);
     }
 
@@ -150,12 +127,12 @@ private:
         ReadPart(object, "DataMantissa", number.mantissa.table);
         ReadPart(object, "DataExponent", number.exponent.table);
         number.info = static_cast<unsigned char>(
-            As<int (*)(Object, int)>(Property("DataFlags").getter)(object, 0));
+            As<int (*)(Object, int)>(class_.Property("DataFlags").getter)(object, 0));
     }
 
     template <std::size_t Count>
     void ReadPart(Object object, std::string_view name, ttmath::uint (&words)[Count]) {
-        const Object block = As<Object (*)(Object, int)>(Property(name).getter)(object, 0);
+        const Object block = As<Object (*)(Object, int)>(class_.Property(name).getter)(object, 0);
         std::memcpy(words, host_.BlockBytes(block).data(), sizeof words);
         host_.Unlock(block);
     }
@@ -195,9 +172,10 @@ private:
     }
 
     void WriteAndRead(const std::string& property, std::string& text) {
-        const String written = As<String (*)(Object, int)>(Property(property).getter)(first_, 0);
+        const String written =
+            As<String (*)(Object, int)>(class_.Property(property).getter)(first_, 0);
         text = host_.Bytes(written);
-        As<void (*)(Object, int, String)>(Property(property).setter)(first_, 0, written);
+        As<void (*)(Object, int, String)>(class_.Property(property).setter)(first_, 0, written);
         host_.Unlock(written);
     }
 

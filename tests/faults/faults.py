@@ -190,8 +190,11 @@ FAULTS = [
         ("RaiseOverflowException(FailureName.text);", "RaiseOverflowException(LogName.text);"),
     ),
     *faults_in(
-        "number/kernels/add.hpp",
+        "number/kernels/shift_words.hpp",
         ("i + VectorWords < count\n", "i + VectorWords <= count\n"),
+    ),
+    *faults_in(
+        "number/kernels/add.hpp",
         ("!remains.firstBit && remains.othersZero", "remains.othersZero"),
         ("return {.firstBit = (word >> (first % WordBits) & 1) != 0", "return {.firstBit = word != 0"),
     ),
