@@ -9,7 +9,6 @@
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
-#include "number/kernels/shift_words.hpp"
 
 namespace vqz::kernels {
 
@@ -54,18 +53,14 @@ private:
         words_[Slack] = DivideWords(remainder, 0, divisor, remainder);
     }
 
-    /// The division by limbs gives eight times the quotient. Answers whether the words are decided.
+    /// Answers whether the words are decided.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
-        const Word integer =
+        topBit_ =
             (avx2Chosen ? DivideLimbsAvx2<W> : DivideLimbsSse2<W>)(dividend, divisor, divisorCount,
-                                                                   std::end(words_));
+                                                                   std::end(words_)) != 0;
         // The unit of the last limb, in units of the guard word.
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
         const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
-        constexpr Word Eighth = 3;  // bits
-        ShiftRight<W>(words_ + Slack, Eighth, words_ + Slack);
-        words_[Slack + W - 1] |= integer << (WordBits - Eighth);
-        topBit_ = integer >> Eighth != 0;
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
         // Exact words are made 1 too small, for the correction to make up for it.
         if (isDecided) {

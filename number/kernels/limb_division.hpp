@@ -9,7 +9,10 @@
 // dividend and divisor be fractions, 1/2 <= divisor < 1, and let the inverse be m = 2^63 / (t + 1),
 // rounded down, where t is the divisor's first word. Then
 //
-//     1 - d = divisor * m / 2^31,    8 * quotient = dividend * m / 2^28 / (1 - d).
+//     1 - d = divisor * m / 2^31,    quotient = dividend * m / 2^31 / (1 - d).
+//
+// (Both are cut into limbs with three zero bits before them, which divides them by 2^3: then their
+// limbs times m weigh 2^-28 as much as limbs, and need no shift.)
 //
 // Rounding m down takes off 2^-31 of it at most, and t + 1 in place of the divisor as much again:
 // 0 <= d < 2^-30.
@@ -58,22 +61,19 @@ public:
         const Word top = divisor[W - 1];
         Word rest = 0;
         const Word inverse = DivideWords(TopBit, 0, top + (~top != 0 ? 1 : 0), rest);
-        Word complement[W + 1];
-        Complement(divisor + W - divisorCount, divisorCount, inverse, complement);
-
-        const Dividend limbs(dividend + W, W);
-        const Factor factor(complement + divisorCount + 1, divisorCount + 1);
+        const LimbBuffer<W, 2, Lead> limbs(dividend + W, W);
+        const Factor factor(divisor + W, divisorCount, inverse);
         const BlockFactors blockFactors(factor);
         DigitChain chain;
         Limb digits[1 + Groups * GroupLimbs];
         constexpr int FullBlocks = Digits / Block * Block;
         for (int start = 0; start < FullBlocks; start += Block) {
-            ComputeBlock<Block>(start, limbs, inverse, factor, blockFactors, chain, digits);
+            ComputeBlock<Block>(start, limbs.data(), inverse, factor, blockFactors, chain, digits);
         }
-        ComputeBlock<Digits - FullBlocks>(FullBlocks, limbs, inverse, factor, blockFactors, chain,
-                                          digits);
+        ComputeBlock<Digits - FullBlocks>(FullBlocks, limbs.data(), inverse, factor, blockFactors,
+                                          chain, digits);
         std::fill(digits + Digits, std::end(digits), 0);
-        return Low(digits[0] + JoinColumns(digits + 1, Groups, quotientEnd));
+        return Low(digits[0] + JoinColumns<false>(digits + 1, Groups, quotientEnd));
     }
 
 private:
@@ -84,28 +84,42 @@ private:
     static constexpr int Block = 8;
     static_assert(Digits % Block != 0 && Block <= ColumnStep);
 
-    /// The dividend's limbs are no factors of column sums.
-    using Dividend = LimbBuffer<W, 0>;
-    /// The limbs of d: limb i weighs 2^(-28 (i + 1)), and limb 0 is 0.
-    using Factor = LimbBuffer<W + 1>;
+    /// The zero bits before the limbs of dividend and divisor.
+    static constexpr int Lead = 3;
 
-    /// d = 1 - divisor * 2 m / 2^32, which has one word more than the divisor. (2 m has 33 bits;
-    /// for the highest one, the divisor is added one word higher.) It is kept out of line for the
-    /// sake of the registers. The divisor has more than one word, so that d is not 0.
-    [[gnu::noinline]] static void Complement(const Word* divisor, int count, Word inverse,
-                                             Word* words) {
-        const Word lowBits = inverse << 1;
-        DoubleWord product = DoubleWord{divisor[0]} * lowBits;
-        words[0] = ~Low(product);
-        for (int i = 1; i < count; ++i) {
-            product = DoubleWord{divisor[i]} * lowBits + divisor[i - 1] + High(product);
-            words[i] = ~Low(product);
+    /// The limbs of d = 1 - divisor * m / 2^31: limb i weighs 2^(-28 (i + 1)), and limb 0 is 0.
+    /// There is one more than the divisor has. The last one may be 2^28.
+    class Factor {
+    public:
+        Factor(const Word* divisorEnd, int divisorCount, Word inverse)
+            : limbs_(divisorEnd, divisorCount) {
+            const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
+            const __m128i multiplier = _mm_cvtsi32_si128(static_cast<int>(inverse));
+            __m128i sum = _mm_setzero_si128();
+            Limb* limbs = limbs_.data();
+            for (int i = limbs_.count(); i > 0; --i) {
+                const __m128i limb = Lane(limbs + i - 1);
+                sum = _mm_add_epi64(_mm_srli_epi64(sum, LimbBits), _mm_mul_epu32(limb, multiplier));
+                // What is missing to a limb of ones.
+                _mm_storel_epi64(reinterpret_cast<__m128i*>(limbs + i),
+                                 _mm_andnot_si128(sum, mask));
+            }
+            // With a divisor of more than one word, d is not 0, and so has no limb 0.
+            limbs[0] = 0;
+            ++limbs[limbs_.count()];
         }
-        words[count] = ~(High(product) + divisor[count - 1]);
-        while (++*words == 0) {
-            ++words;
+
+        const Limb* data() const { return limbs_.data(); }
+        int count() const { return limbs_.count() + 1; }
+
+    private:
+        /// With room for the last limb before the padding.
+        LimbBuffer<W, LimbPadding + 2, Lead> limbs_;
+
+        static __m128i Lane(const Limb* limb) {
+            return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(limb));
         }
-    }
+    };
 
     /// Limbs of d from the second on, each in the low lane of a register.
     struct BlockFactors {
@@ -145,9 +159,8 @@ private:
 
     /// Computes digits `start` to `start + Count - 1`.
     template <int Count>
-    static void ComputeBlock(int start, const Dividend& dividend, Word inverse,
-                             const Factor& factor, const BlockFactors& factors, DigitChain& chain,
-                             Limb* digits) {
+    static void ComputeBlock(int start, const Limb* dividend, Word inverse, const Factor& factor,
+                             const BlockFactors& factors, DigitChain& chain, Limb* digits) {
         // The columns from start + 2 on; the chain has those before.
         alignas(16) DoubleWord sums[ColumnStep];
         if (start == 0) {
@@ -163,7 +176,7 @@ private:
         for (int i = 0; i < Count; i += 2) {
             const __m128i sum = _mm_load_si128(reinterpret_cast<const __m128i*>(sums + i));
             const __m128i limbs =
-                _mm_load_si128(reinterpret_cast<const __m128i*>(dividend.data() + start + i));
+                _mm_load_si128(reinterpret_cast<const __m128i*>(dividend + start + i));
             columns[i] = _mm_add_epi64(sum, _mm_mul_epu32(limbs, inverses));
             columns[i + 1] = _mm_unpackhi_epi64(columns[i], columns[i]);
         }

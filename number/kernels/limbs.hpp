@@ -12,7 +12,7 @@
 //    words   |    W-1    |    W-2    |  ...  |    W-7    |       7 words of 32 bits
 //    limbs   |    0    |    1    |    2    |   ...  | 7  |    = 8 limbs of 28 bits = a group
 //
-// The pattern of shifts repeats with each group.
+// Cutting and joining take two limbs at once: they are 7 bytes, wherever the words begin.
 #pragma once
 
 #include <algorithm>
@@ -31,12 +31,15 @@ using Limb = std::uint64_t;
 
 inline constexpr int LimbBits = 28;
 inline constexpr Word LimbMask = (Word{1} << LimbBits) - 1;
-inline constexpr int GroupWords = 7;
-inline constexpr int GroupLimbs = 8;
+inline constexpr int ByteBits = 8;
+inline constexpr int PairBytes = 2 * LimbBits / ByteBits;
+inline constexpr int GroupPairs = 4;
+inline constexpr int GroupLimbs = 2 * GroupPairs;
+inline constexpr int GroupWords = GroupLimbs * LimbBits / WordBits;
 
-/// How many limbs hold `words` words.
-inline constexpr int LimbCount(int words) {
-    return (words * WordBits + LimbBits - 1) / LimbBits;
+/// How many limbs hold `words` words with `lead` zero bits before them.
+inline constexpr int LimbCount(int words, int lead = 0) {
+    return (lead + words * WordBits + LimbBits - 1) / LimbBits;
 }
 /// How many groups hold `limbs` limbs.
 inline constexpr int GroupCount(int limbs) {
@@ -46,33 +49,45 @@ inline constexpr int GroupCount(int limbs) {
 /// The zero limbs that column sums may read before and behind a factor: one vector step of columns.
 inline constexpr int LimbPadding = 16;
 
-/// Up to `Words` words as limbs, with the padding that column sums want of a factor.
-template <int Words, int Padding = LimbPadding>
+/// Up to `Words` words as limbs, with the padding that column sums want of a factor. They may begin
+/// with `Lead` zero bits, which makes the fraction so much smaller.
+template <int Words, int Padding = LimbPadding, int Lead = 0>
 class LimbBuffer {
 public:
-    /// Cuts up the highest `count` of the words that end before `wordsEnd`.
-    LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count)) {
+    /// Cuts up the highest `count` of the words that end before `wordsEnd`, two at least.
+    ///
+    /// Two limbs are read with the byte above them, except for the highest two, which have none,
+    /// and for the last two, which may reach below the words.
+    LimbBuffer(const Word* wordsEnd, int count) : count_(LimbCount(count, Lead)) {
         Pad(lanes_);
+        const auto* end = reinterpret_cast<const unsigned char*>(wordsEnd);
+        const int bytes = count * static_cast<int>(sizeof(Word));
+        const int whole = bytes / PairBytes;
         Limb* limbs = lanes_ + Padding;
-        for (; count >= GroupWords; count -= GroupWords) {
-            CutGroup(wordsEnd, limbs);
-            wordsEnd -= GroupWords;
-            limbs += GroupLimbs;
+        StorePair<Lead + ByteBits>(limbs, Load(end - PairBytes - 1));
+#pragma GCC unroll 4
+        for (int pair = 1; pair < whole; ++pair) {
+            StorePair<Lead>(limbs + 2 * pair, Load(end - PairBytes * (pair + 1)));
         }
-        Word rest[GroupWords] = {};
-        for (int i = 1; i <= count; ++i) {
-            rest[GroupWords - i] = wordsEnd[-i];
-        }
-        CutGroup(rest + GroupWords, limbs);
-        Pad(limbs + GroupLimbs);
+        const int below = (PairBytes * (whole + 1) - bytes) * ByteBits;
+        limbs += 2 * whole;
+        StorePair<Lead>(limbs, _mm_sll_epi64(Load(end - bytes), _mm_cvtsi32_si128(below)));
+        Pad(limbs + 2);
     }
 
-    const Limb* data() const { return lanes_ + Padding; }
-    int count() const { return count_; }
-    Limb operator[](int i) const { return data()[i]; }
+    Limb* data() {
+        return lanes_ + Padding;
+    }
+    const Limb* data() const {
+        return lanes_ + Padding;
+    }
+    int count() const {
+        return count_;
+    }
 
 private:
-    static constexpr int Capacity = (Words / GroupWords + 1) * GroupLimbs;
+    static constexpr int Capacity = 2 * (Words * int{sizeof(Word)} / PairBytes + 1);
+    static_assert(Lead <= ByteBits);
 
     alignas(16) Limb lanes_[Padding + Capacity + Padding];
     int count_;
@@ -80,63 +95,59 @@ private:
     /// Clears a padding. (As a call it would take as long as cutting up a mantissa of 8 words.)
     static void Pad(Limb* limbs) {
         static_assert(Padding % 2 == 0);
-#pragma GCC unroll 8
+#pragma GCC unroll 16
         for (int i = 0; i < Padding; i += 2) {
             _mm_store_si128(reinterpret_cast<__m128i*>(limbs + i), _mm_setzero_si128());
         }
     }
 
-    /// Two neighbouring words hold each limb but the first and the last one.
-    static void CutGroup(const Word* end, Limb* limbs) {
-        StorePair(limbs, _mm_cvtsi32_si128(static_cast<int>(end[-1] >> (WordBits - LimbBits))),
-                  LimbAcross<1>(end));
-        StorePair(limbs + 2, LimbAcross<2>(end), LimbAcross<3>(end));
-        StorePair(limbs + 4, LimbAcross<4>(end), LimbAcross<5>(end));
-        StorePair(limbs + 6, LimbAcross<6>(end),
-                  _mm_cvtsi32_si128(static_cast<int>(end[-GroupWords])));
+    static __m128i Load(const unsigned char* bytes) {
+        return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(bytes));
     }
 
-    /// Limb `I` of a group, with bits above it: 4 * I bits are left of the word in which it begins.
-    template <int I>
-    static __m128i LimbAcross(const Word* end) {
-        const __m128i words = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(end - I - 1));
-        return _mm_srli_epi64(words, 4 * (I + 1));
-    }
-
-    static void StorePair(Limb* limbs, __m128i first, __m128i second) {
+    /// Two limbs, the lower one of which begins `Shift` bits above the lowest of `bits`.
+    template <int Shift>
+    static void StorePair(Limb* limbs, __m128i bits) {
         const __m128i mask = _mm_set_epi32(0, LimbMask, 0, LimbMask);
-        _mm_store_si128(reinterpret_cast<__m128i*>(limbs),
-                        _mm_and_si128(_mm_unpacklo_epi64(first, second), mask));
+        const __m128i pair =
+            _mm_unpacklo_epi64(_mm_srli_epi64(bits, Shift + LimbBits), _mm_srli_epi64(bits, Shift));
+        _mm_store_si128(reinterpret_cast<__m128i*>(limbs), _mm_and_si128(pair, mask));
     }
 };
 
-/// Sums of the weights of limbs, the highest first, as words that end before `wordsEnd`; makes the
-/// carries. Answers the carry out of the highest.
-inline DoubleWord JoinColumns(const DoubleWord* sums, int groups, Word* wordsEnd) {
-    // In a vector register, where 64 bits are one lane.
-    const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
-    __m128i carry = _mm_setzero_si128();
-    const auto next = [&](const DoubleWord* sum) __attribute__((always_inline)) {
-        carry = _mm_add_epi64(carry, _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sum)));
-        const __m128i limb = _mm_and_si128(carry, mask);
-        carry = _mm_srli_epi64(carry, LimbBits);
-        return limb;
+/// Joins columns, the highest first, as words that end before `wordsEnd`, and makes the carries.
+/// Answers the carry out of the highest.
+///
+/// Columns are limbs of at most 2^35 + 2^28: two of them and a carry fit in a lane. Or they are
+/// sums below 2^63; then the highest is 0, and so is the one behind the groups. Sums keep their
+/// limbs and pass on the rest first, which makes them such columns.
+///
+/// Two limbs are written with what they carry above them, which the next two write over.
+template <bool AreSums>
+inline DoubleWord JoinColumns(const DoubleWord* columns, int groups, Word* wordsEnd) {
+    const __m128i mask = _mm_set_epi32(0, LimbMask, 0, LimbMask);
+    const auto load = [&](int i) __attribute__((always_inline)) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(columns + i));
     };
-    sums += groups * GroupLimbs;
-    wordsEnd -= groups * GroupWords;
-    for (; groups > 0; --groups) {
-        sums -= GroupLimbs;
-        wordsEnd += GroupWords;
-        __m128i below = next(sums + GroupLimbs - 1);
-#pragma GCC unroll 8
-        for (int i = GroupWords - 1; i >= 0; --i) {
-            const __m128i limb = next(sums + i);
-            const __m128i word = _mm_or_si128(_mm_slli_epi64(limb, 4 * (i + 1)),
-                                              _mm_srli_epi64(below, LimbBits - 4 * (i + 1)));
-            wordsEnd[-i - 1] = static_cast<Word>(_mm_cvtsi128_si32(word));
-            below = limb;
+    __m128i carry = _mm_setzero_si128();
+    const auto join = [&](int pair) __attribute__((always_inline)) {
+        __m128i limbs = load(2 * pair);
+        if constexpr (AreSums) {
+            limbs = _mm_add_epi64(_mm_and_si128(limbs, mask),
+                                  _mm_srli_epi64(load(2 * pair + 1), LimbBits));
         }
+        const __m128i lower = _mm_add_epi64(carry, _mm_unpackhi_epi64(limbs, limbs));
+        const __m128i bits = _mm_add_epi64(_mm_slli_epi64(limbs, LimbBits), lower);
+        carry = _mm_srli_epi64(bits, 2 * LimbBits);
+        return bits;
+    };
+    auto* bytes = reinterpret_cast<unsigned char*>(wordsEnd) - groups * GroupPairs * PairBytes;
+    for (int pair = groups * GroupPairs - 1; pair > 0; --pair, bytes += PairBytes) {
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(bytes), join(pair));
     }
+    const __m128i bits = join(0);
+    _mm_storeu_si32(bytes, bits);
+    _mm_storeu_si32(wordsEnd - 1, _mm_srli_epi64(bits, 2 * LimbBits - WordBits));
     DoubleWord answer = 0;
     _mm_storel_epi64(reinterpret_cast<__m128i*>(&answer), carry);
     return answer;

@@ -212,6 +212,12 @@ FAULTS = [
         "number/kernels/limb_division.hpp",
         ("top + (~top != 0 ? 1 : 0)", "top + 1"),
         ("next = _mm_add_epi64(next, _mm_srli_epi64(columns[0], LimbBits));", ""),
+        ("_mm_andnot_si128(sum, mask)", "_mm_and_si128(sum, mask)"),
+    ),
+    *faults_in(
+        "number/kernels/limbs.hpp",
+        ("whole = bytes / PairBytes;", "whole = (bytes - 1) / PairBytes;"),
+        ("_mm_srli_epi64(load(2 * pair + 1), LimbBits));", "_mm_setzero_si128());"),
     ),
     *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W - 1 &&")),
     *faults_in(
