@@ -14,7 +14,14 @@ import sys
 from dataclasses import dataclass, field
 from pathlib import Path
 
-HOST_OBJECT, HOST_DESTRUCTOR = "host: object", "host: destructor"
+# The rows that tell what the host does for an operation; what comes after the first is the plug-in's
+# part of it.
+HOST_ROWS = {
+    "object": ("host: object", "host: destructor"),
+    "new text": ("host: new text",),
+    "known text": ("host: known text",),
+    "nothing": (),
+}
 PRECISIONS = (2048, 256)
 # The contenders that are measured against stock.
 RATIOS = ("library", "SSE2", "plug-in")
@@ -106,7 +113,7 @@ class Results:
         return measured.median - self.host_part(bits, operation, contender)
 
     def host_part(self, bits, operation, contender):
-        """What the host spends on the object of a result, which the destructor is no part of."""
+        """What the host spends on an object or a text, without what the plug-in does in between."""
         measured = self._hosts.get((bits, operation, contender))
         return measured.median if measured else 0.0
 
@@ -129,8 +136,8 @@ class Results:
 def measure(contenders, operations, rounds, nanoseconds):
     """Measures every operation at both precisions with every contender that offers it.
 
-    What a host spends on objects changes with what else it has in memory, so it is measured in the
-    same round as the operation that answers one."""
+    What a host spends on objects and texts changes with what else it has in memory, so it is measured
+    in the same round as the operation that needs them."""
     results = Results(operations)
     steps = [(bits, name) for bits in PRECISIONS for name in operations]
     for step, (bits, name) in enumerate(steps):
@@ -139,22 +146,22 @@ def measure(contenders, operations, rounds, nanoseconds):
         def count_for(contender, row, bits=bits):
             return contender.count_for(bits, row, nanoseconds) if (bits, row) in contender.offers else 0
 
-        answers_object = operations[name]["answer"] == "object"
+        host_rows = HOST_ROWS[operations[name]["host"]]
         taking_part = [(contender, count) for contender in contenders if (count := count_for(contender, name))]
         host_counts = {
-            contender: [count_for(contender, row) for row in (HOST_OBJECT, HOST_DESTRUCTOR)]
+            contender: [count_for(contender, row) for row in host_rows]
             for contender, _ in taking_part
-            if answers_object and (bits, HOST_OBJECT) in contender.offers
+            if any((bits, row) in contender.offers for row in host_rows)
         }
         for _ in range(rounds):
             for contender, count in taking_part:
                 taken = contender.time(bits, name, count)
                 results.sample(bits, name, contender.name, taken / count)
                 if contender in host_counts:
-                    created, destroyed = (
+                    whole, *own = (
                         contender.time(bits, row, count) / count
-                        for row, count in zip((HOST_OBJECT, HOST_DESTRUCTOR), host_counts[contender]))
-                    results.sample_host(bits, name, contender.name, created - destroyed)
+                        for row, count in zip(host_rows, host_counts[contender]))
+                    results.sample_host(bits, name, contender.name, whole - sum(own))
     progress("")
     return results
 

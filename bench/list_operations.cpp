@@ -23,9 +23,22 @@ const char* NameOf(Group group) {
     return "";
 }
 
-bool AnswersObject(Shape shape) {
-    return shape == Shape::OneNumber || shape == Shape::TwoNumbers || shape == Shape::RoundedPair ||
-           shape == Shape::NumberAndInt || shape == Shape::Constant;
+/// What the host has to do for an operation.
+const char* HostPart(Shape shape) {
+    switch (shape) {
+        case Shape::OneNumber:
+        case Shape::TwoNumbers:
+        case Shape::RoundedPair:
+        case Shape::NumberAndInt:
+        case Shape::Constant:
+            return "object";
+        case Shape::TextOut:
+            return "new text";
+        case Shape::TextIn:
+            return "known text";
+        default:
+            return "nothing";
+    }
 }
 
 }  // namespace
@@ -34,8 +47,8 @@ int main() {
     const char* separator = "{\n";
     for (const bench::Operation& operation : bench::Operations) {
         std::cout << separator << "  \"" << operation.name << R"(": {"group": ")"
-                  << NameOf(operation.group) << R"(", "answer": ")"
-                  << (AnswersObject(operation.shape) ? "object" : "value") << "\"}";
+                  << NameOf(operation.group) << R"(", "host": ")" << HostPart(operation.shape)
+                  << "\"}";
         separator = ",\n";
     }
     std::cout << "\n}\n";

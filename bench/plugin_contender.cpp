@@ -123,17 +123,38 @@ private:
         }
     }
 
+    template <typename Function>
+    static Function HostFunction(const char* name) {
+        return As<Function>(reinterpret_cast<Routine>(standin::Host::Resolve(name)));
+    }
+
     /// What the host does for each number that it gets: it makes the object and drops it. Dropping
-    /// calls the destructor of the class, which is the plug-in's part and on offer by itself.
+    /// calls the destructor of the class, which is the plug-in's part and on offer by itself. And
+    /// what it does for texts: it makes and drops one, or lends one and tells its encoding.
     void OfferHostPart() {
-        const auto newInstance = As<Object (*)(const char*)>(
-            reinterpret_cast<Routine>(standin::Host::Resolve("PluginNewInstance")));
-        contender_.OfferRepeated(bits_, "host: object", [newInstance, this] {
-            host_.Unlock(newInstance(class_.name.c_str()));
+        const auto offer = [this](const char* name, auto once) {
+            contender_.OfferRepeated(bits_, name, once);
+        };
+        offer("host: object", [make = HostFunction<Object (*)(const char*)>("PluginNewInstance"),
+                               this] { host_.Unlock(make(class_.name.c_str())); });
+        offer("host: destructor", [destruct = As<void (*)(Object)>(class_.destructor),
+                                   empty = host_.MakeObject(class_)] { destruct(empty); });
+
+        const Operation& toText = bench::FindOperation("to text");
+        const String text = As<String (*)(Object)>(Find(toText))(Make(toText.x));
+        const auto encodingOf = HostFunction<std::uint32_t (*)(String)>("REALGetStringEncoding");
+        offer("host: new text", [make = HostFunction<String (*)(const char*, int, std::uint32_t)>(
+                                     "REALBuildStringWithEncoding"),
+                                 bytes = host_.Bytes(text), encoding = encodingOf(text), this] {
+            host_.Unlock(make(bytes.data(), static_cast<int>(bytes.size()), encoding));
         });
-        contender_.OfferRepeated(bits_, "host: destructor",
-                                 [destruct = As<void (*)(Object)>(class_.destructor),
-                                  empty = host_.MakeObject(class_)] { destruct(empty); });
+        offer("host: known text",
+              [lend = HostFunction<void (*)(String)>("REALLockString"),
+               giveBack = HostFunction<void (*)(String)>("REALUnlockString"), encodingOf, text] {
+                  lend(text);
+                  encodingOf(text);
+                  giveBack(text);
+              });
     }
 
     bench::Contender& contender_;
