@@ -15,6 +15,10 @@ namespace ttmath {
         return vqz::kernels::Multiply(*this, ss2, round);         \
     }                                                             \
     template <>                                                   \
+    uint Big<E, W>::MulUInt(uint ss2) {                           \
+        return vqz::kernels::MultiplyByWord(*this, ss2);          \
+    }                                                             \
+    template <>                                                   \
     uint Big<E, W>::DivRef(const Big<E, W>& ss2, bool round) {    \
         return vqz::kernels::Divide(*this, ss2, round);           \
     }

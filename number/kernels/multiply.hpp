@@ -2,9 +2,12 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
+#include "number/kernels/shift_words.hpp"
+#include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
 
@@ -64,6 +67,36 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
     Word carry = AddToExponent<E>(me.exponent, gained);
     carry += AddToExponent<E>(me.exponent, other.exponent);
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
+}
+
+/// me = me * factor; what the mantissa has no room for is cut off. Answers a carry when the
+/// exponent overflows, and for a NaN.
+template <std::size_t E, std::size_t W>
+Word MultiplyByWord(ttmath::Big<E, W>& me, Word factor) {
+    if (me.IsNan()) {
+        return 1;
+    }
+    if (me.IsZero()) {
+        return 0;
+    }
+    if (factor == 0) {
+        me.SetZero();
+        return 0;
+    }
+    Word product[W + 1];
+    Word above = 0;
+    for (std::size_t i = 0; i < W; ++i) {
+        const DoubleWord column = DoubleWord{me.mantissa.table[i]} * factor + above;
+        product[i] = Low(column);
+        above = High(column);
+    }
+    product[W] = above;
+    const auto gained = static_cast<Word>(std::bit_width(above));
+    ShiftRight<W + 1>(product, gained, product);
+    std::copy_n(product, W, me.mantissa.table);
+    Word carry = AddToExponent<E>(me.exponent, gained);
+    carry += me.Standardizing();
+    return me.CheckCarry(carry);
 }
 
 }  // namespace vqz::kernels

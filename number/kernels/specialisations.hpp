@@ -19,6 +19,8 @@ namespace ttmath {
     template <>                                     \
     uint Big<E, W>::MulRef(const Big<E, W>&, bool); \
     template <>                                     \
+    uint Big<E, W>::MulUInt(uint);                  \
+    template <>                                     \
     uint Big<E, W>::DivRef(const Big<E, W>&, bool);
 
 #define BIGNUMBER_DECLARE_POWER(E, W) \

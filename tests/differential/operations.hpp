@@ -99,6 +99,12 @@ std::vector<Operation<Number>> Operations() {
         {"MulCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Mul(other, false); }},
         {"Div", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other); }},
         {"DivCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other, false); }},
+        {"MulWord", Group::Basic,
+         [](N& me, const N& other, auto&) {
+             const ttmath::uint word = other.mantissa.table[0];
+             return me.MulUInt(word >> word % 37 % 32);
+         },
+         nullptr, false},
         {"AddSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Add(me); }},
         {"SubSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Sub(me); }},
         {"MulSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Mul(me); }},

@@ -237,6 +237,7 @@ FAULTS = [
     *faults_in(
         "number/kernels/multiply.hpp",
         ("WithoutLowZeros(product.lower(), W - 1)", "WithoutLowZeros(product.lower(), W - 2)"),
+        ("std::bit_width(above)", "std::bit_width(above) / 2 * 2"),
     ),
     *faults_in("number/kernels/power.hpp", ("powers % 2 != 0", "powers % 2 == 0")),
     *faults_in(
