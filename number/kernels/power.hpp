@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "number/kernels/growing_integer.hpp"
+#include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/specialisations.hpp"
 
 namespace vqz::kernels {
@@ -15,18 +16,15 @@ namespace vqz::kernels {
 /// computed.
 template <ttmath::uint E, ttmath::uint W>
 std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Word power) {
-    // An exponent below 2^19 in magnitude, raised by less than a mantissa's bits to be that of an
-    // odd number, times at most as many: the product stays below 2^31.
-    constexpr ttmath::sint limit = 1 << 19;
+    // A plain exponent, raised by less than a mantissa's bits to be that of an odd number, times at
+    // most as many: the product stays below 2^31.
     constexpr auto bits = std::int64_t{WordBits} * W;
-    static_assert((limit + bits) * bits < std::int64_t{1} << 31);
-    const Word top = number.mantissa.table[W - 1];
-    ttmath::sint exponent = 0;
-    if (number.IsNan() || number.IsZero() || (top & TopBit) == 0 ||
-        WithoutLowZeros(number.mantissa.table, W) != 1 || number.exponent.ToInt(exponent) != 0 ||
-        exponent < -limit || exponent > limit || power > WordBits * W) {
+    static_assert((PlainExponentLimit + bits) * bits < std::int64_t{1} << 31);
+    const auto exponent = PlainExponent(number);
+    if (!exponent || WithoutLowZeros(number.mantissa.table, W) != 1 || power > WordBits * W) {
         return {};
     }
+    const Word top = number.mantissa.table[W - 1];
     const int twos = std::countr_zero(top);
     const Word odd = top >> twos;
     const Word powers = power;
@@ -44,8 +42,8 @@ std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Wor
     }
     ttmath::Big<E, W> value;
     result.StoreTo(value);
-    exponent += static_cast<int>(WordBits * (W - 1)) + twos;
-    value.exponent.Add(ttmath::Int<E>(exponent * static_cast<ttmath::sint>(powers)));
+    const int exponentOfOdd = *exponent + static_cast<int>(WordBits * (W - 1)) + twos;
+    value.exponent.Add(ttmath::Int<E>(exponentOfOdd * static_cast<ttmath::sint>(powers)));
     if (number.IsSign() && powers % 2 != 0) {
         value.SetSign();
     }

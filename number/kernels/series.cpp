@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "number/kernels/column_sums.hpp"
+#include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/series_tail.hpp"
 #include "number/kernels/specialisations.hpp"
 
@@ -18,19 +19,6 @@ using ttmath::uint;
 /// How a sum is ended: by the first term that does not change it, or looking at every fourth one
 /// only.
 enum class EndTest { EachTerm, EveryFourthTerm };
-
-/// A number's exponent, provided it is a number like any other: neither NaN nor zero, its top bit
-/// set, and so near to 1 that no power in a series can leave the range of exponents.
-template <uint E, uint W>
-std::optional<int> PlainExponent(const Big<E, W>& number) {
-    constexpr int limit = 1 << 20;
-    ttmath::sint exponent = 0;
-    if (number.IsNan() || number.IsZero() || !number.mantissa.IsTheHighestBitSet() ||
-        number.exponent.ToInt(exponent) != 0 || exponent < -limit || exponent > limit) {
-        return {};
-    }
-    return exponent;
-}
 
 /// Whether 2^position, added to or subtracted from the mantissa, leaves its top bit the top bit.
 template <uint W>
@@ -158,7 +146,10 @@ public:
     }
 
     bool Advance() {
-        return index_.Add(one_) == 0 && factorial_.Mul(index_) == 0 && power_.Mul(x_) == 0;
+        uint carry = index_.Add(one_);
+        carry += factorial_.Mul(index_);
+        carry += power_.Mul(x_);
+        return carry == 0;
     }
 
     static TermRatio Ratio(uint index) { return {1, index}; }
@@ -192,7 +183,11 @@ public:
         return term.Div(denominator_) == 0;
     }
 
-    bool Advance() { return power_.Mul(square_) == 0 && denominator_.Add(two_) == 0; }
+    bool Advance() {
+        uint carry = power_.Mul(square_);
+        carry += denominator_.Add(two_);
+        return carry == 0;
+    }
 
     static TermRatio Ratio(uint index) { return {2 * index - 3, 2 * index - 1}; }
     const Number& multiplier() const { return square_; }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "number/kernels/growing_integer.hpp"
+#include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/power.hpp"
 #include "number/kernels/specialisations.hpp"
 #include "number/kernels/words.hpp"
@@ -93,7 +94,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     text.clear();
     uint word = 0;
     uint bit = 0;
-    if (base < 2 || base > 16) {
+    if (base - 2 > 16 - 2) {
         return;
     }
     if (!integer.FindLeadingBit(word, bit)) {
@@ -104,7 +105,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     const double bits = static_cast<double>(word) * WordBits + bit + 1;
     text.reserve(static_cast<std::size_t>(bits * digitsPerBit) + 3);
     if (negative) {
-        text = '-';  // GCOVR_EXCL_LINE: asked for by signed integers, and none has such a size
+        text = '-';
     }
     AppendDigits(text, integer, base);
 }
@@ -152,13 +153,13 @@ bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
     constexpr std::int64_t logarithm = 1292913986;
     constexpr std::int64_t one = std::int64_t{1} << 32;
     constexpr std::int64_t margin = one >> 12;
-    constexpr ttmath::sint limit = 1 << 20;
-    ttmath::sint n = 0;
-    if (x.exponent.ToInt(n) != 0 || n < -limit ||
-        n > limit - static_cast<ttmath::sint>(WordBits * W)) {
+    constexpr int belowTopBit = WordBits * W - 1;
+    static_assert(PlainExponentLimit + belowTopBit <= 1 << 20);
+    const auto exponent = PlainExponent(x);
+    if (!exponent) {
         return false;
     }
-    n += WordBits * W - 1;
+    const int n = *exponent + belowTopBit;
     const std::int64_t scaled = n * logarithm;
     const std::int64_t fraction = scaled & (one - 1);
     if (n == 0) {
@@ -216,17 +217,18 @@ uint ReadIntegerPart(Big<E, W>& number, const char*& source, const ttmath::Conv&
                      bool& valueRead) {
     ttmath::Misc::SkipWhiteCharacters(source);
     DigitReader reader(source, conv);
-    valueRead = ReadExactly(reader, conv.base, number) != 0 || valueRead;
+    if (ReadExactly(reader, conv.base, number) != 0) {
+        valueRead = true;
+    }
     const Big<E, W> base(conv.base);
+    // No text is so long that the exponent overflows.
     uint carry = 0;
-    for (ttmath::sint digit = 0; carry == 0 && (digit = reader.Digit()) != -1;) {
-        carry = number.Mul(base) != 0 || number.Add(Big<E, W>(digit)) != 0 ? 1 : 0;
-        if (carry == 0) {
-            reader.Advance();
-        }
+    for (ttmath::sint digit = 0; (digit = reader.Digit()) != -1; reader.Advance()) {
+        carry += number.Mul(base);
+        carry += number.Add(Big<E, W>(digit));
     }
     source = reader.place();
-    return carry;
+    return carry == 0 ? 0 : 1;
 }
 
 /// Reads the digits behind the point and adds what they count, as
@@ -248,7 +250,6 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
         carry += fraction.Mul(base);
         carry += fraction.Add(Big<E, W>(digit));
         ++count;
-        carry += count == 0 ? 1 : 0;
         reader.Advance();
     }
     reader.SkipDigits();

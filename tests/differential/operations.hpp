@@ -48,6 +48,9 @@ void MakeHugePower(Number& me, Number& other) {
     me = random.OneIn(2) ? 1 : random.Word() >> random.Below(32);
     const auto twos = ttmath::sint((1U << (18 + random.Below(4))) + random.Below(8192) - 4096);
     me.exponent.Add(random.OneIn(2) ? twos : -twos);
+    if (random.OneIn(8)) {
+        me.exponent.table[1] ^= 1;
+    }
     if (isNegative) {
         me.ChangeSign();
     }
@@ -84,6 +87,23 @@ ttmath::uint ReadText(Number& me, const Number& other, std::string& text) {
     const ttmath::uint carry = me.FromString(text, conv, &after, &read);
     text += std::to_string(after - text.c_str()) + (read ? " read" : "");
     return carry;
+}
+
+/// Writes the mantissa as a signed integer; the other operand tells the base, which may be none.
+template <typename Number>
+ttmath::uint WriteInteger(Number& me, const Number& other, std::string& text) {
+    constexpr auto words = sizeof(me.mantissa) / sizeof(ttmath::uint);
+    const ttmath::Int<words> integer(me.mantissa);
+    integer.ToString(text, other.mantissa.table[0] % 20);
+    return 0;
+}
+
+/// Brings a number near a power of 10: 2^2136 is just below 10^643.
+template <typename Number>
+void MakeNearPowerOfTen(Number& me, Number& other) {
+    const auto factor = ttmath::sint(other.mantissa.table[0] % 20) - 10;
+    const auto belowTopBit = ttmath::sint(sizeof(me.mantissa) * 8 - 1);
+    me.exponent = 2136 * factor - belowTopBit;
 }
 
 /// All operations of a number type.
@@ -151,7 +171,9 @@ std::vector<Operation<Number>> Operations() {
         {"ATanh", Group::Composed, CallFunction<N, ttmath::ATanh<N>>},
         {"ACoth", Group::Composed, CallFunction<N, ttmath::ACoth<N>>},
         {"ReadText", Group::Text, ReadText<N>, nullptr, false},
+        {"WriteInteger", Group::Text, WriteInteger<N>, nullptr, false},
         {"Text10", Group::Text, WriteAndRead<N, 10>},
+        {"Text10Near", Group::Text, WriteAndRead<N, 10>, MakeNearPowerOfTen<N>, false},
         {"Text16", Group::Text, WriteAndRead<N, 16>, nullptr, false},
         {"Text3", Group::Text, WriteAndRead<N, 3>, nullptr, false},
     };
