@@ -3,11 +3,8 @@
 usage: run.py [ctest option...]
 
 Builds without optimisation, runs the tests in the native library, and fails when less is covered than
-is asked for. Branches that only a thrown exception takes do not count: in most files the compiler marks
-them. In the kernels it does not, so that their branches are counted where the source decides something,
-and reported without a limit: a condition there still counts what its calls might throw. A line that
-cannot run here is marked in the source, with the reason: GCOVR_EXCL_LINE, or GCOVR_EXCL_START to
-GCOVR_EXCL_STOP.
+is asked for. Branches that only a thrown exception takes do not count. A line that cannot run here is
+marked in the source, with the reason: GCOVR_EXCL_LINE, or GCOVR_EXCL_START to GCOVR_EXCL_STOP.
 """
 
 import os
@@ -20,8 +17,6 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 PRESET = "linux-x86-coverage"
 BUILD = ROOT / "build" / PRESET
 FOLDERS = ["plugin", "host", "number", "platform"]
-KERNELS = "number/kernels"
-NO_DECISION = r"^(?!.*(\bif\b|\bfor\b|\bwhile\b|\?|&&|\|\|)).*$"
 LINES_PERCENT = 100
 BRANCHES_PERCENT = 95
 # Long computations in the larger precision, hundreds of hosts, and the sizes and sections of the file
@@ -71,15 +66,10 @@ def main() -> None:
 
     page = BUILD / "coverage.html"
     own = [word for folder in FOLDERS for word in ("--filter", f"{ROOT}/{folder}/")]
-    kernels = f"{ROOT}/{KERNELS}/"
-    print("== lines of everything", flush=True)
-    lines = ["--txt", "--html-details", page, "--fail-under-line", str(LINES_PERCENT)]
-    covered = report([*own, *lines])
-    print(f"== branches of everything but {KERNELS}", flush=True)
-    limit = ["--fail-under-branch", str(BRANCHES_PERCENT)]
-    covered &= report([*own, "--exclude", kernels, "--txt", "--branches", *limit])
-    print(f"== branches of {KERNELS}", flush=True)
-    covered &= report(["--filter", kernels, "--exclude-branches-by-pattern", NO_DECISION, "--txt", "--branches"])
+    print("== lines", flush=True)
+    covered = report([*own, "--txt", "--html-details", page, "--fail-under-line", str(LINES_PERCENT)])
+    print("== branches", flush=True)
+    covered &= report([*own, "--txt", "--branches", "--fail-under-branch", str(BRANCHES_PERCENT)])
     list_excluded_lines()
     print(f"Line by line: {page.relative_to(ROOT)}")
     sys.exit(0 if covered else 1)

@@ -98,12 +98,12 @@ ttmath::uint WriteInteger(Number& me, const Number& other, std::string& text) {
     return 0;
 }
 
-/// Brings a number near a power of 10: 2^2136 is just below 10^643.
+/// Makes the mantissa's unit nearly a power of 10, where their logarithms decide how many digits a
+/// text has: 2^2136 is just below 10^643.
 template <typename Number>
 void MakeNearPowerOfTen(Number& me, Number& other) {
     const auto factor = ttmath::sint(other.mantissa.table[0] % 20) - 10;
-    const auto belowTopBit = ttmath::sint(sizeof(me.mantissa) * 8 - 1);
-    me.exponent = 2136 * factor - belowTopBit;
+    me.exponent = 2136 * factor;
 }
 
 /// All operations of a number type.
