@@ -46,13 +46,17 @@ KERNELS = Stage(
     "differential/sample",
 )
 
-# Where the first failure is likely, by the beginning of the file's name; the rest follows.
+# Where the first failure is likely, by the longest beginning of the file's name; the rest follows.
 LIKELY = {
     "host/": [UNIT],
     "platform/": [UNIT],
     "plugin/members/": [],
     "plugin/": [UNIT, GOLDEN],
+    "host/random": [OPERATIONS],
     "number/kernels/": [KERNELS],
+    "number/lifecycle": [TABLES],
+    "number/routine": [TABLES],
+    "plugin/members/constants": [OPERATIONS],
     "number/conversions": [Stage(COMMAND, "programs/(values|errors|debug_log)", SLOW_PROGRAMS)],
     "number/text": [Stage(COMMAND, "programs/(text|bad_input|encodings)", SLOW_PROGRAMS)],
     "number/ops": [Stage(COMMAND, "programs/(arithmetic|errors|comparison|debug_log)", SLOW_PROGRAMS)],
@@ -61,7 +65,8 @@ ALL = [PROGRAMS, UNIT, GOLDEN, TABLES, OPERATIONS]
 
 
 def stages_for(fault: Fault) -> list[Stage]:
-    first = next((stages for start, stages in LIKELY.items() if fault.file.startswith(start)), [])
+    matches = [start for start in LIKELY if fault.file.startswith(start)]
+    first = LIKELY[max(matches, key=len)] if matches else []
     return [*first, *(stage for stage in ALL if stage not in first)]
 
 
