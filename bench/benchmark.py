@@ -151,7 +151,7 @@ def measure(contenders, operations, rounds, nanoseconds):
         host_counts = {
             contender: [count_for(contender, row) for row in host_rows]
             for contender, _ in taking_part
-            if any((bits, row) in contender.offers for row in host_rows)
+            if host_rows and all((bits, row) in contender.offers for row in host_rows)
         }
         for _ in range(rounds):
             for contender, count in taking_part:

@@ -16,10 +16,10 @@ void MultiplyLimbsAvx2(const Word* leftEnd, int leftCount, const Word* rightEnd,
                        int columns, Word* productEnd);
 
 /// Divides two normalised mantissas of W words, seen as fractions; the divisor's lowest words but
-/// `divisorCount` are 0. Answers the integer part of the quotient. The words of its
-/// fraction end before `quotientEnd`; there are as many as whole groups of limbs fill. The quotient
-/// is exact but for the bits below limb LimbCount(W) of the fraction: it is less than two units of
-/// that limb too small, and never too great.
+/// `divisorCount` are 0. Answers the integer part of the quotient. The words of its fraction end
+/// before `quotientEnd`; there are as many as whole groups of limbs fill. The quotient is exact but
+/// for the bits below limb LimbCount(W) of the fraction: it is less than two units of that limb too
+/// small, and never too great.
 template <int W>
 Word DivideLimbsSse2(const Word* dividend, const Word* divisor, int divisorCount,
                      Word* quotientEnd);

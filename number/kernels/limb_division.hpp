@@ -15,7 +15,7 @@
 // limbs times m weigh 2^-28 as much as limbs, and need no shift.)
 //
 // Rounding m down takes off 2^-31 of it at most, and t + 1 in place of the divisor as much again:
-// 0 <= d < 2^-30.
+// 0 < d < 2^-30.
 //
 // Second, instead of changing all that is left of the dividend for each digit, each column of it is
 // completed when its turn comes, by all products of digits and limbs of d that fall in it,
@@ -35,8 +35,8 @@
 //  - of the digit itself, for the columns behind it, less than b * 2^28 * d < b / 4.
 //
 // This is what the next digit finds, in units of 2^28: b = 1 + b / 4 + 2^-20 + 2^-28, b < 1.34. A
-// column sums up at most LimbCount(W + 1) <= 75 products below b * 2^56, one product of a limb of
-// the dividend and m, below 2^60, and a carry, together less than 2^63.
+// column sums up at most LimbCount(W, 3) <= 74 products below b * 2^56, since limb 0 of d is 0, one
+// product of a limb of the dividend and m, below 2^60, and a carry, together less than 2^63.
 //
 // So less than 2 units are left behind the last digit, too.
 #pragma once
@@ -104,7 +104,7 @@ private:
                 _mm_storel_epi64(reinterpret_cast<__m128i*>(limbs + i),
                                  _mm_andnot_si128(sum, mask));
             }
-            // With a divisor of more than one word, d is not 0, and so has no limb 0.
+            // For 0 < d < 2^-30.
             limbs[0] = 0;
             ++limbs[limbs_.count()];
         }

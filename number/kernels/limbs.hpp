@@ -15,7 +15,6 @@
 // Cutting and joining take two limbs at once: they are 7 bytes, wherever the words begin.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 
 #include <emmintrin.h>

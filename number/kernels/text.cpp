@@ -94,7 +94,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     text.clear();
     uint word = 0;
     uint bit = 0;
-    if (base - 2 > 16 - 2) {
+    if (base < 2 || base > 16) {
         return;
     }
     if (!integer.FindLeadingBit(word, bit)) {
@@ -221,7 +221,7 @@ uint ReadIntegerPart(Big<E, W>& number, const char*& source, const ttmath::Conv&
         valueRead = true;
     }
     const Big<E, W> base(conv.base);
-    // No text is so long that the exponent overflows.
+    // The plain member ends at a carry, but no text is so long that there is one.
     uint carry = 0;
     for (ttmath::sint digit = 0; (digit = reader.Digit()) != -1; reader.Advance()) {
         carry += number.Mul(base);
@@ -254,7 +254,9 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
     }
     reader.SkipDigits();
     source = reader.place();
-    valueRead = count != 0 || valueRead;
+    if (count != 0) {
+        valueRead = true;
+    }
     carry += RaiseToPower(base, count);
     carry += fraction.Div(base);
     carry += number.Add(fraction);

@@ -49,7 +49,7 @@ void MakeHugePower(Number& me, Number& other) {
     const auto twos = ttmath::sint((1U << (18 + random.Below(4))) + random.Below(8192) - 4096);
     me.exponent.Add(random.OneIn(2) ? twos : -twos);
     if (random.OneIn(8)) {
-        me.exponent.table[1] ^= 1;
+        me.exponent.table[1] ^= 1;  // Of more than a word.
     }
     if (isNegative) {
         me.ChangeSign();
@@ -89,6 +89,12 @@ ttmath::uint ReadText(Number& me, const Number& other, std::string& text) {
     return carry;
 }
 
+/// An integer of few or many bits.
+template <typename Number>
+ttmath::uint WordFactor(const Number& other) {
+    return other.mantissa.table[0] >> other.mantissa.table[1] % 32;
+}
+
 /// Writes the mantissa as a signed integer; the other operand tells the base, which may be none.
 template <typename Number>
 ttmath::uint WriteInteger(Number& me, const Number& other, std::string& text) {
@@ -99,7 +105,7 @@ ttmath::uint WriteInteger(Number& me, const Number& other, std::string& text) {
 }
 
 /// Makes the mantissa's unit nearly a power of 10, where their logarithms decide how many digits a
-/// text has: 2^2136 is just below 10^643.
+/// text has: 2^2136 is just above 10^643.
 template <typename Number>
 void MakeNearPowerOfTen(Number& me, Number& other) {
     const auto factor = ttmath::sint(other.mantissa.table[0] % 20) - 10;
@@ -119,12 +125,8 @@ std::vector<Operation<Number>> Operations() {
         {"MulCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Mul(other, false); }},
         {"Div", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other); }},
         {"DivCut", Group::Basic, [](N& me, const N& other, auto&) { return me.Div(other, false); }},
-        {"MulWord", Group::Basic,
-         [](N& me, const N& other, auto&) {
-             const ttmath::uint word = other.mantissa.table[0];
-             return me.MulUInt(word >> word % 37 % 32);
-         },
-         nullptr, false},
+        {"WordProduct", Group::Basic,
+         [](N& me, const N& other, auto&) { return me.MulUInt(WordFactor(other)); }},
         {"AddSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Add(me); }},
         {"SubSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Sub(me); }},
         {"MulSelf", Group::Basic, [](N& me, const N&, auto&) { return me.Mul(me); }},

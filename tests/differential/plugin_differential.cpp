@@ -28,6 +28,7 @@ enum class Shape {
     Rounding,        ///< of one number with another, and a switch for rounding
     Function,        ///< shared, of one number
     FunctionOfPair,  ///< shared, of two numbers
+    WordFactor,      ///< of one number with an integer that the other one tells
     Text,            ///< a property that is read and written
 };
 
@@ -49,6 +50,7 @@ Member FindMember(std::string_view operation) {
                 rest != "Cut", rest == "Self"};
     }
     static const std::map<std::string_view, Member> others{
+        {"WordProduct", {"Multiply(value as UInt32) as $", Shape::WordFactor}},
         {"Sqrt", {"Sqrt as $", Shape::Method}},
         {"Pow", {"Pow(other as $) as $", Shape::MethodOfPair}},
         {"PowInteger", {"Pow(other as $) as $", Shape::MethodOfPair}},
@@ -87,7 +89,7 @@ public:
                                  Number& me, const Number& other, std::string& text) {
                 Write(first_, me);
                 Write(second_, other);
-                return Call(member, routine, me, text);
+                return Call(member, routine, me, WordFactor(other), text);
             };
         }
         return operations;
@@ -138,7 +140,8 @@ private:
     }
 
     /// Answers 1 when the call failed, which every failure tells by an exception.
-    ttmath::uint Call(const Member& member, Routine routine, Number& me, std::string& text) {
+    ttmath::uint Call(const Member& member, Routine routine, Number& me, ttmath::uint factor,
+                      std::string& text) {
         const Object partner = member.isPartner ? first_ : second_;
         Object result = nullptr;
         switch (member.shape) {
@@ -153,6 +156,9 @@ private:
             case Shape::Rounding:
                 result = As<Object (*)(Object, Object, int)>(routine)(first_, partner,
                                                                       member.isRounded ? 1 : 0);
+                break;
+            case Shape::WordFactor:
+                result = As<Object (*)(Object, ttmath::uint)>(routine)(first_, factor);
                 break;
             case Shape::Text:
                 WriteAndRead(member.declaration, text);
