@@ -22,7 +22,7 @@ from faults import FAULTS, Fault
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PRESET = "linux-x86-faults"
-SECONDS_FOR_A_TEST = 200
+SECONDS_FOR_A_TEST = 600
 SLOW_PROGRAMS = "bad_input/(long_text|exponents)|raw_nonsense|hosts/every_host|functions/known_values"
 
 
