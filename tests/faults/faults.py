@@ -219,7 +219,7 @@ FAULTS = [
         ("whole = bytes / PairBytes;", "whole = (bytes - 1) / PairBytes;"),
         ("_mm_srli_epi64(load(2 * pair + 1), LimbBits));", "_mm_setzero_si128());"),
     ),
-    *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W - 1 &&")),
+    *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W + 1 &&")),
     *faults_in(
         "number/kernels/lanes_avx2.hpp",
         ("blend_epi32(vector, next, 0x03)", "blend_epi32(vector, next, 0x01)"),
