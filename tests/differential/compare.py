@@ -1,10 +1,10 @@
 """Compares what builds of the arithmetic compute, byte for byte, with plain ttmath.
 
-usage: compare.py [--basic N] [--function N] [--composed N] [--text N] [--seed S] [--cache FOLDER]
-                  [--emulator PROGRAM] [--library FILE] STOCK VARIANT...
+usage: compare.py [--basic N] [--function N] [--composed N] [--text N] [--bits B] [--seed S]
+                  [--cache FOLDER] [--emulator PROGRAM] [--library FILE] STOCK VARIANT...
 
 Each operation of a group is called N times per precision and program (tests/differential/differential.cpp
-says what with). The answers of the stock program are kept in the cache, if there is one, for the next
+says what with); with --bits in that precision only. The answers of the stock program are kept in the cache, if there is one, for the next
 variants and runs. A thorough run takes an hour:
 
     compare.py --basic 1000000 --function 20000 --composed 2000 --text 20000 --cache build/differential
@@ -78,6 +78,7 @@ def main() -> None:
     parser = argparse.ArgumentParser(usage=__doc__.split("usage: ")[1])
     for group in GROUPS:
         parser.add_argument(f"--{group}", type=int, default=0)
+    parser.add_argument("--bits", type=int, choices=PRECISIONS)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--cache", type=pathlib.Path)
     parser.add_argument("--emulator")
@@ -89,7 +90,7 @@ def main() -> None:
         [f"--{group}", str(count), "--bits", str(bits), "--seed", str(options.seed)]
         for group in GROUPS
         if (count := getattr(options, group))
-        for bits in PRECISIONS
+        for bits in ([options.bits] if options.bits else PRECISIONS)
     ]
     if not jobs:
         parser.error("nothing to compare")

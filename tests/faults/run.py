@@ -43,7 +43,7 @@ TABLES = Stage(("BigNumberVQZ", "table_tests"), "unit/table_tests")
 OPERATIONS = Stage(("BigNumberVQZ", "operation_tests"), "unit/operation_tests/(others|256)")
 KERNELS = Stage(
     tuple(f"differential_{variant}" for variant in ("stock", "kernels", "sse2", "forced")),
-    "differential/sample",
+    "differential/(sample|functions)",
 )
 
 # Where the first failure is likely, by the longest beginning of the file's name; the rest follows.
