@@ -1,4 +1,4 @@
-"""Writes the reference values that the functions of the number classes are measured by.
+"""Writes the reference values of the chosen arguments that the functions are measured by.
 
 usage: make_reference.py FOLDER
 
@@ -7,17 +7,23 @@ names the version) and are right in all their 2336 bits, which are 703 decimal d
 of each value is what its expression gives after rounding to 240 bits, so that both number classes
 hold it exactly.
 
+This file also says, for each part of a function's domain, how seeded arguments are drawn that fill
+the mantissa. measure.py draws them by the thousand and keeps the worst.
+
 The lines of a file:
   member|DECLARATION                        the member of the classes, '$' for the class's name
-  region|NAME|LIMIT256|LIMIT2048            a part of the domain, and the largest error allowed in it
-                                            in each precision: units in the last place, or 2^POWER
+  region|NAME|BOUND                         a part of the domain, and the error that is never exceeded
+                                            there, in units in the last place, if there is a reason
+                                            for such a bound; otherwise nothing
   value|EXPRESSION|ARGUMENT ...|RESULT      numbers as [-]0xINTEGERp[-]0xPOWER: INTEGER * 2^POWER
 """
 
 import argparse
 import pathlib
 from dataclasses import dataclass, field
+from typing import Callable
 
+import draws
 import mpmath
 from mpmath import mp, mpf
 
@@ -30,12 +36,13 @@ GUARD_BITS = [3000, 5000]
 
 @dataclass
 class Region:
-    """A part of a function's domain. Limits are in units in the last place."""
+    """A part of a function's domain."""
 
     name: str
-    limit256: str
-    limit2048: str
     arguments: list  # of expressions, or of tuples of them
+    draw: Callable | None = None  # (random generator, bits of the mantissa) -> tuple of arguments
+    bound: str = ""  # in units in the last place
+    only2048: bool = False  # whether the results are beyond the smaller class's range
 
 
 @dataclass
@@ -51,11 +58,11 @@ class Function:
 NAMES = {"pi": lambda: +mp.pi, "e": lambda: +mp.e, "sqrt": lambda: mp.sqrt}
 
 
-def evaluated(expression: str):
-    """The value of an expression of integers, + - * / **, pi, e and sqrt, rounded to 240 bits."""
+def evaluated(expression: str, bits: int = ARGUMENT_BITS):
+    """The value of an expression of integers, + - * / **, pi, e and sqrt, rounded to so many bits."""
     scope = {name: make() for name, make in NAMES.items()}
     value = mpmath.mpmathify(eval(rational(expression), {"__builtins__": {}, "F": exact}, scope))
-    with mp.workprec(ARGUMENT_BITS):
+    with mp.workprec(bits):
         return +value
 
 
@@ -123,18 +130,20 @@ def shared(name: str) -> str:
     return f"{name}(value as $) as $"
 
 
-def angle(name: str, compute) -> Function:
-    numbers = both_signs(["1/3", "1", "30", "45", "60", "90", "100", "180", "200", "360", "400",
-                          "pi", "pi/2", "1000/7"])
+ANGLES = both_signs(["1/3", "1", "30", "45", "60", "90", "100", "127/10", "180", "200", "360",
+                     "400", "pi", "pi/2", "1000/7"]) + TINY + HUGE
+
+
+def angle(name: str, compute, bound: str) -> Function:
     return Function(name, shared(name), compute, [
-        Region("all", "4", "4", numbers + TINY + HUGE)])
+        Region("2^-5000 to 2^5000", ANGLES, draws.magnitude(-5000, 5000), bound)])
 
 
-def long_angle(name: str, member: str, compute) -> Function:
+def long_angle(name: str, member: str, compute, bound: str) -> Function:
     triples = [(d, m, s) for d in ("0", "10", "-10", "1/3", "359") for m in ("0", "30", "59", "90")
                for s in ("0", "356/10")]
     return Function(name, f"{member}(d as $, m as $, s as $) as $", compute, [
-        Region("all", "4", "4", triples)])
+        Region("d to 360, m and s to 100", triples, draws.long_angle, bound)])
 
 
 def method(name: str) -> str:
@@ -144,173 +153,259 @@ def method(name: str) -> str:
 PAIRS = [(a, b) for a in ("1/3", "-7", "10**20/7", "sqrt(2)", "2**-100/3", "2**1000/3")
          for b in ("3/7", "-pi", "1+2**-200", "2**200/9", "e*2**-50", "2**-900")]
 
+
+def pairs_for_sum(adding: bool, far: bool):
+    """The pairs whose sum is a sum, or a difference, of magnitudes that are 4 times apart or not."""
+    chosen = []
+    for a, b in PAIRS:
+        x, y = evaluated(a), evaluated(b)
+        ratio = max(abs(x / y), abs(y / x))
+        if (ratio >= 4) == far:
+            chosen.append((a, b if ((x < 0) == (y < 0)) == adding else f"-({b})"))
+    return chosen
+
+
+def sums(name: str, sign: int) -> Function:
+    """Add, or Subtract with the sign -1. What counts is whether the magnitudes are added."""
+    def signed(pairs):
+        return pairs if sign > 0 else [(a, f"-({b})") for a, b in pairs]
+
+    together, against = ("same", "opposite") if sign > 0 else ("opposite", "same")
+    return Function(name, method(name), lambda a, b: a + sign * b, [
+        Region(f"{together} signs", signed(pairs_for_sum(True, True) + pairs_for_sum(True, False)),
+               draws.sum_of_magnitudes(sign), "0.5"),
+        Region(f"{against} signs, one 4 times the other or more",
+               signed(pairs_for_sum(False, True)), draws.difference_of_far(-sign), "1"),
+        Region(f"{against} signs, less than 4 times",
+               signed(pairs_for_sum(False, False) + [("1", "-1+2**-200")]),
+               draws.difference_of_near(-sign)),
+    ])
+
+
 FUNCTIONS = [
     Function("Sin", shared("Sin"), mp.sin, [
-        Region("1/8 to 8", "16", "16", both_signs(COMMON)),
-        Region("close to 0", "2", "2", SMALL + TINY + INFINITESIMAL),
-        Region("2^20 to 2^100", "2^99", "2^94", LARGE),
-        Region("within 2^-60 of pi", "2^92", "2^92", BESIDE_PI),
+        Region("below 1/8", SMALL + TINY + INFINITESIMAL, draws.below(-3)),
+        Region("1/8 to 8, not within 1/16 of a zero", both_signs(COMMON),
+               draws.away_from(draws.magnitude(-3, 3), zeros_per_pi=1)),
+        Region("8 to 2^10, not within 1/16 of a zero", both_signs(["10", "100", "1000", "9/7*8"]),
+               draws.away_from(draws.magnitude(3, 10), zeros_per_pi=1)),
+        Region("2^10 to 2^100", LARGE, draws.magnitude(10, 100)),
+        Region("2^-90 to 2^-60 from a zero below 8", BESIDE_PI, draws.beside_pi(["1", "2"])),
     ]),
     Function("Cos", shared("Cos"), mp.cos, [
-        Region("1/8 to 8", "64", "32", both_signs(COMMON)),
-        Region("close to 0", "1", "2", SMALL + TINY + INFINITESIMAL),
-        Region("2^20 to 2^100", "2^98", "2^98", LARGE),
-        Region("within 2^-60 of pi/2", "2^91", "2^89", BESIDE_HALF_PI),
+        Region("below 1/8", SMALL + TINY + INFINITESIMAL, draws.below(-3)),
+        Region("1/8 to 8, not within 1/16 of a zero", both_signs(COMMON),
+               draws.away_from(draws.magnitude(-3, 3), zeros_per_pi=1, first="1/2")),
+        Region("8 to 2^10, not within 1/16 of a zero", both_signs(["10", "100", "1000", "9/7*8"]),
+               draws.away_from(draws.magnitude(3, 10), zeros_per_pi=1, first="1/2")),
+        Region("2^10 to 2^100", LARGE, draws.magnitude(10, 100)),
+        Region("2^-90 to 2^-60 from a zero below 8", BESIDE_HALF_PI,
+               draws.beside_pi(["1/2", "3/2", "5/2"])),
     ]),
     Function("Tan", shared("Tan"), mp.tan, [
-        Region("1/8 to 8", "64", "64", both_signs(COMMON)),
-        Region("close to 0", "1", "2", SMALL + TINY),
-        Region("2^20 to 2^100", "2^100", "2^98", LARGE),
-        Region("within 2^-60 of pi/2", "2^90", "2^88", BESIDE_HALF_PI),
+        Region("below 1/8", SMALL + TINY, draws.below(-3)),
+        Region("1/8 to 8, not within 1/16 of a zero or pole", both_signs(COMMON),
+               draws.away_from(draws.magnitude(-3, 3), zeros_per_pi=2)),
+        Region("8 to 2^10, not within 1/16 of a zero or pole",
+               both_signs(["10", "100", "1000", "9/7*8"]),
+               draws.away_from(draws.magnitude(3, 10), zeros_per_pi=2)),
+        Region("2^10 to 2^100", LARGE, draws.magnitude(10, 100)),
+        Region("2^-90 to 2^-60 from a zero or pole below 8", BESIDE_HALF_PI,
+               draws.beside_pi(["1/2", "1", "3/2", "2", "5/2"])),
     ]),
     Function("Cot", shared("Cot"), mp.cot, [
-        Region("1/8 to 8", "64", "32", both_signs(COMMON)),
-        Region("close to 0", "2", "4", SMALL + TINY),
-        Region("2^20 to 2^100", "2^99", "2^97", LARGE),
-        Region("within 2^-60 of pi", "2^91", "2^91", BESIDE_PI),
+        Region("below 1/8", SMALL + TINY, draws.below(-3)),
+        Region("1/8 to 8, not within 1/16 of a zero or pole", both_signs(COMMON),
+               draws.away_from(draws.magnitude(-3, 3), zeros_per_pi=2)),
+        Region("8 to 2^10, not within 1/16 of a zero or pole",
+               both_signs(["10", "100", "1000", "9/7*8"]),
+               draws.away_from(draws.magnitude(3, 10), zeros_per_pi=2)),
+        Region("2^10 to 2^100", LARGE, draws.magnitude(10, 100)),
+        Region("2^-90 to 2^-60 from a zero or pole below 8", BESIDE_PI,
+               draws.beside_pi(["1/2", "1", "3/2", "2", "5/2"])),
     ]),
     Function("ASin", shared("ASin"), mp.asin, [
-        Region("1/10 to 1", "8", "64", both_signs(FRACTIONS + ["1"])),
-        Region("close to 1", "1", "1", both_signs(BELOW_ONE)),
-        Region("close to 0", "1", "4", SMALL + TINY + INFINITESIMAL),
+        Region("below 1/10", SMALL + TINY + INFINITESIMAL, draws.below(-4)),
+        Region("1/10 to 19/20", both_signs(FRACTIONS), draws.uniform("1/10", "19/20")),
+        Region("1, and 2^-200 to 1/20 below", both_signs(BELOW_ONE + ["1"]),
+               draws.beside_one(-200, -5, side=-1, both=True)),
     ]),
     Function("ACos", shared("ACos"), mp.acos, [
-        Region("-19/20 to 19/20", "8", "64", both_signs(FRACTIONS) + ["-1", "1"]),
-        Region("close to 1", "2^100", "2^97", BELOW_ONE),
-        Region("close to -1", "1", "1", [f"-({one})" for one in BELOW_ONE]),
-        Region("close to 0", "1", "0.5", SMALL + TINY),
+        Region("-1 to 19/20", both_signs(FRACTIONS) + ["-1"] + SMALL + TINY,
+               draws.between("-1", "19/20")),
+        Region("2^-200 to 1/20 below 1", BELOW_ONE, draws.beside_one(-200, -5, side=-1)),
+        Region("2^-200 to 2^-10 above -1", [f"-({one})" for one in BELOW_ONE],
+               draws.negative(draws.beside_one(-200, -10, side=-1))),
     ]),
     Function("ATan", shared("ATan"), mp.atan, [
-        Region("1/8 to 8", "4", "4", both_signs(COMMON)),
-        Region("close to 0", "2", "4", SMALL + TINY + INFINITESIMAL),
-        Region("large", "1", "1", both_signs(LARGE + HUGE + ASTRONOMIC)),
+        Region("below 1/8", SMALL + TINY + INFINITESIMAL, draws.below(-3)),
+        Region("1/8 to 8", both_signs(COMMON), draws.magnitude(-3, 3)),
+        Region("above 8", both_signs(LARGE + HUGE + ASTRONOMIC), draws.above(3)),
     ]),
     Function("ACot", shared("ACot"), lambda x: mp.pi / 2 - mp.atan(x), [
-        Region("-8 to 8", "16", "16", both_signs(COMMON) + SMALL + TINY),
-        Region("large negative", "1", "1", [f"-({one})" for one in LARGE + HUGE]),
-        Region("2^20 to 2^100", "2^64", "2^98", LARGE),
+        Region("below -8", [f"-({one})" for one in LARGE + HUGE], draws.negative(draws.above(3))),
+        Region("-8 to 8", both_signs(COMMON) + SMALL + TINY, draws.between("-8", "8")),
+        Region("8 to 2^100", LARGE, draws.positive(draws.magnitude(3, 100))),
     ]),
     Function("Sinh", shared("Sinh"), mp.sinh, [
-        Region("1/8 to 8", "64", "64", both_signs(COMMON)),
-        Region("2^-82 to 2^-20", "2^79", "2^82", SMALL),
-        Region("100 to 2^60", "2^63", "2^63", both_signs(HUNDREDS)),
-        Region("2^61 to 2^500", "1", "2^502", ["10**100", "2**500/3"]),
+        Region("2^-82 to 1/8", SMALL, draws.magnitude(-82, -3)),
+        Region("1/8 to 8", both_signs(COMMON), draws.magnitude(-3, 3)),
+        Region("8 to 2^10", both_signs(["100", "1000/3"]), draws.magnitude(3, 10)),
+        Region("2^10 to 2^60", both_signs(["10**6", "10**12/7", "2**60"]), draws.magnitude(10, 60)),
+        Region("2^64 to 2^500", ["10**100", "2**500/3"], draws.magnitude(64, 500), only2048=True),
     ]),
     Function("Cosh", shared("Cosh"), mp.cosh, [
-        Region("1/8 to 8", "32", "64", both_signs(COMMON)),
-        Region("close to 0", "0.5", "2", SMALL + TINY),
-        Region("100 to 2^60", "2^63", "2^63", both_signs(HUNDREDS)),
-        Region("2^61 to 2^500", "1", "2^502", ["10**100", "2**500/3"]),
+        Region("below 1/8", SMALL + TINY, draws.below(-3)),
+        Region("1/8 to 8", both_signs(COMMON + ["13/2"]), draws.magnitude(-3, 3)),
+        Region("8 to 2^10", both_signs(["100", "1000/3"]), draws.magnitude(3, 10)),
+        Region("2^10 to 2^60", both_signs(["10**6", "10**12/7", "2**60"]), draws.magnitude(10, 60)),
+        Region("2^64 to 2^500", ["10**100", "2**500/3"], draws.magnitude(64, 500), only2048=True),
     ]),
     Function("Tanh", shared("Tanh"), mp.tanh, [
-        Region("1/8 to 8", "4", "64", both_signs(COMMON)),
-        Region("2^-82 to 2^-20", "2^79", "2^82", SMALL),
-        Region("10 to 2^60", "4", "0.5", both_signs(["10"] + HUNDREDS)),
+        Region("2^-82 to 1/8", SMALL, draws.magnitude(-82, -3)),
+        Region("1/8 to 8", both_signs(COMMON), draws.magnitude(-3, 3)),
+        Region("8 to 2^60", both_signs(["10"] + HUNDREDS), draws.magnitude(3, 60)),
     ]),
     Function("Coth", shared("Coth"), mp.coth, [
-        Region("1/8 to 8", "4", "32", both_signs(COMMON)),
-        Region("2^-82 to 2^-20", "2^80", "2^82", SMALL),
-        Region("10 to 2^60", "2", "1", both_signs(["10"] + HUNDREDS)),
+        Region("2^-82 to 1/8", SMALL, draws.magnitude(-82, -3)),
+        Region("1/8 to 8", both_signs(COMMON), draws.magnitude(-3, 3)),
+        Region("8 to 2^60", both_signs(["10"] + HUNDREDS), draws.magnitude(3, 60)),
     ]),
     Function("ASinh", shared("ASinh"), mp.asinh, [
-        Region("1/8 to 8", "64", "32", COMMON),
-        Region("-8 to -1/8", "1024", "1024", [f"-({one})" for one in COMMON]),
-        Region("2^-82 to 2^-20", "2^83", "2^83", SMALL),
-        Region("large", "8", "16", LARGE + HUGE + ASTRONOMIC[:3]),
-        Region("-2^100 to -2^18", "2^198", "2^200", [f"-({one})" for one in LARGE]),
+        Region("-2^100 to -8", [f"-({one})" for one in LARGE],
+               draws.negative(draws.magnitude(3, 100))),
+        Region("-8 to -1/8", [f"-({one})" for one in COMMON], draws.negative(draws.magnitude(-3, 3))),
+        Region("2^-82 to 1/8", SMALL, draws.magnitude(-82, -3)),
+        Region("1/8 to 8", COMMON, draws.positive(draws.magnitude(-3, 3))),
+        Region("above 8", LARGE + HUGE + ASTRONOMIC[:3], draws.positive(draws.above(3))),
     ]),
     Function("ACosh", shared("ACosh"), mp.acosh, [
-        Region("20/19 to 100", "4", "16", ABOVE_ONE + ["1", "11/10", "6/5", "4", "6", "8", "50"]),
-        Region("close to 1", "2^100", "2^100", ABOVE_ONE_BARELY),
-        Region("large", "4", "16", LARGE + HUGE + ASTRONOMIC[:3]),
+        Region("2^-200 to 1/20 above 1", ABOVE_ONE_BARELY, draws.beside_one(-200, -5, side=1)),
+        Region("20/19 to 100", ABOVE_ONE + ["1", "11/10", "6/5", "4", "6", "8", "50"],
+               draws.uniform("20/19", "100", both=False)),
+        Region("above 100", LARGE + HUGE + ASTRONOMIC[:3], draws.positive(draws.above(7))),
     ]),
     Function("ATanh", shared("ATanh"), mp.atanh, [
-        Region("1/10 to 19/20", "16", "32", both_signs(FRACTIONS)),
-        Region("close to 1", "1", "1", both_signs(BELOW_ONE)),
-        Region("2^-82 to 2^-20", "2^81", "2^82", SMALL),
+        Region("2^-82 to 1/10", SMALL, draws.magnitude(-82, -4)),
+        Region("1/10 to 19/20", both_signs(FRACTIONS), draws.uniform("1/10", "19/20")),
+        Region("2^-200 to 1/20 below 1", both_signs(BELOW_ONE),
+               draws.beside_one(-200, -5, side=-1, both=True)),
     ]),
     Function("ACoth", shared("ACoth"), mp.acoth, [
-        Region("20/19 to 100", "128", "1024", both_signs(ABOVE_ONE)),
-        Region("close to 1", "1", "2", both_signs(ABOVE_ONE_BARELY)),
-        Region("2^20 to 2^100", "2^66", "2^97", LARGE),
+        Region("2^-200 to 1/20 above 1", both_signs(ABOVE_ONE_BARELY),
+               draws.beside_one(-200, -5, side=1, both=True)),
+        Region("20/19 to 100", both_signs(ABOVE_ONE), draws.uniform("20/19", "100")),
+        Region("100 to 2^100", LARGE, draws.magnitude(7, 100)),
     ]),
     Function("Exp", shared("Exp"), mp.exp, [
-        Region("1/8 to 8", "64", "128", both_signs(COMMON)),
-        Region("close to 0", "1", "4", SMALL + TINY + INFINITESIMAL),
-        Region("100 to 2^60", "2^63", "2^65", both_signs(HUNDREDS)),
-        Region("2^61 to 2^510", "1", "2^512", both_signs(["10**100", "2**510/3"])),
+        Region("below 1/8", SMALL + TINY + INFINITESIMAL, draws.below(-3)),
+        Region("1/8 to 8", both_signs(COMMON), draws.magnitude(-3, 3)),
+        Region("8 to 2^10", both_signs(["100", "1000/3"]), draws.magnitude(3, 10)),
+        Region("2^10 to 2^60", both_signs(["10**6", "10**12/7", "2**60"]), draws.magnitude(10, 60)),
+        Region("2^64 to 2^510", both_signs(["10**100", "2**510/3"]), draws.magnitude(64, 510),
+               only2048=True),
     ]),
     Function("Ln", shared("Ln"), mp.log, [
-        Region("1/8 to 8", "64", "32", COMMON + FRACTIONS),
-        Region("just above 1", "2", "2", ABOVE_ONE_BARELY),
-        Region("just below 1", "2^202", "2^203", BELOW_ONE),
-        Region("large and small", "2", "1", LARGE + HUGE + SMALL + TINY),
-        Region("ends of the range", "0.5", "0.5", ASTRONOMIC + INFINITESIMAL),
+        Region("1/8 to 19/20 and 1 to 8", COMMON + FRACTIONS,
+               draws.not_just_below_one(draws.positive(draws.magnitude(-3, 3)))),
+        Region("2^-200 to 1/20 above 1", ABOVE_ONE_BARELY, draws.beside_one(-200, -5, side=1)),
+        Region("2^-200 to 1/20 below 1", BELOW_ONE, draws.beside_one(-200, -5, side=-1)),
+        Region("2^-5000 to 1/8 and 8 to 2^5000", LARGE + HUGE + SMALL + TINY,
+               draws.positive(draws.either(draws.magnitude(-5000, -3), draws.magnitude(3, 5000)))),
+        Region("ends of the range", ASTRONOMIC + INFINITESIMAL, draws.ends_of_range),
     ]),
     Function("Log", "Log(value as $, base as $) as $", lambda x, b: mp.log(x) / mp.log(b), [
-        Region("all", "16", "16",
+        Region("value 2^-300 to 2^300, not 19/20 to 1; base to 2^100, not 1/2 to 2",
                [(x, b) for b in ("2", "10", "e", "1/3", "2**100")
-                for x in ("1/10", "9/10", "2", "10", "1000/7", "2**300", "2**-99")]),
-        Region("value just above 1", "4", "4", [(x, "10") for x in ABOVE_ONE_BARELY]),
-        Region("value just below 1", "2^203", "2^204", [(x, "10") for x in BELOW_ONE]),
+                for x in ("1/10", "9/10", "2", "10", "1000/7", "2**300", "2**-99")],
+               draws.logarithm),
+        Region("value 2^-200 to 1/20 above 1, base 2 to 100", [(x, "10") for x in ABOVE_ONE_BARELY],
+               draws.both(draws.beside_one(-200, -5, side=1), draws.uniform("2", "100", both=False))),
+        Region("value 2^-200 to 1/20 below 1, base 2 to 100", [(x, "10") for x in BELOW_ONE],
+               draws.both(draws.beside_one(-200, -5, side=-1),
+                          draws.uniform("2", "100", both=False))),
     ]),
     Function("Root", "Root(value as $, index as $) as $", real_root, [
-        Region("1/3 to 10^50", "256", "1024",
+        Region("value 1/4 to 2^166, index 2 to 100",
                [(x, n) for n in ("2", "3", "5", "7", "100") for x in ("2", "10", "1/3", "10**50/7")]
-               + [("-10", "3"), ("-2**100/7", "5"), ("10", "10**20")]),
-        Region("2^-300 to 2^5000", "2^14", "2^15",
-               [(x, n) for n in ("2", "3", "5", "7", "100") for x in ("2**-300", "2**5000/3")]),
-        Region("perfect powers", "0", "0", [("27", "3"), ("-27", "3"), ("10**50", "5"),
-                                            ("7**60", "20"), ("1", "9")]),
+               + [("-10", "3"), ("-2**100/7", "5"), ("10", "10**20")], draws.root(-2, 166)),
+        Region("value 2^-5000 to 2^5000, index 2 to 100",
+               [(x, n) for n in ("2", "3", "5", "7", "100") for x in ("2**-300", "2**5000/3")],
+               draws.root(-5000, 5000)),
+        Region("powers of integers that fill the mantissa or less",
+               [("27", "3"), ("-27", "3"), ("10**50", "5"), ("7**60", "20"), ("1", "9")],
+               draws.perfect_power),
     ]),
     Function("Sqrt", "Sqrt as $", mp.sqrt, [
-        Region("1/10 to 8", "16", "16", COMMON + FRACTIONS),
-        Region("2^-4000 to 2^5000", "2^14", "2^14", LARGE + HUGE + SMALL + TINY),
-        Region("ends of the range", "2^52", "2^507", ASTRONOMIC + INFINITESIMAL),
-        Region("squares", "0", "0", ["4", "49", "10**20", "123456789**2", "7**60"]),
+        Region("1/10 to 8", COMMON + FRACTIONS, draws.positive(draws.magnitude(-3, 3))),
+        Region("2^-5000 to 2^5000", LARGE + HUGE + SMALL + TINY,
+               draws.positive(draws.magnitude(-5000, 5000))),
+        Region("ends of the range", ASTRONOMIC + INFINITESIMAL, draws.ends_of_range),
+        Region("squares of integers that fill the mantissa or less",
+               ["4", "49", "10**20", "123456789**2", "7**60"], draws.square),
     ]),
     Function("Pow", "Pow(other as $) as $", mp.power, [
-        Region("whole exponents to 200", "64", "16",
+        Region("whole exponents to 200, base 2^-100 to 2^100",
                [(x, n) for n in ("2", "3", "10", "-1", "-7", "200")
-                for x in ("3/7", "-10/3", "sqrt(2)", "2**100/3")]),
-        Region("fractional exponents", "2048", "2^12",
+                for x in ("3/7", "-10/3", "sqrt(2)", "2**100/3")] + [("71/10", "123")],
+               draws.whole_power(-100, 100, 1, 200)),
+        Region("whole exponents 200 to 10^6, base 1/1000 to 1000",
+               [("10", "10**6"), ("-10/3", "777")], draws.whole_power(-9, 9, 200, 10**6)),
+        Region("fractional exponents 1/8 to 8, base 1/4 to 2^100",
                [(x, y) for y in ("1/2", "1/3", "-7/2", "20/3", "pi")
-                for x in ("1/3", "2", "10", "2**100/3")]),
-        Region("results of 2^1000 and more", "2^19", "2^21",
-               [("10", "1000/3"), ("2", "10**5/3"), ("10", "10**6"), ("1+2**-40", "2**60/3")]),
+                for x in ("1/3", "2", "10", "2**100/3")],
+               draws.both(draws.positive(draws.magnitude(-2, 100)), draws.magnitude(-3, 3))),
+        Region("fractional exponents 300 to 10^6, base 2 to 1000",
+               [("10", "1000/3"), ("2", "10**5/3"), ("1000/3", "10**6/7")],
+               draws.both(draws.uniform("2", "1000", both=False), draws.uniform("300", "10**6"))),
     ]),
-    angle("DegToRad", lambda x: x * mp.pi / 180),
-    angle("RadToDeg", lambda x: x * 180 / mp.pi),
-    angle("GradToRad", lambda x: x * mp.pi / 200),
-    angle("RadToGrad", lambda x: x * 200 / mp.pi),
-    angle("DegToGrad", lambda x: x * 10 / 9),
-    angle("GradToDeg", lambda x: x * 9 / 10),
-    long_angle("DegToDeg", "DegToDeg", degrees),
-    long_angle("DegToRad of minutes", "DegToRad", lambda *a: degrees(*a) * mp.pi / 180),
-    long_angle("DegToGrad of minutes", "DegToGrad", lambda *a: degrees(*a) * 10 / 9),
-    Function("Add", method("Add"), lambda a, b: a + b, [
-        Region("all", "0.5", "0", PAIRS),
-    ]),
-    Function("Subtract", method("Subtract"), lambda a, b: a - b, [
-        Region("all", "1", "0", PAIRS),
-    ]),
+    # The bounds: a division by 180 or 200 is off by less than 1 unit, a multiplication by at most
+    # 1/2, pi by 1/3. An error that is not the last one can count twice, because the result may have
+    # up to twice as many units as what was rounded.
+    angle("DegToRad", lambda x: x * mp.pi / 180, "3"),
+    angle("RadToDeg", lambda x: x * 180 / mp.pi, "3"),
+    angle("GradToRad", lambda x: x * mp.pi / 200, "3"),
+    angle("RadToGrad", lambda x: x * 200 / mp.pi, "3"),
+    angle("DegToGrad", lambda x: x * 10 / 9, "2"),
+    angle("GradToDeg", lambda x: x * 9 / 10, "2"),
+    # Minutes and seconds add a multiplication, an addition, a division and one more addition.
+    long_angle("DegToDeg", "DegToDeg", degrees, "5"),
+    long_angle("DegToRad of minutes", "DegToRad", lambda *a: degrees(*a) * mp.pi / 180, "8"),
+    long_angle("DegToGrad of minutes", "DegToGrad", lambda *a: degrees(*a) * 10 / 9, "8"),
+    sums("Add", 1),
+    sums("Subtract", -1),
     Function("Multiply", method("Multiply"), lambda a, b: a * b, [
-        Region("all", "1", "0", PAIRS),
+        Region("2^-5000 to 2^5000", PAIRS + [("33/10", "11/10")], draws.pair(-5000, 5000), "0.5"),
+    ]),
+    # The product is cut off, not rounded.
+    Function("Multiply by UInt32", "Multiply(value as UInt32) as $", lambda a, b: a * b, [
+        Region("2^-5000 to 2^5000", [(a, b) for a, _ in PAIRS[::6] for b in
+                                     ("1", "2", "3", "7", "10**9", "2**32-1")],
+               draws.with_word(draws.magnitude(-5000, 5000)), "1"),
     ]),
     Function("Divide", method("Divide"), lambda a, b: a / b, [
-        Region("all", "2", "2", PAIRS),
+        Region("2^-5000 to 2^5000", PAIRS, draws.pair(-5000, 5000), "1"),
     ]),
     Function("Modulate", "Modulate(other as $) as $", remainder, [
-        Region("quotient below 2^20", "0", "0",
-               [(a, b) for a in ("100", "-100", "1000/7", "-sqrt(2)*1000", "1/3", "7")
-                for b in ("3", "-3", "7/8", "5/2", "100")]),
+        Region("integers that the mantissa holds",
+               [(a, b) for a in ("100", "-100", "10**60", "7") for b in ("3", "-3", "7", "100")],
+               draws.integers, "0"),
+        Region("quotient below 2^8",
+               [(a, b) for a in ("100", "-100", "1000/7", "-sqrt(2)*100", "1/3", "7")
+                for b in ("3", "-3", "7/8", "5/2", "100")] + [("2001/2", "73/10")],
+               draws.division(0, 8)),
+        Region("quotient 2^8 to 2^20", [("1234567/100", "73/10"), ("1000000/7", "pi")],
+               draws.division(8, 20)),
+        Region("quotient 2^20 to 2^100", [("10**20/7", "73/10"), ("2**100/7", "pi")],
+               draws.division(20, 100)),
     ]),
-    Function("Pi", "Pi as $", lambda: +mp.pi, [Region("constant", "0.5", "0.5", [()])]),
-    Function("HalfPi", "HalfPi as $", lambda: mp.pi / 2, [Region("constant", "0.5", "0.5", [()])]),
-    Function("TwoPi", "TwoPi as $", lambda: mp.pi * 2, [Region("constant", "0.5", "0.5", [()])]),
-    Function("E", "E as $", lambda: +mp.e, [Region("constant", "0.5", "0.5", [()])]),
-    Function("Ln2", "Ln2 as $", lambda: +mp.ln2, [Region("constant", "0.5", "0.5", [()])]),
-    Function("Ln10", "Ln10 as $", lambda: +mp.ln10, [Region("constant", "0.5", "0.5", [()])]),
+    # The classes keep them as constants that are rounded to the nearest number.
+    Function("Pi", "Pi as $", lambda: +mp.pi, [Region("constant", [()], bound="0.5")]),
+    Function("HalfPi", "HalfPi as $", lambda: mp.pi / 2, [Region("constant", [()], bound="0.5")]),
+    Function("TwoPi", "TwoPi as $", lambda: mp.pi * 2, [Region("constant", [()], bound="0.5")]),
+    Function("E", "E as $", lambda: +mp.e, [Region("constant", [()], bound="0.5")]),
+    Function("Ln2", "Ln2 as $", lambda: +mp.ln2, [Region("constant", [()], bound="0.5")]),
+    Function("Ln10", "Ln10 as $", lambda: +mp.ln10, [Region("constant", [()], bound="0.5")]),
 ]
 
 
@@ -324,40 +419,54 @@ def shown(value) -> str:
     return f"{'-' if sign else ''}0x{int(mantissa):x}p{int(exponent):#x}"
 
 
-def rounded_result(function: Function, arguments, guard_bits: int):
-    with mp.workprec(RESULT_BITS + guard_bits):
+def rounded_result(function: Function, arguments, bits: int, guard_bits: int):
+    with mp.workprec(bits + guard_bits):
         result = mpmath.mpmathify(function.compute(*arguments))
-    with mp.workprec(RESULT_BITS):
+    with mp.workprec(bits):
         return +result
+
+
+def true_result(function: Function, arguments, bits: int = RESULT_BITS):
+    """The function's value, right in so many bits."""
+    result, again = (rounded_result(function, arguments, bits, guard) for guard in GUARD_BITS)
+    if result != again:
+        raise ArithmeticError(f"{function.name} of {arguments} needs more guard bits")
+    return result
+
+
+def use_full_precision() -> None:
+    """Makes mpmath compute, outside of its own functions, with all the bits that are ever needed."""
+    mp.prec = RESULT_BITS + max(GUARD_BITS)
 
 
 def value_line(function: Function, expressions) -> str:
     expressions = expressions if isinstance(expressions, tuple) else (expressions,)
     arguments = [evaluated(expression) for expression in expressions]
-    result, again = (rounded_result(function, arguments, guard) for guard in GUARD_BITS)
-    if result != again:
-        raise ArithmeticError(f"{function.name}{expressions} needs more guard bits")
     name = function.name.split()[0]
     return "|".join(["value", f"{name}({', '.join(expressions)})",
-                     " ".join(map(shown, arguments)), shown(result)])
+                     " ".join(map(shown, arguments)), shown(true_result(function, arguments))])
 
 
 def lines_of(function: Function):
     yield f"member|{function.member}"
     for region in function.regions:
-        yield f"region|{region.name}|{region.limit256}|{region.limit2048}"
+        yield f"region|{region.name}|{region.bound}"
         for expressions in region.arguments:
             yield value_line(function, expressions)
+
+
+def write_lines(folder: pathlib.Path, function: Function, lines) -> None:
+    path = folder / f"{function.name.replace(' ', '_')}.txt"
+    path.write_text("".join(f"{line}\n" for line in lines), encoding="ascii")
 
 
 def main() -> None:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("folder", type=pathlib.Path)
     folder = parser.parse_args().folder
-    mp.prec = RESULT_BITS + max(GUARD_BITS)
+    use_full_precision()
     for function in FUNCTIONS:
-        text = "\n".join(lines_of(function)) + "\n"
-        (folder / f"{function.name.replace(' ', '_')}.txt").write_text(text, encoding="ascii")
+        write_lines(folder, function, lines_of(function))
 
 
 if __name__ == "__main__":

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <ostream>
+#include <string>
 
 namespace operation_tests {
 
@@ -46,21 +47,23 @@ inline constexpr const char* ClassName<Number256> = "BigNumberVQZ";
 template <>
 inline constexpr const char* ClassName<Number2048> = "BiggerNumberVQZ";
 
+/// The digits of all words, most significant first.
+template <typename Words>
+std::string HexOf(const Words& words) {
+    std::string digits;
+    std::for_each(words.rbegin(), words.rend(), [&digits](std::uint32_t word) {
+        for (int shift = 28; shift >= 0; shift -= 4) {
+            digits += "0123456789abcdef"[(word >> shift) & 0xF];
+        }
+    });
+    return digits;
+}
+
 /// Shows the flags and all words, most significant first.
 template <std::size_t ExponentWords, std::size_t MantissaWords>
 std::ostream& operator<<(std::ostream& out, const Number<ExponentWords, MantissaWords>& number) {
-    const auto showWords = [&out](const auto& words) {
-        std::for_each(words.rbegin(), words.rend(), [&out](std::uint32_t word) {
-            for (int shift = 28; shift >= 0; shift -= 4) {
-                out << "0123456789abcdef"[(word >> shift) & 0xF];
-            }
-        });
-    };
-    out << "flags " << unsigned{number.flags} << " mantissa ";
-    showWords(number.mantissa);
-    out << " exponent ";
-    showWords(number.exponent);
-    return out;
+    return out << "flags " << unsigned{number.flags} << " mantissa " << HexOf(number.mantissa)
+               << " exponent " << HexOf(number.exponent);
 }
 
 }  // namespace operation_tests

@@ -35,7 +35,7 @@ WideInteger ShiftedLeft(const WideInteger& integer, std::size_t bits) {
     return shifted;
 }
 
-/// left + sign * right in as many words as `left` has; answers whether it wrapped.
+/// left + sign * right in as many words as `left` has; returns whether it wrapped.
 template <typename Left, typename Right>
 bool AddTo(Left& left, const Right& right, int sign) {
     std::int64_t carry = 0;
@@ -148,38 +148,66 @@ BinaryNumber ReadNumber(const std::string& text) {
     return number;
 }
 
-/// Reads a decimal number or "2^POWER".
-double ReadLimit(const std::string& text) {
-    return text.starts_with("2^") ? std::ldexp(1.0, std::stoi(text.substr(2))) : std::stod(text);
+/// The lines of a file, split into fields.
+std::vector<std::vector<std::string>> ReadLines(const std::filesystem::path& path) {
+    std::ifstream file(path);
+    std::vector<std::vector<std::string>> lines;
+    for (std::string line; std::getline(file, line);) {
+        lines.push_back(Split(line, '|'));
+    }
+    return lines;
 }
 
+[[noreturn]] void RejectLine(const std::filesystem::path& path, const std::string& kind) {
+    throw std::runtime_error(path.string() + " has a line of no known kind: " + kind);
+}
+
+/// Reads the chosen arguments of a function.
 ReferenceFunction ReadFunction(const std::filesystem::path& path) {
-    std::ifstream file(path);
     ReferenceFunction function{.name = path.stem().string(), .member = {}, .regions = {}};
     std::ranges::replace(function.name, '_', ' ');
-    for (std::string line; std::getline(file, line);) {
-        const auto fields = Split(line, '|');
+    for (const auto& fields : ReadLines(path)) {
         if (fields[0] == "member") {
             function.member = fields.at(1);
         } else if (fields[0] == "region") {
-            function.regions.push_back({.name = fields.at(1),
-                                        .limit256 = ReadLimit(fields.at(2)),
-                                        .limit2048 = ReadLimit(fields.at(3)),
-                                        .values = {}});
-        } else if (fields[0] == "value" && !function.regions.empty()) {
-            ReferenceValue value{
-                .expression = fields.at(1), .arguments = {}, .result = ReadNumber(fields.at(3))};
+            ReferenceRegion region{.name = fields.at(1), .bound = {}, .values = {}, .worst = {}};
             if (!fields.at(2).empty()) {
-                for (const std::string& argument : Split(fields.at(2), ' ')) {
-                    value.arguments.push_back(ReadNumber(argument));
-                }
+                region.bound = std::stod(fields.at(2));
             }
-            function.regions.back().values.push_back(std::move(value));
+            function.regions.push_back(std::move(region));
+        } else if (fields[0] == "value" && !function.regions.empty()) {
+            function.regions.back().values.push_back({.expression = fields.at(1),
+                                                      .arguments = ReadNumbers(fields.at(2)),
+                                                      .result = ReadNumber(fields.at(3))});
         } else {
-            throw std::runtime_error(path.string() + " has a line of no known kind: " + line);
+            RejectLine(path, fields[0]);
         }
     }
     return function;
+}
+
+/// Adds what was drawn for a function.
+void ReadWorst(const std::filesystem::path& path, ReferenceFunction& function) {
+    ReferenceRegion* region = nullptr;
+    for (const auto& fields : ReadLines(path)) {
+        if (fields[0] == "region") {
+            const auto found =
+                std::ranges::find(function.regions, fields.at(1), &ReferenceRegion::name);
+            if (found == function.regions.end()) {
+                throw std::runtime_error(path.string() +
+                                         " has a region of its own: " + fields.at(1));
+            }
+            region = &*found;
+            region->drawn = std::stoul(fields.at(2));
+        } else if (fields[0] == "worst" && region != nullptr) {
+            region->worst[std::stoi(fields.at(1))] = {
+                .expression = function.name + ", " + region->name + ": the worst that was drawn",
+                .arguments = ReadNumbers(fields.at(2)),
+                .result = ReadNumber(fields.at(3))};
+        } else {
+            RejectLine(path, fields[0]);
+        }
+    }
 }
 
 /// The exponent that the number has with a mantissa of that many bits.
@@ -190,15 +218,33 @@ WideExponent NormalisedExponent(const BinaryNumber& number, int mantissaBits) {
 
 }  // namespace
 
+std::vector<BinaryNumber> ReadNumbers(const std::string& text) {
+    std::vector<BinaryNumber> numbers;
+    if (!text.empty()) {
+        for (const std::string& number : Split(text, ' ')) {
+            numbers.push_back(ReadNumber(number));
+        }
+    }
+    return numbers;
+}
+
 std::vector<ReferenceFunction> ReadReference(const std::string& folder) {
     std::vector<ReferenceFunction> functions;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         if (entry.path().extension() == ".txt" && entry.path().stem() != "requirements") {
             functions.push_back(ReadFunction(entry.path()));
+            ReadWorst(entry.path().parent_path() / "worst" / entry.path().filename(),
+                      functions.back());
         }
     }
     std::ranges::sort(functions, {}, &ReferenceFunction::name);
     return functions;
+}
+
+std::uint32_t LowestWord(const BinaryNumber& number) {
+    return number.integer.empty()
+               ? 0
+               : ShiftedLeft(number.integer, static_cast<std::size_t>(Narrow(number.exponent)))[0];
 }
 
 template <typename AnyNumber>

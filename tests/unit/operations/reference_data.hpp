@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,19 +29,24 @@ struct BinaryNumber {
 
 /// One value of a function.
 struct ReferenceValue {
-    /// The call as its maker wrote it.
+    /// The call, as text for people.
     std::string expression;
     std::vector<BinaryNumber> arguments;
     BinaryNumber result;
 };
 
-/// A part of a function's domain with the errors that are allowed there, in units in the last
-/// place.
+/// A part of a function's domain.
 struct ReferenceRegion {
     std::string name;
-    double limit256 = 0;
-    double limit2048 = 0;
+    /// The error, in units in the last place, that is never exceeded, where there is a reason for
+    /// such a bound.
+    std::optional<double> bound;
+    /// Chosen arguments, which both classes hold.
     std::vector<ReferenceValue> values;
+    /// How many arguments were drawn besides, for each class.
+    std::size_t drawn = 0;
+    /// Those of them with the largest error in a class, by the bits of its mantissa.
+    std::map<int, ReferenceValue> worst;
 };
 
 /// What one file holds.
@@ -51,8 +57,16 @@ struct ReferenceFunction {
     std::vector<ReferenceRegion> regions;
 };
 
-/// All functions, by name. Throws std::runtime_error about a file that cannot be read.
+/// All functions, by name: the chosen arguments from the files of the folder, the worst of the
+/// drawn ones from those of its folder "worst". Throws std::runtime_error about a file that cannot
+/// be read.
 std::vector<ReferenceFunction> ReadReference(const std::string& folder);
+
+/// Reads numbers between spaces, each written as [-]0xINTEGERp[-]0xPOWER, or 0.
+std::vector<BinaryNumber> ReadNumbers(const std::string& text);
+
+/// The lowest word of a number that is an integer.
+std::uint32_t LowestWord(const BinaryNumber& number);
 
 /// The same number in a class, or nothing when its exponent is out of the class's range. It has to
 /// fit the mantissa.

@@ -1,9 +1,12 @@
 // The functions measured by reference values that another library computed. What is measured is
 // also the table of the documentation.
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -27,36 +30,40 @@ constexpr std::size_t SlowStep = 5;
 template <typename AnyNumber>
 constexpr std::size_t Step = AnyNumber::MantissaBits > 256 ? SlowStep : 1;
 
-/// Measures the members of one class.
+/// Calls the members of one class.
 template <typename AnyNumber>
-class Accuracy {
+class Members {
 public:
-    /// How far a member is off at one value, or nothing where the class's range ends.
-    std::optional<double> Measure(const std::string& member, const ReferenceValue& value) {
-        if (!IsInRange<AnyNumber>(value.result)) {
-            return std::nullopt;
-        }
+    /// What a member returns for these arguments, which the class has to hold; nothing where it
+    /// fails.
+    Operand<AnyNumber> Call(const std::string& member, const std::vector<BinaryNumber>& arguments) {
         std::vector<tests::HeldObject> objects;
         std::vector<std::uintptr_t> words;
-        for (const BinaryNumber& argument : value.arguments) {
-            const auto number = ToNumber<AnyNumber>(argument);
-            if (!number) {
-                return std::nullopt;
-            }
-            objects.push_back(class_.Make(number));
+        for (const BinaryNumber& argument : arguments) {
+            objects.push_back(class_.Make(ToNumber<AnyNumber>(argument).value()));
             words.push_back(class_.Word(objects.back().Get()));
+        }
+        if (member.find("as UInt32)") != std::string::npos) {
+            words.back() = LowestWord(arguments.back());
         }
         // For the members that round when they are told to.
         words.push_back(1);
         const auto result = class_.ReadAndRelease(
             class_.Call(class_.RoutineOf(member), words, standin::ReturnKind::Word));
-        if (!tests::TakeRaised(loaded_.host()).empty() || !result) {
-            return std::numeric_limits<double>::infinity();
-        }
-        return UnitsOff(*result, value.result);
+        return tests::TakeRaised(loaded_.host()).empty() ? result : std::nullopt;
     }
 
-    ~Accuracy() { tests::CheckLedger(loaded_.host()); }
+    /// How far a member is off at one value, or nothing where the class's range ends.
+    std::optional<double> UnitsOffAt(const std::string& member, const ReferenceValue& value) {
+        if (!IsInRange<AnyNumber>(value.result) ||
+            !std::ranges::all_of(value.arguments, IsInRange<AnyNumber>)) {
+            return std::nullopt;
+        }
+        const auto result = Call(member, value.arguments);
+        return result ? UnitsOff(*result, value.result) : std::numeric_limits<double>::infinity();
+    }
+
+    ~Members() { tests::CheckLedger(loaded_.host()); }
 
 private:
     LoadedHost loaded_;
@@ -67,8 +74,9 @@ private:
 struct MeasuredRegion {
     std::string function;
     std::string region;
+    /// How many arguments were measured, those of measure.py included.
     std::size_t values = 0;
-    double limit = 0;
+    std::optional<double> bound;
     /// The largest error, or nothing when all of the region is out of the class's range.
     std::optional<double> largest;
     /// Where it was seen.
@@ -76,23 +84,28 @@ struct MeasuredRegion {
 };
 
 template <typename AnyNumber>
-MeasuredRegion Measured(Accuracy<AnyNumber>& accuracy, const ReferenceFunction& function,
+MeasuredRegion Measured(Members<AnyNumber>& members, const ReferenceFunction& function,
                         const ReferenceRegion& region) {
-    MeasuredRegion measured{
-        .function = function.name,
-        .region = region.name,
-        .values = region.values.size(),
-        .limit = AnyNumber::MantissaBits > 256 ? region.limit2048 : region.limit256,
-        .largest = {},
-        .worst = {}};
-    for (std::size_t index = 0; index < region.values.size(); index += Step<AnyNumber>) {
-        const ReferenceValue& value = region.values[index];
-        const auto units = accuracy.Measure(function.member, value);
+    MeasuredRegion measured{.function = function.name,
+                            .region = region.name,
+                            .values = region.values.size() + region.drawn,
+                            .bound = region.bound,
+                            .largest = {},
+                            .worst = {}};
+    const auto measure = [&](const ReferenceValue& value) {
+        const auto units = members.UnitsOffAt(function.member, value);
         // Nothing is less than any error.
         if (measured.largest < units) {
             measured.largest = units;
             measured.worst = value.expression;
         }
+    };
+    for (std::size_t index = 0; index < region.values.size(); index += Step<AnyNumber>) {
+        measure(region.values[index]);
+    }
+    if (const auto worst = region.worst.find(AnyNumber::MantissaBits);
+        worst != region.worst.end()) {
+        measure(worst->second);
     }
     return measured;
 }
@@ -102,10 +115,10 @@ template <typename AnyNumber>
 const std::vector<MeasuredRegion>& AllMeasured() {
     static const std::vector<MeasuredRegion> all = [] {
         std::vector<MeasuredRegion> regions;
-        Accuracy<AnyNumber> accuracy;
+        Members<AnyNumber> members;
         for (const ReferenceFunction& function : ReadReference(REFERENCE_FOLDER)) {
             for (const ReferenceRegion& region : function.regions) {
-                regions.push_back(Measured(accuracy, function, region));
+                regions.push_back(Measured(members, function, region));
             }
         }
         return regions;
@@ -129,19 +142,74 @@ std::string Shown(std::optional<double> units) {
     return text;
 }
 
+/// The number that `Shown` wrote, made large enough for what it rounded.
+double ReadShown(const std::string& text) {
+    if (text == "fails") {
+        return std::numeric_limits<double>::infinity();
+    }
+    return text.starts_with("2^") ? std::ldexp(1.0, std::stoi(text.substr(2)))
+                                  : std::stod(text) + 0.005;
+}
+
+std::string ShownBound(std::optional<double> bound) {
+    std::ostringstream text;
+    if (bound) {
+        text << *bound;
+    }
+    return text.str();
+}
+
 /// The table, a row for each part of a function's domain.
 std::string AccuracyTable() {
     std::ostringstream table;
-    table << "| member | arguments | values | 256 bits | 2048 bits |\n"
-             "|---|---|---:|---:|---:|\n";
+    table << "| member | arguments | values | 256 bits | 2048 bits | bound |\n"
+             "|---|---|---:|---:|---:|---:|\n";
     const auto& large = AllMeasured<Number2048>();
     auto ofLarge = large.begin();
     for (const MeasuredRegion& ofSmall : AllMeasured<Number256>()) {
         table << "| " << ofSmall.function << " | " << ofSmall.region << " | " << ofSmall.values
-              << " | " << Shown(ofSmall.largest) << " | " << Shown(ofLarge->largest) << " |\n";
+              << " | " << Shown(ofSmall.largest) << " | " << Shown(ofLarge->largest) << " | "
+              << ShownBound(ofSmall.bound) << " |\n";
         ++ofLarge;
     }
     return table.str();
+}
+
+/// The figures of the documentation, by the beginnings of the rows: "| MEMBER | ARGUMENTS |".
+std::map<std::string, std::array<std::string, 2>> DocumentedFigures() {
+    std::map<std::string, std::array<std::string, 2>> figures;
+    std::ifstream file(ACCURACY_DOCUMENTATION);
+    for (std::string line; std::getline(file, line);) {
+        std::vector<std::string> cells;
+        std::istringstream row(line);
+        for (std::string cell; std::getline(row, cell, '|');) {
+            const std::size_t first = cell.find_first_not_of(' ');
+            cells.push_back(first == std::string::npos
+                                ? ""
+                                : cell.substr(first, cell.find_last_not_of(' ') + 1 - first));
+        }
+        constexpr std::size_t columns = 6;
+        if (cells.size() == columns + 1) {
+            figures["| " + cells[1] + " | " + cells[2] + " |"] = {cells[4], cells[5]};
+        }
+    }
+    return figures;
+}
+
+/// Calls the members that the lines of the input name, and prints what they return.
+template <typename AnyNumber>
+void AnswerInput() {
+    Members<AnyNumber> members;
+    for (std::string member, arguments;
+         std::getline(std::cin, member, '|') && std::getline(std::cin, arguments);) {
+        const auto result = members.Call(member, ReadNumbers(arguments));
+        if (result && !result->IsNan()) {
+            std::cout << "result " << (result->IsNegative() ? "- " : "+ ")
+                      << HexOf(result->exponent) << ' ' << HexOf(result->mantissa) << '\n';
+        } else {
+            std::cout << "result fails\n";
+        }
+    }
 }
 
 }  // namespace
@@ -150,20 +218,32 @@ TEST_CASE_TEMPLATE("functions are as close to the reference as stated", AnyNumbe
                    Number2048) {
     const auto& regions = AllMeasured<AnyNumber>();
     REQUIRE(!regions.empty());
+    const auto documented = DocumentedFigures();
+    constexpr std::size_t column = AnyNumber::MantissaBits > 256 ? 1 : 0;
     for (const MeasuredRegion& measured : regions) {
-        CHECK_MESSAGE(measured.largest.value_or(0) <= measured.limit, measured.worst);
+        const std::string row = "| " + measured.function + " | " + measured.region + " |";
+        const auto figures = documented.find(row);
+        REQUIRE_MESSAGE((figures != documented.end()), row);
+        if (measured.largest) {
+            CHECK_MESSAGE(*measured.largest <= ReadShown(figures->second[column]), measured.worst);
+            CHECK_MESSAGE(*measured.largest <= measured.bound.value_or(*measured.largest),
+                          measured.worst);
+        }
     }
 }
 
 TEST_CASE("every function has reference values over its whole domain") {
     constexpr std::size_t fewest = 30;
+    constexpr std::size_t fewestDrawn = 1000;
     std::set<std::string> members;
     for (const ReferenceFunction& function : ReadReference(REFERENCE_FOLDER)) {
+        const bool constant = function.regions.front().values.front().arguments.empty();
         std::size_t count = 0;
         for (const ReferenceRegion& region : function.regions) {
             count += region.values.size();
+            CHECK_MESSAGE((constant || region.drawn >= fewestDrawn), function.name, region.name);
+            CHECK_MESSAGE((constant || region.worst.contains(2048)), function.name, region.name);
         }
-        const bool constant = function.regions.front().values.front().arguments.empty();
         CHECK_MESSAGE(count >= (constant ? 1 : fewest), function.name);
         members.insert(function.member);
     }
@@ -201,6 +281,19 @@ TEST_CASE("the documentation shows what is measured") {
     CHECK_MESSAGE(shown, AccuracyTable());
 }
 #endif
+
+// Calls members for tests/reference/measure.py. The first line of the input is 256 or 2048. Each of
+// the others, "MEMBER|ARGUMENT ...", gives a line "result SIGN EXPONENT MANTISSA" of the words as
+// they are, or "result fails".
+TEST_CASE("results of arguments from the input" * doctest::skip()) {
+    std::string bits;
+    std::getline(std::cin, bits);
+    if (bits == "256") {
+        AnswerInput<Number256>();
+    } else {
+        AnswerInput<Number2048>();
+    }
+}
 
 // Prints what docs/accuracy.md shows: --no-skip --test-case="table of accuracy".
 TEST_CASE("table of accuracy" * doctest::skip()) {
