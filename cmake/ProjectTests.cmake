@@ -104,19 +104,11 @@ endfunction()
 
 # add_golden_tests(folder)
 #
-# For each kind of host, what the library registers there compared with the dump that was kept.
+# What the library registers on hosts of every age, compared with the tables that were kept.
 function(add_golden_tests folder)
-  file(GLOB dumps CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/host-*.txt")
-  foreach(dump IN LISTS dumps)
-    string(REGEX REPLACE "^.*/host-(.*)[.]txt$" "\\1" version "${dump}")
-    set(options --host-version ${version})
-    if(version STREQUAL "current")
-      set(options)
-    endif()
-    add_project_test(NAME golden/host-${version}
-      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/compare_dump.py"
-        "${dump}" ${standin_command} --dump ${options})
-  endforeach()
+  add_project_test(NAME golden/tables
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/golden_tables.py"
+      "${PROJECT_SOURCE_DIR}/${folder}" -- ${standin_command})
 endfunction()
 
 # add_library_tests()

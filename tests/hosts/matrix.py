@@ -24,10 +24,10 @@ import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1]))
+import host_ages  # noqa: E402
 import output_check  # noqa: E402
+from host_ages import AGES, CURRENT  # noqa: E402
 
-AGES = ("none", "2010.028", "2010.029", "2011.99", "2012.0", "2013.0", "2013.03", "2013.04", "2014.99",
-        "2015.0", "2020.01", "2020.02", "current")
 CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
 NOTHING = "nothing"
 CRASH = ["The library crashes while it starts."]
@@ -110,7 +110,7 @@ def program_for(age: str) -> str:
     steps = []
     for line in lines:
         since, step = re.fullmatch(r"(?:(\d+): )?(.*)", line).groups()
-        new_enough = since is None or age == "current" or age != "none" and float(age) >= float(since)
+        new_enough = since is None or age == CURRENT or age != "none" and float(age) >= float(since)
         if step and not step.startswith("#") and new_enough:
             steps.append(step)
     program = HEAD
@@ -170,9 +170,7 @@ class Hosts:
             self.programs[age].write_text(program_for(age), "utf-8")
 
     def run(self, age: str, missing: str = NOTHING) -> Outcome:
-        options = ["--ledger"]
-        if age != "current":
-            options += ["--host-version", age]
+        options = ["--ledger", *host_ages.options(age)]
         if missing != NOTHING:
             options += ["--without", missing]
         if missing in BALANCES:
@@ -298,7 +296,7 @@ def check(hosts: Hosts, options: list[str], table: pathlib.Path) -> None:
             done |= missing_names
         expected = known
 
-    current = plain["current"].shown if "current" in plain else {}
+    current = plain[CURRENT].shown if CURRENT in plain else {}
     print(f"{hosts.runs} runs on {len({age for age, _ in rows})} ages of hosts without each of "
           f"{len({missing for _, missing in rows})} functions: {len(rows)} hosts, "
           f"{sum(1 for lines in rows.values() if lines)} of them seen by the program")
