@@ -7,7 +7,7 @@
 #include <functional>
 #include <limits>
 
-#include "options_text.hpp"
+#include "standin/options.hpp"
 
 namespace standin {
 

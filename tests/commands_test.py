@@ -24,7 +24,7 @@ class CommandsTest(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
         self.project = self.folder / "checkout"
         self.project.mkdir()
-        for name in ("run", "test", "VERSION", "CMakePresets.json", "standin/options.txt"):
+        for name in ("run", "test", "VERSION", "CMakePresets.json", "standin/options.hpp"):
             (self.project / name).parent.mkdir(exist_ok=True)
             shutil.copy(PROJECT / name, self.project / name)
         shutil.copytree(PROJECT / "scripts", self.project / "scripts")
@@ -267,7 +267,7 @@ class CommandsTest(unittest.TestCase):
         self.assertFalse((self.project / "build").exists())
 
     def test_the_readme_names_no_other_options(self) -> None:
-        listed = set(re.findall(r"^  (-[-a-z]+)", (PROJECT / "standin/options.txt").read_text(), re.M))
+        listed = set(re.findall(r"^  (-[-a-z]+)", (PROJECT / "standin/options.hpp").read_text(), re.M))
         text = (PROJECT / "README.md").read_text()
         named = {option for call in re.findall(r"\./run ([^`\n]*)", text)
                  for option in re.findall(r"(?:^| )(-[-a-z]+)", call)}

@@ -1,8 +1,15 @@
-# What the command says of itself with --help, and the one list of its options: ./run reads them here, and
-# the build puts this text into the stand-in host, which checks that it knows each of them. An option is
-# a line that begins with two spaces and its name; a word in capitals after it is its value, N a number
-# from 1, V a version. Lines like this one are left out.
-usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
+// The text of --help, which is the one list of the command's options. The command line is checked
+// against it, and ./run reads it out of this file, before anything is built. An option is a line
+// that begins with two spaces and its name; a word in capitals after it is its value, N a number
+// from 1, V a version.
+#pragma once
+
+#include <string_view>
+
+namespace standin {
+
+inline constexpr std::string_view OptionsText =
+    R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
 
 Runs a program in the host's language against the plug-in library. PROGRAM is a .xojo_script file;
 `-` reads the program from standard input; without any program examples/tour.xojo_script runs. The
@@ -48,3 +55,6 @@ What ./run gives to the stand-in host:
 
 Exit status: 0; 1 for an exception nobody caught; 2 for an error in the program or in the call;
 3 when strings or objects were leaked or released too often; 4 when the plug-in crashed.
+)";
+
+}  // namespace standin
