@@ -1,9 +1,10 @@
 """Makes the package that users copy into their Plugins folder, a ZIP laid out as the host reads it.
 
-usage: make_package.py --library DLL --link-map FILE --ttmath FILE --help-page HTML
+usage: make_package.py --target NAME --library DLL --link-map FILE --ttmath FILE --help-page HTML
                        --project FOLDER PACKAGE
 
-The link map tells which libraries the DLL contains; for each the package carries its terms, and a
+NAME is the target in scripts/presets.txt that the library is built for; the list tells the folder that
+takes it. The link map tells which libraries the DLL contains; for each the package carries its terms, and a
 library whose terms are not known fails the build. The same input gives the same bytes.
 """
 
@@ -21,6 +22,15 @@ RUNTIMES = (
     (r"lib(gcc|gcc_eh|stdc\+\+)\.a", "g++-mingw-w64-i686-win32", "GCC runtime.txt"),
     (r"lib(mingw32|mingwex|moldname|msvcrt|kernel32)\.a", "mingw-w64-i686-dev", "MinGW-w64.txt"),
 )
+
+
+def library_folder(presets: str, target: str) -> str:
+    """The folder of the package for the library of that target, as the list of presets tells it."""
+    for line in presets.splitlines():
+        fields = [field.strip() for field in line.split("|")]
+        if fields[0] == target and fields[6] != "-":
+            return f"Build Resources/{fields[6]}"
+    sys.exit(f"make_package: the list of presets has no folder for the library of {target}")
 
 
 def linked_libraries(link_map: str) -> set[str]:
@@ -67,6 +77,7 @@ def write_package(path: pathlib.Path, files: dict[str, bytes]) -> None:
 
 def main() -> None:
     parser = argparse.ArgumentParser()
+    parser.add_argument("--target", required=True)
     for option in ("--library", "--link-map", "--ttmath", "--help-page", "--project"):
         parser.add_argument(option, type=pathlib.Path, required=True)
     parser.add_argument("package", type=pathlib.Path)
@@ -77,7 +88,8 @@ def main() -> None:
     files = {f"Licences/{name}": text for name, text in terms.items()}
     for name in ("LICENSE", "THIRD-PARTY-NOTICES.md"):
         files[f"Licences/{name}"] = (given.project / name).read_bytes()
-    files[f"Build Resources/Windows/{NAME}.dll"] = given.library.read_bytes()
+    presets = (given.project / "scripts/presets.txt").read_text(encoding="utf-8")
+    files[f"{library_folder(presets, given.target)}/{NAME}.dll"] = given.library.read_bytes()
     files["IDE Resources/Help/index.html"] = given.help_page.read_bytes()
     write_package(given.package, files)
 

@@ -5,6 +5,33 @@
 export BIGNUMBERVQZ_DEPS="${BIGNUMBERVQZ_DEPS:-$root/.deps}"
 deps="$BIGNUMBERVQZ_DEPS"
 
+# presets_for USE: the names of the presets that scripts/presets.txt lists for `run` or `test`; without
+# USE all of them.
+presets_for() {
+    local name build start launcher suffix library package uses
+    while IFS='|' read -r name build start launcher suffix library package uses; do
+        [[ $name != "#"* ]] || continue
+        [[ -n ${1:-} && " $uses " != *" $1 "* ]] || printf '%s\n' "${name%% *}"
+    done <"$root/scripts/presets.txt"
+}
+
+# preset_field PRESET FIELD: one field of that preset's line in scripts/presets.txt, where `-` stands for
+# an empty one. The names of the fields are those of its head line.
+preset_field() {
+    local -A fields
+    local name build start launcher suffix library package uses
+    while IFS='|' read -r name build start launcher suffix library package uses; do
+        [[ ${name%% *} == "$1" ]] || continue
+        fields=(
+            [build]="$build" [start]="$start" [launcher]="$launcher" [suffix]="$suffix"
+            [library]="$library" [package]="$package" [uses]="$uses")
+        read -r name <<<"${fields[$2]}" || true
+        [[ $name == - ]] || printf '%s\n' "$name"
+        return
+    done <"$root/scripts/presets.txt"
+    fail "there is no preset $1; there are $(presets_for | tr '\n' ' ')"
+}
+
 # say TEXT: a word of progress. Standard output belongs to the program that is run.
 say() {
     printf '%s\n' "== $*" >&2

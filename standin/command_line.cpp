@@ -7,45 +7,11 @@
 #include <functional>
 #include <limits>
 
+#include "standin/options.hpp"
+
 namespace standin {
 
-const std::string_view UsageText =
-    R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
-
-PROGRAM is a file in the host's language, `-` reads it from standard input, -e takes its text; -i runs
-line by line what is typed.
-
-  --library FILE       the plug-in library to load (./run gives it)
-  --documentation FILE what -i tells about the members (./run gives it)
-  --prompts            -i shows where a line is expected (./run gives it on a terminal)
-  --list               every registered class with its members as the host sees them
-  --dump               the registered tables, entry by entry
-  --ledger             counts of strings and objects at the end, on standard error
-  --debug-log          the plug-in's log lines, on standard error
-  --max-steps N        ends a program that takes more than N steps
-  --max-memory BYTES   ends a program that needs more for its text, objects and arrays
-  --help               this text
-
-What kind of host to be:
-  --host-version V     the host's version; `none` for a host that tells no version
-  --without FUNCTION   a host that lacks this function (repeatable)
-  --built-application  a built application instead of the development environment
-  --constructor-on-new new instances made by the plug-in run their empty constructor
-  --unterminated-strings
-                       the byte after a string's text is not 0
-  --misaligned-stack   the plug-in is called with a stack aligned to 4 bytes only
-  --changed-control-word
-                       the plug-in is called with another x87 control word
-  --blocks-without-data
-                       memory blocks have a size but no data
-  --spare-references   what is released too often lives on, and the ledger tells by how many
-                       references it is off
-  --fail-string N      the N-th string that is made while the program runs fails
-  --fail-object N      the N-th object that is made while the program runs fails
-
-Exit status: 0; 1 for an exception nobody caught; 2 for an error in the program or in the call;
-3 when strings or objects were leaked or released too often; 4 when the plug-in crashed.
-)";
+const std::string_view UsageText = OptionsText;
 
 const std::string_view UsageHint =
     "usage: ./run [options] [PROGRAM | - | -e TEXT | -i]; ./run --help tells more\n";
@@ -133,6 +99,49 @@ constexpr auto Settings = std::to_array<Setting>({
      }},
     {"-e", [](CommandLine& line, const std::string& value) { line.text = value; }},
 });
+
+/// Whether the text of --help lists the option, with a value where it takes one.
+constexpr bool IsListed(std::string_view name, bool takesValue) {
+    for (std::size_t place = OptionsText.find("\n  "); place != std::string_view::npos;
+         place = OptionsText.find("\n  ", place + 1)) {
+        const auto line = OptionsText.substr(place + 3);
+        if (!line.starts_with(name)) {
+            continue;
+        }
+        const auto after = line.substr(name.size());
+        if (after.front() == '\n') {
+            return !takesValue;
+        }
+        if (after.front() == ' ') {
+            return takesValue == (after[1] >= 'A' && after[1] <= 'Z');
+        }
+    }
+    return false;
+}
+
+// "-h" is short for "--help", and no option of its own.
+static_assert(std::ranges::all_of(Switches, [](const Switch& option) {
+    return option.name == "-h" || IsListed(option.name, false);
+}));
+static_assert(std::ranges::all_of(Settings, [](const Setting& option) {
+    return IsListed(option.name, true);
+}));
+
+/// How many options the text of --help lists; those of ./run never come here.
+constexpr std::size_t CountListed() {
+    constexpr std::string_view OwnOfRun[] = {"--target", "--native", "--version"};
+    std::size_t count = 0;
+    for (std::size_t place = OptionsText.find("\n  -"); place != std::string_view::npos;
+         place = OptionsText.find("\n  -", place + 1)) {
+        const auto line = OptionsText.substr(place + 3);
+        count += std::ranges::none_of(
+                     OwnOfRun, [line](std::string_view name) { return line.starts_with(name); })
+                     ? 1U
+                     : 0U;
+    }
+    return count;
+}
+static_assert(CountListed() == Switches.size() - 1 + Settings.size());
 
 }  // namespace
 

@@ -2,8 +2,9 @@
 
 usage: calls.py SOURCES BINARIES COMMAND...
 
-COMMAND starts the stand-in host with the library. The test programs and the programs in the host's
-language run once more, with a record of their calls. Every entry must have been called
+COMMAND starts the stand-in host with the library. The test programs, the programs in the host's language
+and the one of the host matrix, which calls every entry, run once more, with a record of their calls.
+Every entry must have been called
 
   - to success;
   - without each of the handles that it takes, Nil and the empty text being legal, except a receiver
@@ -35,6 +36,10 @@ TEST_PROGRAMS = (
     ("operation_tests", "--test-case=*exact<256 bits>"),
     ("operation_tests", "--source-file=*stated_results_tests*,*table_tests*,*random*"),
 )
+
+# The functions with which the library makes texts, Variants and numbers: without one, a host can't make
+# what a call returns.
+MAKING = ("PluginNewInstance", "REALBuildString", "REALBuildStringWithEncoding", "StringToVariant")
 
 HANDLES = {"string", "variant", "memoryblock", *map(str.lower, CLASSES)}
 TWO_WORDS = {"int64", "uint64", "double", "currency"}
@@ -131,6 +136,8 @@ def record_all(sources: pathlib.Path, binaries: pathlib.Path, command: list[str]
     for program in sorted(sources.glob("tests/programs/*/*.xojo_script")):
         runs.append([sys.executable, str(sources / "tests/run_program.py"), str(program), "--",
                      *command])
+    runs.append([sys.executable, str(sources / "tests/hosts/matrix.py"), "--without", *MAKING,
+                 str(sources / "tests/golden"), "--", *command])
     record = Record()
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder) / "calls"

@@ -74,7 +74,7 @@ class ContentsTest(unittest.TestCase):
         classes = registered(result.stdout)
         for name in CLASSES:
             declarations = [d.replace(name, CLASSES[0]) for d in classes[name]]
-            self.assertEqual(len(declarations), 122)
+            self.assertTrue(declarations)
             self.assertEqual(sorted(declarations), sorted(self.page.declarations))
 
     def test_every_member_has_a_block_of_text(self) -> None:

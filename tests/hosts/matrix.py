@@ -1,12 +1,16 @@
 """Runs a program that uses all members on hosts of every age, each lacking one function in turn.
 
-usage: matrix.py [--sample SEED COUNT] [--write] TABLE -- COMMAND...
+usage: matrix.py [--sample SEED COUNT | --without FUNCTION... | --write] FOLDER -- COMMAND...
 
 COMMAND starts the stand-in host with the library. The program is made of steps.txt, for both number
-classes. On every host it must come to its end without a crash, a leak or a wrong use of the host; the
-functions to take away are those that the library asks for. What it shows otherwise than on a host that
-lacks nothing is compared with TABLE; --write keeps it there instead. With --sample only some of the
-hosts are tried, drawn with that seed.
+classes, and of steps for the members that these leave out. On every host it must come to its end without
+a crash, a leak or a wrong use of the host; the functions to take away are those that the library asks
+for. FOLDER/missing-functions.txt tells what the program shows on a current host, and what it shows
+otherwise on a host that lacks a function; FOLDER/debug-log.txt which lines without a value the library
+logs while it runs. Both are compared; --write keeps them anew instead. With --sample only some of the
+hosts are tried, drawn with that seed; with --without only current ones that lack these functions.
+
+Where the environment variable STANDIN_CALL_RECORD names a file, the calls are recorded there as well.
 
 A host without "RegisterPluginVersion" is the one that crashes, while the library starts. Without a
 function that locks, unlocks or gives back, the account must be off by exactly the calls that the
@@ -24,10 +28,11 @@ import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1]))
+import host_ages  # noqa: E402
 import output_check  # noqa: E402
+import steps  # noqa: E402
+from host_ages import AGES, CURRENT  # noqa: E402
 
-AGES = ("none", "2010.028", "2010.029", "2011.99", "2012.0", "2013.0", "2013.03", "2013.04", "2014.99",
-        "2015.0", "2020.01", "2020.02", "current")
 CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
 NOTHING = "nothing"
 CRASH = ["The library crashes while it starts."]
@@ -42,6 +47,7 @@ BALANCES = {
 }
 # A buffer that was not given back is forgotten when its record is used anew.
 REFILLED = "PluginGetStringData: the record is filled again, but "
+LOGGED_NAME = re.compile(r"VQZ Debug: [A-Za-z]\w*")
 CRASHING = "RegisterPluginVersion"
 VERSION = "REALGetRBVersion"
 
@@ -104,19 +110,12 @@ Steps(as$)
 """
 
 
-def program_for(age: str) -> str:
-    """The program for hosts of that age."""
-    lines = pathlib.Path(__file__).with_name("steps.txt").read_text("utf-8").splitlines()
-    steps = []
-    for line in lines:
-        since, step = re.fullmatch(r"(?:(\d+): )?(.*)", line).groups()
-        new_enough = since is None or age == "current" or age != "none" and float(age) >= float(since)
-        if step and not step.startswith("#") and new_enough:
-            steps.append(step)
+def program_of(lines: list[str]) -> str:
+    """The program that takes these steps with both classes."""
     program = HEAD
     for name, bits in CLASSES.items():
         text = CLASS_HEAD
-        for step in steps:
+        for step in lines:
             *statements, value = step.split(" | ")
             text += STEP.format(statements="\n".join(f"    {statement}" for statement in statements),
                                 label=f"{bits}: {step}".replace('"', '""').replace("$", "%"),
@@ -162,25 +161,49 @@ class Hosts:
     def __init__(self, command: list[str], folder: pathlib.Path):
         self.command = command
         self.folder = folder
-        self.record = folder / "record"
         self.runs = 0
-        self.programs = {}
         for age in AGES:
-            self.programs[age] = folder / f"{age}.xojo_script"
-            self.programs[age].write_text(program_for(age), "utf-8")
+            self.program(age).write_text(program_of(steps.written(age)), "utf-8")
+            self.complete(age)
+
+    def program(self, age: str) -> pathlib.Path:
+        """The program for hosts of that age."""
+        return self.folder / f"{age}.xojo_script"
+
+    def record(self, age: str) -> pathlib.Path:
+        """What hosts of that age record."""
+        return self.folder / f"{age}.record"
+
+    def complete(self, age: str) -> None:
+        """Adds steps to the program for the entries that it does not call."""
+        self.run(age)
+        called = {fields[:4] for fields in self.noted("call", age)}
+        missing: dict[str, None] = {}
+        for owner, *entry in sorted(self.noted("entry", age)):
+            if (owner, *entry) not in called and owner in CLASSES:
+                missing |= dict.fromkeys(steps.derived(*(word.replace(owner, "$") for word in entry)))
+        if missing:
+            self.program(age).write_text(program_of([*steps.written(age), *missing]), "utf-8")
+
+    def debug_log(self) -> list[str]:
+        """The lines of the debug log that hold no value, each once, in the order of the program."""
+        program = self.folder / "logged.xojo_script"
+        text = self.program(CURRENT).read_text("utf-8")
+        program.write_text(text.replace("Debugging = False", "Debugging = True"), "utf-8")
+        result = output_check.run([*self.command, "--debug-log", str(program)], {"VQZDEBUG": "1"})
+        lines = result.stderr.decode(**output_check.ENCODING).splitlines()
+        return list(dict.fromkeys(line for line in lines if LOGGED_NAME.fullmatch(line)))
 
     def run(self, age: str, missing: str = NOTHING) -> Outcome:
-        options = ["--ledger"]
-        if age != "current":
-            options += ["--host-version", age]
+        options = ["--ledger", *host_ages.options(age)]
         if missing != NOTHING:
             options += ["--without", missing]
         if missing in BALANCES:
             options.append("--spare-references")
         # A host that tells no version is an old one for the library.
-        program = self.programs["none" if missing == VERSION else age]
+        program = self.program("none" if missing == VERSION else age)
         result = output_check.run([*self.command, *options, str(program)],
-                                  {"STANDIN_CALL_RECORD": str(self.record)})
+                                  {"STANDIN_CALL_RECORD": str(self.record(age))})
         self.runs += 1
         output = result.stdout.decode(**output_check.ENCODING).splitlines()
         shown = {}
@@ -191,9 +214,13 @@ class Hosts:
             shown[step] = value
         return Outcome(result.returncode, shown, result.stderr.decode(**output_check.ENCODING))
 
-    def noted(self, kind: str) -> set[tuple[str, ...]]:
-        """The fields of the record's lines of that kind."""
-        lines = self.record.read_text("utf-8").splitlines()
+    def recorded(self, ages: tuple[str, ...] = AGES) -> str:
+        """What hosts of these ages recorded."""
+        return "".join(self.record(age).read_text("utf-8") for age in ages if self.record(age).exists())
+
+    def noted(self, kind: str, *ages: str) -> set[tuple[str, ...]]:
+        """The fields of the records' lines of that kind, of all ages where none is named."""
+        lines = self.recorded(ages or AGES).splitlines()
         return {tuple(line.split("\t")[1:]) for line in lines if line.startswith(f"{kind}\t")}
 
 
@@ -255,63 +282,75 @@ def parse(text: str) -> Rows:
 
 def main() -> None:
     words, command = sys.argv[1:sys.argv.index("--")], sys.argv[sys.argv.index("--") + 1:]
-    *options, table = words
+    *options, golden = words
     with tempfile.TemporaryDirectory() as folder:
         hosts = Hosts(command, pathlib.Path(folder))
-        check(hosts, options, pathlib.Path(table))
+        problems = check(hosts, options, pathlib.Path(golden))
+        if record := os.environ.get("STANDIN_CALL_RECORD"):
+            with open(record, "a", encoding="utf-8") as file:
+                file.write(hosts.recorded())
+    if problems:
+        sys.exit("\n".join(problems))
 
 
-def check(hosts: Hosts, options: list[str], table: pathlib.Path) -> None:
+def check(hosts: Hosts, options: list[str], golden: pathlib.Path) -> list[str]:
+    """Tries the hosts that the options ask for. Returns what is wrong with them."""
+    table, log = golden / "missing-functions.txt", golden / "debug-log.txt"
     problems = []
-    known = parse(table.read_text("utf-8")) if table.exists() else {}
+    known = parse(table.read_text("utf-8"))
     rows: Rows = {}
     plain: dict[str, Outcome] = {}
 
+    def look_at_plain(age: str) -> None:
+        plain[age] = hosts.run(age)
+        problems.extend(f"on {age}: {what}" for what in plain[age].problems(NOTHING))
+        if plain[age].status != 0:
+            problems.append(f"on {age}: {plain[age].errors}")
+
     def look(age: str, missing: str) -> None:
         if age not in plain:
-            plain[age] = hosts.run(age)
-            problems.extend(f"on {age}: {what}" for what in plain[age].problems(NOTHING))
-            if plain[age].status != 0:
-                problems.append(f"on {age}: {plain[age].errors}")
+            look_at_plain(age)
         outcome = hosts.run(age, missing)
         problems.extend(f"on {age} without {missing}: {what}" for what in outcome.problems(missing))
         rows[age, missing] = differences(plain[age], outcome, missing)
 
+    is_whole = options in ([], ["--write"])
     if options[:1] == ["--sample"]:
         seed, count = map(int, options[1:3])
         for age, missing in random.Random(seed).sample(sorted(known), count):
             look(age, missing)
-        expected = {place: known[place] for place in rows}
+    elif options[:1] == ["--without"]:
+        for missing in options[1:]:
+            look(CURRENT, missing)
     else:
-        # A name may be asked for only where another is missing, so the names grow on the way.
         for age in AGES:
-            plain[age] = hosts.run(age)
-            problems += [f"on {age}: {what}" for what in plain[age].problems(NOTHING)]
-        uncalled = {fields for fields in hosts.noted("entry")} - {
-            fields[:4] for fields in hosts.noted("call")}
+            look_at_plain(age)
+        uncalled = hosts.noted("entry") - {fields[:4] for fields in hosts.noted("call")}
         problems += [f"the steps leave out {' '.join(fields)}" for fields in sorted(uncalled)]
+        # A name may be asked for only where another is missing, so the names grow on the way.
         done: set[str] = set()
         while missing_names := {fields[0] for fields in hosts.noted("lookup")} - done:
             for missing in sorted(missing_names):
                 for age in AGES:
                     look(age, missing)
             done |= missing_names
-        expected = known
 
-    current = plain["current"].shown if "current" in plain else {}
     print(f"{hosts.runs} runs on {len({age for age, _ in rows})} ages of hosts without each of "
           f"{len({missing for _, missing in rows})} functions: {len(rows)} hosts, "
           f"{sum(1 for lines in rows.values() if lines)} of them seen by the program")
-    if "--write" in options:
-        table.write_text(render(rows, current), "utf-8")
-    elif rows != expected or ("--sample" not in options and
-                              table.read_text("utf-8") != render(rows, current)):
-        shown = current if "--sample" not in options else {}
-        problems.append(output_check.difference(render(expected, shown).encode(),
-                                                render(rows, shown).encode())
-                        or "what is shown on a current host differs")
-    if problems:
-        sys.exit("\n".join(problems))
+    if not is_whole:
+        expected = {place: known.get(place, []) for place in rows}
+        if rows != expected:
+            problems.append(output_check.difference(render(expected, {}).encode(), render(rows, {}).encode()))
+        return problems
+
+    for file, text in ((table, render(rows, plain[CURRENT].shown)),
+                       (log, "".join(f"{line}\n" for line in hosts.debug_log()))):
+        if "--write" in options:
+            file.write_bytes(text.encode())
+        elif difference := output_check.difference(file.read_bytes(), text.encode()):
+            problems.append(f"{file.name} is different; ./test --golden writes it anew\n{difference}")
+    return problems
 
 
 if __name__ == "__main__":

@@ -112,6 +112,7 @@ TEST_CASE("The environment never switches the debug log off") {
 TEST_CASE("A start without resolver leaves everything as it was built") {
     const DirectHost host;
     const EnvironmentVariable variable(DebugVariable, "1");
+    const auto sharedMethods = BigNumberRecord().sharedMethodCount;
     Start(nullptr);
     CHECK((vqz::HostResolver == nullptr));
     CHECK(vqz::HostVersion == 0.0);
@@ -124,7 +125,7 @@ TEST_CASE("A start without resolver leaves everything as it was built") {
         CHECK(record->version == 15);
         CHECK(record->dataSize == sizeof(void*));
         CHECK(record->instanceDataOffset == 0);
-        CHECK(record->sharedMethodCount == 55);
+        CHECK(record->sharedMethodCount == sharedMethods);
     }
     CHECK(vqz::NumberErrorRecord.version == 15);
     CHECK(vqz::NumberErrorRecord.dataSize == 0);
@@ -147,28 +148,31 @@ TEST_CASE("A start registers the three classes in order and tells the interface 
 
 TEST_CASE("A host that does not tell its version counts as an old one") {
     DirectHost host(standin::HostOptions{.version = std::nullopt});
+    const auto sharedMethods = BigNumberRecord().sharedMethodCount;
     Start(&standin::Host::Resolve);
     CHECK(vqz::HostVersion == 0.0);
     CHECK(host.pluginInterfaceVersion() == 9);
     CHECK(BigNumberRecord().version == 9);
-    CHECK(BigNumberRecord().sharedMethodCount == 54);
+    CHECK(BigNumberRecord().sharedMethodCount == sharedMethods - 1);
 }
 
 TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") {
     struct Row {
         double hostVersion;
-        std::size_t sharedMethods;
+        std::size_t hiddenMethods;
     };
-    constexpr Row Rows[] = {{2015.0, 55}, {2014.99, 54}, {2011.99, 54}, {2023.04, 55}};
+    constexpr Row Rows[] = {{2015.0, 0}, {2014.99, 1}, {2011.99, 1}, {2023.04, 0}};
     for (const Row& row : Rows) {
         CAPTURE(row.hostVersion);
         DirectHost host(row.hostVersion);
+        const std::size_t allMethods = BigNumberRecord().sharedMethodCount;
         Start(&standin::Host::Resolve);
         for (const char* name : {"BigNumberVQZ", "BiggerNumberVQZ"}) {
             REQUIRE(host.FindClass(name) != nullptr);
-            CHECK(host.FindClass(name)->sharedMethods.size() == row.sharedMethods);
-            CHECK(host.FindClass(name)->sharedMethods[53].declaration ==
-                  std::string("Rand as ") + name);
+            const auto& methods = host.FindClass(name)->sharedMethods;
+            CHECK(methods.size() == allMethods - row.hiddenMethods);
+            REQUIRE(allMethods >= 2);
+            CHECK(methods[allMethods - 2].declaration == std::string("Rand as ") + name);
         }
         CHECK(host.FindClass("BigNumberErrorExceptionVQZ")->sharedMethods.empty());
     }
@@ -176,10 +180,11 @@ TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") 
 
 TEST_CASE("A second start runs every step again") {
     DirectHost host(2014.99);
+    const auto sharedMethods = BigNumberRecord().sharedMethodCount;
     Start(&standin::Host::Resolve);
     REALPluginMain(&standin::Host::Resolve);
-    CHECK(BigNumberRecord().sharedMethodCount == 53);
-    CHECK(BiggerNumberRecord().sharedMethodCount == 53);
+    CHECK(BigNumberRecord().sharedMethodCount == sharedMethods - 2);
+    CHECK(BiggerNumberRecord().sharedMethodCount == sharedMethods - 2);
     CHECK(BigNumberRecord().dataSize == 16);
     CHECK(host.RegisteredClasses().size() == 3);
 }
