@@ -6,7 +6,7 @@
 
 #include "host/references.hpp"
 #include "interface/host_interface.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
@@ -31,8 +31,8 @@ public:
             return;
         }
         const std::int32_t wanted =
-            length == 0 ? std::max<std::int32_t>(memoryBlockGetSize(block), 0) : length;
-        if (const void* first = memoryBlockGetPtr(block)) {
+            length == 0 ? std::max<std::int32_t>(host::memoryBlockGetSize(block), 0) : length;
+        if (const void* first = host::memoryBlockGetPtr(block)) {
             data_ = static_cast<const char*>(first) + offset;
             length_ = wanted;
         }

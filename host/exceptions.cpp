@@ -10,7 +10,7 @@
 #include "host/references.hpp"
 #include "host/string_building.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 namespace {
@@ -60,16 +60,16 @@ ExceptionMapping MapException(const std::exception& exception) {
 }  // namespace
 
 void RaiseHostExceptionWithString(const char* className, host_interface::String message) {
-    ObjectReference exception(PluginNewInstance(className));
+    ObjectReference exception(host::PluginNewInstance(className));
     if (!exception) {
-        exception = ObjectReference(PluginNewInstance("RuntimeException"));
+        exception = ObjectReference(host::PluginNewInstance("RuntimeException"));
     }
     if (!exception) {
         return;
     }
-    REALSetPropValueString(exception.Get(), "Message", message);
-    REALSetPropValueInteger(exception.Get(), "ErrorNumber", 0);
-    RuntimeRaiseException(exception.Get());
+    host::REALSetPropValueString(exception.Get(), "Message", message);
+    host::REALSetPropValueInteger(exception.Get(), "ErrorNumber", 0);
+    host::RuntimeRaiseException(exception.Get());
 }
 
 void RaiseHostException(const char* className, const char* message) {
@@ -83,7 +83,7 @@ void RaiseOverflowException(const char* operationName) {
     }
     const StringReference suffix = BuildFromCString(OperationFailed, HostTextEncoding::Ascii);
     const StringReference head = BuildFromCString(operationName, HostTextEncoding::Ascii);
-    const StringReference message(RuntimeAddString(head.Get(), suffix.Get()));
+    const StringReference message(host::RuntimeAddString(head.Get(), suffix.Get()));
     RaiseHostExceptionWithString(NumberErrorClass, message.Get());
 }
 

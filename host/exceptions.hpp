@@ -26,7 +26,8 @@ void RaiseHostException(const char* className, const char* message);
 /// The same with a message that is a host string already and stays the caller's.
 void RaiseHostExceptionWithString(const char* className, host_interface::String message);
 
-/// Raises `BigNumberErrorExceptionVQZ` with the operation's name and " operation failed.".
+/// Raises `BigNumberErrorExceptionVQZ` for a failed operation of any kind, not just an overflow:
+/// "NAME operation failed."
 void RaiseOverflowException(const char* operationName);
 
 /// Raises "OutOfBoundsException" for a value outside of `minimum` to `end` - 1. A null parameter

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
@@ -48,7 +48,9 @@ private:
     Handle handle_ = nullptr;
 };
 
-using StringReference = HostReference<host_interface::String, REALLockString, REALUnlockString>;
-using ObjectReference = HostReference<host_interface::Object, REALLockObject, REALUnlockObject>;
+using StringReference =
+    HostReference<host_interface::String, host::REALLockString, host::REALUnlockString>;
+using ObjectReference =
+    HostReference<host_interface::Object, host::REALLockObject, host::REALUnlockObject>;
 
 }  // namespace vqz

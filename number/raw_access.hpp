@@ -1,5 +1,5 @@
-// The bytes of a number as they lie in memory. These routines carry no guard, and they are the only
-// ones that refuse an object without a value.
+// Access to the bytes of a number as they are in memory. Only these routines refuse an object
+// without a value.
 #pragma once
 
 #include <cstdint>
@@ -9,9 +9,8 @@
 #include "host/debug_log.hpp"
 #include "host/exceptions.hpp"
 #include "host/memory_blocks.hpp"
-#include "host/strings.hpp"
-#include "number/number_object.hpp"
-#include "number/routine.hpp"
+#include "host/routine.hpp"
+#include "number/value/number_object.hpp"
 
 namespace vqz {
 
@@ -28,10 +27,16 @@ Value* RequireNumber(Object self) {
     return value;
 }
 
+/// A routine of this file. What it calls for anything but the bytes catches its own exceptions.
+template <typename Access>
+NamedRoutine MakeRawAccess(Access access) {
+    return MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged, Failure::Other>(access);
+}
+
 /// Getter of the bytes of one part, the mantissa or the exponent: least significant word first.
 template <typename Value, auto Part>
 NamedRoutine GetPart() {
-    return Unlogged<Failure::Other>([](Object self, Integer) -> Object {
+    return MakeRawAccess([](Object self, Integer) -> Object {
         const Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return nullptr;
@@ -45,7 +50,7 @@ NamedRoutine GetPart() {
 /// content. Both parts report a wrong size under the one name `methodName`.
 template <typename Value, auto Part, FixedString MethodName>
 NamedRoutine SetPart() {
-    return Unlogged<Failure::Other>([](Object self, Integer, Object block) {
+    return MakeRawAccess([](Object self, Integer, Object block) {
         Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return;
@@ -71,7 +76,7 @@ NamedRoutine SetPart() {
 /// Getter of the flag byte.
 template <typename Value>
 NamedRoutine GetFlags() {
-    return Unlogged<Failure::Other>([](Object self, Integer) -> Integer {
+    return MakeRawAccess([](Object self, Integer) -> Integer {
         const Value* value = RequireNumber<Value>(self);
         return value == nullptr ? 0 : value->info;
     });
@@ -80,18 +85,11 @@ NamedRoutine GetFlags() {
 /// Setter of the flag byte: the low 8 bits, in place.
 template <typename Value>
 NamedRoutine SetFlags() {
-    return Unlogged<Failure::Other>([](Object self, Integer, Integer flags) {
+    return MakeRawAccess([](Object self, Integer, Integer flags) {
         if (Value* value = RequireNumber<Value>(self)) {
             value->info = static_cast<unsigned char>(flags & 0xFF);
         }
     });
-}
-
-/// "LibTypeStr": the name of ttmath's build.
-template <typename Value>
-NamedRoutine GetLibraryType() {
-    return Unlogged(
-        [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); });
 }
 
 }  // namespace vqz

@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <exception>
 
-#include "number/number_value.hpp"
+#include "number/value/number_value.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
-#include "plugin/host_functions.hpp"
 #include "plugin/registration.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace vqz {
 namespace {
@@ -77,7 +77,7 @@ void PluginStartup() {
         HideUIntegerMethod<BigNumberValue>();
         HideUIntegerMethod<BiggerNumberValue>();
     }
-    if (REALinRuntime()) {
+    if (host::REALinRuntime()) {
         platform::SeedRuntimeRandom();
     }
     RegisterClassDefinition(NumberClass<BigNumberValue>::Record);

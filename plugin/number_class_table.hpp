@@ -8,10 +8,11 @@
 #include <type_traits>
 
 #include "interface/host_interface.hpp"
-#include "number/number_object.hpp"
+#include "number/lifecycle.hpp"
+#include "number/value/number_object.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
 #include "plugin/member_descriptions.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace vqz {
 
@@ -68,16 +69,11 @@ inline auto SharedMethods = Table(NumberSharedMethods<Value, HelpTexts::Dropped>
 /// The record of a number class with its tables.
 template <typename Value>
 host_interface::ClassDefinition NumberRecord() {
-    static_assert(std::tuple_size_v<decltype(Properties<Value>)> == 14);
-    static_assert(std::tuple_size_v<decltype(Methods<Value>)> == 52);
-    static_assert(std::tuple_size_v<decltype(SharedMethods<Value>)> == 55);
-    static_assert(std::tuple_size_v<decltype(SharedProperties)> == 1);
-
     host_interface::ClassDefinition record = {};
     record.version = UnregisteredInterfaceVersion;
     record.name = NumberClass<Value>::Name.text;
     record.dataSize = sizeof(NumberInstance<Value>);
-    record.destructor = Destruct<Value, "Destructor">();
+    record.destructor = Destruct<Value, "Destructor">().function;
     record.properties = Properties<Value>.data();
     record.propertyCount = Properties<Value>.size();
     record.methods = Methods<Value>.data();

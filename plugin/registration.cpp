@@ -6,8 +6,8 @@
 
 #include "host/debug_log.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 
 namespace vqz {
 namespace {
@@ -133,7 +133,7 @@ void RegisterClassDefinition(ClassDefinition& record) {
     record.dataSize = RoundedUp(record.dataSize);
     if (PluginInterfaceVersion >= FirstVersionWithAttributes) {
         record.version = PluginInterfaceVersion;
-        PluginRegisterClass(&record);
+        host::PluginRegisterClass(&record);
         return;
     }
     ClassDefinition* old = FixClass(record);
@@ -142,7 +142,7 @@ void RegisterClassDefinition(ClassDefinition& record) {
         return;
     }
     record = *old;
-    PluginRegisterClass(&record);
+    host::PluginRegisterClass(&record);
     platform::FreeBuffer(old);
 }
 

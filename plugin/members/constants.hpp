@@ -3,7 +3,8 @@
 
 #include <array>
 
-#include "number/ops/functions.hpp"
+#include "number/ops/plain_operations.hpp"
+#include "number/ops/random_number.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {

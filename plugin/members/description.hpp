@@ -6,10 +6,10 @@
 
 #include <cstdint>
 
+#include "host/fixed_string.hpp"
+#include "host/routine.hpp"
 #include "interface/host_interface.hpp"
-#include "number/fixed_string.hpp"
-#include "number/number_value.hpp"
-#include "number/routine.hpp"
+#include "number/value/number_value.hpp"
 
 namespace vqz {
 

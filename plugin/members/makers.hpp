@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdint>
 
+#include "host/strings.hpp"
 #include "number/conversions.hpp"
-#include "number/raw_access.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {
@@ -16,14 +16,15 @@ auto NumberMakers() {
     using Row = MethodDescription<Texts>;
     return std::array{
         Row{.declaration = "LibTypeStr as String",
-            .function = GetLibraryType<Value>(),
+            .function = MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged>(
+                [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); }),
             .help = {.section = Section::Inside,
                      .summary = "The name of the arithmetic library's build.",
                      .example = R"(
 Print BigNumberVQZ.LibTypeStr)"},
             .hidden = true},
         Row{Declaration<Value, "NumberWithInteger(value as Integer) as $">,
-            NumberWith<Value, "NumberWithInteger", std::int32_t>(),
+            NumberWith<Value, "NumberWithInteger", Integer>(),
             {.section = Section::Making,
              .summary = "The number of an Integer.",
              .details = "An Integer has 32 bits here.",
@@ -109,7 +110,7 @@ auto NumberMakerWithUInteger() {
     return std::array{
         MethodDescription<Texts>{
             Declaration<Value, "NumberWithUInteger(value as UInteger) as $">,
-            NumberWith<Value, "NumberWithUInteger", std::uint32_t>(),
+            NumberWith<Value, "NumberWithUInteger", UInteger>(),
             {.section = Section::Making,
              .summary = "The number of a UInteger.",
              .details =

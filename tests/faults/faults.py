@@ -111,7 +111,7 @@ FAULTS = [
         ("FirstVersionWithAttributes = 10", "FirstVersionWithAttributes = 11"),
     ),
     *faults_in(
-        "plugin/host_functions.hpp",
+        "plugin/bindings/host_functions.hpp",
         ('"REALGetPropValueCurrency", "REALGetPropValueInt64"', '"REALGetPropValueCurrency"'),
         ("LowByte = 0xFF", "LowByte = 0xFFFF"),
     ),
@@ -150,17 +150,17 @@ FAULTS = [
         ("StoreNumberValue(self, ReadNumber<Value>(other));", "StoreNumberValue(self, ZeroValue<Value>());"),
     ),
     *faults_in(
-        "number/number_object.hpp",
+        "number/value/number_object.hpp",
         ("value == nullptr ? NilNumberValue<Value> : *value", "*value"),
         ("std::exchange(InstanceOf<Value>(object).ref, nullptr)", "InstanceOf<Value>(object).ref"),
     ),
-    *faults_in("number/number_value.hpp", ("value.SetZeroNan();", "value.SetZero();")),
+    *faults_in("number/value/number_value.hpp", ("value.SetZeroNan();", "value.SetZero();")),
     *faults_in(
         "number/raw_access.hpp",
         ("sizeof words + 1,", "sizeof words + 2,"),
         ("flags & 0xFF", "flags & 0x7F"),
     ),
-    *faults_in("number/routine.hpp", ("(word & 0xFF) != 0", "word != 0")),
+    *faults_in("host/routine.hpp", ("(word & 0xFF) != 0", "word != 0")),
     *faults_in(
         "number/text.hpp",
         ("scient_from = scientificFrom", "scient_from = scientificFrom + 1"),

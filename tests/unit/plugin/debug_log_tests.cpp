@@ -11,7 +11,7 @@
 
 #include "host/debug_log.hpp"
 #include "host/host_string_log.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {

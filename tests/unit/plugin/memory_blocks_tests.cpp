@@ -9,7 +9,7 @@
 #include "host/byte_view.hpp"
 #include "host/memory_blocks.hpp"
 #include "host/variants.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {
@@ -53,7 +53,7 @@ host_interface::BooleanWord SayYes(host_interface::Object, host_interface::Class
 
 TEST_CASE("A block is asked of the host for sizes from 0 to 0x7FFFFFFE") {
     DirectHost host;
-    const Rebound newMemoryBlock(vqz::newMemoryBlock, &MakeNoBlock);
+    const Rebound newMemoryBlock(vqz::host::newMemoryBlock, &MakeNoBlock);
     calls = 0;
     for (const std::int64_t size : {std::int64_t{-1}, std::int64_t{0x7FFFFFFF},
                                     std::int64_t{0x80000000}, INT64_MIN, INT64_MAX}) {
@@ -100,7 +100,7 @@ TEST_CASE("A block that the host does not make is an error that tells the size")
 
 TEST_CASE("A native exception for want of memory is logged, and is the same error") {
     DirectHost host;
-    const Rebound newMemoryBlock(vqz::newMemoryBlock, &ThrowForWantOfMemory);
+    const Rebound newMemoryBlock(vqz::host::newMemoryBlock, &ThrowForWantOfMemory);
     CHECK(host.LogOf([] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3)); }) ==
           LogLines({"Got C++ exception in REALBuildMemoryblock:  std::bad_alloc"}));
     CHECK(TakeRaised(host) == OutOfMemory("3"));
@@ -157,7 +157,7 @@ TEST_CASE("Objects are told by the class that they are of or descend from") {
 
 TEST_CASE("The host is not asked what class no object has, nor whether one is of no class") {
     DirectHost host;
-    const Rebound isa(vqz::RuntimeObjectIsa, &SayYes);
+    const Rebound isa(vqz::host::RuntimeObjectIsa, &SayYes);
     calls = 0;
     const HeldObject block(host.MakeMemoryBlock("x"));
     CHECK_FALSE(vqz::ObjectIsA(nullptr, "RuntimeException"));
