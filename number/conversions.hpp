@@ -112,12 +112,12 @@ NamedRoutine NumberWith() {
 
 /// A new object with the number that a text in base 10 shows. A failure is reported with the name
 /// alone, and the object is made all the same.
-template <typename Value, FixedString FailureName>
-Object MakeFromText(String text) {
+template <typename Value>
+Object MakeFromText(String text, const char* failureName) {
     const TerminatedText source(text);
     Value number = NanValue<Value>();
     if (number.FromString(source.begin()) != 0) {
-        RaiseOverflowException(FailureName.text);
+        RaiseOverflowException(failureName);
     }
     return NewNumberObject(number);
 }
@@ -127,7 +127,7 @@ template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine NumberWithText() {
     return MakeUnguardedRoutine<Unguarded::OutOfMemoryEscapes, LogName, Failure::Name, FailureName,
                                 EntryLine::NameText>(
-        [](String text) { return MakeFromText<Value, FailureName>(text); });
+        [](String text) { return MakeFromText<Value>(text, FailureName.text); });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -264,7 +264,7 @@ NamedRoutine SetVariant() {
                 break;
             case VariantContent::Text: {
                 const StringReference text = VariantToString(variant);
-                Run<"SetStringValue">(StoreText<Value, "StringValue">, self, text.Get(), 10);
+                Run<"SetStringValue">(StoreText<Value>, self, text.Get(), 10, "StringValue");
                 break;
             }
             case VariantContent::NumberOrOther:
@@ -320,7 +320,8 @@ NamedRoutine NumberWithVariant() {
             case VariantContent::Text: {
                 const StringReference text = VariantToString(variant);
                 return Run<"NumberWithString", Unguarded::OutOfMemoryEscapes, EntryLine::NameText>(
-                    MakeFromText<Value, "Constructor">, text.Get());
+                    [](String value) { return MakeFromText<Value>(value, "Constructor"); },
+                    text.Get());
             }
             case VariantContent::NumberOrOther:
                 if (ObjectIsA(variant, NumberClass<Value>::Name.text)) {
@@ -370,7 +371,7 @@ Object VariantOf(Object self) {
             return host::UInt64ToVariant(unsignedWide);  // GCOVR_EXCL_LINE: zero is an Int32 above
         }
     }
-    const StringReference text(Run<"GetStringValue">(PlainText<Value, "StringValue">, self));
+    const StringReference text(Run<"GetStringValue">(PlainText<Value>, self, "StringValue"));
     return host::StringToVariant(text.Get());
 }
 

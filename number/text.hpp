@@ -46,24 +46,24 @@ String FormatNumber(Object self, const TextFormat& format, const char* failureNa
         .Release();
 }
 
-/// The number's text with all digits in base 10, as a host string that the caller owns.
-template <typename Value, FixedString FailureName>
-String PlainText(Object self) {
-    return FormatNumber<Value>(self, TextFormat(), FailureName.text);
+/// `FormatNumber` with all digits in base 10.
+template <typename Value>
+String PlainText(Object self, const char* failureName) {
+    return FormatNumber<Value>(self, TextFormat(), failureName);
 }
 
 /// Getter of the property "StringValue".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine GetText() {
     return MakeRoutine<LogName>(
-        [](Object self, Integer) { return PlainText<Value, FailureName>(self); });
+        [](Object self, Integer) { return PlainText<Value>(self, FailureName.text); });
 }
 
 /// "Operator_Convert as String": it calls the getter of "StringValue", which writes the log line.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine ConvertToText() {
     NamedRoutine routine = MakeUnguardedRoutine<Unguarded::GuardedInside, NotLogged>(
-        [](Object self) { return Run<LogName>(PlainText<Value, FailureName>, self); });
+        [](Object self) { return Run<LogName>(PlainText<Value>, self, FailureName.text); });
     routine.logName = LogName.text;
     return routine;
 }
@@ -95,12 +95,12 @@ NamedRoutine GetTextFormatted() {
 
 /// Parses text into the object's value and reports a failure with it. The value is replaced by
 /// whatever was read, also after a failure.
-template <typename Value, FixedString FailureName>
-void StoreText(Object self, String text, Integer base) {
+template <typename Value>
+void StoreText(Object self, String text, Integer base, const char* failureName) {
     Value value = NanValue<Value>();
     const TerminatedText source(text);
     if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
-        RaiseOverflowException<Value>(FailureName.text, self);
+        RaiseOverflowException<Value>(failureName, self);
     }
     StoreNumberValue(self, value);
 }
@@ -109,14 +109,16 @@ void StoreText(Object self, String text, Integer base) {
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine ConstructFromText() {
     return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
-        [](Object self, String text) { StoreText<Value, FailureName>(self, text, 10); });
+        [](Object self, String text) { StoreText<Value>(self, text, 10, FailureName.text); });
 }
 
 /// Setter of the property "StringValue": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine SetText() {
     return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
-        [](Object self, Integer, String text) { StoreText<Value, FailureName>(self, text, 10); });
+        [](Object self, Integer, String text) {
+            StoreText<Value>(self, text, 10, FailureName.text);
+        });
 }
 
 /// Setter of "StringValue(Base)".
@@ -124,7 +126,7 @@ template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine SetTextInBase() {
     return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
         [](Object self, Integer base, String text) {
-            StoreText<Value, FailureName>(self, text, base);
+            StoreText<Value>(self, text, base, FailureName.text);
         });
 }
 

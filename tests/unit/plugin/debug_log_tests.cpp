@@ -17,6 +17,7 @@
 namespace {
 
 using host_interface::HostTextEncoding;
+using tests::Address;
 using tests::DirectHost;
 using tests::HeldString;
 using tests::Joined;
@@ -49,13 +50,6 @@ public:
 private:
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
 };
-
-/// The handle's address as the language runtime prints it.
-std::string Address(host_interface::String text) {
-    char printed[32] = {};
-    std::snprintf(printed, sizeof printed, "%p", static_cast<const void*>(text));
-    return printed;
-}
 
 }  // namespace
 
