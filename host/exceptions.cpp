@@ -33,8 +33,8 @@ bool IsAnyOf(const std::exception& exception) {
     return ((dynamic_cast<const Types*>(&exception) != nullptr) || ...);
 }
 
-/// The order counts: the first match decides. The second test of `std::underflow_error` can never
-/// match, so that a failed cast is reported as a plain "C++ Exception"; this is the behaviour that
+/// The first match counts. The second test for std::underflow_error never matches, since the first
+/// one comes before it: so a failed cast is reported as a plain "C++ Exception", which is what
 /// programs know.
 ExceptionMapping MapException(const std::exception& exception) {
     if (IsAnyOf<std::bad_alloc>(exception)) {

@@ -42,8 +42,7 @@ constexpr BooleanWord AsBooleanWord(bool value) {
 /// one that a routine raises to which this one delegates.
 enum class Failure { None, Name, OneNumber, TwoNumbers, Other };
 
-/// A routine for a class table, and what the help tells of it. A name that it does not have is
-/// null.
+/// A routine for a class table, and what the help says of it. A name that it does not have is null.
 struct NamedRoutine {
     Routine function = nullptr;
     const char* logName = nullptr;

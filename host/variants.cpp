@@ -44,7 +44,7 @@ constinit VariantReader<functions::VariantToUInt32> UInt32Reader("VariantToUInt3
 constinit VariantReader<functions::VariantToUInt64> UInt64Reader("VariantToUInt64");
 constinit VariantReader<functions::VariantToString> StringReader("VariantToString");
 
-/// The host's global method that tells a Variant's type; kept once it is found.
+/// The host's global method that returns a Variant's type; kept once it is found.
 using VarTypeMethod = functions::VarType*;
 constinit VarTypeMethod VarType = nullptr;
 
@@ -76,7 +76,7 @@ bool IsInstance(Object object, ClassReference classReference) {
 
 std::int32_t VariantType(Object variant) {
     const std::int32_t type = HostVariantType(variant);
-    // Each class is looked up once for good, also when the host does not know it.
+    // Each class is looked up once per process, even when the host does not know it.
     if (type == static_cast<std::int32_t>(VariantTypeCode::Int32)) {
         static const ClassReference UInt32Class = host::pluginObjectType("_VariantUInt32");
         return IsInstance(variant, UInt32Class) ? VariantTypeUInt32 : type;

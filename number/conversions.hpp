@@ -17,11 +17,10 @@
 
 namespace vqz {
 
-/// The host's Currency as a type of its own, so that it is told from a plain Int64: the amount
-/// times 10,000.
+/// A Currency of the host: the amount times 10,000. A type of its own, to tell it from an Int64.
 enum class CurrencyAmount : std::int64_t {};
 
-/// What a Currency is scaled by.
+/// The factor between a Currency and its amount, 10,000.
 template <typename Value>
 Value CurrencyScale() {
     Value scale = NanValue<Value>();
@@ -48,6 +47,7 @@ Value NumberFrom(Host currency) {
     return number;
 }
 
+/// The number as a Double, for the debug log. Out of range it is what ttmath leaves there.
 template <typename Value>
 double ToDouble(const Value& value) {
     double result = 0.0;
@@ -55,7 +55,7 @@ double ToDouble(const Value& value) {
     return result;
 }
 
-/// `NumberFrom` a Currency that tells the debug log of its steps.
+/// `NumberFrom` a Currency that writes its steps to the debug log.
 template <typename Value>
 Value CurrencyToNumber(CurrencyAmount currency) {
     if (DebugEnabled) {
@@ -205,7 +205,7 @@ NamedRoutine GetCurrency() {
 // ---------------------------------------------------------------------------------------------
 // Variants
 
-/// What a Variant's type code means to a number.
+/// What a Variant holds, as far as numbers are concerned.
 enum class VariantContent {
     Nothing,
     SignedInt32,
@@ -222,10 +222,11 @@ enum class VariantContent {
     Unsupported
 };
 
-/// Booleans count as Int32, colours as UInt32.
+/// The content for a type code that `VariantType` returned. Booleans count as Int32, colours as
+/// UInt32.
 VariantContent VariantContentOf(std::int32_t type);
 
-/// Raises what a Variant that cannot become a number gives.
+/// Raises the exception for a Variant that cannot become a number.
 void RaiseConversionNotSupported();
 
 /// Setter of "VariantValue". The number is 0 until it is replaced by what the Variant holds.

@@ -14,7 +14,8 @@
 
 namespace vqz {
 
-/// The object's value to be read or written in place; null after "Not initialized" was raised.
+/// The object's value, to be read or written in place. Without one it raises "Not initialized" and
+/// returns null.
 template <typename Value>
 Value* RequireNumber(Object self) {
     Value* value = self == nullptr ? nullptr : InstanceOf<Value>(self).ref;
@@ -27,7 +28,8 @@ Value* RequireNumber(Object self) {
     return value;
 }
 
-/// A routine of this file. What it calls for anything but the bytes catches its own exceptions.
+/// Makes a routine of this file. Those only copy bytes, and what they call to raise exceptions or
+/// to make a MemoryBlock lets no C++ exception out.
 template <typename Access>
 NamedRoutine MakeRawAccess(Access access) {
     return MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged, Failure::Other>(access);
@@ -46,8 +48,8 @@ NamedRoutine GetPart() {
     });
 }
 
-/// Setter of the bytes of one part, in place. Takes a block of exactly the part's size, with any
-/// content. Both parts report a wrong size under the one name `methodName`.
+/// Setter of the bytes of one part, in place. The block has to be of the part's size; its content
+/// may be anything. A block of another size is reported under `MethodName`.
 template <typename Value, auto Part, FixedString MethodName>
 NamedRoutine SetPart() {
     return MakeRawAccess([](Object self, Integer, Object block) {

@@ -15,10 +15,10 @@
 
 namespace vqz {
 
-/// What a number is written with; ttmath's defaults are all digits in base 10.
+/// How a number is written; the defaults write all digits in base 10.
 using TextFormat = ttmath::Conv;
 
-/// ttmath's defaults in another base. A base outside of 2 to 16 makes the formatting fail.
+/// The default format in another base. With a base outside of 2 to 16 formatting fails.
 inline TextFormat FormatWithBase(Integer base) {
     TextFormat format;
     format.base = static_cast<ttmath::uint>(base);

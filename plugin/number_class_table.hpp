@@ -11,7 +11,7 @@
 
 namespace vqz {
 
-/// The tables of one number class.
+/// The tables of a number class.
 template <typename Value>
 inline auto Properties = Table(NumberProperties<Value, HelpTexts::Dropped>());
 template <typename Value>

@@ -13,11 +13,11 @@
 
 namespace vqz {
 
-/// What stands between the operation's name and one number, or two of them.
+/// What follows the operation's name in a message that shows one number, or two of them.
 inline constexpr const char* FailedWithNumber = " operation failed with number ";
 inline constexpr const char* FailedWithNumbers = " operation failed with numbers ";
 
-/// A number's text as messages show it: all digits in base 10, or "nil" for a missing one.
+/// A number's text as messages show it: all digits in base 10; "nil" for a null pointer.
 template <typename Value>
 std::string ReportText(const Value* value) {
     if (value == nullptr) {
@@ -28,7 +28,7 @@ std::string ReportText(const Value* value) {
     return text;
 }
 
-/// Raises `BigNumberErrorExceptionVQZ` with the pieces joined in order.
+/// Raises `BigNumberErrorExceptionVQZ` with a message that is made of the pieces in their order.
 inline void RaiseNumberError(std::initializer_list<const char*> pieces) {
     StringReference message = CString2RB(*pieces.begin(), HostTextEncoding::Ascii);
     for (const char* piece : std::span(pieces).subspan(1)) {

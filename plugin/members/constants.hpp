@@ -9,6 +9,7 @@
 
 namespace vqz {
 
+/// The rows of the constants and of the random number.
 template <typename Value, HelpTexts Texts>
 auto NumberConstants() {
     using Row = MethodDescription<Texts>;

@@ -10,6 +10,7 @@
 
 namespace vqz {
 
+/// The rows of the shared functions.
 template <typename Value, HelpTexts Texts>
 auto NumberFunctions() {
     using Row = MethodDescription<Texts>;

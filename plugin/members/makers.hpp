@@ -1,5 +1,5 @@
-// The shared methods of the number classes that make a number of a host value, and the name of the
-// arithmetic's build, in the order of the table.
+// The shared methods of the number classes that make a number from a host value, and the one that
+// returns the name of ttmath's build, in the order of the table.
 #pragma once
 
 #include <array>
@@ -11,6 +11,7 @@
 
 namespace vqz {
 
+/// The rows of these methods but the last one of the table.
 template <typename Value, HelpTexts Texts>
 auto NumberMakers() {
     using Row = MethodDescription<Texts>;
@@ -104,7 +105,7 @@ Print BigNumberVQZ.NumberWithString("1e99999999999999999999"))"}},
     };
 }
 
-/// The row that hosts without UInteger are not told of: it is the last of its table.
+/// The last row of the table, which is hidden from hosts that do not know the type UInteger.
 template <typename Value, HelpTexts Texts>
 auto NumberMakerWithUInteger() {
     return std::array{

@@ -1,4 +1,4 @@
-// The methods of the number classes that bear a name, in the order of the table.
+// The named methods of the number classes, in the order of the table.
 #pragma once
 
 #include <array>
@@ -13,20 +13,21 @@
 
 namespace vqz {
 
-/// The routine of "Modulate" and of the operators "Mod".
+/// The routine of "Modulate" and of the operator "Mod" in both forms.
 template <typename Value>
 NamedRoutine Remainder() {
     return TwoNumbersOrCarry<Value, "Mod">(
         [](auto& me, const auto& other) { return me.Mod(other); });
 }
 
-/// The routine of "Pow" and of the operators "^".
+/// The routine of "Pow" and of the operator "^" in both forms.
 template <typename Value>
 NamedRoutine Power() {
     return TwoNumbersOrCarry<Value, "Pow">(
         [](auto& me, const auto& other) { return me.Pow(other); });
 }
 
+/// The rows of the named methods.
 template <typename Value, HelpTexts Texts>
 auto NumberNamedMethods() {
     using Row = MethodDescription<Texts>;

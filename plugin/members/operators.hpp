@@ -1,5 +1,6 @@
-// The operators of the number classes, in the order of the table. An operator on the right has the
-// routine of its left form: the receiver stays the left operand.
+// The operators of the number classes, in the order of the table. The form that the host calls on
+// the right operand has the same routine as the left form: the receiver is the left operand in
+// both.
 #pragma once
 
 #include <array>
@@ -13,6 +14,7 @@
 
 namespace vqz {
 
+/// The rows of the operators.
 template <typename Value, HelpTexts Texts>
 auto NumberOperators() {
     using Row = MethodDescription<Texts>;

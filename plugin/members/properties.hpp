@@ -12,6 +12,7 @@
 
 namespace vqz {
 
+/// The rows of the properties.
 template <typename Value, HelpTexts Texts>
 auto NumberProperties() {
     using Row = PropertyDescription<Texts>;
@@ -262,7 +263,7 @@ Print nothing.DataFlags)"}},
     };
 }
 
-/// The one shared property of both classes.
+/// The rows of the shared properties, which both classes have in common.
 template <HelpTexts Texts>
 auto NumberSharedProperties() {
     namespace flags = host_interface::flags;
