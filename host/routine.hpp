@@ -108,10 +108,10 @@ Routine HostCallable(Result (Computation::*)(Arguments...) const) {
     });
 }
 
-/// A routine without the guard. `Why` is the reason.
-template <Unguarded Why, FixedString LogName, Failure Report = Failure::None,
-          FixedString FailureName = LogName, EntryLine Line = EntryLine::Name, typename Computation>
-NamedRoutine MakeUnguardedRoutine(Computation) {
+/// What `MakeRoutine` and `MakeUnguardedRoutine` have in common.
+template <Unguarded Why, FixedString LogName, Failure Report, FixedString FailureName,
+          EntryLine Line, typename Computation>
+NamedRoutine NameRoutine(Computation) {
     return {.function = HostCallable<LogName, Why, Line>(&Computation::operator()),
             .logName = LogName.View().empty() ? nullptr : LogName.text,
             .failure = Report,
@@ -125,7 +125,15 @@ NamedRoutine MakeUnguardedRoutine(Computation) {
 template <FixedString LogName, Failure Report = Failure::None, FixedString FailureName = LogName,
           typename Computation>
 NamedRoutine MakeRoutine(Computation computation) {
-    return MakeUnguardedRoutine<Unguarded::No, LogName, Report, FailureName>(computation);
+    return NameRoutine<Unguarded::No, LogName, Report, FailureName, EntryLine::Name>(computation);
+}
+
+/// The same without the guard, for the reason `Why`.
+template <Unguarded Why, FixedString LogName, Failure Report = Failure::None,
+          FixedString FailureName = LogName, EntryLine Line = EntryLine::Name, typename Computation>
+NamedRoutine MakeUnguardedRoutine(Computation computation) {
+    static_assert(Why != Unguarded::No);
+    return NameRoutine<Why, LogName, Report, FailureName, Line>(computation);
 }
 
 }  // namespace vqz
