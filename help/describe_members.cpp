@@ -8,8 +8,8 @@
 #include <tuple>
 
 #include "host/exceptions.hpp"
-#include "number/number_value.hpp"
 #include "number/ops/failure_report.hpp"
+#include "number/value/number_value.hpp"
 #include "plugin/member_descriptions.hpp"
 
 namespace vqz {

@@ -1,4 +1,4 @@
-// Byte access to one host string or MemoryBlock for the length of a scope.
+// Reads the bytes of a host string or MemoryBlock.
 #pragma once
 
 #include <algorithm>
@@ -6,12 +6,12 @@
 
 #include "host/references.hpp"
 #include "interface/host_interface.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
-/// The bytes of a host string or of a MemoryBlock, whose host value it keeps alive. Empty is null
-/// data and length 0.
+/// The bytes of a host string or of a MemoryBlock. Holds a reference of it, so that the bytes stay
+/// valid. An empty view has null data and length 0.
 class ByteView {
 public:
     /// All bytes of a string as the host stores them; a null string gives an empty view.
@@ -22,8 +22,8 @@ public:
         }
     }
 
-    /// `length` bytes of a MemoryBlock from `offset` on; a length of 0 means as many as the block
-    /// has. Bounds are not checked. A null block, or one without data, gives an empty view.
+    /// `length` bytes of a MemoryBlock from `offset` on; a length of 0 means the size of the whole
+    /// block. Bounds are not checked. A null block, or one without data, gives an empty view.
     explicit ByteView(host_interface::Object block, std::int32_t offset = 0,
                       std::int32_t length = 0)
         : block_(ObjectReference::Share(block)) {
@@ -31,8 +31,8 @@ public:
             return;
         }
         const std::int32_t wanted =
-            length == 0 ? std::max<std::int32_t>(memoryBlockGetSize(block), 0) : length;
-        if (const void* first = memoryBlockGetPtr(block)) {
+            length == 0 ? std::max<std::int32_t>(host::memoryBlockGetSize(block), 0) : length;
+        if (const void* first = host::memoryBlockGetPtr(block)) {
             data_ = static_cast<const char*>(first) + offset;
             length_ = wanted;
         }

@@ -1,7 +1,7 @@
-// The debug log: one line an event on the debugger's output, for developers.
+// The debug log: one line per event on the debugger's output, for developers.
 //
-// Nothing here tests the switch. A caller tests `DebugEnabled` first, so that a log site costs one
-// byte test while the log is off.
+// These functions do not test the switch. The caller tests `DebugEnabled` first, so that logging
+// costs one test of a byte while the log is off.
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,14 @@
 
 namespace vqz {
 
-/// What every line of the six entry points below starts with.
+/// What every line starts with, except those that `LogLine` writes by itself.
 inline constexpr const char* DebugPrefix = "VQZ Debug: ";
 
-/// When set, lines go to this stream, each ended and flushed, instead of to the debugger.
+/// When set, lines go to this stream, each with a line feed and flushed, and not to the debugger.
+/// For a developer who runs the library without a debugger; the library itself never sets it.
 inline constinit std::FILE* DebugLogStream = nullptr;
 
-/// Writes one line in printf form, without prefix; cut at 4095 characters.
+/// Formats and writes one line like printf, without the prefix; it is cut at 4095 characters.
 [[gnu::format(printf, 1, 2)]] void LogLine(const char* format, ...) noexcept;
 
 /// Writes a text.

@@ -10,7 +10,7 @@
 #include "host/references.hpp"
 #include "host/string_building.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 namespace {
@@ -33,8 +33,8 @@ bool IsAnyOf(const std::exception& exception) {
     return ((dynamic_cast<const Types*>(&exception) != nullptr) || ...);
 }
 
-/// The order counts: the first match decides. The second test of `std::underflow_error` can never
-/// match, so that a failed cast is reported as a plain "C++ Exception"; this is the behaviour that
+/// The first match counts. The second test for std::underflow_error never matches, since the first
+/// one comes before it: so a failed cast is reported as a plain "C++ Exception", which is what
 /// programs know.
 ExceptionMapping MapException(const std::exception& exception) {
     if (IsAnyOf<std::bad_alloc>(exception)) {
@@ -60,16 +60,16 @@ ExceptionMapping MapException(const std::exception& exception) {
 }  // namespace
 
 void RaiseHostExceptionWithString(const char* className, host_interface::String message) {
-    ObjectReference exception(PluginNewInstance(className));
+    ObjectReference exception(host::PluginNewInstance(className));
     if (!exception) {
-        exception = ObjectReference(PluginNewInstance("RuntimeException"));
+        exception = ObjectReference(host::PluginNewInstance("RuntimeException"));
     }
     if (!exception) {
         return;
     }
-    REALSetPropValueString(exception.Get(), "Message", message);
-    REALSetPropValueInteger(exception.Get(), "ErrorNumber", 0);
-    RuntimeRaiseException(exception.Get());
+    host::REALSetPropValueString(exception.Get(), "Message", message);
+    host::REALSetPropValueInteger(exception.Get(), "ErrorNumber", 0);
+    host::RuntimeRaiseException(exception.Get());
 }
 
 void RaiseHostException(const char* className, const char* message) {
@@ -83,7 +83,7 @@ void RaiseOverflowException(const char* operationName) {
     }
     const StringReference suffix = BuildFromCString(OperationFailed, HostTextEncoding::Ascii);
     const StringReference head = BuildFromCString(operationName, HostTextEncoding::Ascii);
-    const StringReference message(RuntimeAddString(head.Get(), suffix.Get()));
+    const StringReference message(host::RuntimeAddString(head.Get(), suffix.Get()));
     RaiseHostExceptionWithString(NumberErrorClass, message.Get());
 }
 

@@ -1,7 +1,7 @@
-// Host exceptions, and the guard that keeps native ones inside the plug-in.
+// Host exceptions, and the guard that keeps C++ exceptions inside the plug-in.
 //
-// Raising does not unwind: the host delivers the exception when the routine returns to it. So
-// whoever raises returns right after, with its neutral result.
+// Raising does not unwind the stack: the host throws the exception when the routine has returned to
+// it. So code that raises returns right after, with its neutral result: null, 0 or nothing.
 #pragma once
 
 #include <cstdint>
@@ -18,30 +18,33 @@ inline constexpr const char* NumberErrorClass = "BigNumberErrorExceptionVQZ";
 /// What follows the operation's name in the message that has nothing else.
 inline constexpr const char* OperationFailed = " operation failed.";
 
-/// Raises a new instance of a host exception class, by name, with a UTF-8 message; null gives an
-/// empty message. A class that cannot be made is replaced by "RuntimeException"; when that fails
-/// too, nothing is raised.
+/// Raises a new instance of the host exception class of that name, with a UTF-8 message; null gives
+/// an empty message. When the host makes no instance of the class, a "RuntimeException" takes its
+/// place; when it makes none of that either, nothing is raised.
 void RaiseHostException(const char* className, const char* message);
 
-/// The same with a message that is a host string already and stays the caller's.
+/// The same with a message that is a host string already. The caller keeps its reference.
 void RaiseHostExceptionWithString(const char* className, host_interface::String message);
 
-/// Raises `BigNumberErrorExceptionVQZ` with the operation's name and " operation failed.".
+/// Raises `BigNumberErrorExceptionVQZ` for a failed operation of any kind, not just an overflow:
+/// "NAME operation failed."
 void RaiseOverflowException(const char* operationName);
 
 /// Raises "OutOfBoundsException" for a value outside of `minimum` to `end` - 1. A null parameter
-/// name prints "?", a null method name nothing.
+/// name is shown as "?"; a null method name is left out.
 void RaiseParameterOutOfBounds(std::int64_t value, std::int64_t minimum, std::int64_t end,
                                const char* parameterName, const char* methodName);
 
-/// Raises the host exception that stands for a caught native one.
+/// Raises the host exception that a caught C++ exception is mapped to.
 void HandleStdException(const std::exception& exception);
 
-/// Raises the host exception that stands for a native one of no known type.
+/// Raises the host exception for a caught C++ exception that is no std::exception.
 void HandleUnknownException();
 
-/// Runs the body of a routine that the host calls. A native exception becomes a host exception and
-/// the result is the neutral one: null, 0 or nothing. What the body changed before stays changed.
+/// Calls `body` and returns its result. A C++ exception that leaves it becomes a host exception,
+/// and the result is the neutral one: null, 0 or nothing. What `body` changed before stays changed.
+///
+/// The routines for the host get this from host/routine.hpp.
 template <typename Body>
 auto MethodBoundaryGuard(Body&& body) noexcept -> std::invoke_result_t<Body> {
     using Result = std::invoke_result_t<Body>;

@@ -6,7 +6,7 @@
 
 #include "host/debug_log.hpp"
 #include "host/exceptions.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 namespace {
@@ -25,7 +25,7 @@ ObjectReference NewMemoryBlock64(std::int64_t size) {
     if (size < 0 || size >= INT32_MAX) {
         return {};
     }
-    return ObjectReference(newMemoryBlock(static_cast<std::int32_t>(size)));
+    return ObjectReference(host::newMemoryBlock(static_cast<std::int32_t>(size)));
 }
 
 ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size) {
@@ -34,7 +34,7 @@ ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size) {
     }
     try {
         ObjectReference block = NewMemoryBlock64(size);
-        void* bytes = block ? memoryBlockGetPtr(block.Get()) : nullptr;
+        void* bytes = block ? host::memoryBlockGetPtr(block.Get()) : nullptr;
         if (bytes != nullptr) {
             std::memcpy(bytes, data, static_cast<std::size_t>(size));
             return block;
@@ -43,12 +43,13 @@ ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size) {
         if (DebugEnabled) {
             LogInt64("Error: Failed to allocate memoryblock", size);
         }
+        RaiseOutOfMemory(size);
     } catch (const std::bad_alloc& exception) {
         if (DebugEnabled) {
             LogText("Got C++ exception in REALBuildMemoryblock: ", exception.what());
         }
+        RaiseOutOfMemory(size);
     }
-    RaiseOutOfMemory(size);
     return {};
 }
 

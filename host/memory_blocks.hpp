@@ -1,4 +1,4 @@
-// Making MemoryBlocks.
+// Makes MemoryBlocks.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,8 @@ namespace vqz {
 ObjectReference NewMemoryBlock64(std::int64_t size);
 
 /// A new MemoryBlock with a copy of the bytes. Null, and nothing raised, for null data or a size
-/// below 1. When the host gives no block with data, "OutOfMemoryException" is raised.
+/// below 1. When the host makes no block, or one without data, or when a std::bad_alloc comes in
+/// between, it raises "OutOfMemoryException" and returns null. It needs no guard around it.
 ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size);
 
 }  // namespace vqz

@@ -6,7 +6,7 @@
 #include "host/debug_log.hpp"
 #include "host/strings.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 namespace {
@@ -96,17 +96,17 @@ rbText::~rbText() {
     LogBadCheckWord(checkWord2, "Check2 in rbText invalid");
 
     if (source != nullptr) {
-        REALUnlockString(source);
+        host::REALUnlockString(source);
     }
     for (const host_interface::String string : converted) {
         if (string != nullptr) {
-            REALUnlockString(string);
+            host::REALUnlockString(string);
         }
     }
     for (std::size_t slot = 0; slot < TextSlotCount; ++slot) {
         if (hasStringData[slot]) {
             LogIfEnabled(SlotReleaseMessages[slot].stringData);
-            PluginDisposeStringData(&stringData[slot]);
+            host::PluginDisposeStringData(&stringData[slot]);
         }
     }
     for (std::size_t slot = 0; slot < TextSlotCount; ++slot) {
@@ -135,12 +135,12 @@ void rbText::Reset() noexcept {
 
 void rbText::ReplaceSource(host_interface::String text) {
     if (text != source) {
-        REALLockString(text);
+        host::REALLockString(text);
         if (source != nullptr) {
-            REALUnlockString(source);
+            host::REALUnlockString(source);
         }
         source = text;
-        encoding = static_cast<HostTextEncoding>(REALGetStringEncoding(source));
+        encoding = static_cast<HostTextEncoding>(host::REALGetStringEncoding(source));
     }
 }
 
@@ -248,7 +248,7 @@ const char* rbText::Fill(TextSlot slot) {
 void rbText::FillByHost(TextSlot slot) {
     const std::size_t index = Index(slot);
     if (HostVersion < FirstVersionWithStringData) {
-        const host_interface::String text = REALConvertString(source, EncodingOf(slot));
+        const host_interface::String text = host::REALConvertString(source, EncodingOf(slot));
         converted[index] = text;
         if (text == nullptr) {
             Fail("REALConvertString failed");
@@ -261,7 +261,7 @@ void rbText::FillByHost(TextSlot slot) {
     if (slot == TextSlot::Ascii) {
         LogIfEnabled("REALGetStringData...");
     }
-    if (!PluginGetStringData(source, EncodingOf(slot), &stringData[index])) {
+    if (!host::PluginGetStringData(source, EncodingOf(slot), &stringData[index])) {
         Fail("REALGetStringData failed.");
         return;
     }

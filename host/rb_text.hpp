@@ -10,24 +10,25 @@
 
 namespace vqz {
 
-/// The encodings a text is kept in, in the order of all arrays of `rbText`. Only Ascii and Utf8 are
-/// ever filled.
+/// Indices into the arrays of `rbText`, which have room for the text in each of these encodings.
+/// Pure ASCII text is in all 8-bit slots; otherwise only Ascii and Utf8 are ever filled.
 enum class TextSlot : std::size_t { Windows, MacRoman, Ascii, Utf8, Latin1, Utf16, Utf32 };
 inline constexpr std::size_t TextSlotCount = 7;
 
-/// What is known of the source's bytes.
+/// What is known about the bytes of the source string.
 enum class TextKind : std::uint32_t {
-    Unrecognised = 0,    ///< an encoding of which nothing is known
-    Shared = 1,          ///< pure ASCII or no string: every 8-bit slot is the source's bytes
-    Unchecked = 2,       ///< 8-bit text whose bytes have not been looked at
+    Unrecognised = 0,    ///< an encoding that this code does not know
+    Shared = 1,          ///< ASCII only, or no string: all 8-bit slots point to the source's bytes
+    Unchecked = 2,       ///< 8-bit text that has not been tested for bytes above 0x7F
     NeedsConversion = 3  ///< a wide encoding, or bytes above 0x7F
 };
 
-/// A view of one host string on the stack, for the length of one call of the host. The getters hand
-/// out its text; their pointers live as long as the record, which frees all that it acquired.
+/// Converts one host string to NUL-terminated text. It is a local variable of the code that reads
+/// the string: the pointers that it returns are valid as long as the object, whose destructor frees
+/// everything that it acquired.
 ///
-/// Pure ASCII text in an 8-bit encoding is handed out in place, as the host stores it, so a NUL
-/// behind it is only as certain as the host makes it. Whoever depends on the NUL takes a
+/// For pure ASCII text in an 8-bit encoding it returns the bytes where the host stores them, and
+/// whether a NUL follows them is up to the host. Code that depends on the NUL uses
 /// `TerminatedText`.
 struct rbText {
     explicit rbText(host_interface::String text);
@@ -35,7 +36,8 @@ struct rbText {
     rbText(const rbText&) = delete;
     rbText& operator=(const rbText&) = delete;
 
-    /// The text as ASCII; empty on failure, never null.
+    /// The text as ASCII; empty on failure, never null. The number classes read all text as UTF-8;
+    /// this is for code that needs ASCII from the host.
     const char* AsciiText();
     /// The text as UTF-8; empty on failure, never null.
     const char* Utf8Text();

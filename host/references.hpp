@@ -1,13 +1,13 @@
-// Owners of one reference of a host string or object.
+// Smart pointers for host strings and objects, which the host counts the references of.
 #pragma once
 
 #include <utility>
 
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
-/// Owns one reference of a host handle and drops it at the end. Not copyable.
+/// Owns one reference and releases it in the destructor. Not copyable.
 template <typename Handle, auto& LockFunction, auto& UnlockFunction>
 class HostReference {
 public:
@@ -23,7 +23,7 @@ public:
     HostReference& operator=(const HostReference&) = delete;
     ~HostReference() { Reset(); }
 
-    /// Adds a reference of its own to a handle that belongs to somebody else.
+    /// Adds a reference to a handle that somebody else owns.
     static HostReference Share(Handle handle) {
         if (handle != nullptr) {
             LockFunction(handle);
@@ -34,21 +34,23 @@ public:
     Handle Get() const noexcept { return handle_; }
     explicit operator bool() const noexcept { return handle_ != nullptr; }
 
-    /// Drops the reference before the end.
+    /// Releases the reference now.
     void Reset() noexcept {
         if (const Handle handle = Release()) {
             UnlockFunction(handle);
         }
     }
 
-    /// Hands the reference to the caller.
+    /// Gives the reference to the caller, who has to release it.
     [[nodiscard]] Handle Release() noexcept { return std::exchange(handle_, nullptr); }
 
 private:
     Handle handle_ = nullptr;
 };
 
-using StringReference = HostReference<host_interface::String, REALLockString, REALUnlockString>;
-using ObjectReference = HostReference<host_interface::Object, REALLockObject, REALUnlockObject>;
+using StringReference =
+    HostReference<host_interface::String, host::REALLockString, host::REALUnlockString>;
+using ObjectReference =
+    HostReference<host_interface::Object, host::REALLockObject, host::REALUnlockObject>;
 
 }  // namespace vqz

@@ -6,7 +6,7 @@
 
 #include "host/debug_log.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 namespace {
@@ -31,17 +31,17 @@ bool IsAscii(const char* bytes, std::size_t count) {
 /// Builds with the given encoding, unchanged, in the way the host's age asks for.
 StringReference BuildAsGiven(const char* bytes, std::int32_t count, HostTextEncoding encoding) {
     if (HostVersion >= FirstVersionBuildingWithEncoding) {
-        return StringReference(REALBuildStringWithEncoding(bytes, count, Code(encoding)));
+        return StringReference(host::REALBuildStringWithEncoding(bytes, count, Code(encoding)));
     }
-    StringReference built(REALBuildString(bytes, count));
+    StringReference built(host::REALBuildString(bytes, count));
     if (built) {
-        REALSetStringEncoding(built.Get(), Code(encoding));
+        host::REALSetStringEncoding(built.Get(), Code(encoding));
     }
     return built;
 }
 
 StringReference ConvertedToUtf8(const StringReference& wide) {
-    return StringReference(REALConvertString(wide.Get(), Code(HostTextEncoding::Utf8)));
+    return StringReference(host::REALConvertString(wide.Get(), Code(HostTextEncoding::Utf8)));
 }
 
 /// Native UTF-32 on a host that does not take it: as UTF-16.
@@ -73,7 +73,7 @@ StringReference BuildFromUtf32(const char* bytes, std::int32_t byteCount) {
         return BuildFromUtf32ByUtf16(bytes, byteCount);
     }
     const StringReference wide(
-        REALBuildStringWithEncoding(bytes, byteCount, Code(HostTextEncoding::Utf32)));
+        host::REALBuildStringWithEncoding(bytes, byteCount, Code(HostTextEncoding::Utf32)));
     return ConvertedToUtf8(wide);
 }
 

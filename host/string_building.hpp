@@ -1,6 +1,9 @@
-// Host strings from bytes, for every host age and text encoding. These routines carry no guard of
-// their own, so that the raising of exceptions can build its messages with them; everybody else
-// takes the guarded forms of host/strings.hpp.
+// Host strings from bytes, for hosts of every release and for every text encoding. These functions
+// have no guard, so that the code that raises exceptions can build its messages with them; all
+// other code calls the guarded forms in host/strings.hpp.
+//
+// The plug-in itself builds ASCII and UTF-8 only. The other encodings are part of this interface to
+// host strings, which other classes may be built on.
 #pragma once
 
 #include <cstddef>
@@ -25,12 +28,12 @@ StringReference BuildFromBytes(const void* data, std::int64_t byteCount, HostTex
 /// A UTF-8 host string from native UTF-16 units. Null when the host fails.
 StringReference REALBuildUnicodeStringUTF16(const void* units, std::int64_t byteCount);
 
-/// Writes `count` native 32-bit code points, at any alignment, as UTF-16 units and a closing 0
-/// unit, and returns the number of units without it. Surrogate code points are dropped; code points
-/// above 0x10FFFF become U+FFFD. The output holds `Utf16Capacity(count)` units.
+/// Writes `count` native 32-bit code points, at any alignment, as UTF-16 units followed by a 0
+/// unit, and returns the number of units without the 0. Surrogate code points are dropped; code
+/// points above 0x10FFFF become U+FFFD. The output holds `Utf16Capacity(count)` units.
 std::size_t Utf32ToUtf16(const void* codePoints, std::size_t count, char16_t* output);
 
-/// Units that any `count` code points fit into, the closing 0 unit included.
+/// The number of units that is enough for any `count` code points and the 0 unit.
 constexpr std::size_t Utf16Capacity(std::size_t count) {
     return 2 * count + 1;
 }

@@ -1,4 +1,4 @@
-// Host text that C string routines can be given.
+// Host text for C functions that read up to a NUL.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace vqz {
 
-/// The UTF-8 text of a host string with a NUL behind it for certain, whatever the host stores
-/// there. Holds the host string while it lives. May throw std::bad_alloc.
+/// The UTF-8 text of a host string, always followed by a NUL, whatever the host stores there. Holds
+/// a reference of the host string. May throw std::bad_alloc.
 class TerminatedText {
 public:
     explicit TerminatedText(host_interface::String text) : text_(text) {
@@ -23,7 +23,7 @@ public:
         view_ = {bytes, length};
     }
 
-    /// The first byte; a NUL follows the last one. NULs may also stand inside.
+    /// The first byte. A NUL follows the last one; the text itself may contain NULs, too.
     const char* begin() const noexcept { return view_.data(); }
     const char* end() const noexcept { return view_.data() + view_.size(); }
 

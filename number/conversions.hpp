@@ -1,5 +1,5 @@
-// Numbers from host values and back. Functions that answer a routine take the debug-log name and,
-// where they can fail, the name that the failure is reported under.
+// Numbers from host values and back. The template arguments of the routines here are the name in
+// the debug log and, for those that can fail, the name that a failure is reported under.
 #pragma once
 
 #include <concepts>
@@ -8,20 +8,19 @@
 #include <limits>
 #include <type_traits>
 
-#include "host/exceptions.hpp"
+#include "host/routine.hpp"
+#include "host/terminated_text.hpp"
 #include "host/variants.hpp"
-#include "number/number_object.hpp"
 #include "number/ops/failure_report.hpp"
-#include "number/routine.hpp"
 #include "number/text.hpp"
+#include "number/value/number_object.hpp"
 
 namespace vqz {
 
-/// The host's Currency as a type of its own, so that it is told from a plain Int64: the amount
-/// times 10,000.
+/// A Currency of the host: the amount times 10,000. A type of its own, to tell it from an Int64.
 enum class CurrencyAmount : std::int64_t {};
 
-/// What a Currency is scaled by.
+/// The factor between a Currency and its amount, 10,000.
 template <typename Value>
 Value CurrencyScale() {
     Value scale = NanValue<Value>();
@@ -31,20 +30,6 @@ Value CurrencyScale() {
 
 // ---------------------------------------------------------------------------------------------
 // From host values
-
-/// The exact number of an integer. The magnitude is converted, so that the most negative value of
-/// each type is exact too.
-template <typename Value, std::integral Host>
-Value NumberFrom(Host value) {
-    const bool negative = value < 0;
-    const auto bits = static_cast<ttmath::ulint>(value);
-    Value number = NanValue<Value>();
-    number.FromUInt(negative ? 0 - bits : bits);
-    if (negative) {
-        number.SetSign();
-    }
-    return number;
-}
 
 /// The exact number of a Double or Single; an infinite one or a NaN gives NaN.
 template <typename Value, std::floating_point Host>
@@ -62,6 +47,7 @@ Value NumberFrom(Host currency) {
     return number;
 }
 
+/// The number as a Double, for the debug log. Out of range it is what ttmath leaves there.
 template <typename Value>
 double ToDouble(const Value& value) {
     double result = 0.0;
@@ -69,7 +55,7 @@ double ToDouble(const Value& value) {
     return result;
 }
 
-/// `NumberFrom` a Currency that tells the debug log of its steps.
+/// `NumberFrom` a Currency that writes its steps to the debug log.
 template <typename Value>
 Value CurrencyToNumber(CurrencyAmount currency) {
     if (DebugEnabled) {
@@ -92,52 +78,46 @@ Value StoredNumberFrom(Host value) {
     }
 }
 
-/// Makes the number of a host value the object's own.
-template <typename Value, FixedString LogName, typename Host>
-void SetFrom(Object self, Host value) {
-    MethodBoundaryGuard([&] {
-        LogEntry<LogName>();
-        StoreNumberValue(self, StoredNumberFrom<Value>(value));
-    });
+/// Replaces the object's value by the number of a host value.
+template <typename Value, typename Host>
+void StoreFrom(Object self, Host value) {
+    StoreNumberValue(self, StoredNumberFrom<Value>(value));
 }
 
 /// "Constructor(value as ...)".
 template <typename Value, FixedString LogName, typename Host>
 NamedRoutine ConstructFrom() {
-    return Named<LogName>([](Object self, Host value) { SetFrom<Value, LogName>(self, value); });
+    return MakeRoutine<LogName>([](Object self, Host value) { StoreFrom<Value>(self, value); });
 }
 
 /// Setter of a property of type `Host`.
 template <typename Value, FixedString LogName, typename Host>
 NamedRoutine SetProperty() {
-    return Named<LogName>(
-        [](Object self, Integer, Host value) { SetFrom<Value, LogName>(self, value); });
+    return MakeRoutine<LogName>(
+        [](Object self, Integer, Host value) { StoreFrom<Value>(self, value); });
 }
 
-/// A new object with the number of a host value. Like all "NumberWith" methods it carries no guard.
-template <typename Value, FixedString LogName, typename Host>
+/// A new object with the number of a host value.
+template <typename Value, typename Host>
 Object MakeFrom(Host value) {
-    LogEntry<LogName>();
     return NewNumberObject(NumberFrom<Value>(value));
 }
 
 /// "NumberWith...(value as ...)".
 template <typename Value, FixedString LogName, typename Host>
 NamedRoutine NumberWith() {
-    return Named<LogName>([](Host value) { return MakeFrom<Value, LogName>(value); });
+    return MakeUnguardedRoutine<Unguarded::OutOfMemoryEscapes, LogName>(
+        [](Host value) { return MakeFrom<Value>(value); });
 }
 
 /// A new object with the number that a text in base 10 shows. A failure is reported with the name
 /// alone, and the object is made all the same.
-template <typename Value, FixedString LogName, FixedString FailureName>
-Object MakeFromText(String text) {
+template <typename Value>
+Object MakeFromText(String text, const char* failureName) {
     const TerminatedText source(text);
-    if (DebugEnabled) {
-        LogText(LogName.text, source.begin());
-    }
     Value number = NanValue<Value>();
     if (number.FromString(source.begin()) != 0) {
-        RaiseOverflowException(FailureName.text);
+        RaiseOverflowException(failureName);
     }
     return NewNumberObject(number);
 }
@@ -145,8 +125,9 @@ Object MakeFromText(String text) {
 /// "NumberWithString(value as String)".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine NumberWithText() {
-    return Named<LogName, Failure::Name, FailureName>(
-        [](String text) { return MakeFromText<Value, LogName, FailureName>(text); });
+    return MakeUnguardedRoutine<Unguarded::OutOfMemoryEscapes, LogName, Failure::Name, FailureName,
+                                EntryLine::NameText>(
+        [](String text) { return MakeFromText<Value>(text, FailureName.text); });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -174,16 +155,13 @@ bool NumberTo(const Value& value, Host& result) {
 /// Getter of a property of type `Host`; 0 after a failure was raised.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
 NamedRoutine GetProperty() {
-    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer) {
-        return MethodBoundaryGuard([&]() -> Host {
-            LogEntry<LogName>();
-            Host result = 0;
-            if (!NumberTo<Host>(ReadNumber<Value>(self), result)) {
-                RaiseOverflowException<Value>(FailureName.text, self);
-                return 0;
-            }
-            return result;
-        });
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>([](Object self, Integer) -> Host {
+        Host result = 0;
+        if (!NumberTo<Host>(ReadNumber<Value>(self), result)) {
+            RaiseOverflowException<Value>(FailureName.text, self);
+            return 0;
+        }
+        return result;
     });
 }
 
@@ -219,18 +197,15 @@ std::int64_t NumberToCurrency(Value value) {
 /// Getter of "CurrencyValue".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine GetCurrency() {
-    return Named<LogName, Failure::Name, FailureName>([](Object self, Integer) {
-        return MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            return NumberToCurrency<Value, FailureName>(ReadNumber<Value>(self));
-        });
+    return MakeRoutine<LogName, Failure::Name, FailureName>([](Object self, Integer) {
+        return NumberToCurrency<Value, FailureName>(ReadNumber<Value>(self));
     });
 }
 
 // ---------------------------------------------------------------------------------------------
 // Variants
 
-/// What a Variant's type code means to a number.
+/// What a Variant holds, as far as numbers are concerned.
 enum class VariantContent {
     Nothing,
     SignedInt32,
@@ -247,71 +222,76 @@ enum class VariantContent {
     Unsupported
 };
 
-/// Booleans count as Int32, colours as UInt32.
+/// The content for a type code that `VariantType` returned. Booleans count as Int32, colours as
+/// UInt32.
 VariantContent VariantContentOf(std::int32_t type);
 
-/// Raises what a Variant that cannot become a number gives.
+/// Raises the exception for a Variant that cannot become a number.
 void RaiseConversionNotSupported();
 
 /// Setter of "VariantValue". The number is 0 until it is replaced by what the Variant holds.
 template <typename Value, FixedString LogName>
 NamedRoutine SetVariant() {
-    return Named<LogName, Failure::Other>([](Object self, Integer, Object variant) {
-        MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            StoreNumberValue(self, ZeroValue<Value>());
-            switch (VariantContentOf(VariantType(variant))) {
-                case VariantContent::Nothing:
-                    break;
-                case VariantContent::SignedInt32:
-                    StoreNumberValue(self, NumberFrom<Value>(VariantToInt32(variant)));
-                    break;
-                case VariantContent::UnsignedInt32:
-                    StoreNumberValue(self, NumberFrom<Value>(VariantToUInt32(variant)));
-                    break;
-                case VariantContent::SignedInt64:
-                    StoreNumberValue(self, NumberFrom<Value>(VariantToInt64(variant)));
-                    break;
-                case VariantContent::UnsignedInt64:
-                    StoreNumberValue(self, NumberFrom<Value>(VariantToUInt64(variant)));
-                    break;
-                case VariantContent::Currency:
-                    SetFrom<Value, "SetCurrencyValue">(self,
-                                                       CurrencyAmount{VariantToCurrency(variant)});
-                    break;
-                case VariantContent::Single:
-                case VariantContent::Double:
-                    SetFrom<Value, "SetDoubleValue">(self, VariantToDouble(variant));
-                    break;
-                case VariantContent::Date:
-                    SetFrom<Value, "SetDoubleValue">(self, GetDateTotalSeconds(variant));
-                    break;
-                case VariantContent::DateTime:
-                    SetFrom<Value, "SetDoubleValue">(self, GetSecondsFrom1970(variant));
-                    break;
-                case VariantContent::Text:
-                    SetTextOf<Value, "SetStringValue", "StringValue">(
-                        self, VariantToString(variant).Get(), 10);
-                    break;
-                case VariantContent::NumberOrOther:
-                    if (ObjectIsA(variant, NumberClass<Value>::Name.text)) {
-                        StoreNumberValue(self, ReadNumber<Value>(variant));
-                        break;
-                    }
-                    [[fallthrough]];
-                case VariantContent::Unsupported:
-                    RaiseConversionNotSupported();
+    return MakeRoutine<LogName, Failure::Other>([](Object self, Integer, Object variant) {
+        StoreNumberValue(self, ZeroValue<Value>());
+        switch (VariantContentOf(VariantType(variant))) {
+            case VariantContent::Nothing:
+                break;
+            case VariantContent::SignedInt32:
+                StoreFrom<Value>(self, VariantToInt32(variant));
+                break;
+            case VariantContent::UnsignedInt32:
+                StoreFrom<Value>(self, VariantToUInt32(variant));
+                break;
+            case VariantContent::SignedInt64:
+                StoreFrom<Value>(self, VariantToInt64(variant));
+                break;
+            case VariantContent::UnsignedInt64:
+                StoreFrom<Value>(self, VariantToUInt64(variant));
+                break;
+            case VariantContent::Currency:
+                Run<"SetCurrencyValue">(StoreFrom<Value, CurrencyAmount>, self,
+                                        CurrencyAmount{VariantToCurrency(variant)});
+                break;
+            case VariantContent::Single:
+            case VariantContent::Double:
+                Run<"SetDoubleValue">(StoreFrom<Value, double>, self, VariantToDouble(variant));
+                break;
+            case VariantContent::Date:
+                Run<"SetDoubleValue">(StoreFrom<Value, double>, self, GetDateTotalSeconds(variant));
+                break;
+            case VariantContent::DateTime:
+                Run<"SetDoubleValue">(StoreFrom<Value, double>, self, GetSecondsFrom1970(variant));
+                break;
+            case VariantContent::Text: {
+                const StringReference text = VariantToString(variant);
+                Run<"SetStringValue">(StoreText<Value>, self, text.Get(), 10, "StringValue");
+                break;
             }
-        });
+            case VariantContent::NumberOrOther:
+                if (ObjectIsA(variant, NumberClass<Value>::Name.text)) {
+                    StoreNumberValue(self, ReadNumber<Value>(variant));
+                    break;
+                }
+                [[fallthrough]];
+            case VariantContent::Unsupported:
+                RaiseConversionNotSupported();
+        }
     });
 }
 
+/// Makes the number of a host value as the "NumberWith..." method called `LogName` does.
+template <typename Value, FixedString LogName, typename Host>
+Object MakeAs(Host value) {
+    return Run<LogName, Unguarded::OutOfMemoryEscapes>(MakeFrom<Value, Host>, value);
+}
+
 /// "NumberWithVariant(value as variant)"; null for Nil. A Double is read as a Single here, unlike
-/// in the setter of "VariantValue": programs know this method by that precision.
+/// in the setter of "VariantValue": programs rely on that precision.
 template <typename Value, FixedString LogName>
 NamedRoutine NumberWithVariant() {
-    return Named<LogName, Failure::Other>([](Object variant) -> Object {
-        LogEntry<LogName>();
+    return MakeUnguardedRoutine<Unguarded::OutOfMemoryEscapes, LogName,
+                                Failure::Other>([](Object variant) -> Object {
         if (variant == nullptr) {
             return nullptr;
         }
@@ -319,28 +299,31 @@ NamedRoutine NumberWithVariant() {
             case VariantContent::Nothing:
                 return nullptr;
             case VariantContent::SignedInt32:
-                return MakeFrom<Value, "NumberWithInt32">(VariantToInt32(variant));
+                return MakeAs<Value, "NumberWithInt32">(VariantToInt32(variant));
             case VariantContent::SignedInt64:
-                return MakeFrom<Value, "NumberWithInt64">(VariantToInt64(variant));
+                return MakeAs<Value, "NumberWithInt64">(VariantToInt64(variant));
             case VariantContent::UnsignedInt32:
-                return MakeFrom<Value, "NumberWithUInt32">(VariantToUInt32(variant));
+                return MakeAs<Value, "NumberWithUInt32">(VariantToUInt32(variant));
             case VariantContent::UnsignedInt64:
-                return MakeFrom<Value, "NumberWithUInt64">(VariantToUInt64(variant));
+                return MakeAs<Value, "NumberWithUInt64">(VariantToUInt64(variant));
             case VariantContent::Single:
-                return MakeFrom<Value, "NumberWithSingle">(VariantToSingle(variant));
+                return MakeAs<Value, "NumberWithSingle">(VariantToSingle(variant));
             case VariantContent::Double:
-                return MakeFrom<Value, "NumberWithDouble">(
+                return MakeAs<Value, "NumberWithDouble">(
                     static_cast<double>(VariantToSingle(variant)));
             case VariantContent::Currency:
-                return MakeFrom<Value, "NumberWithCurrency">(
+                return MakeAs<Value, "NumberWithCurrency">(
                     CurrencyAmount{VariantToCurrency(variant)});
             case VariantContent::Date:
-                return MakeFrom<Value, "NumberWithDouble">(GetDateTotalSeconds(variant));
+                return MakeAs<Value, "NumberWithDouble">(GetDateTotalSeconds(variant));
             case VariantContent::DateTime:
-                return MakeFrom<Value, "NumberWithDouble">(GetSecondsFrom1970(variant));
-            case VariantContent::Text:
-                return MakeFromText<Value, "NumberWithString", "Constructor">(
-                    VariantToString(variant).Get());
+                return MakeAs<Value, "NumberWithDouble">(GetSecondsFrom1970(variant));
+            case VariantContent::Text: {
+                const StringReference text = VariantToString(variant);
+                return Run<"NumberWithString", Unguarded::OutOfMemoryEscapes, EntryLine::NameText>(
+                    [](String value) { return MakeFromText<Value>(value, "Constructor"); },
+                    text.Get());
+            }
             case VariantContent::NumberOrOther:
                 if (ObjectIsA(variant, NumberClass<Value>::Name.text)) {
                     return NewNumberObject(ReadNumber<Value>(variant));
@@ -354,7 +337,7 @@ NamedRoutine NumberWithVariant() {
     });
 }
 
-/// Whether `value` lies between the smallest and the largest `Host`, both included.
+/// Whether `value` is between the smallest and the largest `Host`, both included.
 template <typename Host, typename Value>
 bool IsInRangeOf(const Value& value) {
     static const auto smallest = NumberFrom<Value>(std::numeric_limits<Host>::min());
@@ -362,8 +345,8 @@ bool IsInRangeOf(const Value& value) {
     return smallest <= value && value <= largest;
 }
 
-/// The range in which "VariantValue" gives a UInt64: -1 to 0. Zero is an Int32 before it gets here,
-/// so integers beyond Int64 become text; programs count on that.
+/// The range in which "VariantValue" gives a UInt64: -1 to 0. Zero has become an Int32 before this
+/// test, so integers beyond Int64 become text; programs rely on that.
 template <typename Value>
 bool IsInRangeOfUInt64Variant(const Value& value) {
     static const auto smallest = NumberFrom<Value>(-1);
@@ -378,30 +361,25 @@ Object VariantOf(Object self) {
     if (value.IsInteger()) {
         std::int32_t narrow = 0;
         if (IsInRangeOf<std::int32_t>(value) && NumberTo<std::int32_t>(value, narrow)) {
-            return Int32ToVariant(narrow);
+            return host::Int32ToVariant(narrow);
         }
         std::int64_t wide = 0;
         if (IsInRangeOf<std::int64_t>(value) && NumberTo<std::int64_t>(value, wide)) {
-            return Int64ToVariant(wide);
+            return host::Int64ToVariant(wide);
         }
         std::uint64_t unsignedWide = 0;
         if (IsInRangeOfUInt64Variant(value) && NumberTo<std::uint64_t>(value, unsignedWide)) {
-            return UInt64ToVariant(unsignedWide);  // GCOVR_EXCL_LINE: zero is an Int32 above
+            return host::UInt64ToVariant(unsignedWide);  // GCOVR_EXCL_LINE: zero is an Int32 above
         }
     }
-    const StringReference text(TextOf<Value, "GetStringValue", "StringValue">(self));
-    return StringToVariant(text.Get());
+    const StringReference text(Run<"GetStringValue">(PlainText<Value>, self, "StringValue"));
+    return host::StringToVariant(text.Get());
 }
 
 /// Getter of "VariantValue".
 template <typename Value, FixedString LogName>
 NamedRoutine GetVariant() {
-    return Named<LogName>([](Object self, Integer) {
-        return MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            return VariantOf<Value>(self);
-        });
-    });
+    return MakeRoutine<LogName>([](Object self, Integer) { return VariantOf<Value>(self); });
 }
 
 }  // namespace vqz

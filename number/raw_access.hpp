@@ -1,5 +1,5 @@
-// The bytes of a number as they lie in memory. These routines carry no guard, and they are the only
-// ones that refuse an object without a value.
+// Access to the bytes of a number as they are in memory. Only these routines refuse an object
+// without a value.
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,13 @@
 #include "host/debug_log.hpp"
 #include "host/exceptions.hpp"
 #include "host/memory_blocks.hpp"
-#include "host/strings.hpp"
-#include "number/number_object.hpp"
-#include "number/routine.hpp"
+#include "host/routine.hpp"
+#include "number/value/number_object.hpp"
 
 namespace vqz {
 
-/// The object's value to be read or written in place; null after "Not initialized" was raised.
+/// The object's value, to be read or written in place. Without one it raises "Not initialized" and
+/// returns null.
 template <typename Value>
 Value* RequireNumber(Object self) {
     Value* value = self == nullptr ? nullptr : InstanceOf<Value>(self).ref;
@@ -28,10 +28,17 @@ Value* RequireNumber(Object self) {
     return value;
 }
 
+/// Makes a routine of this file. Those only copy bytes, and what they call to raise exceptions or
+/// to make a MemoryBlock lets no C++ exception out.
+template <typename Access>
+NamedRoutine MakeRawAccess(Access access) {
+    return MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged, Failure::Other>(access);
+}
+
 /// Getter of the bytes of one part, the mantissa or the exponent: least significant word first.
 template <typename Value, auto Part>
 NamedRoutine GetPart() {
-    return Unlogged<Failure::Other>([](Object self, Integer) -> Object {
+    return MakeRawAccess([](Object self, Integer) -> Object {
         const Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return nullptr;
@@ -41,11 +48,11 @@ NamedRoutine GetPart() {
     });
 }
 
-/// Setter of the bytes of one part, in place. Takes a block of exactly the part's size, with any
-/// content. Both parts report a wrong size under the one name `methodName`.
+/// Setter of the bytes of one part, in place. The block has to be of the part's size; its content
+/// may be anything. A block of another size is reported under `MethodName`.
 template <typename Value, auto Part, FixedString MethodName>
 NamedRoutine SetPart() {
-    return Unlogged<Failure::Other>([](Object self, Integer, Object block) {
+    return MakeRawAccess([](Object self, Integer, Object block) {
         Value* value = RequireNumber<Value>(self);
         if (value == nullptr) {
             return;
@@ -71,7 +78,7 @@ NamedRoutine SetPart() {
 /// Getter of the flag byte.
 template <typename Value>
 NamedRoutine GetFlags() {
-    return Unlogged<Failure::Other>([](Object self, Integer) -> Integer {
+    return MakeRawAccess([](Object self, Integer) -> Integer {
         const Value* value = RequireNumber<Value>(self);
         return value == nullptr ? 0 : value->info;
     });
@@ -80,18 +87,11 @@ NamedRoutine GetFlags() {
 /// Setter of the flag byte: the low 8 bits, in place.
 template <typename Value>
 NamedRoutine SetFlags() {
-    return Unlogged<Failure::Other>([](Object self, Integer, Integer flags) {
+    return MakeRawAccess([](Object self, Integer, Integer flags) {
         if (Value* value = RequireNumber<Value>(self)) {
             value->info = static_cast<unsigned char>(flags & 0xFF);
         }
     });
-}
-
-/// "LibTypeStr": the name of ttmath's build.
-template <typename Value>
-NamedRoutine GetLibraryType() {
-    return Unlogged(
-        [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); });
 }
 
 }  // namespace vqz

@@ -1,25 +1,24 @@
-// Numbers to host text and back. Each function that answers a routine takes the debug-log name and
-// the name that a failure is reported under.
+// Numbers to host text and back. The template arguments of the routines here are the name in the
+// debug log and the name that a failure is reported under.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <utility>
 
-#include "host/exceptions.hpp"
 #include "host/rb_text.hpp"
+#include "host/routine.hpp"
 #include "host/strings.hpp"
 #include "host/terminated_text.hpp"
-#include "number/number_object.hpp"
 #include "number/ops/failure_report.hpp"
-#include "number/routine.hpp"
+#include "number/value/number_object.hpp"
 
 namespace vqz {
 
-/// What a number is written with; ttmath's defaults are all digits in base 10.
+/// How a number is written; the defaults write all digits in base 10.
 using TextFormat = ttmath::Conv;
 
-/// ttmath's defaults in another base. A base outside of 2 to 16 makes the formatting fail.
+/// The default format in another base. With a base outside of 2 to 16 formatting fails.
 inline TextFormat FormatWithBase(Integer base) {
     TextFormat format;
     format.base = static_cast<ttmath::uint>(base);
@@ -47,125 +46,114 @@ String FormatNumber(Object self, const TextFormat& format, const char* failureNa
         .Release();
 }
 
-/// Getter of the property "StringValue"; "Operator_Convert as String" is the same routine's body.
-template <typename Value, FixedString LogName, FixedString FailureName>
-String TextOf(Object self) {
-    return MethodBoundaryGuard([&] {
-        LogEntry<LogName>();
-        return FormatNumber<Value>(self, TextFormat(), FailureName.text);
-    });
+/// `FormatNumber` with all digits in base 10.
+template <typename Value>
+String PlainText(Object self, const char* failureName) {
+    return FormatNumber<Value>(self, TextFormat(), failureName);
 }
 
-/// The getter form of `TextOf`.
+/// Getter of the property "StringValue".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine GetText() {
-    return Named<LogName>(
-        [](Object self, Integer) { return TextOf<Value, LogName, FailureName>(self); });
+    return MakeRoutine<LogName>(
+        [](Object self, Integer) { return PlainText<Value>(self, FailureName.text); });
 }
 
-/// The conversion operator form of `TextOf`.
+/// "Operator_Convert as String": it calls the getter of "StringValue", which writes the log line.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine ConvertToText() {
-    return Named<LogName>([](Object self) { return TextOf<Value, LogName, FailureName>(self); });
+    NamedRoutine routine = MakeUnguardedRoutine<Unguarded::GuardedInside, NotLogged>(
+        [](Object self) { return Run<LogName>(PlainText<Value>, self, FailureName.text); });
+    routine.logName = LogName.text;
+    return routine;
 }
 
 /// Getter of "StringValue(Base)".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine GetTextInBase() {
-    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer base) {
-        return MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            return FormatNumber<Value>(self, FormatWithBase(base), FailureName.text);
-        });
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>([](Object self, Integer base) {
+        return FormatNumber<Value>(self, FormatWithBase(base), FailureName.text);
     });
 }
 
 /// "GetStringValue" with all its options.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine GetTextFormatted() {
-    return Named<LogName, Failure::OneNumber, FailureName>(
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
         [](Object self, Integer base, BooleanWord scientific, Integer scientificFrom, Integer round,
            BooleanWord trimZeros, String comma) {
-            return MethodBoundaryGuard([&] {
-                LogEntry<LogName>();
-                TextFormat format = FormatWithBase(base);
-                format.scient = IsTrue(scientific);
-                format.scient_from = scientificFrom;
-                format.round = round;
-                format.trim_zeroes = IsTrue(trimZeros);
-                // ttmath narrows the separator to a char again: the sign extension is harmless.
-                format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
-                return FormatNumber<Value>(self, format, FailureName.text);
-            });
+            TextFormat format = FormatWithBase(base);
+            format.scient = IsTrue(scientific);
+            format.scient_from = scientificFrom;
+            format.round = round;
+            format.trim_zeroes = IsTrue(trimZeros);
+            // ttmath narrows the separator to a char again, so the sign extension does no harm.
+            format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
+            return FormatNumber<Value>(self, format, FailureName.text);
         });
 }
 
 /// Parses text into the object's value and reports a failure with it. The value is replaced by
 /// whatever was read, also after a failure.
-template <typename Value, FixedString LogName, FixedString FailureName>
-void SetTextOf(Object self, String text, Integer base) {
-    MethodBoundaryGuard([&] {
-        LogEntry<LogName>();
-        Value value = NanValue<Value>();
-        const TerminatedText source(text);
-        if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
-            RaiseOverflowException<Value>(FailureName.text, self);
-        }
-        StoreNumberValue(self, value);
-    });
+template <typename Value>
+void StoreText(Object self, String text, Integer base, const char* failureName) {
+    Value value = NanValue<Value>();
+    const TerminatedText source(text);
+    if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
+        RaiseOverflowException<Value>(failureName, self);
+    }
+    StoreNumberValue(self, value);
 }
 
 /// "Constructor(value as String)": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine ConstructFromText() {
-    return Named<LogName, Failure::OneNumber, FailureName>(
-        [](Object self, String text) { SetTextOf<Value, LogName, FailureName>(self, text, 10); });
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
+        [](Object self, String text) { StoreText<Value>(self, text, 10, FailureName.text); });
 }
 
 /// Setter of the property "StringValue": text in base 10.
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine SetText() {
-    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, Integer, String text) {
-        SetTextOf<Value, LogName, FailureName>(self, text, 10);
-    });
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
+        [](Object self, Integer, String text) {
+            StoreText<Value>(self, text, 10, FailureName.text);
+        });
 }
 
 /// Setter of "StringValue(Base)".
 template <typename Value, FixedString LogName, FixedString FailureName>
 NamedRoutine SetTextInBase() {
-    return Named<LogName, Failure::OneNumber, FailureName>(
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>(
         [](Object self, Integer base, String text) {
-            SetTextOf<Value, LogName, FailureName>(self, text, base);
+            StoreText<Value>(self, text, base, FailureName.text);
         });
 }
 
-/// "SetStringValue": parses, and tells what was left of the text and whether digits were read.
-/// The text is held from the start, so that one variable may be both it and the rest.
+/// "SetStringValue": parses, and returns the rest of the text and whether digits were read. The
+/// text is held from the start, so that one variable may be both the text and the rest.
 template <typename Value, FixedString LogName, FixedString FailureName>
-NamedRoutine SetTextAndTellRest() {
-    return Named<LogName, Failure::OneNumber, FailureName>([](Object self, String text,
-                                                              Integer base, String* afterText,
-                                                              std::uint8_t* valueRead) {
-        MethodBoundaryGuard([&] {
-            LogEntry<LogName>();
-            const StringReference held = StringReference::Share(text);
-            StringReference(std::exchange(*afterText, nullptr)).Reset();
-            *valueRead = 0;
+NamedRoutine SetTextAndReturnRest() {
+    return MakeRoutine<LogName, Failure::OneNumber, FailureName>([](Object self, String text,
+                                                                    Integer base, String* afterText,
+                                                                    std::uint8_t* valueRead) {
+        const StringReference held = StringReference::Share(text);
+        StringReference(std::exchange(*afterText, nullptr)).Reset();
+        *valueRead = 0;
 
-            Value value = NanValue<Value>();
-            const TerminatedText source(text);
-            const char* after = source.begin();
-            bool digitsRead = false;
-            const bool failed = value.FromString(source.begin(), static_cast<ttmath::uint>(base),
-                                                 &after, &digitsRead) != 0;
-            *valueRead = digitsRead ? 1 : 0;
-            *afterText = REALBuildUnicodeString(after, source.end() - after, HostTextEncoding::Utf8)
-                             .Release();
-            if (failed) {
-                RaiseOverflowException<Value>(FailureName.text, self);
-            }
-            StoreNumberValue(self, value);
-        });
+        Value value = NanValue<Value>();
+        const TerminatedText source(text);
+        const char* after = source.begin();
+        bool digitsRead = false;
+        const bool failed = value.FromString(source.begin(), static_cast<ttmath::uint>(base),
+                                             &after, &digitsRead) != 0;
+        *valueRead = digitsRead ? 1 : 0;
+        *afterText =
+            REALBuildUnicodeString(after, source.end() - after, HostTextEncoding::Utf8).Release();
+        if (failed) {
+            RaiseOverflowException<Value>(FailureName.text, self);
+        }
+        StoreNumberValue(self, value);
     });
 }
 

@@ -1,7 +1,9 @@
 #include "plugin/class_tables.hpp"
 
 #include "host/exceptions.hpp"
-#include "plugin/number_class_table.hpp"
+#include "plugin/bindings/startup_globals.hpp"
+#include "plugin/members/properties.hpp"
+#include "plugin/table_building.hpp"
 
 namespace vqz {
 

@@ -1,5 +1,5 @@
-// What the records of the three classes share. Those of the number classes are
-// `NumberClass<Value>::Record`.
+// The table that the number classes share, and the record of the exception class. The records of
+// the number classes are `NumberClass<Value>::Record`.
 #pragma once
 
 #include <array>
@@ -7,9 +7,6 @@
 #include "interface/host_interface.hpp"
 
 namespace vqz {
-
-/// The one attribute in use: it keeps an entry out of the lists that the host shows.
-inline constexpr host_interface::AttributeDefinition HiddenAttribute = {"Hidden", ""};
 
 /// The table that both number classes point at.
 extern std::array<host_interface::PropertyDefinition, 1> SharedProperties;

@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <exception>
 
-#include "number/number_value.hpp"
+#include "number/value/number_value.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
-#include "plugin/host_functions.hpp"
 #include "plugin/registration.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace vqz {
 namespace {
@@ -17,8 +17,8 @@ namespace {
 /// Hosts from here on know the type UInteger.
 constexpr double FirstVersionWithUInteger = 2015.0;
 
-/// A text search of the library file finds the version by this literal. It is never read, so the
-/// compiler is told not to drop it.
+/// Points to a text that a search of the library file finds the version by. It is never read;
+/// volatile keeps the compiler from dropping it.
 const char* volatile VersionMarker = nullptr;
 
 template <typename Function>
@@ -33,13 +33,13 @@ bool AsksForDebugLog(const char* setting) {
            });
 }
 
-/// Makes the language runtime prepare for exceptions. It would do so when the first one is thrown,
-/// and that may be for want of the very memory that this takes.
+/// Makes the language runtime allocate what it needs for exceptions. It would do so when the first
+/// one is thrown, and that one may be thrown because memory is missing.
 void PrepareForExceptions() {
     std::current_exception();
 }
 
-/// Hides the last shared method, whose declaration uses UInteger.
+/// Hides the last shared method, whose declaration uses UInteger, from the host.
 template <typename Value>
 void HideUIntegerMethod() {
     --NumberClass<Value>::Record.sharedMethodCount;
@@ -77,7 +77,7 @@ void PluginStartup() {
         HideUIntegerMethod<BigNumberValue>();
         HideUIntegerMethod<BiggerNumberValue>();
     }
-    if (REALinRuntime()) {
+    if (host::REALinRuntime()) {
         platform::SeedRuntimeRandom();
     }
     RegisterClassDefinition(NumberClass<BigNumberValue>::Record);

@@ -9,7 +9,7 @@
 /// The entry that the host calls once, right after loading the library.
 extern "C" void REALPluginMain(host_interface::Resolver resolver);
 
-/// The loader's callback: asks not to be told of threads, and always answers 1.
+/// The loader's callback: asks not to be called for threads, and always returns 1.
 extern "C" int VQZ_LOADER_CALL DllMain(void* module, std::uint32_t reason, void* reserved);
 
 namespace vqz {
@@ -17,10 +17,12 @@ namespace vqz {
 /// The plug-in interface version that a host of this release speaks: 9 to 13.
 std::uint32_t InterfaceVersionOf(double hostVersion);
 
-/// Keeps the version marker and reads the debug switch from the environment.
+/// Stores the address of the version marker, and switches the debug log on when the environment
+/// variable VQZDEBUG asks for it.
 void InitPlugin();
 
-/// Registers the classes.
+/// Does everything after the versions are known: calls `InitPlugin`, seeds the random numbers and
+/// registers the classes.
 void PluginStartup();
 
 }  // namespace vqz

@@ -1,8 +1,9 @@
-// Every member of the number classes: its declaration as the host parses it, what the help tells of
-// it, and the routine behind it with its debug-log name, the name of its failure report and the
-// call of ttmath. One description serves both classes; '$' stands for the class's name.
+// All members of the number classes, put together from the files of plugin/members/. A row there
+// has a member's declaration as the host parses it, the text of the help, and the routine with its
+// debug-log name, the name of its failure report and the call of ttmath. A row serves both classes;
+// each '$' in a declaration is replaced by the name of the class.
 //
-// The rows stand in plugin/members/. Their order is the order of the tables that the host gets.
+// The order of the rows is the order of the tables that the host gets.
 #pragma once
 
 #include <tuple>

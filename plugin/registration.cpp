@@ -6,15 +6,15 @@
 
 #include "host/debug_log.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 
 namespace vqz {
 namespace {
 
 using namespace host_interface;
 
-/// Hosts from this interface version on read the long table entries.
+/// Hosts of this interface version and later read the long table entries.
 constexpr std::uint32_t FirstVersionWithAttributes = 10;
 /// Instance data comes in multiples of this many bytes.
 constexpr std::uint32_t DataSizeUnit = 16;
@@ -50,7 +50,7 @@ void FixFlagsOf(Entry* table, std::uint32_t count) {
     }
 }
 
-/// Copies the leading words of each entry: the old form is the long one without its tail.
+/// Copies the first part of each entry: the old form is the long one without its last members.
 template <typename ShortEntry, typename Entry>
 ShortEntry* Shortened(const char* name, const Entry* table, std::uint32_t count) {
     static_assert(sizeof(ShortEntry) < sizeof(Entry));
@@ -113,7 +113,7 @@ ClassDefinition* FixClass(const ClassDefinition& record) {
     old->version = PluginInterfaceVersion;
     old->reservedTable2 = nullptr;
     old->reservedCount2 = 0;
-    // A host of this age reads old entries through these pointers.
+    // A host that gets this record reads old entries through these pointers.
     old->properties = reinterpret_cast<PropertyDefinition*>(
         FixProperties(record.properties, record.propertyCount));
     old->methods =
@@ -133,16 +133,16 @@ void RegisterClassDefinition(ClassDefinition& record) {
     record.dataSize = RoundedUp(record.dataSize);
     if (PluginInterfaceVersion >= FirstVersionWithAttributes) {
         record.version = PluginInterfaceVersion;
-        PluginRegisterClass(&record);
+        host::PluginRegisterClass(&record);
         return;
     }
     ClassDefinition* old = FixClass(record);
     if (old == nullptr) {
-        // Long entries would be misread: better a class that is missing.
+        // The host would misread long entries, so the class is left out.
         return;
     }
     record = *old;
-    PluginRegisterClass(&record);
+    host::PluginRegisterClass(&record);
     platform::FreeBuffer(old);
 }
 

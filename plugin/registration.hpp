@@ -1,4 +1,8 @@
-// Handing a class record to the host, in the form that the host's age asks for.
+// Registers class records with the host, in the form that a host of its release reads.
+//
+// Some of this no class of the plug-in needs now: their tables have no events and no constants, and
+// no flag of theirs is unclassified. It is here so that a class with these registers like any
+// other.
 #pragma once
 
 #include <cstdint>
@@ -7,26 +11,28 @@
 
 namespace vqz {
 
-/// Fits the record to the host and registers it. On a host of interface version 9 the record is
-/// replaced by its old form. A host without "PluginRegisterClass" is left alone.
+/// Adapts the record to the host and registers it. On a host of interface version 9 the record is
+/// replaced by its old form. Does nothing else on a host without "PluginRegisterClass".
 void RegisterClassDefinition(host_interface::ClassDefinition& record);
 
-/// Rewrites the flag words of the record and its tables that hosts of this age do not understand.
+/// Replaces flags of the record and its tables that the host's release does not know.
 void FixFlags(host_interface::ClassDefinition& record);
 
-/// A new record with the same content whose tables have the old form, or null without memory. The
-/// caller frees the record with `platform::FreeBuffer`; the tables stay for good.
+/// A copy of the record whose tables have the old form; null when memory is missing. The caller
+/// frees the record with `platform::FreeBuffer`. The tables are never freed: the host keeps using
+/// them.
 host_interface::ClassDefinition* FixClass(const host_interface::ClassDefinition& record);
 
-/// The old form of a table: each entry without its attribute words. Null, with a line in the log,
-/// when only one of table and count is there, and null without memory. The result stays for good.
+/// The old form of a table: a copy of each entry without its attributes. Null when memory is
+/// missing; null and a line in the log when there is a table but no count, or a count but no table.
+/// The result is never freed.
 host_interface::PropertyDefinitionVersion9* FixProperties(
     const host_interface::PropertyDefinition* table, std::uint32_t count);
 host_interface::MethodDefinitionVersion9* FixMethods(const host_interface::MethodDefinition* table,
                                                      std::uint32_t count);
 host_interface::ConstantDefinitionVersion9* FixConstants(
     const host_interface::ConstantDefinition* table, std::uint32_t count);
-/// Also writes the address of each old entry into the entry it was made from.
+/// Also stores the address of each old entry in the entry that it was copied from.
 host_interface::EventDefinitionVersion9* FixEvents(host_interface::EventDefinition* table,
                                                    std::uint32_t count);
 

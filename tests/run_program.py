@@ -7,7 +7,8 @@ The files bear the program's name, and lie beside it or in a folder `expected` t
   .expected   standard output, byte for byte
   .status     the exit status, where it is not 0
   .stderr     lines, or parts of lines, that standard error holds in this order
-  .log        standard error, line for line
+  .log        standard error, line for line, with ADDRESS for the address that a line of the debug
+              log shows before a text, since it is another one in each run
   .options    words for the command line, after NAME=VALUE words for its environment; every line is
               a run of its own, and all of them do the same
 
@@ -31,6 +32,7 @@ import output_check
 
 SMALLER, BIGGER = "BigNumberVQZ", "BiggerNumberVQZ"
 IN_BOTH_PRECISIONS = re.compile(r"^' In both precisions\b", re.MULTILINE)
+LOGGED_ADDRESS = re.compile(r"(?m)^(VQZ Debug: \w+) (?:0x[0-9a-f]+|[0-9A-F]{8}|\(nil\)|0): ")
 SETTING = re.compile(r"\w+=.*", re.DOTALL)
 
 
@@ -62,6 +64,7 @@ class Expectation:
                 problems.append(f"standard error lacks the line: {missing}")
         if self.log is not None:
             lines = "\n".join(errors.splitlines()) + "\n"
+            lines = LOGGED_ADDRESS.sub(r"\1 ADDRESS: ", lines)
             problems.append(output_check.difference(self.log.encode(), lines.encode()))
         if self.error_lines is None and self.log is None and self.status == 0 and errors:
             problems.append("standard error is not empty")

@@ -67,6 +67,11 @@ class RunProgram(unittest.TestCase):
         self.assert_bad({**files, ".log": "--two\n"}, "+--one")
         self.assert_bad({**files, ".log": "--one\n--two\n--three\n"}, "---three")
 
+    def test_a_logged_address_may_be_any(self):
+        files = {".xojo_script": "", ".expected": "", ".options": "'VQZ Debug: Name 0x5ac0: text'\n"}
+        self.assert_good({**files, ".log": "VQZ Debug: Name ADDRESS: text\n"})
+        self.assert_bad({**files, ".log": "VQZ Debug: Name ADDRESS: other\n"}, "ADDRESS: text")
+
     def test_every_line_of_options_is_a_run_with_settings_before_its_words(self):
         files = {".xojo_script": "", ".expected": "", ".log": "--one\nvalue\n"}
         self.assert_good({**files, ".options": "SETTING=value --one\n"})

@@ -2,8 +2,8 @@
 
 usage: source_rules.py SOURCE_FOLDER
 
-The layers of the plug-in, from the lowest: a file includes files of its own layer and of lower ones.
-The stand-in host and the plug-in know the binary interface and nothing of each other.
+Every folder of the plug-in is a layer: a file includes files of its own folder and of lower ones. The
+stand-in host and the plug-in know the binary interface and nothing of each other.
 """
 
 import pathlib
@@ -13,35 +13,29 @@ import sys
 INTERFACE = "interface"
 PLATFORM = "platform"
 
-# Folder or file name prefix of each layer, lowest first. The longest match decides.
+# The folders, lowest first; one that is not named here belongs to the nearest one above it that is.
 LAYERS = [
-    [INTERFACE],
-    [PLATFORM],
-    ["plugin/host_functions", "plugin/startup_globals"],
-    ["host"],
-    ["number"],
-    ["plugin"],
+    INTERFACE,
+    PLATFORM,
+    "plugin/bindings",
+    "host",
+    "number/kernels",
+    "number/value",
+    "number/ops",
+    "number",
+    "plugin/members",
+    "plugin",
 ]
-PLUGIN = [prefix for layer in LAYERS[1:] for prefix in layer]
-STANDIN_LAYERS = [[INTERFACE], ["standin/runtime"], ["standin/language"], ["standin"]]
+STANDIN_LAYERS = [INTERFACE, "standin/runtime", "standin/language", "standin"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 PLATFORM_TEST = re.compile(r"^\s*#.*\b(_WIN32|__MINGW32__|__linux__|__unix__)\b")
 
 
-def is_within(name: str, prefix: str) -> bool:
-    return name.startswith(prefix) and not name[len(prefix) : len(prefix) + 1].isalnum()
-
-
-def layer_of(name: str, layers: list[list[str]]) -> int | None:
+def layer_of(name: str, layers: list[str]) -> int | None:
     """The layer of a file, or None when it belongs to none of them."""
-    matches = [
-        (len(prefix), index)
-        for index, layer in enumerate(layers)
-        for prefix in layer
-        if is_within(name, prefix)
-    ]
-    return max(matches)[1] if matches else None
+    folders = (folder.as_posix() for folder in pathlib.PurePosixPath(name).parents)
+    return next((layers.index(folder) for folder in folders if folder in layers), None)
 
 
 class Sources:
@@ -49,7 +43,7 @@ class Sources:
 
     def __init__(self, root: pathlib.Path):
         self.lines = {}
-        for folder in sorted({prefix.split("/")[0] for prefix in [*PLUGIN, INTERFACE, "standin"]}):
+        for folder in sorted({layer.split("/")[0] for layer in [*LAYERS, *STANDIN_LAYERS]}):
             for path in sorted((root / folder).rglob("*.[ch]pp")):
                 name = path.relative_to(root).as_posix()
                 self.lines[name] = path.read_text(encoding="utf-8").splitlines()
@@ -107,7 +101,7 @@ def platform_leaks(sources: Sources):
     """Only the platform layer of the plug-in knows which system it is built for."""
     within = [name for name in sources.lines if not name.startswith("standin/")]
     for name in within:
-        if is_within(name, PLATFORM):
+        if name.startswith(f"{PLATFORM}/"):
             continue
         for number, line in enumerate(sources.lines[name], 1):
             match = INCLUDE.match(line)

@@ -27,14 +27,27 @@ class SourceRules(unittest.TestCase):
         files = {"number/b.hpp": '#include "host/a.hpp"\n', "host/a.hpp": ""}
         self.assertEqual(problems_of(source_rules.wrong_directions, files), [])
 
-    def test_bindings_lie_below_the_host_services_and_class_tables_above_the_numbers(self):
+    def test_a_folder_is_a_layer_apart_from_the_folder_that_it_is_in(self):
         files = {
-            "plugin/host_functions.hpp": '#include "host/a.hpp"\n',
-            "plugin/class_tables.hpp": '#include "number/b.hpp"\n',
-            "host/a.hpp": "",
-            "number/b.hpp": "",
+            "plugin/bindings/a.hpp": '#include "host/b.hpp"\n',
+            "plugin/c.hpp": '#include "host/b.hpp"\n',
+            "number/ops/d.hpp": '#include "number/e.hpp"\n',
+            "number/e.hpp": "",
+            "host/b.hpp": '#include "plugin/bindings/f.hpp"\n',
+            "plugin/bindings/f.hpp": "",
         }
-        self.assertIn("host_functions.hpp:1", *problems_of(source_rules.wrong_directions, files))
+        problems = problems_of(source_rules.wrong_directions, files)
+        self.assertEqual([problem.split(":")[0] for problem in problems],
+                         ["number/ops/d.hpp", "plugin/bindings/a.hpp"])
+
+    def test_a_folder_without_a_layer_of_its_own_is_in_that_of_the_folder_around_it(self):
+        files = {
+            "number/kernels/deeper/a.hpp": '#include "number/kernels/b.hpp"\n',
+            "number/kernels/b.hpp": '#include "number/value/c.hpp"\n',
+            "number/value/c.hpp": "",
+        }
+        problems = problems_of(source_rules.wrong_directions, files)
+        self.assertIn("number/kernels/b.hpp:1", *problems)
 
     def test_the_plugin_and_the_stand_in_host_do_not_know_each_other(self):
         files = {

@@ -1,4 +1,4 @@
-// How a failed number operation tells which numbers it failed with.
+// The exception of a failed number operation whose message shows the numbers that it failed with.
 #pragma once
 
 #include <initializer_list>
@@ -8,16 +8,16 @@
 #include "host/debug_log.hpp"
 #include "host/exceptions.hpp"
 #include "host/strings.hpp"
-#include "number/number_object.hpp"
-#include "plugin/host_functions.hpp"
+#include "number/value/number_object.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
-/// What stands between the operation's name and one number, or two of them.
+/// What follows the operation's name in a message that shows one number, or two of them.
 inline constexpr const char* FailedWithNumber = " operation failed with number ";
 inline constexpr const char* FailedWithNumbers = " operation failed with numbers ";
 
-/// A number's text as messages show it: all digits in base 10, or "nil" for a missing one.
+/// A number's text as messages show it: all digits in base 10; "nil" for a null pointer.
 template <typename Value>
 std::string ReportText(const Value* value) {
     if (value == nullptr) {
@@ -28,17 +28,18 @@ std::string ReportText(const Value* value) {
     return text;
 }
 
-/// Raises `BigNumberErrorExceptionVQZ` with the pieces joined in order.
+/// Raises `BigNumberErrorExceptionVQZ` with a message that is made of the pieces in their order.
 inline void RaiseNumberError(std::initializer_list<const char*> pieces) {
     StringReference message = CString2RB(*pieces.begin(), HostTextEncoding::Ascii);
     for (const char* piece : std::span(pieces).subspan(1)) {
         const StringReference next = CString2RB(piece, HostTextEncoding::Ascii);
-        message = StringReference(RuntimeAddString(message.Get(), next.Get()));
+        message = StringReference(host::RuntimeAddString(message.Get(), next.Get()));
     }
     RaiseHostExceptionWithString(NumberErrorClass, message.Get());
 }
 
-/// "NAME operation failed with number A."
+/// Raises `BigNumberErrorExceptionVQZ` for a failed operation of any kind, not just an overflow:
+/// "NAME operation failed with number A." A null object is shown as "nil".
 template <typename Value>
 void RaiseOverflowException(const char* operationName, Object number) {
     if (DebugEnabled) {
@@ -49,7 +50,8 @@ void RaiseOverflowException(const char* operationName, Object number) {
     RaiseNumberError({operationName, FailedWithNumber, text.c_str(), "."});
 }
 
-/// "NAME operation failed with numbers A and B."; a null value is a missing number.
+/// The same for two numbers: "NAME operation failed with numbers A and B." A null value is shown as
+/// "nil".
 template <typename Value>
 void RaiseOverflowException(const char* operationName, const Value* first, const Value* second) {
     if (DebugEnabled) {

@@ -3,11 +3,13 @@
 
 #include <array>
 
-#include "number/ops/functions.hpp"
+#include "number/ops/plain_operations.hpp"
+#include "number/ops/random_number.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {
 
+/// The rows of the constants and of the random number.
 template <typename Value, HelpTexts Texts>
 auto NumberConstants() {
     using Row = MethodDescription<Texts>;

@@ -11,12 +11,13 @@
 
 namespace vqz {
 
-/// The routine of the constructor and of the conversion operator from text.
+/// The routine of "Constructor(value as String)" and of "Operator_Convert(value as String)".
 template <typename Value>
 NamedRoutine ConstructFromBase10() {
     return ConstructFromText<Value, "ConstructorString", "Constructor">();
 }
 
+/// The rows of the constructors.
 template <typename Value, HelpTexts Texts>
 auto NumberConstructors() {
     using Row = MethodDescription<Texts>;

@@ -1,15 +1,15 @@
-// What a row of the member tables is made of: what the host gets, and what the help tells.
+// The types of the rows of members: what the host gets of a member, and what the help says of it.
 //
-// The help's texts stand in the rows, but not in the library: there a row drops them while it is
-// compiled.
+// The texts of the help are in the rows, but not in the library: the rows that the library is made
+// of drop them at compile time.
 #pragma once
 
 #include <cstdint>
 
+#include "host/fixed_string.hpp"
+#include "host/routine.hpp"
 #include "interface/host_interface.hpp"
-#include "number/fixed_string.hpp"
-#include "number/number_value.hpp"
-#include "number/routine.hpp"
+#include "number/value/number_value.hpp"
 
 namespace vqz {
 
@@ -51,7 +51,7 @@ struct RequiredText<HelpTexts::Dropped> {
     }
 };
 
-/// A text of the help that is there where there is something to tell.
+/// A text of the help that a member may go without.
 template <HelpTexts>
 struct OptionalText {
     const char* text = "";
@@ -67,7 +67,8 @@ struct OptionalText<HelpTexts::Dropped> {
     consteval OptionalText(const char* /*literal*/) {}  // NOLINT(google-explicit-constructor)
 };
 
-/// A routine of a row. The library has no use for its names here: they stand in the routine itself.
+/// The routine of a row. The library drops the names here: the routine itself has those that it
+/// needs.
 template <HelpTexts>
 struct RowRoutine : NamedRoutine {
     RowRoutine(const NamedRoutine& routine = {})  // NOLINT(google-explicit-constructor)
@@ -82,7 +83,7 @@ struct RowRoutine<HelpTexts::Dropped> {
         : function(routine.function) {}
 };
 
-/// What the help tells about a member beside what the rest of the row says already.
+/// What the help says of a member in addition to the rest of the row.
 template <HelpTexts Texts>
 struct MemberHelp {
     Section section;
@@ -92,7 +93,7 @@ struct MemberHelp {
     OptionalText<Texts> details = {};
     /// What the arguments and the result are measured in.
     OptionalText<Texts> units = {};
-    /// What the result lies between.
+    /// The range of the result.
     OptionalText<Texts> range = {};
     /// After "Fails for": with what. Goes with a routine that can fail, and only with one.
     OptionalText<Texts> fails = {};

@@ -3,12 +3,14 @@
 
 #include <array>
 
-#include "number/ops/arithmetic.hpp"
-#include "number/ops/functions.hpp"
+#include "number/ops/carry_operations.hpp"
+#include "number/ops/error_code_functions.hpp"
+#include "number/ops/plain_operations.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {
 
+/// The rows of the shared functions.
 template <typename Value, HelpTexts Texts>
 auto NumberFunctions() {
     using Row = MethodDescription<Texts>;
@@ -349,7 +351,7 @@ Print BigNumberVQZ.Sin(BigNumberVQZ.DegToRad("30")))",
              .failing = R"(
 Print BigNumberVQZ.Sin(Nil))"}},
         Row{Declaration<Value, "Log(value as $, base as $) as $">,
-            TwoNumbers<Value, "Log">([](auto& value, const auto& base) {
+            TwoNumbersOrCarry<Value, "Log">([](auto& value, const auto& base) {
                 auto error = ttmath::err_ok;
                 value = ttmath::Log(value, base, &error);
                 return error;

@@ -1,29 +1,31 @@
-// The shared methods of the number classes that make a number of a host value, and the name of the
-// arithmetic's build, in the order of the table.
+// The shared methods of the number classes that make a number from a host value, and the one that
+// returns the name of ttmath's build, in the order of the table.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
+#include "host/strings.hpp"
 #include "number/conversions.hpp"
-#include "number/raw_access.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {
 
+/// The rows of these methods but the last one of the table.
 template <typename Value, HelpTexts Texts>
 auto NumberMakers() {
     using Row = MethodDescription<Texts>;
     return std::array{
         Row{.declaration = "LibTypeStr as String",
-            .function = GetLibraryType<Value>(),
+            .function = MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged>(
+                [] { return CString2RB(Value::LibTypeStr(), HostTextEncoding::Ascii).Release(); }),
             .help = {.section = Section::Inside,
                      .summary = "The name of the arithmetic library's build.",
                      .example = R"(
 Print BigNumberVQZ.LibTypeStr)"},
             .hidden = true},
         Row{Declaration<Value, "NumberWithInteger(value as Integer) as $">,
-            NumberWith<Value, "NumberWithInteger", std::int32_t>(),
+            NumberWith<Value, "NumberWithInteger", Integer>(),
             {.section = Section::Making,
              .summary = "The number of an Integer.",
              .details = "An Integer has 32 bits here.",
@@ -103,13 +105,13 @@ Print BigNumberVQZ.NumberWithString("1e99999999999999999999"))"}},
     };
 }
 
-/// The row that hosts without UInteger are not told of: it is the last of its table.
+/// The last row of the table, which is hidden from hosts that do not know the type UInteger.
 template <typename Value, HelpTexts Texts>
 auto NumberMakerWithUInteger() {
     return std::array{
         MethodDescription<Texts>{
             Declaration<Value, "NumberWithUInteger(value as UInteger) as $">,
-            NumberWith<Value, "NumberWithUInteger", std::uint32_t>(),
+            NumberWith<Value, "NumberWithUInteger", UInteger>(),
             {.section = Section::Making,
              .summary = "The number of a UInteger.",
              .details =

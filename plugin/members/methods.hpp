@@ -1,29 +1,33 @@
-// The methods of the number classes that bear a name, in the order of the table.
+// The named methods of the number classes, in the order of the table.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
-#include "number/lifecycle.hpp"
-#include "number/ops/arithmetic.hpp"
-#include "number/ops/functions.hpp"
+#include "number/ops/carry_operations.hpp"
+#include "number/ops/error_code_functions.hpp"
+#include "number/ops/plain_operations.hpp"
+#include "number/predicates.hpp"
 #include "number/text.hpp"
 #include "plugin/members/description.hpp"
 
 namespace vqz {
 
-/// The routine of "Modulate" and of the operators "Mod".
+/// The routine of "Modulate" and of the operator "Mod" in both forms.
 template <typename Value>
 NamedRoutine Remainder() {
-    return TwoNumbers<Value, "Mod">([](auto& me, const auto& other) { return me.Mod(other); });
+    return TwoNumbersOrCarry<Value, "Mod">(
+        [](auto& me, const auto& other) { return me.Mod(other); });
 }
 
-/// The routine of "Pow" and of the operators "^".
+/// The routine of "Pow" and of the operator "^" in both forms.
 template <typename Value>
 NamedRoutine Power() {
-    return TwoNumbers<Value, "Pow">([](auto& me, const auto& other) { return me.Pow(other); });
+    return TwoNumbersOrCarry<Value, "Pow">(
+        [](auto& me, const auto& other) { return me.Pow(other); });
 }
 
+/// The rows of the named methods.
 template <typename Value, HelpTexts Texts>
 auto NumberNamedMethods() {
     using Row = MethodDescription<Texts>;
@@ -91,7 +95,7 @@ Dim number As BigNumberVQZ = "12.5"
 Print number.GetStringValue(17))"}},
         Row{"SetStringValue(Text As String, Base as Integer, byref AfterText as String, Byref "
             "ValueRead as boolean)",
-            SetTextAndTellRest<Value, "SetStringValueExt", "SetStringValue">(),
+            SetTextAndReturnRest<Value, "SetStringValueExt", "SetStringValue">(),
             {.section = Section::Text,
              .summary = "Reads the number from text in a base; tells the rest of the text and "
                         "whether there were digits.",
@@ -132,7 +136,7 @@ Dim number As BigNumberVQZ = "255"
 number.StringValue(17) = "12")"},
             .setter = SetTextInBase<Value, "SetStringValueBase", "StringValue">()},
         Row{Declaration<Value, "Round as $">,
-            OneNumberOrFailure<Value, "Round">([](auto& me) { return me.Round(); }),
+            OneNumberOrCarry<Value, "Round">([](auto& me) { return me.Round(); }),
             {.section = Section::Rounding,
              .summary = "The nearest integer, halves away from zero.",
              .fails = "NaN and Nil",
@@ -152,7 +156,7 @@ Print BigNumberVQZ.Nan.Round)"}},
 Dim price As BigNumberVQZ = "12.5"
 Print price.Equals("12.50"))"}},
         Row{Declaration<Value, "Sqrt as $">,
-            OneNumberOrFailure<Value, "Sqrt">([](auto& me) { return me.Sqrt(); }),
+            OneNumberOrCarry<Value, "Sqrt">([](auto& me) { return me.Sqrt(); }),
             {.section = Section::Powers,
              .summary = "The square root.",
              .details = "The roots of squares of integers come out exact.",
@@ -205,7 +209,7 @@ Print seven.Modulate("1.5"))",
 Dim seven As BigNumberVQZ = "7"
 Print seven.Modulate("0"))"}},
         Row{Declaration<Value, "Divide(other as $, round as boolean = true) as $">,
-            TwoNumbers<Value, "Div">(
+            TwoNumbersOrCarry<Value, "Div">(
                 [](auto& me, const auto& other, bool round) { return me.Div(other, round); }),
             {.section = Section::Arithmetic,
              .summary = "The quotient.",
@@ -220,7 +224,7 @@ Print price.Divide("8"))",
 Dim price As BigNumberVQZ = "12.5"
 Print price.Divide("0"))"}},
         Row{Declaration<Value, "Multiply(other as $, round as boolean = true) as $">,
-            TwoNumbers<Value, "Mul">(
+            TwoNumbersOrCarry<Value, "Mul">(
                 [](auto& me, const auto& other, bool round) { return me.Mul(other, round); }),
             {.section = Section::Arithmetic,
              .summary = "The product.",
@@ -235,7 +239,7 @@ Print price.Multiply("12.5"))",
 Dim price As BigNumberVQZ = "19.99"
 Print price.Multiply(BigNumberVQZ.Nan))"}},
         Row{Declaration<Value, "Multiply(value as Integer) as $">,
-            MultiplyByInteger<Value, "MulInt", "Multiply", std::int32_t>(),
+            MultiplyByInteger<Value, "MulInt", "Multiply", Integer>(),
             {.section = Section::Arithmetic,
              .summary = "The product with an Integer.",
              .details = "Needs no number made of the Integer. A failure shows the product as NaN.",
@@ -261,7 +265,7 @@ Print price.Multiply(count))",
 Dim count As UInt32 = 4000000000
 Print BigNumberVQZ.Max.Multiply(count))"}},
         Row{Declaration<Value, "BitXOr(other as $) as $">,
-            TwoNumbers<Value, "BitwiseXor">(
+            TwoNumbersOrCarry<Value, "BitwiseXor">(
                 [](auto& me, const auto& other) { return me.BitXor(other); }),
             {.section = Section::Bits,
              .summary = "The bitwise exclusive or of two numbers that are not negative.",
@@ -274,7 +278,7 @@ Print mask.BitXOr("10"))",
 Dim mask As BigNumberVQZ = "12"
 Print mask.BitXOr("-10"))"}},
         Row{Declaration<Value, "BitOr(other as $) as $">,
-            TwoNumbers<Value, "BitwiseOr">(
+            TwoNumbersOrCarry<Value, "BitwiseOr">(
                 [](auto& me, const auto& other) { return me.BitOr(other); }),
             {.section = Section::Bits,
              .summary = "The bitwise or of two numbers that are not negative.",
@@ -287,7 +291,7 @@ Print mask.BitOr("10"))",
 Dim mask As BigNumberVQZ = "-12"
 Print mask.BitOr("10"))"}},
         Row{Declaration<Value, "BitAnd(other as $) as $">,
-            TwoNumbers<Value, "BitwiseAnd">(
+            TwoNumbersOrCarry<Value, "BitwiseAnd">(
                 [](auto& me, const auto& other) { return me.BitAnd(other); }),
             {.section = Section::Bits,
              .summary = "The bitwise and of two numbers that are not negative.",
@@ -300,7 +304,7 @@ Print mask.BitAnd("10"))",
 Dim mask As BigNumberVQZ = "12"
 Print mask.BitAnd("-10"))"}},
         Row{Declaration<Value, "Subtract(other as $, round as boolean = true) as $">,
-            TwoNumbers<Value, "Sub">([](auto& me, const auto& other, bool round) {
+            TwoNumbersOrCarry<Value, "Sub">([](auto& me, const auto& other, bool round) {
                 return me.Add(other, round, false);
             }),
             {.section = Section::Arithmetic,
@@ -316,7 +320,7 @@ Print price.Subtract("20"))",
 Dim price As BigNumberVQZ = "19.99"
 Print price.Subtract(Nil))"}},
         Row{Declaration<Value, "Add(other as $, round as boolean = true) as $">,
-            TwoNumbers<Value, "Add">(
+            TwoNumbersOrCarry<Value, "Add">(
                 [](auto& me, const auto& other, bool round) { return me.Add(other, round, true); }),
             {.section = Section::Arithmetic,
              .summary = "The sum.",

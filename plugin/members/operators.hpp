@@ -1,11 +1,12 @@
-// The operators of the number classes, in the order of the table. An operator on the right has the
-// routine of its left form: the receiver stays the left operand.
+// The operators of the number classes, in the order of the table. The form that the host calls on
+// the right operand has the same routine as the left form: the receiver is the left operand in
+// both.
 #pragma once
 
 #include <array>
 
-#include "number/lifecycle.hpp"
-#include "number/ops/arithmetic.hpp"
+#include "number/ops/carry_operations.hpp"
+#include "number/ops/plain_operations.hpp"
 #include "number/text.hpp"
 #include "plugin/members/constructors.hpp"
 #include "plugin/members/description.hpp"
@@ -13,16 +14,17 @@
 
 namespace vqz {
 
+/// The rows of the operators.
 template <typename Value, HelpTexts Texts>
 auto NumberOperators() {
     using Row = MethodDescription<Texts>;
-    const NamedRoutine add = TwoNumbers<Value, "Operator_Add">(
+    const NamedRoutine add = TwoNumbersOrCarry<Value, "Operator_Add">(
         [](auto& me, const auto& other) { return me.Add(other, true, true); });
-    const NamedRoutine subtract = TwoNumbers<Value, "Operator_Subtract">(
+    const NamedRoutine subtract = TwoNumbersOrCarry<Value, "Operator_Subtract">(
         [](auto& me, const auto& other) { return me.Add(other, true, false); });
-    const NamedRoutine multiply = TwoNumbers<Value, "Operator_Multiply">(
+    const NamedRoutine multiply = TwoNumbersOrCarry<Value, "Operator_Multiply">(
         [](auto& me, const auto& other) { return me.Mul(other, true); });
-    const NamedRoutine divide = TwoNumbers<Value, "Operator_Divide">(
+    const NamedRoutine divide = TwoNumbersOrCarry<Value, "Operator_Divide">(
         [](auto& me, const auto& other) { return me.Div(other, true); });
     const NamedRoutine integerDivide = IntegerDivide<Value, "Operator_IntegerDivide">();
 

@@ -4,14 +4,15 @@
 #include <array>
 
 #include "number/conversions.hpp"
-#include "number/lifecycle.hpp"
+#include "number/predicates.hpp"
 #include "number/raw_access.hpp"
 #include "number/text.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/members/description.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace vqz {
 
+/// The rows of the properties.
 template <typename Value, HelpTexts Texts>
 auto NumberProperties() {
     using Row = PropertyDescription<Texts>;
@@ -59,8 +60,8 @@ Print pages.IsInteger
 Print (pages / "7").IsInteger)"}},
         Row{.name = "IntegerValue",
             .type = "Integer",
-            .getter = GetProperty<Value, "GetIntegerValue", "IntegerValue", std::int32_t>(),
-            .setter = SetProperty<Value, "SetIntegerValue", std::int32_t>(),
+            .getter = GetProperty<Value, "GetIntegerValue", "IntegerValue", Integer>(),
+            .setter = SetProperty<Value, "SetIntegerValue", Integer>(),
             .help = {.section = Section::HostValues,
                      .summary = "The number as an Integer, its fraction cut off.",
                      .details = "An Integer has 32 bits here. NaN and Nil give 0. Setting it never "
@@ -262,15 +263,17 @@ Print nothing.DataFlags)"}},
     };
 }
 
-/// The one shared property of both classes.
+/// The rows of the shared properties, which both classes have in common.
 template <HelpTexts Texts>
 auto NumberSharedProperties() {
     namespace flags = host_interface::flags;
     return std::array{PropertyDescription<Texts>{
         .name = "Debugging",
         .type = "Boolean",
-        .getter = Unlogged([]() -> BooleanWord { return AsBooleanWord(DebugEnabled); }),
-        .setter = Unlogged([](BooleanWord value) { DebugEnabled = IsTrue(value); }),
+        .getter = MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged>(
+            [] { return AsBooleanWord(DebugEnabled); }),
+        .setter = MakeUnguardedRoutine<Unguarded::NothingThrows, NotLogged>(
+            [](BooleanWord value) { DebugEnabled = IsTrue(value); }),
         .flags = flags::RunTimeOnly | flags::AllTargets | flags::PublicScope,
         .hidden = true,
         .help = {.section = Section::Inside,

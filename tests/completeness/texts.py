@@ -45,7 +45,7 @@ class Use(enum.Enum):
 
 # What stands before a literal of a use; the first that fits counts.
 USES = (
-    (re.compile(r"\bLog(?:Message|Text|UInt|Double|Int64|HostString|Entry)(?:<|\()\s*$"), Use.LOG),
+    (re.compile(r"\b(?:Log(?:Message|Text|UInt|Double|Int64|HostString)\(|Run<)\s*$"), Use.LOG),
     (re.compile(r"\bDeclaration<Value,\s*$"), Use.DECLARATION),
     (re.compile(r"\bSetPart<Value,[^\"]*$"), Use.OTHER),
     (re.compile(r"\b\w+<Value,\s*(?:&Value::\w+,\s*)?$"), Use.LOG),

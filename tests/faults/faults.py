@@ -52,7 +52,7 @@ FAULTS = [
     *faults_in(
         "host/rb_text.cpp",
         ("HighBits = 0x80808080", "HighBits = 0x00808080"),
-        ("if (source != nullptr) {\n        REALUnlockString(source);\n    }\n    for", "for"),
+        ("if (source != nullptr) {\n        host::REALUnlockString(source);\n    }\n    for", "for"),
         ("PluginDisposeStringData(&stringData[slot]);", ""),
         ("platform::FreeBuffer(temp[slot]);", ""),
         ("kind = TextKind::NeedsConversion;\n            break;\n        case HostTextEncoding::Unknown",
@@ -99,7 +99,7 @@ FAULTS = [
         ("{2013.03, 12}", "{2013.035, 12}"),
         ('"yes"}', '"yeah"}'),
         ("HideUIntegerMethod<BiggerNumberValue>();", ""),
-        ("if (REALinRuntime())", "if (!REALinRuntime())"),
+        ("if (host::REALinRuntime())", "if (!host::REALinRuntime())"),
     ),
     *faults_in(
         "plugin/registration.cpp",
@@ -111,7 +111,7 @@ FAULTS = [
         ("FirstVersionWithAttributes = 10", "FirstVersionWithAttributes = 11"),
     ),
     *faults_in(
-        "plugin/host_functions.hpp",
+        "plugin/bindings/host_functions.hpp",
         ('"REALGetPropValueCurrency", "REALGetPropValueInt64"', '"REALGetPropValueCurrency"'),
         ("LowByte = 0xFF", "LowByte = 0xFFFF"),
     ),
@@ -133,7 +133,6 @@ FAULTS = [
     *faults_in("plugin/members/constants.hpp", ("value.SetLn10()", "value.SetLn2()")),
     *faults_in(
         "number/conversions.hpp",
-        ("number.FromUInt(negative ? 0 - bits : bits)", "number.FromUInt(bits)"),
         ("const bool fits = value.ToInt(words) == 0", "const bool fits = value.ToInt(words) <= 1"),
         ("const auto roundCarry = value.Round();", "const ttmath::uint roundCarry = 0;"),
         ("static_cast<double>(VariantToSingle(variant))", "VariantToDouble(variant)"),
@@ -150,17 +149,26 @@ FAULTS = [
         ("StoreNumberValue(self, ReadNumber<Value>(other));", "StoreNumberValue(self, ZeroValue<Value>());"),
     ),
     *faults_in(
-        "number/number_object.hpp",
+        "number/value/number_object.hpp",
         ("value == nullptr ? NilNumberValue<Value> : *value", "*value"),
         ("std::exchange(InstanceOf<Value>(object).ref, nullptr)", "InstanceOf<Value>(object).ref"),
     ),
-    *faults_in("number/number_value.hpp", ("value.SetZeroNan();", "value.SetZero();")),
+    *faults_in(
+        "number/value/number_value.hpp",
+        ("value.SetZeroNan();", "value.SetZero();"),
+        ("number.FromUInt(negative ? 0 - bits : bits)", "number.FromUInt(bits)"),
+    ),
     *faults_in(
         "number/raw_access.hpp",
         ("sizeof words + 1,", "sizeof words + 2,"),
         ("flags & 0xFF", "flags & 0x7F"),
     ),
-    *faults_in("number/routine.hpp", ("(word & 0xFF) != 0", "word != 0")),
+    *faults_in(
+        "host/routine.hpp",
+        ("(word & 0xFF) != 0", "word != 0"),
+        ("return MethodBoundaryGuard(run);", "return run();"),
+        ("LogHostString(LogName.text, arguments...);", "LogMessage(LogName.text);"),
+    ),
     *faults_in(
         "number/text.hpp",
         ("scient_from = scientificFrom", "scient_from = scientificFrom + 1"),
@@ -171,9 +179,12 @@ FAULTS = [
         ("const StringReference held = StringReference::Share(text);", ""),
     ),
     *faults_in(
-        "number/ops/arithmetic.hpp",
-        ("quotient.SkipFraction();", ""),
+        "number/ops/plain_operations.hpp",
         ("return left < right ? -1 : 0", "return left < right ? 1 : 0"),
+    ),
+    *faults_in(
+        "number/ops/carry_operations.hpp",
+        ("quotient.SkipFraction();", ""),
         ("std::uint32_t{1} << 31", "std::uint32_t{1} << 30"),
         ("FindNumber<Value>(self), FindNumber<Value>(other)", "FindNumber<Value>(other), FindNumber<Value>(self)"),
     ),
@@ -184,10 +195,13 @@ FAULTS = [
         ('LogMessage("RaiseOverflowException");\n        LogMessage', "LogMessage"),
     ),
     *faults_in(
-        "number/ops/functions.hpp",
+        "number/ops/random_number.hpp",
         ("RandomUInt32() & 0xFF", "RandomUInt32() & 0x7F"),
         ("value.SetOne();", "value.SetZero();"),
-        ("RaiseOverflowException(FailureName.text);", "RaiseOverflowException(LogName.text);"),
+    ),
+    *faults_in(
+        "number/ops/error_code_functions.hpp",
+        ("RaiseOverflowException(FailureName.text);", "RaiseOverflowException(\"Root\");"),
     ),
     *faults_in(
         "number/kernels/shift_words.hpp",

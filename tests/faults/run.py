@@ -55,7 +55,7 @@ LIKELY = {
     "host/random": [OPERATIONS],
     "number/kernels/": [KERNELS],
     "number/lifecycle": [TABLES],
-    "number/routine": [TABLES],
+    "host/routine": [TABLES],
     "plugin/members/constants": [OPERATIONS],
     "number/conversions": [Stage(COMMAND, "programs/(values|errors|debug_log)", SLOW_PROGRAMS)],
     "number/text": [Stage(COMMAND, "programs/(text|bad_input|encodings)", SLOW_PROGRAMS)],

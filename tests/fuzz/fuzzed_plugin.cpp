@@ -6,8 +6,8 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include <doctest/doctest.h>
 
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/entry.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace fuzz {
 namespace {

@@ -11,12 +11,13 @@
 
 #include "host/debug_log.hpp"
 #include "host/host_string_log.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {
 
 using host_interface::HostTextEncoding;
+using tests::Address;
 using tests::DirectHost;
 using tests::HeldString;
 using tests::Joined;
@@ -49,13 +50,6 @@ public:
 private:
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
 };
-
-/// The handle's address as the language runtime prints it.
-std::string Address(host_interface::String text) {
-    char printed[32] = {};
-    std::snprintf(printed, sizeof printed, "%p", static_cast<const void*>(text));
-    return printed;
-}
 
 }  // namespace
 

@@ -3,12 +3,12 @@
 #include <array>
 #include <utility>
 
-#include "number/number_value.hpp"
+#include "number/value/number_value.hpp"
 #include "platform/platform.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
 #include "plugin/entry.hpp"
 #include "plugin/registration.hpp"
-#include "plugin/startup_globals.hpp"
 
 namespace tests {
 namespace {

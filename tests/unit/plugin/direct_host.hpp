@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "interface/host_interface.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "standin/runtime/host.hpp"
 #include "tests/unit/support/host_values.hpp"
 

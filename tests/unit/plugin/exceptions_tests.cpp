@@ -11,10 +11,10 @@
 #include <doctest/doctest.h>
 
 #include "host/exceptions.hpp"
-#include "number/number_object.hpp"
 #include "number/ops/failure_report.hpp"
-#include "plugin/host_functions.hpp"
-#include "plugin/startup_globals.hpp"
+#include "number/value/number_object.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/plugin/failing_memory.hpp"
 
@@ -59,7 +59,7 @@ std::string HandledAs(DirectHost& host, const Native& native) {
 std::string RaisedMessage(DirectHost& host) {
     const HeldObject exception(host.TakeException());
     host_interface::String message = nullptr;
-    REQUIRE(vqz::REALGetPropValueString(exception.Get(), "Message", &message));
+    REQUIRE(vqz::host::REALGetPropValueString(exception.Get(), "Message", &message));
     return Described(HeldString(message).Get());
 }
 

@@ -9,7 +9,7 @@
 
 #include <doctest/doctest.h>
 
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {
@@ -122,46 +122,46 @@ BindingRow Row(const std::string& names, Shape expectedShape) {
 TEST_CASE("Every binding asks for its own names and answers nothing on a host without them") {
     using enum Shape;
     const BindingRow rows[] = {
-        Row<vqz::REALBuildString>("REALBuildString\n", PassThrough),
-        Row<vqz::RuntimeAddString>("RuntimeAddString\n", PassThrough),
-        Row<vqz::REALBuildStringWithEncoding>("REALBuildStringWithEncoding\n", PassThrough),
-        Row<vqz::REALConvertString>("REALConvertString\n", PassThrough),
-        Row<vqz::PluginDisposeStringData>("PluginDisposeStringData\n", PassThrough),
-        Row<vqz::pluginObjectType>("pluginObjectType\n", PassThrough),
-        Row<vqz::REALGetPropValueCurrency>("REALGetPropValueCurrency\nREALGetPropValueInt64\n",
-                                           LowByte),
-        Row<vqz::REALGetPropValueDouble>("REALGetPropValueDouble\n", Word),
-        Row<vqz::REALGetPropValueInt>("REALGetPropValueInt\n", Word),
-        Row<vqz::REALGetPropValueInt64>("REALGetPropValueInt64\n", LowByte),
-        Row<vqz::REALGetPropValueInteger>("REALGetPropValueInteger\nREALGetPropValueInt\n",
-                                          LowByte),
-        Row<vqz::REALGetPropValueSingle>("REALGetPropValueSingle\n", LowByte),
-        Row<vqz::REALGetPropValueString>("REALGetPropValueString\n", Word),
-        Row<vqz::REALGetPropValueUInt32>("REALGetPropValueUInt32\n", LowByte),
-        Row<vqz::REALGetPropValueUInt64>("REALGetPropValueUInt64\n", LowByte),
-        Row<vqz::PluginGetStringData>("PluginGetStringData\n", LowByte),
-        Row<vqz::REALGetStringEncoding>("REALGetStringEncoding\n", PassThrough),
-        Row<vqz::REALLoadGlobalMethod>("REALLoadGlobalMethod\n", FixedFirstArgument),
-        Row<vqz::REALLockObject>("REALLockObject\n", PassThrough),
-        Row<vqz::REALLockString>("REALLockString\n", PassThrough),
-        Row<vqz::memoryBlockGetPtr>("memoryBlockGetPtr\n", PassThrough),
-        Row<vqz::memoryBlockGetSize>("memoryBlockGetSize\n", PassThrough),
-        Row<vqz::newMemoryBlock>("newMemoryBlock\n", PassThrough),
-        Row<vqz::Int32ToVariant>("Int32ToVariant\n", PassThrough),
-        Row<vqz::Int64ToVariant>("Int64ToVariant\n", PassThrough),
-        Row<vqz::StringToVariant>("StringToVariant\n", PassThrough),
-        Row<vqz::UInt64ToVariant>("UInt64ToVariant\n", PassThrough),
-        Row<vqz::RuntimeObjectIsa>("RuntimeObjectIsa\n", LowByte),
-        Row<vqz::RuntimeRaiseException>("RuntimeRaiseException\n", PassThrough),
-        Row<vqz::PluginRegisterClass>("PluginRegisterClass\n", PassThrough),
-        Row<vqz::REALSetPropValueInteger>("REALSetPropValueInteger\nREALSetPropValueInt\n",
-                                          LowByte),
-        Row<vqz::REALSetPropValueString>("REALSetPropValueString\n", LowByte),
-        Row<vqz::REALSetStringEncoding>("REALSetStringEncoding\n", PassThrough),
-        Row<vqz::REALUnlockObject>("REALUnlockObject\n", PassThrough),
-        Row<vqz::REALUnlockString>("REALUnlockString\n", PassThrough),
-        Row<vqz::REALinRuntime>("REALinRuntime\n", LowByte),
-        Row<vqz::PluginNewInstance>("PluginNewInstance\n", PassThrough),
+        Row<vqz::host::REALBuildString>("REALBuildString\n", PassThrough),
+        Row<vqz::host::RuntimeAddString>("RuntimeAddString\n", PassThrough),
+        Row<vqz::host::REALBuildStringWithEncoding>("REALBuildStringWithEncoding\n", PassThrough),
+        Row<vqz::host::REALConvertString>("REALConvertString\n", PassThrough),
+        Row<vqz::host::PluginDisposeStringData>("PluginDisposeStringData\n", PassThrough),
+        Row<vqz::host::pluginObjectType>("pluginObjectType\n", PassThrough),
+        Row<vqz::host::REALGetPropValueCurrency>(
+            "REALGetPropValueCurrency\nREALGetPropValueInt64\n", LowByte),
+        Row<vqz::host::REALGetPropValueDouble>("REALGetPropValueDouble\n", Word),
+        Row<vqz::host::REALGetPropValueInt>("REALGetPropValueInt\n", Word),
+        Row<vqz::host::REALGetPropValueInt64>("REALGetPropValueInt64\n", LowByte),
+        Row<vqz::host::REALGetPropValueInteger>("REALGetPropValueInteger\nREALGetPropValueInt\n",
+                                                LowByte),
+        Row<vqz::host::REALGetPropValueSingle>("REALGetPropValueSingle\n", LowByte),
+        Row<vqz::host::REALGetPropValueString>("REALGetPropValueString\n", Word),
+        Row<vqz::host::REALGetPropValueUInt32>("REALGetPropValueUInt32\n", LowByte),
+        Row<vqz::host::REALGetPropValueUInt64>("REALGetPropValueUInt64\n", LowByte),
+        Row<vqz::host::PluginGetStringData>("PluginGetStringData\n", LowByte),
+        Row<vqz::host::REALGetStringEncoding>("REALGetStringEncoding\n", PassThrough),
+        Row<vqz::host::REALLoadGlobalMethod>("REALLoadGlobalMethod\n", FixedFirstArgument),
+        Row<vqz::host::REALLockObject>("REALLockObject\n", PassThrough),
+        Row<vqz::host::REALLockString>("REALLockString\n", PassThrough),
+        Row<vqz::host::memoryBlockGetPtr>("memoryBlockGetPtr\n", PassThrough),
+        Row<vqz::host::memoryBlockGetSize>("memoryBlockGetSize\n", PassThrough),
+        Row<vqz::host::newMemoryBlock>("newMemoryBlock\n", PassThrough),
+        Row<vqz::host::Int32ToVariant>("Int32ToVariant\n", PassThrough),
+        Row<vqz::host::Int64ToVariant>("Int64ToVariant\n", PassThrough),
+        Row<vqz::host::StringToVariant>("StringToVariant\n", PassThrough),
+        Row<vqz::host::UInt64ToVariant>("UInt64ToVariant\n", PassThrough),
+        Row<vqz::host::RuntimeObjectIsa>("RuntimeObjectIsa\n", LowByte),
+        Row<vqz::host::RuntimeRaiseException>("RuntimeRaiseException\n", PassThrough),
+        Row<vqz::host::PluginRegisterClass>("PluginRegisterClass\n", PassThrough),
+        Row<vqz::host::REALSetPropValueInteger>("REALSetPropValueInteger\nREALSetPropValueInt\n",
+                                                LowByte),
+        Row<vqz::host::REALSetPropValueString>("REALSetPropValueString\n", LowByte),
+        Row<vqz::host::REALSetStringEncoding>("REALSetStringEncoding\n", PassThrough),
+        Row<vqz::host::REALUnlockObject>("REALUnlockObject\n", PassThrough),
+        Row<vqz::host::REALUnlockString>("REALUnlockString\n", PassThrough),
+        Row<vqz::host::REALinRuntime>("REALinRuntime\n", LowByte),
+        Row<vqz::host::PluginNewInstance>("PluginNewInstance\n", PassThrough),
     };
     OwnResolver resolver;
     for (const BindingRow& row : rows) {
@@ -231,8 +231,8 @@ TEST_CASE("The fallback name counts only when the first name is missing, and is 
 
 TEST_CASE("Two bindings with one name keep what they found apart") {
     const OwnResolver resolver;
-    auto currency = Untouched<vqz::REALGetPropValueCurrency>;
-    auto int64 = Untouched<vqz::REALGetPropValueInt64>;
+    auto currency = Untouched<vqz::host::REALGetPropValueCurrency>;
+    auto int64 = Untouched<vqz::host::REALGetPropValueInt64>;
     std::int64_t value = 0;
     CHECK_FALSE(int64(nullptr, "LongValue", &value));
     Offer(

@@ -9,7 +9,7 @@
 #include "host/byte_view.hpp"
 #include "host/memory_blocks.hpp"
 #include "host/variants.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 
 namespace {
@@ -39,6 +39,21 @@ host_interface::Object ThrowForWantOfMemory(std::int32_t) {
 /// How often a function of these tests was called.
 int calls = 0;
 
+/// "PluginNewInstance" that throws at its first call.
+host_interface::Object ThrowOnce(const char* className) {
+    if (++calls == 1) {
+        throw std::bad_alloc();
+    }
+    using Function = host_interface::functions::PluginNewInstance;
+    return reinterpret_cast<Function*>(standin::Host::Resolve("PluginNewInstance"))(className);
+}
+
+/// "REALGetPropValueDouble" that writes a value and reports a failure all the same.
+host_interface::BooleanWord WriteAndFail(host_interface::Object, const char*, double* value) {
+    *value = 7.5;
+    return 0;
+}
+
 host_interface::Object MakeNoBlock(std::int32_t) {
     ++calls;
     return nullptr;
@@ -53,7 +68,7 @@ host_interface::BooleanWord SayYes(host_interface::Object, host_interface::Class
 
 TEST_CASE("A block is asked of the host for sizes from 0 to 0x7FFFFFFE") {
     DirectHost host;
-    const Rebound newMemoryBlock(vqz::newMemoryBlock, &MakeNoBlock);
+    const Rebound newMemoryBlock(vqz::host::newMemoryBlock, &MakeNoBlock);
     calls = 0;
     for (const std::int64_t size : {std::int64_t{-1}, std::int64_t{0x7FFFFFFF},
                                     std::int64_t{0x80000000}, INT64_MIN, INT64_MAX}) {
@@ -100,10 +115,21 @@ TEST_CASE("A block that the host does not make is an error that tells the size")
 
 TEST_CASE("A native exception for want of memory is logged, and is the same error") {
     DirectHost host;
-    const Rebound newMemoryBlock(vqz::newMemoryBlock, &ThrowForWantOfMemory);
+    const Rebound newMemoryBlock(vqz::host::newMemoryBlock, &ThrowForWantOfMemory);
     CHECK(host.LogOf([] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3)); }) ==
           LogLines({"Got C++ exception in REALBuildMemoryblock:  std::bad_alloc"}));
     CHECK(TakeRaised(host) == OutOfMemory("3"));
+}
+
+TEST_CASE("A native exception while the missing block is reported is the same error") {
+    DirectHost host;
+    const Rebound newInstance(vqz::host::PluginNewInstance, &ThrowOnce);
+    calls = 0;
+    CHECK(host.LogOf([] { CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3000000000)); }) ==
+          LogLines({"Error: Failed to allocate memoryblock 3000000000",
+                    "Got C++ exception in REALBuildMemoryblock:  std::bad_alloc"}));
+    CHECK(calls == 2);
+    CHECK(TakeRaised(host) == OutOfMemory("3000000000"));
 }
 
 TEST_CASE("A block without data is given back") {
@@ -157,7 +183,7 @@ TEST_CASE("Objects are told by the class that they are of or descend from") {
 
 TEST_CASE("The host is not asked what class no object has, nor whether one is of no class") {
     DirectHost host;
-    const Rebound isa(vqz::RuntimeObjectIsa, &SayYes);
+    const Rebound isa(vqz::host::RuntimeObjectIsa, &SayYes);
     calls = 0;
     const HeldObject block(host.MakeMemoryBlock("x"));
     CHECK_FALSE(vqz::ObjectIsA(nullptr, "RuntimeException"));
@@ -176,4 +202,14 @@ TEST_CASE("What a date cannot tell is 0 and logged where it counts") {
           LogLines({"Failed to read SecondsFrom1970 property."}));
     const HeldObject dateTime(host.MakeDateTime(1.5));
     CHECK(host.LogOf([&] { CHECK(vqz::GetSecondsFrom1970(dateTime.Get()) == 1.5); }) == "");
+}
+
+TEST_CASE("A date that the host fails to read is 0 whatever the host wrote") {
+    DirectHost host;
+    const HeldObject dateTime(host.MakeDateTime(1.5));
+    const Rebound reader(vqz::host::REALGetPropValueDouble, &WriteAndFail);
+    CHECK(host.LogOf([&] { CHECK(vqz::GetDateTotalSeconds(dateTime.Get()) == 0.0); }) ==
+          LogLines({"GetDateTotalSeconds 0.000000"}));
+    CHECK(host.LogOf([&] { CHECK(vqz::GetSecondsFrom1970(dateTime.Get()) == 0.0); }) ==
+          LogLines({"Failed to read SecondsFrom1970 property."}));
 }

@@ -6,7 +6,7 @@
 #include <doctest/doctest.h>
 
 #include "host/exceptions.hpp"
-#include "number/number_object.hpp"
+#include "number/value/number_object.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/plugin/failing_memory.hpp"
 

@@ -11,8 +11,8 @@
 #include "host/rb_text.hpp"
 #include "host/terminated_text.hpp"
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/plugin/failing_memory.hpp"
 
@@ -518,7 +518,7 @@ TEST_CASE("The end of a record releases every slot, in the order of the slots") 
         for (const SlotMessages& row : Messages) {
             const std::size_t slot = Index(row.slot);
             text->temp[slot] = static_cast<char*>(vqz::platform::AllocateZeroed(4));
-            text->hasStringData[slot] = vqz::PluginGetStringData(
+            text->hasStringData[slot] = vqz::host::PluginGetStringData(
                 source.Get(), static_cast<std::uint32_t>(HostTextEncoding::Utf8),
                 &text->stringData[slot]);
             host.Lock(other.Get());

@@ -8,9 +8,9 @@
 #include <doctest/doctest.h>
 
 #include "platform/platform.hpp"
-#include "plugin/host_functions.hpp"
+#include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/registration.hpp"
-#include "plugin/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/plugin/failing_memory.hpp"
 

@@ -10,10 +10,10 @@
 
 #include <doctest/doctest.h>
 
-#include "number/number_value.hpp"
+#include "number/value/number_value.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
 #include "plugin/entry.hpp"
-#include "plugin/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/support/environment.hpp"
 

@@ -9,7 +9,7 @@
 
 #include "host/string_building.hpp"
 #include "host/strings.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 #include "tests/unit/plugin/direct_host.hpp"
 #include "tests/unit/plugin/failing_memory.hpp"
 

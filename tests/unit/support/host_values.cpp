@@ -79,4 +79,10 @@ void CheckLedger(const standin::Host& host) {
     CHECK(Joined(host.Leaks()) == "");
 }
 
+std::string Address(host_interface::String text) {
+    char printed[32] = {};
+    std::snprintf(printed, sizeof printed, "%p", static_cast<const void*>(text));
+    return printed;
+}
+
 }  // namespace tests

@@ -57,6 +57,9 @@ std::string TakeRaised(standin::Host& host);
 /// The encoding and the bytes of a string, "UTF-8 43 61 66 C3 A9", or "null".
 std::string Described(host_interface::String text);
 
+/// A string's address as the debug log shows it.
+std::string Address(host_interface::String text);
+
 /// A routine's address, which can be compared and printed.
 inline const void* AddressOf(host_interface::Routine routine) {
     return reinterpret_cast<const void*>(routine);

@@ -15,6 +15,7 @@ namespace {
 
 using namespace std::string_view_literals;
 using host_interface::HostTextEncoding;
+using tests::Address;
 using tests::CallRoutine;
 using tests::HeldObject;
 using tests::HeldString;
@@ -607,4 +608,31 @@ TEST_CASE("Reading text that must be converted logs what the bridge does") {
     CHECK(plugin.LogOf([&] { number.Set("StringValue", object.Get(), text.Get()); }) ==
           LogLines(
               {"SetStringValue", "REALGetStringData ok. Length 2", "REALDisposeStringData UTF8"}));
+}
+
+TEST_CASE("A text that becomes a number is logged with its address before it is converted") {
+    LoadedPlugin plugin(standin::HostOptions{.newInstanceRunsConstructor = true});
+    for (NumberClass& number : plugin.classes()) {
+        const auto logOfMaking = [&](String text) {
+            // The number lives on, so that its end is not in the log.
+            HeldObject made;
+            return plugin.LogOf([&] {
+                made = CallRoutine<HeldObject>(
+                    number.SharedMethod("NumberWithString(value as String) as $").function, text);
+            });
+        };
+        const HeldString plain = plugin.MakeString("12");
+        CHECK(logOfMaking(plain.Get()) ==
+              LogLines({"NumberWithString " + Address(plain.Get()) + ": 12", "ConstructorEmpty"}));
+
+        // The converted text is given back after the number object has been made.
+        const HeldString converted = plugin.MakeString("12\xE9", HostTextEncoding::Latin1);
+        CHECK(logOfMaking(converted.Get()) ==
+              LogLines({"REALGetStringData ok. Length 4",
+                        "NumberWithString " + Address(converted.Get()) + ": 12\xC3\xA9",
+                        "REALDisposeStringData UTF8", "REALGetStringData ok. Length 4",
+                        "ConstructorEmpty", "REALDisposeStringData UTF8"}));
+        CHECK(logOfMaking(nullptr) ==
+              LogLines({"NumberWithString " + Address(nullptr) + ": ", "ConstructorEmpty"}));
+    }
 }

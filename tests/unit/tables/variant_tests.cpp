@@ -11,6 +11,8 @@
 
 namespace {
 
+using host_interface::HostTextEncoding;
+using tests::Address;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LoadedPlugin;
@@ -43,7 +45,7 @@ std::string_view EventOf(std::int32_t code) {
         case 21:
         case 23:
         case 37:
-            return "NumberWithString 65";
+            return "NumberWithString";
         case 16:
         case 102:
             return "NumberWithUInt32";
@@ -55,7 +57,7 @@ std::string_view EventOf(std::int32_t code) {
 }
 
 bool IsText(std::int32_t code) {
-    return EventOf(code) == "NumberWithString 65";
+    return EventOf(code) == "NumberWithString";
 }
 
 /// A Variant of any type code that holds 65, as text where the code is one of text.
@@ -157,10 +159,21 @@ TEST_CASE("The shared method logs itself and the conversion that it leaves the r
             HeldObject made;
             return plugin.LogOf([&] { made = NumberWith(number, variant); });
         };
-        for (const std::int32_t code : {2, 3, 4, 5, 6, 8, 11, 16, 18, 102, 103}) {
+        for (const std::int32_t code : {2, 3, 4, 5, 6, 11, 16, 102, 103}) {
             CAPTURE(code);
             CHECK(logOfMaking(VariantOf(plugin, code).Get()) ==
                   LogLines({"NumberWithVariant", EventOf(code)}));
+        }
+        for (const std::int32_t code : {8, 18, 19, 20, 21, 23, 37}) {
+            CAPTURE(code);
+            // This text has to be converted, once for the log and once for the number.
+            const HeldString text = plugin.MakeString("12\xE9", HostTextEncoding::Latin1);
+            const HeldObject variant(plugin.host().MakeVariant(code, text.Get()));
+            CHECK(logOfMaking(variant.Get()) ==
+                  LogLines({"NumberWithVariant", "REALGetStringData ok. Length 4",
+                            "NumberWithString " + Address(text.Get()) + ": 12\xC3\xA9",
+                            "REALDisposeStringData UTF8", "REALGetStringData ok. Length 4",
+                            "REALDisposeStringData UTF8"}));
         }
         CHECK(logOfMaking(nullptr) == LogLines({"NumberWithVariant"}));
         const HeldObject date(plugin.host().MakeDate(2.0));

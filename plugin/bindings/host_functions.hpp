@@ -1,12 +1,15 @@
-// The host's functions, each bound by name on first use. Every binding is called like the host
-// function whose name it has. When the host lacks the function it answers null or false, without
-// a word: the caller goes on with that.
+// The functions of the host, each looked up by name at its first call.
+//
+// `host::NAME(...)` calls the host function NAME; only host functions are in this namespace.
+// Helpers of the plug-in whose names look alike, such as `REALBuildMemoryblock`, are outside of it.
+// When the host lacks the function, the call returns null or false; nothing is logged or raised,
+// and the caller goes on with that result.
 #pragma once
 
 #include <cstdint>
 
 #include "interface/host_interface.hpp"
-#include "plugin/startup_globals.hpp"
+#include "plugin/bindings/startup_globals.hpp"
 
 namespace vqz {
 
@@ -55,7 +58,7 @@ enum class BooleanWidth : std::uint32_t { LowByte = 0xFF, Word = 0xFFFFFFFF };
 template <typename Function, BooleanWidth Width>
 class HostPredicateSlot;
 
-/// A host function that answers a Boolean; false when the host lacks it.
+/// A host function that returns a Boolean; false when the host lacks it.
 template <typename... Arguments, BooleanWidth Width>
 class HostPredicateSlot<host_interface::BooleanWord(Arguments...), Width>
     : private HostFunctionSlot<host_interface::BooleanWord(Arguments...)> {
@@ -75,6 +78,23 @@ template <typename Function>
 using WordPredicate = HostPredicateSlot<Function, BooleanWidth::Word>;
 
 namespace functions = host_interface::functions;
+
+/// The "REALLoadGlobalMethod" of the host, always asked for the global module.
+class GlobalMethodLoader : private HostFunctionSlot<functions::REALLoadGlobalMethod> {
+    using Slot = HostFunctionSlot<functions::REALLoadGlobalMethod>;
+
+public:
+    using Slot::Slot;
+
+    /// The address of the global method with a declaration, such as
+    /// "VarType(value As Variant) As Integer"; null when the host does not know it.
+    void* operator()(const char* declaration) {
+        constexpr const char* GlobalModule = nullptr;
+        return Slot::operator()(GlobalModule, declaration);
+    }
+};
+
+namespace host {
 
 // Strings and text encodings.
 inline constinit HostFunctionSlot<functions::REALBuildString> REALBuildString("REALBuildString");
@@ -141,20 +161,7 @@ inline constinit HostFunctionSlot<functions::Int32ToVariant> Int32ToVariant("Int
 inline constinit HostFunctionSlot<functions::Int64ToVariant> Int64ToVariant("Int64ToVariant");
 inline constinit HostFunctionSlot<functions::UInt64ToVariant> UInt64ToVariant("UInt64ToVariant");
 inline constinit HostFunctionSlot<functions::StringToVariant> StringToVariant("StringToVariant");
-
-/// Loads a global host method by its declaration, such as "VarType(value As Variant) As Integer";
-/// null when the host does not know it.
-class GlobalMethodLoader : private HostFunctionSlot<functions::REALLoadGlobalMethod> {
-    using Slot = HostFunctionSlot<functions::REALLoadGlobalMethod>;
-
-public:
-    using Slot::Slot;
-
-    void* operator()(const char* declaration) {
-        constexpr const char* GlobalModule = nullptr;
-        return Slot::operator()(GlobalModule, declaration);
-    }
-};
 inline constinit GlobalMethodLoader REALLoadGlobalMethod("REALLoadGlobalMethod");
 
+}  // namespace host
 }  // namespace vqz

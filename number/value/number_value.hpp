@@ -1,8 +1,10 @@
-// The two number values and the values that stand for nothing.
+// The two types of number values, and the values that everything starts from.
 #pragma once
 
+#include <concepts>
+
+#include "host/fixed_string.hpp"
 #include "interface/host_interface.hpp"
-#include "number/fixed_string.hpp"
 #include "number/kernels/specialisations.hpp"
 
 namespace vqz {
@@ -12,8 +14,8 @@ using BigNumberValue = ttmath::Big<TTMATH_BITS(64), TTMATH_BITS(256)>;
 /// 512 bits of exponent, 2048 bits of mantissa.
 using BiggerNumberValue = ttmath::Big<TTMATH_BITS(512), TTMATH_BITS(2048)>;
 
-/// What the class of each number value is called, and the record that the host knows it by. The
-/// records stand with the class tables.
+/// The class of each type of value: its name, and its record, which is filled in with the class
+/// tables.
 template <typename Value>
 struct NumberClass;
 
@@ -29,8 +31,8 @@ struct NumberClass<BiggerNumberValue> {
     static host_interface::ClassDefinition Record;
 };
 
-/// A value of 0 with the NaN flag: what computations start from. (The build has ttmath clear its
-/// new numbers too, so that raw access never shows a byte that nobody wrote.)
+/// A NaN with all other bits 0, the value that computations start from. (The build also has ttmath
+/// clear new numbers, so that raw access never shows a byte that nobody wrote.)
 template <typename Value>
 Value NanValue() {
     Value value;
@@ -38,6 +40,7 @@ Value NanValue() {
     return value;
 }
 
+/// The number 0.
 template <typename Value>
 Value ZeroValue() {
     Value value;
@@ -45,7 +48,21 @@ Value ZeroValue() {
     return value;
 }
 
-/// What a missing number reads as: a NaN.
+/// The exact number of an integer. The magnitude is converted, so that the most negative value of
+/// each type is exact too.
+template <typename Value, std::integral Host>
+Value NumberFrom(Host value) {
+    const bool negative = value < 0;
+    const auto bits = static_cast<ttmath::ulint>(value);
+    Value number = NanValue<Value>();
+    number.FromUInt(negative ? 0 - bits : bits);
+    if (negative) {
+        number.SetSign();
+    }
+    return number;
+}
+
+/// The value that a missing object is read as: a NaN.
 template <typename Value>
 inline const Value NilNumberValue = NanValue<Value>();
 

@@ -6,8 +6,8 @@
 
 #include "host/references.hpp"
 #include "interface/host_interface.hpp"
-#include "number/number_value.hpp"
-#include "plugin/host_functions.hpp"
+#include "number/value/number_value.hpp"
+#include "plugin/bindings/host_functions.hpp"
 
 namespace vqz {
 
@@ -20,7 +20,7 @@ struct NumberInstance {
     Value* ref;
 };
 
-/// The instance data of an object of the class: it lies where the host told at registration.
+/// The instance data of an object of the class, at the offset that the host set at registration.
 template <typename Value>
 NumberInstance<Value>& InstanceOf(Object object) {
     auto* const address = reinterpret_cast<char*>(object);
@@ -34,7 +34,7 @@ const Value* FindNumber(Object object) {
     return object == nullptr ? nullptr : InstanceOf<Value>(object).ref;
 }
 
-/// The object's value; what is missing reads as `NilNumberValue`.
+/// The object's value; `NilNumberValue` when there is no object or it holds no value.
 template <typename Value>
 const Value& ReadNumber(Object object) {
     const Value* value = FindNumber<Value>(object);
@@ -60,7 +60,7 @@ void DropNumberValue(Object object) {
 /// its one reference. Throws std::bad_alloc.
 template <typename Value>
 Object NewNumberObject(const Value& value) {
-    ObjectReference object(PluginNewInstance(NumberClass<Value>::Name.text));
+    ObjectReference object(host::PluginNewInstance(NumberClass<Value>::Name.text));
     if (object) {
         StoreNumberValue(object.Get(), value);
     }
