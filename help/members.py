@@ -7,6 +7,7 @@ import pathlib
 import re
 
 from examples import Example, ExampleError, ExampleRunner, Kind
+from page_data import Parameter, parameters_of
 
 NUMBER_CLASS = "BigNumberVQZ"
 
@@ -53,6 +54,8 @@ class Member:
     is_assignable: bool
     example: Example
     failing: list[Example]
+    parameters: list[Parameter] = dataclasses.field(default_factory=list)
+    accuracy: list[list[tuple[str, str]]] = dataclasses.field(default_factory=list)
 
     @property
     def notes(self) -> list[str]:
@@ -73,10 +76,8 @@ class Member:
         return unique(a.message for a in self.accessors if a.message)
 
     @property
-    def search_text(self) -> str:
-        """What the filter looks into; a message or a line of the log leads to its member too."""
-        parts = [self.name, self.section, self.summary, *self.messages, *self.log_names]
-        return " ".join(parts).lower()
+    def parameter_count(self) -> int:
+        return len(parameters_of(self.declaration))
 
     def check(self) -> None:
         """Raises ExampleError where the texts and the routines contradict each other."""
@@ -94,8 +95,7 @@ def unique(texts) -> list[str]:
 
 def parameter_types(declaration: str) -> list[str]:
     """The types of the parameters; the number class is just a number."""
-    inside = re.search(r"\((.*)\)", declaration)
-    types = re.findall(r"\bas (\w+)", inside[1], re.IGNORECASE) if inside else []
+    types = [parameter.type for parameter in parameters_of(declaration)]
     return ["number" if name == NUMBER_CLASS else name for name in types]
 
 
