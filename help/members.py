@@ -76,8 +76,11 @@ class Member:
         return unique(a.message for a in self.accessors if a.message)
 
     @property
-    def parameter_count(self) -> int:
-        return len(parameters_of(self.declaration))
+    def search_words(self) -> list[str]:
+        """What leads to the member beside its name: parameters, the starts of its messages, and the
+        names in the debug log."""
+        failures = [re.split(r" with|\.", message)[0] for message in self.messages]
+        return [parameter.name for parameter in self.parameters] + failures + self.log_names
 
     def check(self) -> None:
         """Raises ExampleError where the texts and the routines contradict each other."""

@@ -41,7 +41,8 @@ def table(results: list[dict]) -> str:
     heads = "".join(f'<th class="figure">{name}</th>' for name in CLASSES.values())
     return ("<p>Microseconds for one call, on the machine that measured them. Another machine has other "
             "figures, but much the same proportions.</p>\n"
-            f"<table><thead><tr><th>Operation</th>{heads}</tr></thead>\n<tbody>{rows}</tbody></table>\n")
+            '<div class="wide"><table><thead><tr><th>Operation</th>'
+            f"{heads}</tr></thead>\n<tbody>{rows}</tbody></table></div>\n")
 
 
 def bar(bits: int, ratio: float, longest: float) -> str:

@@ -9,8 +9,9 @@ const WORTH = {
   name: 100, title: 80, synonym: 70, nameStart: 60, titleStart: 50, synonymStart: 40,
   summary: 30, summaryStart: 20, text: 8, textStart: 5, inside: 1,
 };
-// What the whole query is worth when it is all of a name, of a title or of a synonym, or starts a title.
-const WHOLE = {name: 4000, title: 3000, synonym: 2000, titleStart: 1500};
+// What the whole query is worth when it is all of a name, of a title or of a synonym, when it starts a
+// title, or when it starts with a synonym of several words, as a message with its numbers does.
+const WHOLE = {name: 4000, title: 3000, synonym: 2000, titleStart: 1500, startsWithSynonym: 1000};
 const FILLERS = new Set(["a", "an", "and", "as", "for", "how", "i", "in", "is", "of", "the", "to", "with"]);
 
 const input = document.getElementById("search");
@@ -75,6 +76,9 @@ function scoreOf(query, words, entry) {
   if (entry.names.includes(query)) score += WHOLE.name;
   if (entry.wholeTitle === query) score += WHOLE.title;
   if (entry.synonyms.includes(query)) score += WHOLE.synonym;
+  if (entry.synonyms.some((synonym) => synonym.includes(" ") && query.startsWith(`${synonym} `))) {
+    score += WHOLE.startsWithSynonym;
+  }
   if (entry.wholeTitle.startsWith(`${query} `)) score += WHOLE.titleStart;
   return score;
 }
