@@ -82,7 +82,7 @@ class Part:
         words = "".join(child.content if child.type in ("text", "code_inline") else " "
                         for child in paragraph.children if child.type != "strong_open"
                         and child.type != "strong_close") if paragraph else ""
-        return re.split(r"(?<=[.:?])\s", " ".join(words.split()))[0].rstrip(":")
+        return re.split(r"(?<=[.?!])\s", " ".join(words.split()))[0].rstrip(":")
 
     def mentions(self, name: str) -> bool:
         """Whether the text, apart from its programs, has this name between backticks."""
