@@ -7,7 +7,9 @@ COMMAND starts the stand-in host with the library.
 
 import collections
 import html.parser
+import json
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -18,7 +20,8 @@ CLASSES = ("BigNumberVQZ", "BiggerNumberVQZ")
 
 
 class Page(html.parser.HTMLParser):
-    """What the tests ask about a page: its anchors, its links, and the declarations in it."""
+    """What the tests ask about a page: its anchors, its links, the declarations in it, and the rows of
+    its tables by the class of the table and the member, a list of cells each."""
 
     def __init__(self, text: str):
         super().__init__()
@@ -26,6 +29,9 @@ class Page(html.parser.HTMLParser):
         self.links: list[str] = []
         self.declarations: list[str] = []
         self.in_declaration = False
+        self.rows: dict[tuple[str, str], list[list[str]]] = collections.defaultdict(list)
+        self.table = ""
+        self.in_cell = False
         self.feed(text)
 
     def handle_starttag(self, tag, attrs):
@@ -38,14 +44,32 @@ class Page(html.parser.HTMLParser):
         if values.get("class") == "declaration":
             self.in_declaration = True
             self.declarations.append("")
+        if tag == "table":
+            self.table = values.get("class", "")
+        elif tag == "tr":
+            self.current_rows().append([])
+        elif tag == "td":
+            self.in_cell = True
+            self.current_rows()[-1].append("")
+
+    def current_rows(self) -> list[list[str]]:
+        return self.rows[self.table, self.declarations[-1] if self.declarations else ""]
 
     def handle_endtag(self, tag):
         if tag == "pre":
             self.in_declaration = False
+        if tag == "td":
+            self.in_cell = False
 
     def handle_data(self, data):
         if self.in_declaration:
             self.declarations[-1] += data
+        if self.in_cell:
+            self.current_rows()[-1][-1] += data
+
+    def cells(self, table: str, declaration: str) -> list[list[str]]:
+        """The rows of a member's table that have cells, without those of its head."""
+        return [row for row in self.rows[table, declaration] if row]
 
 
 def registered(listing: str) -> dict[str, list[str]]:
@@ -76,6 +100,39 @@ class ContentsTest(unittest.TestCase):
             declarations = [d.replace(name, CLASSES[0]) for d in classes[name]]
             self.assertEqual(len(declarations), 122)
             self.assertEqual(sorted(declarations), sorted(self.page.declarations))
+
+    def test_every_parameter_is_in_a_table(self) -> None:
+        """Its name, its type and its default as the declaration has them, and a range."""
+        for declaration in self.page.declarations:
+            inside = declaration[declaration.find("(") + 1 : declaration.rfind(")")]
+            rows = self.page.cells("parameters", declaration)
+            shown = [f"{name} as {kind}".replace("as ByRef ", "as ") + f" = {default}" * (default != "none")
+                     for name, kind, default, _ in rows]
+            expected = [part.strip() for part in inside.split(",")] if "(" in declaration else []
+            expected = [re.sub(r"(?i)^byref ", "", part).replace(" As ", " as ") for part in expected]
+            self.assertEqual(shown, expected)
+            self.assertTrue(all(row[3] for row in rows), declaration)
+
+    def test_measured_members_show_their_accuracy(self) -> None:
+        """As many rows as the document has for them, under the same name."""
+        document = (ROOT / "docs/accuracy.md").read_text(encoding="utf-8")
+        measured = collections.Counter(re.findall(r"^\| `?(\w+)`? \|", document, re.MULTILINE))
+        shown = collections.Counter()
+        for declaration in self.page.declarations:
+            name = re.match(r"\w+", declaration)[0]
+            shown[name] = max(shown[name], len(self.page.cells("measured", declaration)))
+        for name in ("Sin", "ACosh", "Sqrt", "Multiply", "Pow", "Pi"):
+            self.assertGreater(measured[name], 0)
+            self.assertEqual(shown[name], measured[name], name)
+        self.assertEqual(shown["Operator_Add"], measured["Add"])
+        self.assertEqual(shown["IsZero"], 0)
+
+    def test_every_name_in_the_log_is_in_its_table(self) -> None:
+        rows = json.loads((self.folder / "members.json").read_text(encoding="utf-8"))["members"]
+        names = {row[key]["logName"] for row in rows for key in ("routine", "setter") if key in row}
+        table = self.page.cells("names", "")
+        shown = {name for row in table for name in row[1].split(", ")}
+        self.assertEqual(shown, names - {""})
 
     def test_every_member_has_a_block_of_text(self) -> None:
         lines = (self.folder / "members.txt").read_text(encoding="utf-8").splitlines()
