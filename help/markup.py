@@ -79,9 +79,8 @@ class Part:
     def summary(self) -> str:
         """The first sentence, as plain text."""
         paragraph = next((token for token in self.tokens if token.type == "inline"), None)
-        words = "".join(child.content if child.type in ("text", "code_inline") else " "
-                        for child in paragraph.children if child.type != "strong_open"
-                        and child.type != "strong_close") if paragraph else ""
+        words = "".join(" " if child.type == "softbreak" else child.content
+                        for child in paragraph.children) if paragraph else ""
         return re.split(r"(?<=[.?!])\s", " ".join(words.split()))[0].rstrip(":")
 
     def mentions(self, name: str) -> bool:

@@ -76,11 +76,14 @@ class Member:
         return unique(a.message for a in self.accessors if a.message)
 
     @property
-    def search_words(self) -> list[str]:
-        """What leads to the member beside its name: parameters, the starts of its messages, and the
-        names in the debug log."""
-        failures = [re.split(r" with|\.", message)[0] for message in self.messages]
-        return [parameter.name for parameter in self.parameters] + failures + self.log_names
+    def failures(self) -> list[str]:
+        """The starts of its messages, up to the numbers."""
+        return unique(re.split(r" with|\.", message)[0] for message in self.messages)
+
+    @property
+    def inner_names(self) -> list[str]:
+        """The names of its parameters, and those in the debug log."""
+        return [parameter.name for parameter in self.parameters] + self.log_names
 
     def check(self) -> None:
         """Raises ExampleError where the texts and the routines contradict each other."""

@@ -18,6 +18,7 @@ const input = document.getElementById("search");
 const form = document.getElementById("search-form");
 const count = document.getElementById("result-count");
 const results = document.getElementById("results");
+const instead = document.getElementById("instead");
 const hits = document.getElementById("hits");
 const more = document.getElementById("more");
 const noHit = document.getElementById("no-hit");
@@ -34,14 +35,17 @@ function wordsOf(text) {
 }
 
 const entries = [...document.querySelectorAll("[data-anchor]")].map((element) => {
-  const {kind, title, summary, anchor, names, words} = element.dataset;
+  const {kind, title, summary, anchor, names, words, inner} = element.dataset;
   const synonyms = words.split("|").filter(Boolean);
   return {
     kind, title, summary, anchor, synonyms,
     names: names.split("|").filter(Boolean),
     wholeTitle: plain(title),
     titleWords: wordsOf(plain(title)),
-    synonymWords: synonyms.flatMap((synonym) => [synonym, ...wordsOf(synonym)]),
+    synonymWords: [
+      ...synonyms.flatMap((synonym) => [synonym, ...wordsOf(synonym)]),
+      ...inner.split("|").filter(Boolean),
+    ],
     summaryWords: wordsOf(plain(summary)),
     text: plain(element.textContent),
   };
@@ -70,9 +74,13 @@ function worthOf(word, entry) {
   return found === 0 || !/[\p{L}\p{N}_]/u.test(entry.text[found - 1]) ? WORTH.textStart : WORTH.inside;
 }
 
-function scoreOf(query, words, entry) {
+/** What a query is worth in an entry. One that lacks a word counts only if `areAllNeeded` is false. */
+function scoreOf(query, words, areAllNeeded, entry) {
   const found = words.map((word) => worthOf(word, entry));
-  let score = found.includes(0) ? 0 : found.reduce((sum, worth) => sum + worth, 0) / words.length;
+  let score = found.reduce((sum, worth) => sum + worth, 0) / words.length;
+  if (found.includes(0)) {
+    score = areAllNeeded ? 0 : score * found.filter(Boolean).length / words.length;
+  }
   if (entry.names.includes(query)) score += WHOLE.name;
   if (entry.wholeTitle === query) score += WHOLE.title;
   if (entry.synonyms.includes(query)) score += WHOLE.synonym;
@@ -83,17 +91,66 @@ function scoreOf(query, words, entry) {
   return score;
 }
 
-/** The entries that go with a query, the best first; among equals, in the order of the page. */
+/** How many letters have to be changed, added or left out to make one word of the other. */
+function distance(left, right) {
+  let row = Array.from({length: right.length + 1}, (_, place) => place);
+  for (let i = 0; i < left.length; ++i) {
+    const next = [i + 1];
+    for (let j = 0; j < right.length; ++j) {
+      next.push(Math.min(next[j] + 1, row[j + 1] + 1, row[j] + (left[i] === right[j] ? 0 : 1)));
+    }
+    row = next;
+  }
+  return row[right.length];
+}
+
+/** The word of a name, title or synonym that is spelt most like a word; the word itself where none is. */
+function respelt(word) {
+  const known = new Set(entries.flatMap((entry) =>
+    [...entry.names, ...entry.titleWords, ...entry.synonymWords].filter((other) => other.length > 2)));
+  let best = word;
+  let least = word.length < 4 ? 0 : word.length < 7 ? 1 : 2;
+  for (const other of known) {
+    const found = Math.abs(other.length - word.length) <= least ? distance(word, other) : least + 1;
+    if (found < least || (found === least && best === word)) {
+      [best, least] = [other, found];
+    }
+  }
+  return best;
+}
+
+function ranked(query, words, areAllNeeded) {
+  return entries
+    .map((entry) => ({entry, score: scoreOf(query, words, areAllNeeded, entry)}))
+    .filter(({score}) => score > 0)
+    .sort((left, right) => right.score - left.score)
+    .map(({entry}) => entry);
+}
+
+/**
+ * The entries that go with a query, the best first; among equals, in the order of the page. Where no
+ * entry has all words, misspelt ones are replaced, and then entries with some of the words do; `instead`
+ * says what was done.
+ */
 function find(text) {
   const query = plain(text);
   const all = wordsOf(query);
   const telling = all.filter((word) => !FILLERS.has(word));
   const words = telling.length > 0 ? telling : all;
-  return entries
-    .map((entry) => ({entry, score: scoreOf(query, words, entry)}))
-    .filter(({score}) => score > 0)
-    .sort((left, right) => right.score - left.score)
-    .map(({entry}) => entry);
+  let found = ranked(query, words, true);
+  if (found.length > 0) {
+    return {found, instead: ""};
+  }
+  const corrected = words.map(
+    (word) => entries.some((entry) => worthOf(word, entry) > 0) ? word : respelt(word));
+  const isCorrected = corrected.some((word, place) => word !== words[place]);
+  found = ranked(corrected.join(" "), corrected, true);
+  if (found.length > 0) {
+    return {found, instead: `Nothing has “${text.trim()}”. These have “${corrected.join(" ")}”:`};
+  }
+  found = ranked(corrected.join(" "), corrected, false);
+  return {found, instead: found.length > 0 ? `Nothing has all of the words. These have some of “${
+    isCorrected ? corrected.join(" ") : text.trim()}”:` : ""};
 }
 
 function hitElement(entry) {
@@ -125,7 +182,9 @@ function search() {
     showResults(false);
     return;
   }
-  const found = find(input.value);
+  const {found, instead: explanation} = find(input.value);
+  instead.hidden = !explanation;
+  instead.textContent = explanation;
   hits.replaceChildren(...found.slice(0, MOST_HITS).map(hitElement));
   more.hidden = found.length <= MOST_HITS;
   more.textContent = `${found.length - MOST_HITS} more go less well with it.`;
@@ -160,7 +219,7 @@ input.addEventListener("focus", () => {
 });
 form.addEventListener("submit", (event) => {
   event.preventDefault();
-  const best = find(input.value)[0];
+  const best = find(input.value).found[0];
   if (best) {
     input.blur();
     location.hash = best.anchor;

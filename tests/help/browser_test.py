@@ -51,6 +51,9 @@ BEST_HITS = {
     "random number": "rand",
     "absolute value": "abs",
     "first steps": "first-steps",
+    "text": "text-in-any-base-and-format",
+    "NaN": "nan",
+    "parse": "text-in-any-base-and-format",
     "install": "installation",
     "debug log": "the-debug-log",
     "how to round half to even": "recipes-rounding-half-to-even",
@@ -113,7 +116,7 @@ class BrowserTest(unittest.TestCase):
         self.assertFalse(page.is_visible("#page"))
         self.assertEqual(page.inner_text("#result-count"), f"{len(self.hits(page))} results")
 
-        page.keyboard.type("zz")
+        page.keyboard.type("zzzz")
         self.assertEqual(self.hits(page), [])
         self.assertTrue(page.is_visible("#no-hit"))
         page.click("#clear")
@@ -132,6 +135,19 @@ class BrowserTest(unittest.TestCase):
         page.fill("#search", "inverse cosine")
         self.assertEqual(self.hits(page)[:2], ["acos", "acosh"])
         self.assertNotIn("asin", self.hits(page))
+
+    def test_misspelt_and_missing_words(self) -> None:
+        page = self.open(DESKTOP)
+        for query, anchor, instead in (
+            ("sqrtt", "sqrt", "These have “sqrt”"),
+            ("hexadezimal", "stringvalue-integer", "These have “hexadecimal”"),
+            ("hex zzzzzz", "stringvalue-integer", "Nothing has all of the words."),
+        ):
+            page.fill("#search", query)
+            self.assertEqual(self.hits(page)[0], anchor)
+            self.assertIn(instead, page.inner_text("#instead"))
+        page.fill("#search", "sqrt")
+        self.assertFalse(page.is_visible("#instead"))
 
     def test_enter_leads_to_the_best_hit(self) -> None:
         page = self.open(DESKTOP)
