@@ -57,7 +57,7 @@ def as_routine(example: Example, number: int) -> str:
 
 
 def as_call(number: int) -> str:
-    """The call of that routine, which tells what it raised and where its output ends."""
+    """The call of that routine, which prints what it raised and marks the end of its output."""
     catches = "".join(
         f'Catch e As {name}\n  Print Chr({ord(RAISED)}) + "{name}: " + e.Message\n'
         for name in EXCEPTIONS

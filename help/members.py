@@ -1,4 +1,4 @@
-"""The members of the number classes as the help tells of them."""
+"""The members of the number classes as the help describes them."""
 
 import collections
 import dataclasses

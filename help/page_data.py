@@ -59,7 +59,9 @@ class PageData:
             raise ExampleError(f"parameters.toml: {anchor} has no parameter {', '.join(unknown)}")
         for parameter in found:
             kind = "number" if parameter.type == self.number_class else parameter.type.lower()
-            parameter.range = own.get(parameter.name.lower()) or self.type_ranges[kind]
+            parameter.range = own.get(parameter.name.lower()) or self.type_ranges.get(kind, "")
+            if not parameter.range:
+                raise ExampleError(f"parameters.toml: no range for the type {kind} of {declaration}")
         return found
 
     def related(self, anchor: str) -> list[str]:

@@ -198,8 +198,9 @@ class PageDataTest(unittest.TestCase):
     def test_ranges(self) -> None:
         found = self.data().parameters("f", "F(Base as Integer, n as Integer, x as BigNumberVQZ)")
         self.assertEqual([p.range for p in found], ["2 to 16", "any", "a number"])
-        with self.assertRaises(ExampleError):
-            self.data().parameters("f", "F(n as Integer)")
+        for declaration in ("F(n as Integer)", "F(Base as Integer, x as Unheard)"):
+            with self.subTest(declaration=declaration), self.assertRaises(ExampleError):
+                self.data().parameters("f", declaration)
 
     def test_related(self) -> None:
         self.assertEqual(self.data().related("f"), ["g", "h"])
