@@ -23,17 +23,34 @@ SAME_AS = {
 }
 
 
+# Types that a row "by UInt32" is about: an integer is multiplied by its magnitude, whatever its type.
+INTEGERS = {"Integer", "UInteger", "Int32", "UInt32", "Int64", "UInt64"}
+
+Row = list[tuple[str, str]]
+
+
 def cells_of(line: str) -> list[str]:
     return [cell.strip() for cell in line.strip().strip("|").split("|")]
+
+
+def fits(qualifier: str, types: list[str]) -> bool:
+    """Whether what stands behind a name in the table is about an overload with these parameters."""
+    if "minutes" in qualifier:
+        return len(types) == 3
+    return not INTEGERS.isdisjoint(qualifier.split()) and not INTEGERS.isdisjoint(types)
+
+
+def without_empty_columns(rows: list[Row]) -> list[Row]:
+    used = {head for row in rows for head, cell in row if cell}
+    return [[(head, cell) for head, cell in row if head in used] for row in rows]
 
 
 class AccuracyRows:
     """The tables of the document that have a column for the member, row by row."""
 
     def __init__(self, document: str):
-        # For each member, and whether its angles come in degrees, minutes and seconds: its rows as
-        # pairs of heading and cell.
-        self.rows: dict[tuple[str, bool], list[list[tuple[str, str]]]] = collections.defaultdict(list)
+        # For each name, its rows as pairs of heading and cell, each with what stands behind the name.
+        self.rows: dict[str, list[tuple[str, Row]]] = collections.defaultdict(list)
         heads: list[str] = []
         for line in document.splitlines():
             if not line.startswith("|"):
@@ -46,12 +63,13 @@ class AccuracyRows:
     def _add(self, row: dict[str, str]) -> None:
         named = row.pop(MEMBER).replace("`", "")
         shown = [(head, cell) for head, cell in row.items() if head not in LEFT_OUT]
-        for name in re.split(r",|\band\b", named):
-            if first := re.match(r"\s*(\w+)", name):
-                self.rows[first[1], "minutes" in named].append(shown)
+        for part in re.split(r",|\band\b", named):
+            name, _, qualifier = part.strip().partition(" ")
+            self.rows[name].append((qualifier, shown))
 
-    def of(self, name: str, parameter_count: int) -> list[list[tuple[str, str]]]:
-        """The rows of a member; the one of several angles has its own."""
-        name = SAME_AS.get(name, name)
-        of_minutes = self.rows.get((name, True), [])
-        return of_minutes if of_minutes and parameter_count == 3 else self.rows.get((name, False), [])
+    def of(self, name: str, types: list[str]) -> list[Row]:
+        """The rows of a member whose parameters have these types. Rows of an overload's own go before
+        those of the name alone."""
+        rows = self.rows.get(SAME_AS.get(name, name), [])
+        own = [row for qualifier, row in rows if qualifier and fits(qualifier, types)]
+        return without_empty_columns(own or [row for qualifier, row in rows if not qualifier])

@@ -109,7 +109,8 @@ def main() -> None:
         for member in members:
             member.check()
             member.parameters = data.parameters(member.anchor, member.declaration)
-            member.accuracy = measured_rows.of(member.name, len(member.parameters))
+            member.accuracy = measured_rows.of(
+                member.name, [parameter.type for parameter in member.parameters])
         for guide in [*guides, accuracy]:
             guide.render()
         next(guide for guide in guides if guide.anchor == "accuracy").append(accuracy)

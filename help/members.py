@@ -6,6 +6,7 @@ import json
 import pathlib
 import re
 
+from accuracy import Row
 from examples import Example, ExampleError, ExampleRunner, Kind
 from page_data import Parameter, parameters_of
 
@@ -55,7 +56,7 @@ class Member:
     example: Example
     failing: list[Example]
     parameters: list[Parameter] = dataclasses.field(default_factory=list)
-    accuracy: list[list[tuple[str, str]]] = dataclasses.field(default_factory=list)
+    accuracy: list[Row] = dataclasses.field(default_factory=list)
 
     @property
     def notes(self) -> list[str]:

@@ -164,14 +164,21 @@ class AccuracyTest(unittest.TestCase):
             "| page | sum |\n|---|---|\n| Sin | 5 |\n\n"
             "| arguments | values | member | 256 bits |\n|---|---:|---|---:|\n"
             "| to 8 | 34 | `Sin`, Cos and Tan | 9.45 |\n| close to 0 | 3 | Sin | 2^7 |\n"
-            "| all | 5 | Add | 0.5 |\n| all | 6 | DegToRad | 1 |\n| all | 7 | DegToRad of minutes | 2 |\n")
+            "| all | 5 | Add |  |\n| all | 6 | DegToRad | 1 |\n| all | 7 | DegToRad of minutes | 2 |\n"
+            "| all | 5 | Multiply | 0.5 |\n| all | 5 | Multiply by UInt32 | 1 |\n")
         first = [("arguments", "to 8"), ("256 bits", "9.45")]
-        self.assertEqual(rows.of("Sin", 1), [first, [("arguments", "close to 0"), ("256 bits", "2^7")]])
-        self.assertEqual(rows.of("Tan", 1), [first])
-        self.assertEqual(rows.of("Operator_AddRight", 1), rows.of("Add", 2))
-        self.assertEqual(rows.of("DegToRad", 1), [[("arguments", "all"), ("256 bits", "1")]])
-        self.assertEqual(rows.of("DegToRad", 3), [[("arguments", "all"), ("256 bits", "2")]])
-        self.assertEqual(rows.of("Round", 0), [])
+        self.assertEqual(rows.of("Sin", ["BigNumberVQZ"]), [first, [("arguments", "close to 0"), ("256 bits", "2^7")]])
+        self.assertEqual(rows.of("Tan", ["BigNumberVQZ"]), [first])
+        self.assertEqual(rows.of("Operator_AddRight", ["BigNumberVQZ"]), [[("arguments", "all")]])
+        for name, types, error in (
+            ("DegToRad", ["BigNumberVQZ"], "1"),
+            ("DegToRad", ["BigNumberVQZ"] * 3, "2"),
+            ("Multiply", ["BigNumberVQZ", "boolean"], "0.5"),
+            ("Multiply", ["Integer"], "1"),
+            ("Multiply", ["UInt32"], "1"),
+        ):
+            self.assertEqual(rows.of(name, types), [[("arguments", "all"), ("256 bits", error)]])
+        self.assertEqual(rows.of("Round", []), [])
 
 
 class PageDataTest(unittest.TestCase):
