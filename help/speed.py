@@ -39,8 +39,8 @@ def table(results: list[dict]) -> str:
         + "</tr>\n"
         for operation, found in own_times(results, "plug-in").items())
     heads = "".join(f'<th class="figure">{name}</th>' for name in CLASSES.values())
-    return ("<p>Microseconds for one call, on the machine that measured them. Another machine has other "
-            "figures, but much the same proportions.</p>\n"
+    return ("<p>Microseconds for one call, on the machine that measured them. Another machine has "
+            "other figures, but much the same proportions.</p>\n"
             '<div class="wide"><table><thead><tr><th>Operation</th>'
             f"{heads}</tr></thead>\n<tbody>{rows}</tbody></table></div>\n")
 
@@ -71,8 +71,8 @@ def chart(results: list[dict]) -> str:
         f"<tr><th>{html.escape(operation)}</th><td>"
         + "".join(bar(bits, ratio, decades) for bits, ratio in found.items()) + "</td></tr>\n"
         for operation, found in ratios.items())
-    return ('<figure class="chart"><figcaption>How many times as fast as plain ttmath each operation is. '
-            f"Each step of the axis is ten times the one before. {legend}</figcaption>\n"
+    return ('<figure class="chart"><figcaption>How many times as fast as plain ttmath each operation '
+            f"is. Each step of the axis is ten times the one before. {legend}</figcaption>\n"
             f'<table style="--steps:{decades}"><thead><tr><th>Operation</th>'
             f'<td><div class="ticks">{ticks}</div></td></tr></thead>\n'
             f"<tbody>{rows}</tbody></table></figure>\n")

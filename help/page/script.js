@@ -12,7 +12,8 @@ const WORTH = {
 // What the whole query is worth when it is all of a name, of a title or of a synonym, when it starts a
 // title, or when it starts with a synonym of several words, as a message with its numbers does.
 const WHOLE = {name: 4000, title: 3000, synonym: 2000, titleStart: 1500, startsWithSynonym: 1000};
-const FILLERS = new Set(["a", "an", "and", "as", "for", "how", "i", "in", "is", "of", "the", "to", "with"]);
+const FILLERS = new Set(
+  ["a", "an", "and", "as", "for", "how", "i", "in", "is", "of", "the", "to", "with"]);
 
 const input = document.getElementById("search");
 const form = document.getElementById("search-form");
@@ -104,10 +105,10 @@ function distance(left, right) {
   return row[right.length];
 }
 
-/** The word of a name, title or synonym that is spelt most like a word; the word itself where none is. */
+/** The known word that is spelt most like a word; the word itself where none is close. */
 function respelt(word) {
   const known = new Set(entries.flatMap((entry) =>
-    [...entry.names, ...entry.titleWords, ...entry.synonymWords].filter((other) => other.length > 2)));
+    [...entry.names, ...entry.titleWords, ...entry.synonymWords]).filter((other) => other.length > 2));
   let best = word;
   let least = word.length < 4 ? 0 : word.length < 7 ? 1 : 2;
   for (const other of known) {
@@ -129,8 +130,8 @@ function ranked(query, words, areAllNeeded) {
 
 /**
  * The entries that go with a query, the best first; among equals, in the order of the page. Where no
- * entry has all words, misspelt ones are replaced, and then entries with some of the words do; `instead`
- * says what was done.
+ * entry has all words, misspelt words are replaced; where that does not help either, entries with some
+ * of the words are returned. `instead` says what was done.
  */
 function find(text) {
   const query = plain(text);

@@ -225,7 +225,8 @@ class BrowserTest(unittest.TestCase):
               * parseFloat(getComputedStyle(pre).lineHeight)).length""")
         self.assertEqual(wrapped, 0)
         stops = page.locator(".example > pre").evaluate_all(
-            "programs => programs.filter(p => (p.scrollWidth > p.clientWidth) !== (p.tabIndex === 0)).length")
+            """programs => programs.filter(pre =>
+              (pre.scrollWidth > pre.clientWidth) !== (pre.tabIndex === 0)).length""")
         self.assertEqual(stops, 0)
 
     def test_chart(self) -> None:

@@ -1,5 +1,5 @@
-"""Compares the help with what the library registers and its recipes with what Python computes, follows its
-links, and makes it a second time.
+"""Compares the help with what the library registers and its recipes with what Python computes, follows
+its links, and makes it a second time.
 
 usage: contents_test.py HELP_FOLDER VERSION -- COMMAND...
 
@@ -111,7 +111,8 @@ class ContentsTest(unittest.TestCase):
         for declaration in self.page.declarations:
             inside = declaration[declaration.find("(") + 1 : declaration.rfind(")")]
             rows = self.page.cells("parameters", declaration)
-            shown = [f"{name} as {kind}".replace("as ByRef ", "as ") + f" = {default}" * (default != "none")
+            shown = [f"{name} as {kind.removeprefix('ByRef ')}"
+                     + (f" = {default}" if default != "none" else "")
                      for name, kind, default, _ in rows]
             expected = [part.strip() for part in inside.split(",")] if "(" in declaration else []
             expected = [re.sub(r"(?i)^byref ", "", part).replace(" As ", " as ") for part in expected]
