@@ -46,13 +46,18 @@ class Example:
     output: str = ""
 
 
+ROUTINE = re.compile(r"^(?:Function|Sub)\b.*?^End (?:Function|Sub)$\n*", re.MULTILINE | re.DOTALL)
+
+
 def as_routine(example: Example, number: int) -> str:
-    """The example as a routine of the collected program."""
-    return f"Sub Example{number}()\n{example.code}\nEnd Sub\n"
+    """The example as a routine of the collected program, below the routines that it has itself. Those
+    are seen by all examples: a later one may call them."""
+    own = "".join(ROUTINE.findall(example.code))
+    return f"{own}\nSub Example{number}()\n{ROUTINE.sub('', example.code)}\nEnd Sub\n"
 
 
 def as_call(number: int) -> str:
-    """The call of that routine, which tells what it raised and where its output ends."""
+    """The call of that routine, which prints what it raised and marks the end of its output."""
     catches = "".join(
         f'Catch e As {name}\n  Print Chr({ord(RAISED)}) + "{name}: " + e.Message\n'
         for name in EXCEPTIONS

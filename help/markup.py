@@ -13,8 +13,9 @@ TOKEN = re.compile(
       | (?P<number>\b\d+(?:\.\d+)?\b)
       | (?P<type>\b(?:BigNumberVQZ|BiggerNumberVQZ|\w+Exception\w*|String|Integer|Int32|Int64|UInt32
             |UInt64|UInteger|Single|Double|Currency|Variant|Boolean|MemoryBlock)\b)
-      | (?P<keyword>\b(?:And|As|Catch|Dim|Else|End|For|If|Mod|New|Next|Nil|Not|Or|Print|Step|Sub|Then
-            |To|Try|True|False|While|Wend)\b)""",
+      | (?P<keyword>\b(?:And|As|ByRef|Catch|Dim|Do|DownTo|Each|Else|ElseIf|End|Exit|For|Function|If|In
+            |Loop|Mod|New|Next|Nil|Not|Or|Print|Return|Step|Sub|Then|To|Try|True|False|Until|Wend
+            |While)\b)""",
     re.VERBOSE | re.MULTILINE)
 
 
@@ -64,30 +65,56 @@ def anchor_of(text: str) -> str:
     return re.sub(r"\W+", "-", text.lower()).strip("-")
 
 
+class Part:
+    """What stands below one heading of a guide; the first part of a guide is what stands above all
+    other headings. `html` is set once the examples have been run."""
+
+    def __init__(self, title: str, anchor: str):
+        self.title = title
+        self.anchor = anchor
+        self.tokens = []
+        self.html = ""
+
+    @property
+    def summary(self) -> str:
+        """The first sentence, as plain text."""
+        paragraph = next((token for token in self.tokens if token.type == "inline"), None)
+        words = "".join(" " if child.type == "softbreak" else child.content
+                        for child in paragraph.children) if paragraph else ""
+        return re.split(r"(?<=[.?!])\s", " ".join(words.split()))[0].rstrip(":")
+
+    def mentions(self, name: str) -> bool:
+        """Whether the text, apart from its programs, has this name between backticks."""
+        word = re.compile(rf"\b{name}\b")
+        codes = (child.content for token in self.tokens if token.type == "inline"
+                 for child in token.children if child.type == "code_inline")
+        return any(word.search(code) for code in codes)
+
+
 class Guide:
     """A text in Markdown. Its programs are examples of the kind that stands behind the fence, where
     options for the stand-in host may follow it.
 
-    Headings are moved `shift` levels down; the first one gives the title and is left out.
+    The first heading gives the title; those of the second level divide the text into parts.
     """
 
-    def __init__(self, text: str, shift: int, runner: ExampleRunner):
+    def __init__(self, text: str, runner: ExampleRunner):
         self.markdown = MarkdownIt("commonmark", {"typographer": False}).enable("table")
-        self.tokens = self.markdown.parse(text)
-        self.title = self.tokens[1].content
+        tokens = self.markdown.parse(text)
+        self.title = tokens[1].content
         self.anchor = anchor_of(self.title)
-        self.tokens = self.tokens[3:]
         self.examples = {}
-        for index, token in enumerate(self.tokens):
+        self.parts = [Part(self.title, self.anchor)]
+        for index, token in enumerate(tokens[3:], 3):
+            if token.type == "heading_open":
+                title = tokens[index + 1].content
+                self.parts.append(Part(title, f"{self.anchor}-{anchor_of(title)}"))
+            elif tokens[index - 1].type != "heading_open" and token.type != "heading_close":
+                self.parts[-1].tokens.append(token)
             if token.type == "fence" and token.info:
                 kind, *options = token.info.split()
                 added = runner.add(self.title, token.content, KINDS[kind], options)
                 self.examples[id(token)] = added
-            elif token.type in ("heading_open", "heading_close"):
-                token.tag = f"h{int(token.tag[1]) + shift}"
-                if token.type == "heading_open":
-                    heading = anchor_of(self.tokens[index + 1].content)
-                    token.attrSet("id", f"{self.anchor}-{heading}")
         self.markdown.renderer.rules["fence"] = self._fence
         self.markdown.renderer.rules["code_inline"] = self._code_inline
 
@@ -103,6 +130,14 @@ class Guide:
         code = html.escape(tokens[index].content, quote=False)
         return f"<code>{re.sub('(?<=[a-z])(?=[A-Z])', '<wbr>', code)}</code>"
 
-    def html(self) -> str:
-        """The text below the title; its examples have been run."""
-        return self.markdown.renderer.render(self.tokens, self.markdown.options, {})
+    def render(self) -> None:
+        """Sets the HTML of the parts; their examples have been run."""
+        for part in self.parts:
+            shown = self.markdown.renderer.render(part.tokens, self.markdown.options, {})
+            part.html = re.sub(r"<table>.*?</table>", r'<div class="wide">\g<0></div>', shown,
+                               flags=re.DOTALL)
+
+    def append(self, other: "Guide") -> None:
+        """Puts another guide, already rendered, below this one and under its title."""
+        self.parts[-1].html += other.parts[0].html
+        self.parts += other.parts[1:]

@@ -1,4 +1,4 @@
-"""The members of the number classes as the help tells of them."""
+"""The members of the number classes as the help describes them."""
 
 import collections
 import dataclasses
@@ -6,7 +6,9 @@ import json
 import pathlib
 import re
 
+from accuracy import Row
 from examples import Example, ExampleError, ExampleRunner, Kind
+from page_data import Parameter, parameters_of
 
 NUMBER_CLASS = "BigNumberVQZ"
 
@@ -53,6 +55,8 @@ class Member:
     is_assignable: bool
     example: Example
     failing: list[Example]
+    parameters: list[Parameter] = dataclasses.field(default_factory=list)
+    accuracy: list[Row] = dataclasses.field(default_factory=list)
 
     @property
     def notes(self) -> list[str]:
@@ -73,10 +77,14 @@ class Member:
         return unique(a.message for a in self.accessors if a.message)
 
     @property
-    def search_text(self) -> str:
-        """What the filter looks into; a message or a line of the log leads to its member too."""
-        parts = [self.name, self.section, self.summary, *self.messages, *self.log_names]
-        return " ".join(parts).lower()
+    def failures(self) -> list[str]:
+        """The starts of its messages, up to the numbers."""
+        return unique(re.split(r" with|\.", message)[0] for message in self.messages)
+
+    @property
+    def inner_names(self) -> list[str]:
+        """The names of its parameters, and those in the debug log."""
+        return [parameter.name for parameter in self.parameters] + self.log_names
 
     def check(self) -> None:
         """Raises ExampleError where the texts and the routines contradict each other."""
@@ -94,8 +102,7 @@ def unique(texts) -> list[str]:
 
 def parameter_types(declaration: str) -> list[str]:
     """The types of the parameters; the number class is just a number."""
-    inside = re.search(r"\((.*)\)", declaration)
-    types = re.findall(r"\bas (\w+)", inside[1], re.IGNORECASE) if inside else []
+    types = [parameter.type for parameter in parameters_of(declaration)]
     return ["number" if name == NUMBER_CLASS else name for name in types]
 
 

@@ -76,7 +76,7 @@ Print BigNumberVQZ.Ln10)"}},
             {.section = Section::Constants,
              .summary = "A positive number of random mantissa and random exponent: anywhere in the "
                         "class's range, not in [0, 1).",
-             .details = "Every number is another one. The example makes a random integer of as "
+             .details = "Each call makes another number. The example makes a random integer of as "
                         "many bits as it says.",
              .range = "all positive numbers of the class",
              .example = R"(

@@ -81,7 +81,7 @@ Print BigNumberVQZ.NumberWithSingle(value))"}},
             {.section = Section::Making,
              .summary = "The exact number of a Double.",
              .details = "Infinite values and those that are no number give NaN. The text \"0.1\" "
-                        "makes exactly 0.1.",
+                        "makes 0.1 to all digits of the class.",
              .example = R"(
 Dim value As Double = 0.1
 Print BigNumberVQZ.NumberWithDouble(value))"}},

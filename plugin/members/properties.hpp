@@ -159,7 +159,8 @@ huge.StringValue = "1e99999999999999999999")"}},
                      .details = "Halves are rounded away from zero. NaN and Nil give 0. Setting "
                                 "it never fails.",
                      .range = "-922337203685477.5808 to 922337203685477.5807",
-                     .fails = "amounts outside of that range, which give 0",
+                     .fails = "amounts outside of that range, which give 0. But positive numbers "
+                              "above about Max / 10,000 give 0 without an exception",
                      .example = R"(
 Dim amount As BigNumberVQZ = "1.23456"
 Print amount.CurrencyValue

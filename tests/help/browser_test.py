@@ -4,6 +4,7 @@ usage: browser_test.py PAGE
 """
 
 import pathlib
+import re
 import sys
 import unittest
 
@@ -15,6 +16,55 @@ DESKTOP = {"width": 1280, "height": 900}
 PHONE = {"width": 375, "height": 800}
 CONTRAST = "color-contrast"
 REPEATED = [".links li + li", "tbody tr + tr", ".member ~ .member"]
+WIDTHS = (400, 800, 1400)
+
+# What someone searches for, and the anchor that it is to lead to.
+BEST_HITS = {
+    "cosh": "cosh",
+    "sin": "sin",
+    "e": "e",
+    "E": "e",
+    "Sqrt": "sqrt",
+    "log": "log",
+    "integer division": "operator_integerdivide",
+    "saving": "saving-numbers-bit-for-bit",
+    "save": "saving-numbers-bit-for-bit",
+    "money": "money-without-surprises",
+    "hex": "stringvalue-integer",
+    "hexadecimal": "stringvalue-integer",
+    "thousand separator": "recipes-digits-in-groups",
+    "\\": "operator_integerdivide",
+    "<": "operator_compare",
+    "=": "operator_compare",
+    "<=": "operator_compare",
+    "+": "operator_add",
+    "-": "operator_subtract",
+    "*": "operator_multiply",
+    "/": "operator_divide",
+    "^": "operator_power",
+    "mod": "operator_modulo",
+    "remainder": "operator_modulo",
+    "scientificFrom": "getstringvalue",
+    "AfterText": "setstringvalue",
+    "square root": "sqrt",
+    "inverse cosine": "acos",
+    "random number": "rand",
+    "absolute value": "abs",
+    "first steps": "first-steps",
+    "text": "text-in-any-base-and-format",
+    "NaN": "nan",
+    "parse": "text-in-any-base-and-format",
+    "install": "installation",
+    "debug log": "the-debug-log",
+    "how to round half to even": "recipes-rounding-half-to-even",
+    "powmod": "recipes-integer-power-modulo-n",
+    "gcd": "recipes-greatest-common-divisor",
+    "prime": "recipes-a-primality-test",
+    "sorting": "recipes-sorting-an-array",
+    "GetStringValueExt": "getstringvalue",
+    "Div operation failed": "divide",
+    "Sqrt operation failed with number -4.": "sqrt",
+}
 
 
 class BrowserTest(unittest.TestCase):
@@ -47,52 +97,160 @@ class BrowserTest(unittest.TestCase):
     def tearDown(self) -> None:
         self.assertEqual(self.problems, [])
 
-    def members(self, page) -> int:
-        """How many members the page describes, shown or not."""
-        count = page.locator(".member").count()
-        self.assertGreater(count, 0)
-        return count
+    def hits(self, page) -> list[str]:
+        """The anchors of the results, the best first."""
+        return page.locator("#hits a").evaluate_all("links => links.map(a => a.hash.slice(1))")
 
-    def shown(self, page) -> list[str]:
-        return page.locator(".member:visible").evaluate_all("members => members.map(m => m.id)")
-
-    def test_filter(self) -> None:
+    def test_best_hit_is_what_is_meant(self) -> None:
         page = self.open(DESKTOP)
-        self.assertEqual(len(self.shown(page)), self.members(page))
+        for query, anchor in BEST_HITS.items():
+            with self.subTest(query=query):
+                page.fill("#search", query)
+                self.assertEqual(self.hits(page)[0], anchor)
+
+    def test_search(self) -> None:
+        page = self.open(DESKTOP)
         page.keyboard.press("/")
         page.keyboard.type("sQr")
-        self.assertEqual(self.shown(page), ["sqrt"])
-        self.assertEqual(page.inner_text("#filter-count"), f"1 of {self.members(page)} members")
-        self.assertEqual(page.locator("nav li:visible").all_inner_texts(), ["Sqrt"])
-        self.assertEqual(page.locator("#members h3:visible").count(), 1)
+        self.assertEqual(self.hits(page)[0], "sqrt")
+        self.assertFalse(page.is_visible("#page"))
+        self.assertEqual(page.inner_text("#result-count"), f"{len(self.hits(page))} results")
 
-        page.keyboard.type("zz")
-        self.assertEqual(self.shown(page), [])
-        self.assertTrue(page.is_visible("#no-match"))
+        page.keyboard.type("zzzz")
+        self.assertEqual(self.hits(page), [])
+        self.assertTrue(page.is_visible("#no-hit"))
         page.click("#clear")
-        self.assertEqual(len(self.shown(page)), self.members(page))
-        self.assertFalse(page.is_visible("#no-match"))
+        self.assertTrue(page.is_visible("#page"))
+        self.assertEqual(page.evaluate("document.activeElement.id"), "search")
 
-        page.fill("#filter", "inverse cosine")
-        self.assertEqual(self.shown(page), ["acos", "acosh"])
+        page.fill("#search", "number")
+        self.assertTrue(page.is_visible("#more"))
         page.keyboard.press("Escape")
-        self.assertEqual(page.input_value("#filter"), "")
-        self.assertEqual(page.inner_text("#filter-count"), "")
+        self.assertEqual(page.input_value("#search"), "")
+        self.assertTrue(page.is_visible("#page"))
+        self.assertEqual(page.inner_text("#result-count"), "")
 
-    def test_links_show_what_the_filter_hides(self) -> None:
+    def test_all_words_count(self) -> None:
         page = self.open(DESKTOP)
-        page.fill("#filter", "cosine")
+        page.fill("#search", "inverse cosine")
+        self.assertEqual(self.hits(page)[:2], ["acos", "acosh"])
+        self.assertNotIn("asin", self.hits(page))
+
+    def test_misspelt_and_missing_words(self) -> None:
+        page = self.open(DESKTOP)
+        for query, anchor, instead in (
+            ("sqrtt", "sqrt", "These have “sqrt”"),
+            ("hexadezimal", "stringvalue-integer", "These have “hexadecimal”"),
+            ("hex zzzzzz", "stringvalue-integer", "Nothing has all of the words."),
+        ):
+            page.fill("#search", query)
+            self.assertEqual(self.hits(page)[0], anchor)
+            self.assertIn(instead, page.inner_text("#instead"))
+        page.fill("#search", "sqrt")
+        self.assertFalse(page.is_visible("#instead"))
+
+    def test_enter_leads_to_the_best_hit(self) -> None:
+        page = self.open(DESKTOP)
+        for query, anchor in (("sqrt", "sqrt"), ("thousand separator", "recipes-digits-in-groups")):
+            page.fill("#search", query)
+            page.press("#search", "Enter")
+            self.assertTrue(page.url.endswith(f"#{anchor}"))
+            self.assert_in_view(page, anchor)
+
+    def test_arrows_and_clicks_choose_a_hit(self) -> None:
+        page = self.open(DESKTOP)
+        page.fill("#search", "cosine")
+        second = self.hits(page)[1]
+        for key in ("ArrowDown", "ArrowDown", "ArrowDown", "ArrowUp", "Enter"):
+            page.keyboard.press(key)
+        self.assert_in_view(page, second)
+        page.fill("#search", "cosine")
+        page.locator("#hits a").nth(1).click()
+        self.assert_in_view(page, second)
+
+    def test_links_lead_out_of_the_results(self) -> None:
+        page = self.open(DESKTOP)
+        page.fill("#search", "cosine")
         page.evaluate("location.hash = 'money-without-surprises'")
-        page.wait_for_function("document.getElementById('filter').value === ''")
-        self.assertTrue(page.is_visible("#money-without-surprises"))
-        self.assertEqual(len(self.shown(page)), self.members(page))
+        self.assert_in_view(page, "money-without-surprises")
 
-    def test_enter_leads_to_the_first_match(self) -> None:
+    def assert_in_view(self, page, anchor: str) -> None:
+        """The anchor stands in the upper half of the window, below the bar."""
+        page.wait_for_function(
+            """anchor => {
+              const box = document.getElementById(anchor).getBoundingClientRect();
+              return box.height > 0 && box.top > 40 && box.top < innerHeight / 2;
+            }""", arg=anchor, timeout=5000)
+
+    def test_contents_mark_and_follow_the_place(self) -> None:
         page = self.open(DESKTOP)
-        page.fill("#filter", "sqrt")
-        page.press("#filter", "Enter")
-        self.assertTrue(page.url.endswith("#sqrt"))
-        self.assertEqual(self.shown(page), ["sqrt"])
+        marked = "nav a[aria-current=location]"
+        for anchor in ("money-without-surprises", "recipes-factorials", "tanh", "e"):
+            page.evaluate("anchor => document.getElementById(anchor).scrollIntoView()", anchor)
+            page.wait_for_selector(f"{marked}[href='#{anchor}']", timeout=5000)
+            self.assertEqual(page.locator(marked).count(), 1)
+            inside = page.locator(marked).evaluate(
+                """link => {
+                  const [inner, outer] = [link, link.closest("nav")].map(e => e.getBoundingClientRect());
+                  return inner.top >= outer.top && inner.bottom <= outer.bottom;
+                }""")
+            self.assertTrue(inside, anchor)
+
+    def test_contents_fold_on_a_phone(self) -> None:
+        page = self.open(PHONE)
+        self.assertFalse(page.is_visible("nav a"))
+        page.click("nav summary")
+        page.click("nav a[href='#errors']")
+        self.assertFalse(page.is_visible("nav a"))
+        self.assert_in_view(page, "errors")
+
+    def test_copy_button(self) -> None:
+        page = self.open(DESKTOP)
+        example = page.locator("#recipes .example").first
+        example.locator("button").click()
+        page.wait_for_function("document.querySelector('#recipes .copy').textContent === 'Copied'")
+        page.evaluate("document.body.append(document.createElement('textarea'))")
+        page.focus("textarea")
+        page.keyboard.press("Control+V")
+        code = example.locator("code").text_content()
+        self.assertIn("Function PowerModulo", code)
+        self.assertEqual(page.input_value("textarea"), code + "\n")
+
+    def test_programs_keep_their_lines(self) -> None:
+        """A line of a program is one line on the screen, however narrow."""
+        page = self.open(PHONE)
+        wrapped = page.locator(".example > pre").evaluate_all(
+            """programs => programs.filter(pre => pre.clientHeight > 40
+              + pre.textContent.split("\\n").length
+              * parseFloat(getComputedStyle(pre).lineHeight)).length""")
+        self.assertEqual(wrapped, 0)
+        stops = page.locator(".example > pre").evaluate_all(
+            """programs => programs.filter(pre =>
+              (pre.scrollWidth > pre.clientWidth) !== (pre.tabIndex === 0)).length""")
+        self.assertEqual(stops, 0)
+
+    def test_chart(self) -> None:
+        """Each bar and figure stays within the chart, and colours follow the scheme."""
+        colours = {}
+        for scheme in ("light", "dark"):
+            for width in WIDTHS:
+                page = self.open(DESKTOP | {"width": width}, scheme)
+                outside = page.locator(".chart tbody .bar > *").evaluate_all(
+                    """parts => parts.filter(part => part.getBoundingClientRect().right
+                      > part.closest("figure").getBoundingClientRect().right + 0.5).length""")
+                self.assertEqual(outside, 0)
+                sizes = page.locator(".chart b").evaluate_all(
+                    "figures => figures.map(b => parseFloat(getComputedStyle(b).fontSize))")
+                self.assertGreaterEqual(min(sizes), 10)
+            colours[scheme] = page.locator(".chart .bits2048 span").first.evaluate(
+                "bar => getComputedStyle(bar).backgroundColor")
+        self.assertNotEqual(colours["light"], colours["dark"])
+
+    def test_print_has_a_sensible_length(self) -> None:
+        page = self.open(DESKTOP)
+        sheets = re.findall(rb"/Type\s*/Page\b", page.pdf(format="A4"))
+        self.assertGreater(len(sheets), 10)
+        self.assertLessEqual(len(sheets), 50)
 
     def test_keyboard_skips_to_the_content(self) -> None:
         page = self.open(DESKTOP)
@@ -100,11 +258,11 @@ class BrowserTest(unittest.TestCase):
         page.keyboard.press("Enter")
         self.assertEqual(page.evaluate("document.activeElement.id"), "content")
 
-    def test_fits_a_phone(self) -> None:
-        for width in (PHONE["width"], 320):
+    def test_fits_every_width(self) -> None:
+        for width in (PHONE["width"], 320, *WIDTHS):
             page = self.open(PHONE | {"width": width})
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
-            page.fill("#filter", "number")
+            page.fill("#search", "number")
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
 
     def assert_accessible(self, page, options: dict) -> None:

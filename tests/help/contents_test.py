@@ -1,4 +1,5 @@
-"""Compares the help with what the library registers, follows its links, and makes it a second time.
+"""Compares the help with what the library registers and its recipes with what Python computes, follows
+its links, and makes it a second time.
 
 usage: contents_test.py HELP_FOLDER VERSION -- COMMAND...
 
@@ -6,8 +7,14 @@ COMMAND starts the stand-in host with the library.
 """
 
 import collections
+import decimal
+import fractions
+import html
 import html.parser
+import json
+import math
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -18,7 +25,8 @@ CLASSES = ("BigNumberVQZ", "BiggerNumberVQZ")
 
 
 class Page(html.parser.HTMLParser):
-    """What the tests ask about a page: its anchors, its links, and the declarations in it."""
+    """What the tests ask about a page: its anchors, its links, the declarations in it, and the rows of
+    its tables by the class of the table and the member, a list of cells each."""
 
     def __init__(self, text: str):
         super().__init__()
@@ -26,6 +34,9 @@ class Page(html.parser.HTMLParser):
         self.links: list[str] = []
         self.declarations: list[str] = []
         self.in_declaration = False
+        self.rows: dict[tuple[str, str], list[list[str]]] = collections.defaultdict(list)
+        self.table = ""
+        self.in_cell = False
         self.feed(text)
 
     def handle_starttag(self, tag, attrs):
@@ -38,14 +49,32 @@ class Page(html.parser.HTMLParser):
         if values.get("class") == "declaration":
             self.in_declaration = True
             self.declarations.append("")
+        if tag == "table":
+            self.table = values.get("class", "")
+        elif tag == "tr":
+            self.current_rows().append([])
+        elif tag == "td":
+            self.in_cell = True
+            self.current_rows()[-1].append("")
+
+    def current_rows(self) -> list[list[str]]:
+        return self.rows[self.table, self.declarations[-1] if self.declarations else ""]
 
     def handle_endtag(self, tag):
         if tag == "pre":
             self.in_declaration = False
+        if tag == "td":
+            self.in_cell = False
 
     def handle_data(self, data):
         if self.in_declaration:
             self.declarations[-1] += data
+        if self.in_cell:
+            self.current_rows()[-1][-1] += data
+
+    def cells(self, table: str, declaration: str) -> list[list[str]]:
+        """The rows of a member's table that have cells, without those of its head."""
+        return [row for row in self.rows[table, declaration] if row]
 
 
 def registered(listing: str) -> dict[str, list[str]]:
@@ -77,6 +106,50 @@ class ContentsTest(unittest.TestCase):
             self.assertTrue(declarations)
             self.assertEqual(sorted(declarations), sorted(self.page.declarations))
 
+    def test_every_parameter_is_in_a_table(self) -> None:
+        """Its name, its type and its default as the declaration has them, and a range."""
+        for declaration in self.page.declarations:
+            inside = declaration[declaration.find("(") + 1 : declaration.rfind(")")]
+            rows = self.page.cells("parameters", declaration)
+            shown = [f"{name} as {kind.removeprefix('ByRef ')}"
+                     + (f" = {default}" if default != "none" else "")
+                     for name, kind, default, _ in rows]
+            expected = [part.strip() for part in inside.split(",")] if "(" in declaration else []
+            expected = [re.sub(r"(?i)^byref ", "", part).replace(" As ", " as ") for part in expected]
+            self.assertEqual(shown, expected)
+            self.assertTrue(all(row[3] for row in rows), declaration)
+
+    def test_measured_members_show_their_accuracy(self) -> None:
+        """As many rows as the document has under the name of the member, and the same figures."""
+        document = (ROOT / "docs/accuracy.md").read_text(encoding="utf-8")
+        measured = collections.defaultdict(list)
+        for name, cells in re.findall(r"^\| ([\w ]+) \|(.*)\|$", document, re.MULTILINE):
+            measured[name].append([cell.strip() for cell in cells.split("|")])
+        for declaration, name in (
+            ("Sin(value as BigNumberVQZ) as BigNumberVQZ", "Sin"),
+            ("ACosh(value as BigNumberVQZ) as BigNumberVQZ", "ACosh"),
+            ("Sqrt as BigNumberVQZ", "Sqrt"),
+            ("Pi as BigNumberVQZ", "Pi"),
+            ("Operator_Add(other as BigNumberVQZ) as BigNumberVQZ", "Add"),
+            ("Pow(other as BigNumberVQZ) as BigNumberVQZ", "Pow"),
+            ("DegToRad(value as BigNumberVQZ) as BigNumberVQZ", "DegToRad"),
+            ("DegToRad(d as BigNumberVQZ, m as BigNumberVQZ, s as BigNumberVQZ) as BigNumberVQZ",
+             "DegToRad of minutes"),
+        ):
+            shown = self.page.cells("measured", declaration)
+            self.assertEqual(len(shown), len(measured[name]), name)
+            for row, cells in zip(shown, measured[name]):
+                self.assertTrue(set(row) <= set(cells), f"{name}: {row} of {cells}")
+            self.assertTrue(shown, name)
+        self.assertEqual(self.page.cells("measured", "IsZero as Boolean"), [])
+
+    def test_every_name_in_the_log_is_in_its_table(self) -> None:
+        rows = json.loads((self.folder / "members.json").read_text(encoding="utf-8"))["members"]
+        names = {row[key]["logName"] for row in rows for key in ("routine", "setter") if key in row}
+        table = self.page.cells("names", "")
+        shown = {name for row in table for name in row[1].split(", ")}
+        self.assertEqual(shown, names - {""})
+
     def test_every_member_has_a_block_of_text(self) -> None:
         lines = (self.folder / "members.txt").read_text(encoding="utf-8").splitlines()
         heads = [after.split("  (")[0] for line, after in zip(lines, lines[1:]) if line[:3] == "== "]
@@ -99,10 +172,81 @@ class ContentsTest(unittest.TestCase):
                 self.assertEqual(first, second, name)
 
 
+class RecipesTest(unittest.TestCase):
+    """What the recipes printed, compared with what Python computes."""
+
+    page: str
+
+    def printed(self, anchor: str) -> list[str]:
+        """The lines below the program of a recipe."""
+        recipe = self.page.split(f'<h3 id="recipes-{anchor}">')[1].split("</section>")[0]
+        return html.unescape(re.search(r"<samp>(.*?)</samp>", recipe, re.DOTALL)[1]).splitlines()
+
+    def test_integers(self) -> None:
+        self.assertEqual(self.printed("integer-power-modulo-n"),
+                         [str(pow(2, 1000000, 10**9 + 7)), str(pow(3, 2**128, 10**37 + 61))])
+        pair = (123456789012345678901234567890, 987654321098765432109876543210)
+        self.assertEqual(self.printed("greatest-common-divisor"),
+                         [str(math.gcd(*pair)), str(math.lcm(*pair))])
+        self.assertEqual(self.printed("factorials"), [
+            str(math.factorial(20)), str(math.factorial(52)),
+            f"Hands of 13 cards: {math.comb(52, 13)}"])
+        numbers = [0, 1]
+        while len(numbers) <= 360:
+            numbers.append(numbers[-2] + numbers[-1])
+        self.assertEqual(self.printed("fibonacci-numbers"),
+                         [str(numbers[n]) for n in (10, 100, 360)])
+
+    def test_primes(self) -> None:
+        """561 is a Carmichael number, the longer one a product of two primes, the last one Mersenne's."""
+        self.assertEqual(self.printed("a-primality-test"), [
+            "97 is prime", f"{3 * 11 * 17} is not prime", "1000000007 is prime",
+            f"{1000000007 * 1000000009} is not prime", f"{2**127 - 1} is prime"])
+
+    def test_continued_fraction_of_pi(self) -> None:
+        rest = fractions.Fraction("3.14159265358979323846264338327950288")
+        lines, terms = [], []
+        for _ in range(6):
+            terms.append(rest.numerator // rest.denominator)
+            rest = 1 / (rest - terms[-1])
+            value = fractions.Fraction(terms[-1])
+            for term in reversed(terms[:-1]):
+                value = term + 1 / value
+            lines.append(f"{terms[-1]}: {value.numerator}/{value.denominator}")
+        self.assertEqual(self.printed("continued-fractions"), lines)
+
+    def test_rounding_and_groups(self) -> None:
+        values = ("0.5", "1.5", "2.5", "-2.5", "2.51")
+        self.assertEqual(self.printed("rounding-half-to-even"),
+                         [f"{value} becomes {round(decimal.Decimal(value))}" for value in values])
+        grouped = f"{decimal.Decimal('-1234567.5'):,.2f}"
+        self.assertEqual(self.printed("digits-in-groups"), [
+            grouped, grouped.translate(str.maketrans(",.", ".,")), f"{2**100:,}".replace(",", " ")])
+
+    def test_strict_reading(self) -> None:
+        """Only what is a number in the format, and "12,34" in the one in which its comma is a mark."""
+        self.assertEqual(self.printed("strict-reading-of-user-input"), [
+            "1,234.5 in the US is 1234.5", "-1234.50 in the US is -1234.5",
+            "1.234,5 in Germany is 1234.5", "12,34 in Germany is 12.34"])
+
+    def test_sorting(self) -> None:
+        numbers = [float(line) for line in self.printed("sorting-an-array")]
+        self.assertEqual(numbers, sorted([12.5, -3, 1e30, 12.49, 0, 7]))
+
+    def test_interest(self) -> None:
+        cent, balance, lines = decimal.Decimal("0.01"), decimal.Decimal("10000.00"), []
+        for year in range(1, 6):
+            interest = (balance * decimal.Decimal("0.0375")).quantize(cent, decimal.ROUND_HALF_UP)
+            balance += interest
+            lines.append(f"{year}{interest:14,}{balance:14,}")
+        self.assertEqual(self.printed("a-table-of-interest"), lines)
+
+
 def main() -> None:
     separator = sys.argv.index("--")
     folder, ContentsTest.version = sys.argv[1:separator]
     ContentsTest.folder = pathlib.Path(folder)
+    RecipesTest.page = (ContentsTest.folder / "index.html").read_text(encoding="utf-8")
     ContentsTest.command = sys.argv[separator + 1 :]
     unittest.main(argv=sys.argv[:1])
 

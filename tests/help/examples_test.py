@@ -15,8 +15,10 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "help"))
 
 import speed  # noqa: E402
+from accuracy import AccuracyRows  # noqa: E402
 from examples import ExampleError, ExampleRunner, Kind  # noqa: E402
-from members import Accessor, read_member  # noqa: E402
+from members import NUMBER_CLASS, Accessor, read_member  # noqa: E402
+from page_data import PageData, Parameter, parameters_of  # noqa: E402
 
 SQRT = {
     "declaration": "Sqrt as BigNumberVQZ",
@@ -58,6 +60,14 @@ class RunnerTest(unittest.TestCase):
         self.assertIn("cannot stand between", self.output("Print BigNumberVQZ.Pi + 1", Kind.REJECTED))
         logged = "BigNumberVQZ.Debugging = True\nPrint BigNumberVQZ.Abs(Nil)"
         self.assertTrue(self.output(logged, Kind.LOGS).startswith("VQZ Debug: Abs"))
+
+    def test_routines_of_an_example_serve_later_ones(self) -> None:
+        runner = ExampleRunner(self.command)
+        square = "Function Square(n As Integer) As Integer\n  Return n * n\nEnd Function\n\n"
+        first = runner.add("first", square + "Print Str(Square(3))")
+        second = runner.add("second", "Print Str(Square(4))")
+        runner.run()
+        self.assertEqual((first.output, second.output), ("9", "16"))
 
     def test_what_shows_something_else_is_refused(self) -> None:
         for code, kind in (
@@ -126,10 +136,93 @@ class SpeedTest(unittest.TestCase):
         cells = re.findall(r"<td[^>]*>([^<]*)</td>", speed.measured(self.folder))
         self.assertEqual(cells, ["add", "0.034", "1.23", "exp", "", "13,900"])
 
-    def test_chart_has_a_name(self) -> None:
-        (self.folder / "speed.svg").write_text("<?xml?>\n<svg width='1'/>", encoding="utf-8")
-        chart = speed.measured(self.folder)
-        self.assertRegex(chart, r"^<figure><svg role=.img. aria-label=[^>]+ width='1'/></figure>$")
+    def test_chart(self) -> None:
+        """Ratios of arithmetic alone, on an axis of plain numbers from 1 to the next power of ten."""
+        rows = [
+            {"operation": operation, "bits": bits, "contender": contender, "group": group,
+             "median_ns": median, "host_part_ns": 0}
+            for operation, bits, contender, group, median in (
+                ("sin", 256, "stock", "function", 2000), ("sin", 256, "library", "function", 20),
+                ("sin", 2048, "stock", "function", 44000), ("sin", 2048, "library", "function", 100),
+                ("add", 256, "stock", "basic", 9), ("add", 256, "library", "basic", 10),
+                ("getter", 256, "stock", "call", 9), ("getter", 256, "library", "call", 1),
+                ("only stock", 256, "stock", "basic", 9))
+        ]
+        chart = speed.chart(rows)
+        self.assertEqual(re.findall(r"<b>([^<]*)</b>", chart), ["100.0", "440.0", "0.9"])
+        self.assertEqual(re.findall(r'style="width:([^"]*)"', chart), ["66.7%", "88.1%", "0.0%"])
+        self.assertEqual(re.findall(r'style="left:[^"]*">([^<]*)<', chart), ["1", "10", "100", "1,000"])
+        self.assertEqual(re.findall(r"<th>([^<]*)</th>", chart), ["Operation", "sin", "add"])
+
+    def test_nothing_to_compare(self) -> None:
+        self.assertEqual(speed.chart([]), "")
+
+
+class AccuracyTest(unittest.TestCase):
+    def test_rows_go_by_the_names_of_the_columns(self) -> None:
+        rows = AccuracyRows(
+            "| page | sum |\n|---|---|\n| Sin | 5 |\n\n"
+            "| arguments | values | member | 256 bits |\n|---|---:|---|---:|\n"
+            "| to 8 | 34 | `Sin`, Cos and Tan | 9.45 |\n| close to 0 | 3 | Sin | 2^7 |\n"
+            "| all | 5 | Add |  |\n| all | 6 | DegToRad | 1 |\n| all | 7 | DegToRad of minutes | 2 |\n"
+            "| all | 5 | Multiply | 0.5 |\n| all | 5 | Multiply by UInt32 | 1 |\n")
+        first = [("arguments", "to 8"), ("256 bits", "9.45")]
+        second = [("arguments", "close to 0"), ("256 bits", "2^7")]
+        self.assertEqual(rows.of("Sin", ["BigNumberVQZ"]), [first, second])
+        self.assertEqual(rows.of("Tan", ["BigNumberVQZ"]), [first])
+        self.assertEqual(rows.of("Operator_AddRight", ["BigNumberVQZ"]), [[("arguments", "all")]])
+        for name, types, error in (
+            ("DegToRad", ["BigNumberVQZ"], "1"),
+            ("DegToRad", ["BigNumberVQZ"] * 3, "2"),
+            ("Multiply", ["BigNumberVQZ", "boolean"], "0.5"),
+            ("Multiply", ["Integer"], "1"),
+            ("Multiply", ["UInt32"], "1"),
+        ):
+            self.assertEqual(rows.of(name, types), [[("arguments", "all"), ("256 bits", error)]])
+        self.assertEqual(rows.of("Round", []), [])
+
+
+class PageDataTest(unittest.TestCase):
+    TEXTS = {
+        "parameters": '[types]\ninteger = "any"\nnumber = "a number"\n'
+                      '[members.f]\nbase = "2 to 16"\n',
+        "related": 'groups = [["f", "g"], ["h", "g", "f"], ["g", "h"]]',
+        "search_words": 'g = ["word"]',
+    }
+
+    def data(self, **changes: str) -> PageData:
+        folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        for name, text in (self.TEXTS | changes).items():
+            (folder / f"{name}.toml").write_text(text, encoding="utf-8")
+        return PageData(folder, NUMBER_CLASS)
+
+    def test_parameters_of_a_declaration(self) -> None:
+        declaration = 'F(Base as Integer = -1, byref Rest as String, mark as String = ".") as String'
+        self.assertEqual(parameters_of(declaration), [
+            Parameter("Base", "Integer", "-1", False), Parameter("Rest", "String", "", True),
+            Parameter("mark", "String", '"."', False)])
+        self.assertEqual(parameters_of("Sqrt as BigNumberVQZ"), [])
+
+    def test_ranges(self) -> None:
+        found = self.data().parameters("f", "F(Base as Integer, n as Integer, x as BigNumberVQZ)")
+        self.assertEqual([p.range for p in found], ["2 to 16", "any", "a number"])
+        for declaration in ("F(n as Integer)", "F(Base as Integer, x as Unheard)"):
+            with self.subTest(declaration=declaration), self.assertRaises(ExampleError):
+                self.data().parameters("f", declaration)
+
+    def test_related(self) -> None:
+        self.assertEqual(self.data().related("f"), ["g", "h"])
+        self.assertEqual(self.data().related("other"), [])
+
+    def test_names_that_the_page_lacks_are_refused(self) -> None:
+        self.data().check({"f", "g"}, {"h"})
+        for changes in (
+            {"parameters": "[types]\n[members.h]\n"},
+            {"related": 'groups = [["i"]]'},
+            {"search_words": 'i = ["word"]'},
+        ):
+            with self.subTest(changes=changes), self.assertRaises(ExampleError):
+                self.data(**changes).check({"f", "g"}, {"h"})
 
 
 if __name__ == "__main__":
