@@ -78,8 +78,10 @@ Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
     if (power.IsSign()) {
         power.Abs();
     }
+    // With the zero flag and a mantissa other than 0, IsInteger and ToUInt would see a 0, but the
+    // loop below, like ttmath's, sees the bits. So the shortcut is for plain exponents only.
     Word small = 0;
-    if (power.mantissa.IsTheHighestBitSet() && power.IsInteger() && power.ToUInt(small) == 0) {
+    if (PlainExponent(power) && power.IsInteger() && power.ToUInt(small) == 0) {
         if (const auto exact = ExactPower(number, small)) {
             number = *exact;
             return 0;

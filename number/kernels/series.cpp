@@ -305,7 +305,9 @@ public:
     }
 
     bool MakeTerm() {
-        carry_ += power_.Mul(factor_);
+        if (!Halved) {
+            carry_ += power_.Mul(factor_);
+        }
         term = power_;
         carry_ += term.Mul(odds_);
         Number divisor = evens_;
@@ -318,6 +320,11 @@ public:
     }
 
     bool Advance() {
+        // The first power of the halved series is the factor itself: not 1 times it, which would
+        // drop flag bits without a meaning.
+        if (Halved) {
+            carry_ += power_.Mul(factor_);
+        }
         carry_ += odd_.Add(two_);
         carry_ += even_.Add(two_);
         carry_ += odds_.Mul(odd_);
@@ -436,7 +443,7 @@ Number ArcSineFromHalf(const Number& x) {
     Number distance = one;
     distance.Sub(x);
     Number sum = one;
-    ArcSineSeries<Number, true> series(one, distance);
+    ArcSineSeries<Number, true> series(distance, distance);
     Sum(series, sum);
     distance.exponent.AddOne();
     Number half = one;

@@ -25,14 +25,21 @@ struct BasePower {
     int digits;
 };
 
-constexpr BasePower LargestPower(uint base) {
-    BasePower largest{base, 1};
-    while (largest.power <= std::numeric_limits<uint>::max() / base) {
-        largest.power *= base;
-        ++largest.digits;
+inline constexpr uint MinBase = 2;
+inline constexpr uint MaxBase = 16;
+
+constexpr auto LargestPowers = [] {
+    std::array<BasePower, MaxBase + 1> powers{};
+    for (uint base = MinBase; base <= MaxBase; ++base) {
+        BasePower largest{base, 1};
+        while (largest.power <= std::numeric_limits<uint>::max() / base) {
+            largest.power *= base;
+            ++largest.digits;
+        }
+        powers[base] = largest;
     }
-    return largest;
-}
+    return powers;
+}();
 
 /// Writes the digits of a block, the last first, and ends where they end. `Base` 0 is any base.
 template <uint Base>
@@ -44,27 +51,29 @@ void WriteBlock(char* end, uint block, uint base, int digits) {
     }
 }
 
-/// Appends the digits of an integer other than 0. A block of digits that fits into a word is
-/// divided off at a time, the lowest first. Two divisions go over the words together, the second
-/// one works on the first one's quotient: a division waits for the rest of the word before, but not
-/// for the other.
+/// Appends the digits of an integer of `words` words, of which the highest is not 0. A block of
+/// digits that fits into a word is divided off at a time, the lowest first. Two divisions go over
+/// the words together, the second one divides the first one's quotient: each division waits for the
+/// remainder of the word before, but not for the other division.
 template <uint W>
-void AppendDigits(std::string& text, UInt<W> integer, uint base) {
-    // A block has 28 bits at least, as the base has 4 at most.
-    constexpr std::size_t maxBlocks = 32 * W / 28 + 2;
+void AppendDigits(std::string& text, const UInt<W>& integer, std::size_t words, uint base) {
+    // A block has at least WordBits - 4 bits: one more digit, of 4 bits at most, would not fit.
+    constexpr std::size_t maxBlocks = W * WordBits / (WordBits - 4) + 2;
     std::array<uint, maxBlocks + 1> blocks;
-    const BasePower block = LargestPower(base);
+    std::array<uint, W> left;
+    std::copy_n(integer.table, words, left.begin());
+    const BasePower block = LargestPowers[base];
     std::size_t count = 0;
-    for (std::size_t words = W; words > 0; count += 2) {
+    for (; words > 0; count += 2) {
         uint first = 0;
         uint second = 0;
         for (std::size_t i = words; i > 0; --i) {
-            const uint quotient = DivideWords(first, integer.table[i - 1], block.power, first);
-            integer.table[i - 1] = DivideWords(second, quotient, block.power, second);
+            const uint quotient = DivideWords(first, left[i - 1], block.power, first);
+            left[i - 1] = DivideWords(second, quotient, block.power, second);
         }
         blocks[count] = first;
         blocks[count + 1] = second;
-        while (words > 0 && integer.table[words - 1] == 0) {
+        while (words > 0 && left[words - 1] == 0) {
             --words;
         }
     }
@@ -94,7 +103,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     text.clear();
     uint word = 0;
     uint bit = 0;
-    if (base < 2 || base > 16) {
+    if (base < MinBase || base > MaxBase) {
         return;
     }
     if (!integer.FindLeadingBit(word, bit)) {
@@ -107,7 +116,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     if (negative) {
         text = '-';
     }
-    AppendDigits(text, integer, base);
+    AppendDigits(text, integer, word + 1, base);
 }
 
 /// Goes over the digits of a text.
@@ -186,7 +195,7 @@ template <uint E, uint W>
 uint ReadExactly(DigitReader& reader, uint base, Big<E, W>& number) {
     GrowingInteger<W> integer;
     uint count = 0;
-    for (uint limit = LargestPower(base).power; limit != 0;) {
+    for (uint limit = LargestPowers[base].power; limit != 0;) {
         const char* const start = reader.place();
         uint block = 0;
         uint power = 1;
