@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
 #include "number/kernels/growing_integer.hpp"
 #include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/power.hpp"
@@ -277,25 +278,18 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
 
 namespace ttmath {
 
-#define BIGNUMBER_DEFINE_READING(E, W)                                                    \
-    template <>                                                                           \
-    template <>                                                                           \
-    uint Big<E, W>::FromString_ReadPartBeforeComma(const char*& source, const Conv& conv, \
-                                                   bool& value_read) {                    \
-        return vqz::kernels::ReadIntegerPart(*this, source, conv, value_read);            \
-    }                                                                                     \
-    template <>                                                                           \
-    template <>                                                                           \
-    uint Big<E, W>::FromString_ReadPartAfterComma(const char*& source, const Conv& conv,  \
-                                                  bool& value_read) {                     \
-        return vqz::kernels::ReadFraction(*this, source, conv, value_read);               \
+#define BIGNUMBER_DEFINE_READING(E, W)                                     \
+    BIGNUMBER_KERNEL_READ_INTEGER(E, W) {                                  \
+        return vqz::kernels::ReadIntegerPart(*this, source, conv, isRead); \
+    }                                                                      \
+    BIGNUMBER_KERNEL_READ_FRACTION(E, W) {                                 \
+        return vqz::kernels::ReadFraction(*this, source, conv, isRead);    \
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
 
 #define BIGNUMBER_DEFINE_LOGARITHM(E, W)                                         \
-    template <>                                                                  \
-    uint Big<E, W>::ToString_Log(const Big<E, W>& x, uint base) {                \
+    BIGNUMBER_KERNEL_LOGARITHM(E, W) {                                           \
         if (base == 10 && vqz::kernels::SetHalfNearDecimalLogarithm(*this, x)) { \
             return 0;                                                            \
         }                                                                        \
@@ -311,17 +305,13 @@ BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
         return c == 0 ? 0 : 1;                                                   \
     }
 
-BIGNUMBER_DEFINE_LOGARITHM(3, 8)
-BIGNUMBER_DEFINE_LOGARITHM(17, 64)
+BIGNUMBER_TEXT_SIZES(BIGNUMBER_DEFINE_LOGARITHM)
 
-#define BIGNUMBER_DEFINE_WRITING(W)                                                \
-    template <>                                                                    \
-    template <>                                                                    \
-    void UInt<W>::ToStringBase(std::string& result, uint b, bool negative) const { \
-        vqz::kernels::WriteInteger(result, *this, b, negative, ToStringLog2(b));   \
+#define BIGNUMBER_DEFINE_WRITING(W)                                                  \
+    BIGNUMBER_KERNEL_WRITE_INTEGER(W) {                                              \
+        vqz::kernels::WriteInteger(text, *this, base, negative, ToStringLog2(base)); \
     }
 
-BIGNUMBER_DEFINE_WRITING(8)
-BIGNUMBER_DEFINE_WRITING(64)
+BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_DEFINE_WRITING)
 
 }  // namespace ttmath
