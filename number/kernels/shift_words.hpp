@@ -14,12 +14,8 @@ void ShiftRight(const Word* words, Word bits, Word* result) {
     const int count = W - static_cast<int>(bits / WordBits);
     const WordShift shift(rest);
     int i = 0;
-    for (; i + WordShift::Count < count; i += WordShift::Count) {
-        shift.Step(source + i, result + i);
-    }
-    if (i + WordShift::Count == count) {
-        shift.LastStep(source + i, result + i);
-        i += WordShift::Count;
+    for (; i + WordShift::Count <= count; i += WordShift::Count) {
+        shift.Step(source + i, i + WordShift::Count == count, result + i);
     }
     for (; i < count; ++i) {
         const Word above = i + 1 < count ? source[i + 1] : 0;

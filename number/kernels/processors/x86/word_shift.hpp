@@ -19,15 +19,14 @@ public:
         : right_(_mm_cvtsi32_si128(static_cast<int>(bits))),
           left_(_mm_cvtsi32_si128(static_cast<int>(WordBits - bits))) {}
 
-    /// Shifts the words from `source` on, into which the word behind them moves.
-    void Step(const Word* source, Word* result) const {
-        Step(Load(source), Load(source + 1), result);
-    }
-
-    /// Shifts the words from `source` on, into which zeros move.
-    void LastStep(const Word* source, Word* result) const {
-        const __m128i words = Load(source);
-        Step(words, _mm_srli_si128(words, sizeof(Word)), result);
+    /// Shifts the words from `source` on. The word behind them moves in, or zeros for the last
+    /// ones.
+    void Step(const Word* source, bool isLast, Word* result) const {
+        const __m128i low = Load(source);
+        const __m128i high = isLast ? _mm_srli_si128(low, sizeof(Word)) : Load(source + 1);
+        // A shift by all bits of a word gives 0 here, unlike the language's own.
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(result),
+                         _mm_or_si128(_mm_srl_epi32(low, right_), _mm_sll_epi32(high, left_)));
     }
 
 private:
@@ -36,12 +35,6 @@ private:
 
     static __m128i Load(const Word* words) {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(words));
-    }
-
-    /// A shift by all bits of a word gives 0 here, unlike the language's own.
-    void Step(__m128i low, __m128i high, Word* result) const {
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(result),
-                         _mm_or_si128(_mm_srl_epi32(low, right_), _mm_sll_epi32(high, left_)));
     }
 };
 
