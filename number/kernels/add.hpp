@@ -93,7 +93,7 @@ Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
     return me.CheckCarry(carry);
 }
 
-/// me = me + other, or me - other when `adding` is false. `other` is a copy of the operand. Answers
+/// me = me + other, or me - other when `adding` is false. `other` is a copy of the operand. Returns
 /// a carry when the exponent overflows, and for a NaN.
 template <ttmath::uint E, ttmath::uint W>
 Word Add(ttmath::Big<E, W>& me, ttmath::Big<E, W>& other, bool round, bool adding) {

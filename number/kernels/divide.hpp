@@ -53,7 +53,7 @@ private:
         words_[Slack] = DivideWords(remainder, 0, divisor, remainder);
     }
 
-    /// Answers whether the words are decided.
+    /// Returns whether the words are decided.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
         topBit_ =
             vectorKernels->Of<W>().divide(dividend, divisor, divisorCount, std::end(words_)) != 0;
@@ -154,7 +154,7 @@ ScaledWords<W> DivideExactly(const ttmath::UInt<W>& left, const ttmath::UInt<W>&
     return Scale<W>(dividend);
 }
 
-/// me = me / other. Answers 1 when the exponent overflows and for a NaN, 2 for a division by zero.
+/// me = me / other. Returns 1 when the exponent overflows and for a NaN, 2 for a division by zero.
 template <ttmath::uint E, ttmath::uint W>
 Word Divide(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
     if (me.IsNan() || other.IsNan()) {

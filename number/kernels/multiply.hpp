@@ -44,7 +44,7 @@ ScaledWords<W> MultiplyExactly(ttmath::UInt<W>& left, const ttmath::UInt<W>& rig
     return Scale<W>(product);
 }
 
-/// me = me * other. Answers a carry when the exponent overflows, and for a NaN.
+/// me = me * other. Returns a carry when the exponent overflows, and for a NaN.
 template <ttmath::uint E, ttmath::uint W>
 Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
     if (me.IsNan() || other.IsNan()) {
@@ -69,7 +69,7 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
 }
 
-/// me = me * factor; what the mantissa has no room for is cut off. Answers a carry when the
+/// me = me * factor; what the mantissa has no room for is cut off. Returns a carry when the
 /// exponent overflows, and for a NaN.
 template <ttmath::uint E, ttmath::uint W>
 Word MultiplyByWord(ttmath::Big<E, W>& me, Word factor) {

@@ -50,7 +50,7 @@ std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Wor
     return value;
 }
 
-/// number = number^power. Answers whether that got too large, or 2 for 0^0.
+/// number = number^power. Returns whether that got too large, or 2 for 0^0.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     if (const auto exact = ExactPower(number, power)) {

@@ -76,7 +76,7 @@ Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) 
 
 /// Makes `number`, whose exponent is set already, the number of these leading words: rounds half to
 /// even, sets the sign and standardises. `carry` is what the exponent has overflowed before.
-/// Answers whether it did, and then makes it a NaN.
+/// Returns whether it did, and then makes it a NaN.
 template <ttmath::uint E, ttmath::uint W>
 Word Finish(ttmath::Big<E, W>& number, const ScaledWords<W>& result, bool round, bool negative,
             Word carry) {

@@ -26,7 +26,7 @@ public:
         }
     }
 
-    /// Computes the terms and adds them up. Answers the index of the last one, or 0 if one cannot
+    /// Computes the terms and adds them up. Returns the index of the last one, or 0 if one cannot
     /// be rounded with certainty.
     Word Run() {
         std::int64_t change = 0;
@@ -226,7 +226,7 @@ private:
         return result;
     }
 
-    /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Answers what
+    /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Returns what
     /// was added, with its sign; or Large for more than a limb, whatever its sign; or NearTie.
     std::int64_t Accumulate() {
         constexpr int fractionBits = 2 * LimbBits;

@@ -154,7 +154,7 @@ private:
 };
 
 /// Makes `number` what ToString wants to know of the logarithm of x = 2^n to the base 10: between
-/// which integers it lies. It is the half between them then; or 0 if n is 0. Answers whether that
+/// which integers it lies. It is the half between them then; or 0 if n is 0. Returns whether that
 /// can be told.
 template <uint E, uint W>
 bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
@@ -190,7 +190,7 @@ bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
 }
 
 /// Reads digits as long as their integer fits into a mantissa, where no step on the way would be
-/// rounded. They are read by blocks that fit into a word, near the end one by one. Answers how many
+/// rounded. They are read by blocks that fit into a word, near the end one by one. Returns how many
 /// there were.
 template <uint E, uint W>
 uint ReadExactly(DigitReader& reader, uint base, Big<E, W>& number) {

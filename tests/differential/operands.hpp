@@ -86,7 +86,7 @@ public:
 
     /// Sometimes makes an argument one that only raw access can write: flags that contradict the
     /// mantissa or have no meaning, a mantissa with leading zero bits, or one that is 0 without the
-    /// zero flag. Answers whether it did.
+    /// zero flag. Returns whether it did.
     bool Contradict(Number& number) {
         if (!random_.OneIn(6)) {
             return false;

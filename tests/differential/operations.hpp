@@ -13,7 +13,7 @@ namespace differential {
 /// Operations of one group are run equally often.
 enum class Group { Basic, Function, Composed, Text };
 
-/// What an operation of a number type does to `me`; text goes to `text`. Answers its carry or
+/// What an operation of a number type does to `me`; text goes to `text`. Returns its carry or
 /// error.
 template <typename Number>
 struct Operation {
