@@ -35,3 +35,6 @@ add_kernel_tests(kernel_tests kernels)
 if(TARGET kernels_sse2)
   add_kernel_tests(kernel_tests_sse2 kernels_sse2)
 endif()
+
+add_project_test(NAME unit/kernel_map
+  COMMAND Python3::Interpreter "${CMAKE_CURRENT_SOURCE_DIR}/kernels/map_test.py" "${PROJECT_SOURCE_DIR}")
