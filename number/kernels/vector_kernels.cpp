@@ -9,7 +9,7 @@
 #include "number/kernels/series_tail_steps.hpp"
 
 namespace vqz::kernels {
-namespace BIGNUMBER_INSTRUCTION_SET {
+inline namespace BIGNUMBER_INSTRUCTION_SET {
 namespace {
 
 template <int W>
@@ -45,8 +45,8 @@ constexpr SizedVectorKernels MakeKernels() {
 }  // namespace
 
 #define BIGNUMBER_KERNELS_OF_SIZE(W) MakeKernels<W>(),
-extern const VectorKernels vectorKernels;
-constexpr VectorKernels vectorKernels{{BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_KERNELS_OF_SIZE)}};
+extern const VectorKernels Kernels;
+constexpr VectorKernels Kernels{{BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_KERNELS_OF_SIZE)}};
 
 }  // namespace BIGNUMBER_INSTRUCTION_SET
 }  // namespace vqz::kernels

@@ -76,15 +76,16 @@ TEST_CASE("a column sum carries into its third word") {
 
 TEST_CASE("words are shifted by every number of bits") {
     constexpr int words = 11;
-    std::array<Word, words> source;
+    Word source[words];
     for (int i = 0; i < words; ++i) {
         source[i] = 0x9E3779B9U * static_cast<Word>(i + 1);
     }
     for (Word bits = 0; bits < words * WordBits; ++bits) {
-        std::array<Word, words> result;
-        ShiftRight<words>(source.data(), bits, result.data());
-        std::array<Word, words> inPlace = source;
-        ShiftRight<words>(inPlace.data(), bits, inPlace.data());
+        Word result[words];
+        ShiftRight<words>(source, bits, result);
+        Word inPlace[words];
+        std::ranges::copy(source, inPlace);
+        ShiftRight<words>(inPlace, bits, inPlace);
         for (int i = 0; i < words; ++i) {
             Word expected = 0;
             for (int bit = 0; bit < WordBits; ++bit) {

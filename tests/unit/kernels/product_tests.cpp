@@ -42,9 +42,10 @@ TEST_CASE_TEMPLATE("a product", S, Small, Large) {
         for (int limb = 0; limb < limbs; limb += 1 + limb / 6) {
             auto factor = S::Leading({Top});
             for (int bit = 0; bit < vqz::kernels::LimbBits; ++bit) {
-                const int place = S::Bits - 1 - limb * vqz::kernels::LimbBits - bit;
-                factor[place / vqz::kernels::WordBits] |= Word{1}
-                                                          << (place % vqz::kernels::WordBits);
+                constexpr auto wordBits = std::size_t{vqz::kernels::WordBits};
+                const auto place =
+                    static_cast<std::size_t>(S::Bits - 1 - limb * vqz::kernels::LimbBits - bit);
+                factor[place / wordBits] |= Word{1} << (place % wordBits);
             }
             CAPTURE(limb);
             S::CheckLikePlain(Call::Multiply, S::Fraction(factor), S::Fraction(allOnes));
