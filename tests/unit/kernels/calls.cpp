@@ -77,10 +77,8 @@ Word CallMember(Call call, Big& me, const Big& other, Word word, std::string& te
             return 0;
         case Call::ToText:
             return me.ToString(text, word);
-        case Call::FromText: {
-            const std::string source = text;
-            return me.FromString(source, word);
-        }
+        case Call::FromText:
+            return me.FromString(text, word);
         case Call::IntegerText:
             me.mantissa.ToString(text, word);
             return 0;
