@@ -153,9 +153,9 @@ private:
     }
 };
 
-/// Makes `number` what ToString wants to know of the logarithm of x = 2^n to the base 10: between
-/// which integers it lies. It is the half between them then; or 0 if n is 0. Returns whether that
-/// can be told.
+/// ToString asks for log10(x) only to round it down or up. For x = 2^n it is enough to know between
+/// which two integers the logarithm lies: this sets `number` to the half between them, or to 0 if n
+/// is 0. Returns false, and leaves `number` alone, if the integers cannot be told with certainty.
 template <uint E, uint W>
 bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
     // log10(2) * 2^32. It is off by less than 1/2, so that the product with at most 2^20 is off by
