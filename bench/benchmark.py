@@ -25,6 +25,10 @@ HOST_ROWS = {
 PRECISIONS = (2048, 256)
 # The contenders that are measured against stock.
 RATIOS = ("library", "SSE2", "plug-in")
+# A contender of another checkout has the name of ours and this behind it.
+BEFORE = " before"
+# What a row may lose in speed: what it has is measured no better than that.
+LEAST_SPEED = 0.97
 # Besides the rows that do nothing but call.
 CHEAPEST_OF_THEIR_SHAPE = ("add", "multiply by integer", "remainder", "compare", "to text", "from text")
 
@@ -235,6 +239,31 @@ def summary(results, contender):
                        f" at least ({slowest}), median {statistics.median(ratios.values()):.1f}")
 
 
+def speeds(results, names):
+    """For each contender and its like from another checkout: how many times as fast as that it is,
+    by precision and operation."""
+    for name in names:
+        if name + BEFORE in names:
+            yield name, {
+                (bits, operation): ratio for bits in PRECISIONS for operation in results.groups
+                if (ratio := results.ratio(bits, operation, name, name + BEFORE))
+            }
+
+
+def report_speeds(results, names):
+    """Prints what has changed since another checkout. Returns whether nothing has become slower."""
+    kept = True
+    for name, ratios in speeds(results, names):
+        slower = {row: ratio for row, ratio in ratios.items() if ratio < LEAST_SPEED}
+        kept = kept and not slower
+        print(f"{name}: {statistics.median(ratios.values()):.2f} times the speed before at the median"
+              f" of {len(ratios)} rows, {min(ratios.values()):.2f} at least;"
+              f" {len(slower)} rows below {LEAST_SPEED}")
+        for (bits, operation), ratio in sorted(slower.items(), key=lambda item: item[1]):
+            print(f"  {operation}, {bits} bits: {ratio:.2f}")
+    return kept
+
+
 def draw(results, contender, file):
     """A chart of the ratios to stock, as an SVG that is the same for the same figures."""
     os.environ.setdefault("SOURCE_DATE_EPOCH", "0")
@@ -303,6 +332,8 @@ def main():
     for name in reversed(RATIOS):
         for line in summary(results, name):
             print(line)
+    if not report_speeds(results, names):
+        sys.exit("something has become slower")
 
 
 if __name__ == "__main__":

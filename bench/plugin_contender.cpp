@@ -70,9 +70,9 @@ private:
         contender_.OfferRepeated(bits_, operation.name, once);
     }
 
-    /// A call that answers a new object, which is dropped at once.
+    /// A call that returns a new object, which is dropped at once.
     template <typename Call>
-    void Answering(const Operation& operation, Call call) {
+    void Returning(const Operation& operation, Call call) {
         Repeated(operation, [call, &host = host_] { host.Unlock(call()); });
     }
 
@@ -82,26 +82,26 @@ private:
         const Object y = Make(operation.y);
         switch (operation.shape) {
             case Shape::OneNumber:
-                Answering(operation, [f = As<Object (*)(Object)>(routine), x] { return f(x); });
+                Returning(operation, [f = As<Object (*)(Object)>(routine), x] { return f(x); });
                 break;
             case Shape::TwoNumbers:
-                Answering(operation,
+                Returning(operation,
                           [f = As<Object (*)(Object, Object)>(routine), x, y] { return f(x, y); });
                 break;
             case Shape::RoundedPair:
-                Answering(operation, [f = As<Object (*)(Object, Object, int)>(routine), x, y] {
+                Returning(operation, [f = As<Object (*)(Object, Object, int)>(routine), x, y] {
                     return f(x, y, 1);
                 });
                 break;
             case Shape::NumberAndInt:
-                Answering(operation,
+                Returning(operation,
                           [f = As<Object (*)(Object, int)>(routine), x] { return f(x, 7); });
                 break;
             case Shape::Constant:
-                Answering(operation, As<Object (*)()>(routine));
+                Returning(operation, As<Object (*)()>(routine));
                 break;
             case Shape::TextOut:
-                Answering(operation, [f = As<String (*)(Object)>(routine), x] { return f(x); });
+                Returning(operation, [f = As<String (*)(Object)>(routine), x] { return f(x); });
                 break;
             case Shape::Comparison:
                 Repeated(operation, [f = As<int (*)(Object, Object)>(routine), x, y] { f(x, y); });

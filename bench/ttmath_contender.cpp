@@ -1,13 +1,8 @@
 // The arithmetic library by itself, without the plug-in: as it is installed, or with the kernels
 // that the plug-in adds to it.
-#ifdef BENCH_WITH_KERNELS
-#include "number/kernels/specialisations.hpp"
-#else
-#include <ttmath/ttmath.h>
-#endif
-
 #include "bench/contender.hpp"
 #include "bench/operations.hpp"
+#include "number/kernels/specialisations.hpp"
 
 namespace {
 

@@ -18,8 +18,10 @@ if(Ttmath_FOUND AND NOT TARGET ttmath)
   add_library(ttmath INTERFACE)
   target_include_directories(ttmath SYSTEM INTERFACE "${TTMATH_INCLUDE_DIR}")
   # ttmath would leave the words of a new number unset; clearing them keeps every byte that raw access
-  # can show defined.
-  target_compile_definitions(ttmath INTERFACE TTMATH_NOASM TTMATH_BIG_DEFAULT_CLEAR)
+  # can show defined. Its words have 32 bits on every processor, as raw access and the sizes of the
+  # numbers want it.
+  target_compile_definitions(ttmath
+    INTERFACE TTMATH_PLATFORM32 TTMATH_NOASM TTMATH_BIG_DEFAULT_CLEAR)
   if(NOT BIGNUMBERVQZ_COVERAGE)
     target_compile_options(ttmath INTERFACE "-ffile-prefix-map=${TTMATH_INCLUDE_DIR}=.")
   endif()

@@ -28,6 +28,10 @@ LAYERS = [
 ]
 STANDIN_LAYERS = [INTERFACE, "standin/runtime", "standin/language", "standin"]
 
+# The one header that includes ttmath, and the folders that hold no sources of the project.
+TTMATH_HEADER = "number/kernels/specialisations.hpp"
+NOT_OURS = {".deps", ".git", "build"}
+
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 PLATFORM_TEST = re.compile(r"^\s*#.*\b(_WIN32|__MINGW32__|__linux__|__unix__)\b")
 
@@ -42,6 +46,7 @@ class Sources:
     """The C++ files of the project, by their names relative to its folder."""
 
     def __init__(self, root: pathlib.Path):
+        self.root = root
         self.lines = {}
         for folder in sorted({layer.split("/")[0] for layer in [*LAYERS, *STANDIN_LAYERS]}):
             for path in sorted((root / folder).rglob("*.[ch]pp")):
@@ -109,13 +114,25 @@ def platform_leaks(sources: Sources):
                 yield f"{name}:{number}: only {PLATFORM}/ knows the system"
 
 
+def includes_of_ttmath(sources: Sources):
+    """Every file that needs ttmath sees which of its members have kernels: otherwise it would compile
+    the plain ones, and the linker may take either."""
+    for folder in sorted(path for path in sources.root.iterdir() if path.name not in NOT_OURS):
+        for path in sorted(folder.rglob("*.[ch]pp")):
+            name = path.relative_to(sources.root).as_posix()
+            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+                match = INCLUDE.match(line)
+                if match and match[2].startswith("ttmath/") and name != TTMATH_HEADER:
+                    yield f"{name}:{number}: include {TTMATH_HEADER} instead"
+
+
 def missing_guards(sources: Sources):
     for name, lines in sources.lines.items():
         if name.endswith(".hpp") and "#pragma once" not in lines:
             yield f"{name}: lacks #pragma once"
 
 
-RULES = [unknown_includes, wrong_directions, cycles, platform_leaks, missing_guards]
+RULES = [unknown_includes, wrong_directions, cycles, platform_leaks, includes_of_ttmath, missing_guards]
 
 
 def main() -> None:

@@ -64,6 +64,15 @@ class SourceRules(unittest.TestCase):
         }
         self.assertIn("each other", *problems_of(source_rules.cycles, files))
 
+    def test_one_header_alone_includes_ttmath(self):
+        files = {
+            "number/kernels/specialisations.hpp": "#include <ttmath/ttmath.h>\n",
+            "number/text.hpp": '#include "number/kernels/specialisations.hpp"\n',
+            "tests/unit/a.cpp": "#include <ttmath/ttmathbig.h>\n",
+            "build/a.cpp": "#include <ttmath/ttmath.h>\n",
+        }
+        self.assertIn("tests/unit/a.cpp:1", *problems_of(source_rules.includes_of_ttmath, files))
+
     def test_only_the_platform_layer_knows_the_system(self):
         files = {
             "host/a.cpp": "#ifdef _WIN32\n#include <windows.h>\n#endif\n",

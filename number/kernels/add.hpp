@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "number/kernels/carry_chains.hpp"
 #include "number/kernels/shift_words.hpp"
 #include "number/kernels/specialisations.hpp"
+#include "number/kernels/word_sums.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
@@ -14,7 +14,7 @@ namespace vqz::kernels {
 /// By how many bits the smaller of two numbers is to be moved: the magnitude of the difference of
 /// their exponents as ttmath computes it, which wraps. What is more than W words comes out as one
 /// bit more than these.
-template <std::size_t E, std::size_t W>
+template <ttmath::uint E, ttmath::uint W>
 Word ExponentDistance(const ttmath::Int<E>& greater, const ttmath::Int<E>& smaller) {
     constexpr Word TooFar = W * WordBits + 1;
     if (std::equal(greater.table + 1, greater.table + E, smaller.table + 1)) {
@@ -44,7 +44,7 @@ template <int W>
 
 /// me = greater +- smaller, or the same the other way round: `greater` and `smaller` are `me` and
 /// `other` in the order of their magnitudes. Both are not 0.
-template <std::size_t E, std::size_t W>
+template <ttmath::uint E, ttmath::uint W>
 Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
                 const ttmath::Big<E, W>& smaller, bool round) {
     constexpr Word Bits = W * WordBits;
@@ -93,9 +93,9 @@ Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
     return me.CheckCarry(carry);
 }
 
-/// me = me + other, or me - other when `adding` is false. `other` is a copy of the operand. Answers
+/// me = me + other, or me - other when `adding` is false. `other` is a copy of the operand. Returns
 /// a carry when the exponent overflows, and for a NaN.
-template <std::size_t E, std::size_t W>
+template <ttmath::uint E, ttmath::uint W>
 Word Add(ttmath::Big<E, W>& me, ttmath::Big<E, W>& other, bool round, bool adding) {
     if (me.IsNan() || other.IsNan()) {
         return me.CheckCarry(1);

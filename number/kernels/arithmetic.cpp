@@ -5,22 +5,18 @@
 
 namespace ttmath {
 
-#define BIGNUMBER_DEFINE_KERNELS(E, W)                            \
-    template <>                                                   \
-    uint Big<E, W>::Add(Big<E, W> ss2, bool round, bool adding) { \
-        return vqz::kernels::Add(*this, ss2, round, adding);      \
-    }                                                             \
-    template <>                                                   \
-    uint Big<E, W>::MulRef(const Big<E, W>& ss2, bool round) {    \
-        return vqz::kernels::Multiply(*this, ss2, round);         \
-    }                                                             \
-    template <>                                                   \
-    uint Big<E, W>::MulUInt(uint ss2) {                           \
-        return vqz::kernels::MultiplyByWord(*this, ss2);          \
-    }                                                             \
-    template <>                                                   \
-    uint Big<E, W>::DivRef(const Big<E, W>& ss2, bool round) {    \
-        return vqz::kernels::Divide(*this, ss2, round);           \
+#define BIGNUMBER_DEFINE_KERNELS(E, W)                               \
+    BIGNUMBER_KERNEL_ADD(E, W) {                                     \
+        return vqz::kernels::Add<E, W>(*this, other, round, adding); \
+    }                                                                \
+    BIGNUMBER_KERNEL_MUL_REF(E, W) {                                 \
+        return vqz::kernels::Multiply<E, W>(*this, other, round);    \
+    }                                                                \
+    BIGNUMBER_KERNEL_MUL_UINT(E, W) {                                \
+        return vqz::kernels::MultiplyByWord<E, W>(*this, factor);    \
+    }                                                                \
+    BIGNUMBER_KERNEL_DIV_REF(E, W) {                                 \
+        return vqz::kernels::Divide<E, W>(*this, other, round);      \
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_KERNELS)

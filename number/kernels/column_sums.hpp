@@ -1,4 +1,5 @@
-// The column sums of a product with vectors of any width. `Lanes` tells of one width.
+// The column sums of a product with vectors of any width. `Lanes` is a traits class of the vector
+// width.
 #pragma once
 
 #include "number/kernels/limbs.hpp"
@@ -21,13 +22,13 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
     const int end = leftCount < beyond ? leftCount : beyond;
     const Limb* run = right + (k - begin);
     for (int i = begin; i < end; ++i, --run) {
-        // Runs overlap from turn to turn. The compiler would keep the common vectors, for which
-        // there are no registers; it must not know where the run is.
-        asm("" : "+r"(run));
+        // Runs overlap from turn to turn.
+        Lanes::Forget(run);
         const auto factor = Lanes::Broadcast(left + i * Stride);
 #pragma GCC unroll 4
         for (int v = 0; v < Vectors; ++v) {
-            totals[v] = Lanes::Add(totals[v], Lanes::Product(factor, run + v * Lanes::Count));
+            totals[v] =
+                Lanes::Add(totals[v], Lanes::Multiply(factor, Lanes::Load(run + v * Lanes::Count)));
         }
     }
 #pragma GCC unroll 4

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "number/kernels/instruction_set.hpp"
-#include "number/kernels/limb_arithmetic.hpp"
+#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
+#include "number/kernels/vector_kernels.hpp"
 
 namespace vqz::kernels {
 
@@ -53,11 +53,10 @@ private:
         words_[Slack] = DivideWords(remainder, 0, divisor, remainder);
     }
 
-    /// Answers whether the words are decided.
+    /// Returns whether the words are decided.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
         topBit_ =
-            (avx2Chosen ? DivideLimbsAvx2<W> : DivideLimbsSse2<W>)(dividend, divisor, divisorCount,
-                                                                   std::end(words_)) != 0;
+            vectorKernels->Of<W>().divide(dividend, divisor, divisorCount, std::end(words_)) != 0;
         // The unit of the last limb, in units of the guard word.
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
         const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
@@ -143,7 +142,7 @@ ScaledWords<W> DivideNormalised(const Word* dividend, const Word* divisor) {
 }
 
 /// The quotient of two mantissas of any form, by ttmath.
-template <std::size_t W>
+template <ttmath::uint W>
 ScaledWords<W> DivideExactly(const ttmath::UInt<W>& left, const ttmath::UInt<W>& right) {
     ttmath::UInt<2 * W> dividend;
     ttmath::UInt<2 * W> divisor;
@@ -155,8 +154,8 @@ ScaledWords<W> DivideExactly(const ttmath::UInt<W>& left, const ttmath::UInt<W>&
     return Scale<W>(dividend);
 }
 
-/// me = me / other. Answers 1 when the exponent overflows and for a NaN, 2 for a division by zero.
-template <std::size_t E, std::size_t W>
+/// me = me / other. Returns 1 when the exponent overflows and for a NaN, 2 for a division by zero.
+template <ttmath::uint E, ttmath::uint W>
 Word Divide(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
     if (me.IsNan() || other.IsNan()) {
         return me.CheckCarry(1);

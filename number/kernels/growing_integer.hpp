@@ -10,7 +10,7 @@ namespace vqz::kernels {
 template <ttmath::uint W>
 class GrowingInteger {
 public:
-    /// integer * factor + summand, unless it gets too large. Answers whether it has been done.
+    /// Makes it integer * factor + summand, unless that gets too large. Returns whether it did.
     bool Append(Word factor, Word summand) {
         if (words_ == W && MultiplyAdd(factor, summand, [](Word&, Word) {}) != 0) {
             return false;
@@ -36,7 +36,8 @@ private:
     ttmath::UInt<W> integer_{0U};
     std::size_t words_ = 0;
 
-    /// Tells the words of integer * factor + summand, and answers the one that follows on them.
+    /// Computes integer * factor + summand: calls `tell` with each word of the integer and the word
+    /// that takes its place, and returns the word above them.
     template <typename Tell>
     Word MultiplyAdd(Word factor, Word summand, Tell tell) {
         DoubleWord carry = summand;

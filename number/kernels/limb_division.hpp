@@ -1,5 +1,5 @@
-// How the quotient of two long mantissas is computed with vectors of any width. `Lanes` tells of
-// one width.
+// How the quotient of two long mantissas is computed with vectors of any width. `Lanes` is
+// a traits class of the vector width.
 //
 // It is the schoolbook's division with limbs as digits, turned around twice.
 //
@@ -45,6 +45,8 @@
 #include <iterator>
 #include <utility>
 
+#include BIGNUMBER_PROCESSOR_PAIR
+#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/limbs.hpp"
 
@@ -54,7 +56,7 @@ namespace vqz::kernels {
 template <typename Lanes, int W>
 class LimbDivision {
 public:
-    /// See DivideLimbsSse2.
+    /// See SizedVectorKernels::divide.
     static Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
                        Word* quotientEnd) {
         // For the greatest first word, 2^63 / t is the same.
@@ -84,8 +86,11 @@ private:
     static constexpr int Block = 8;
     static_assert(Digits % Block != 0 && Block <= ColumnStep);
 
+    using Vector = Pair::Vector;
+
     /// The zero bits before the limbs of dividend and divisor.
-    static constexpr int Lead = 3;
+    static constexpr int Lead = WordBits - 1 - LimbBits;
+    static_assert(Lead == 3 && WordBits <= Pair::FactorBits, "as the bounds above assume");
 
     /// The limbs of d = 1 - divisor * m / 2^31: limb i weighs 2^(-28 (i + 1)), and limb 0 is 0.
     /// There is one more than the divisor has. The last one may be 2^28.
@@ -93,16 +98,15 @@ private:
     public:
         Factor(const Word* divisorEnd, int divisorCount, Word inverse)
             : limbs_(divisorEnd, divisorCount) {
-            const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
-            const __m128i multiplier = _mm_cvtsi32_si128(static_cast<int>(inverse));
-            __m128i sum = _mm_setzero_si128();
+            const Vector mask = Pair::LowOnly(LimbMask);
+            const Vector multiplier = Pair::LowOnly(inverse);
+            Vector sum = {};
             Limb* limbs = limbs_.data();
             for (int i = limbs_.count(); i > 0; --i) {
-                const __m128i limb = Lane(limbs + i - 1);
-                sum = _mm_add_epi64(_mm_srli_epi64(sum, LimbBits), _mm_mul_epu32(limb, multiplier));
+                sum = Pair::Add(Pair::ShiftRight<LimbBits>(sum),
+                                Pair::Multiply(Pair::LoadLow(limbs + i - 1), multiplier));
                 // What is missing to a limb of ones.
-                _mm_storel_epi64(reinterpret_cast<__m128i*>(limbs + i),
-                                 _mm_andnot_si128(sum, mask));
+                Pair::StoreLow(limbs + i, Pair::Missing(sum, mask));
             }
             // For 0 < d < 2^-30.
             limbs[0] = 0;
@@ -115,43 +119,38 @@ private:
     private:
         /// With room for the last limb before the padding.
         LimbBuffer<W, LimbPadding + 2, Lead> limbs_;
-
-        static __m128i Lane(const Limb* limb) {
-            return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(limb));
-        }
     };
 
     /// Limbs of d from the second on, each in the low lane of a register.
     struct BlockFactors {
         explicit BlockFactors(const Factor& factor) {
             for (int i = 0; i < Block; i += 2) {
-                lanes[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(factor.data() + i + 1));
-                lanes[i + 1] = _mm_unpackhi_epi64(lanes[i], lanes[i]);
+                lanes[i] = Pair::Load(factor.data() + i + 1);
+                lanes[i + 1] = Pair::High(lanes[i]);
             }
         }
 
-        __m128i lanes[Block];
+        Vector lanes[Block];
     };
 
     /// What goes from digit to digit: the current column and the next one, in the low lanes of
     /// registers.
     struct DigitChain {
-        __m128i current = _mm_setzero_si128();
-        __m128i next = _mm_setzero_si128();
+        Vector current = {};
+        Vector next = {};
 
         /// The digit of the current column. `columns` are the `Count` columns that begin two behind
         /// it, to which its products are added.
         template <int Count>
-        [[gnu::always_inline]] __m128i Next(const BlockFactors& factors, __m128i* columns) {
-            const __m128i mask = _mm_set_epi32(0, 0, 0, LimbMask);
-            next = _mm_add_epi64(next, _mm_srli_epi64(columns[0], LimbBits));
-            const __m128i digit = _mm_add_epi64(current, _mm_srli_epi64(next, LimbBits));
-            current = _mm_and_si128(next, mask);
-            next = _mm_add_epi64(_mm_and_si128(columns[0], mask),
-                                 _mm_mul_epu32(digit, factors.lanes[0]));
+        [[gnu::always_inline]] Vector Next(const BlockFactors& factors, Vector* columns) {
+            const Vector mask = Pair::LowOnly(LimbMask);
+            next = Pair::Add(next, Pair::ShiftRight<LimbBits>(columns[0]));
+            const Vector digit = Pair::Add(current, Pair::ShiftRight<LimbBits>(next));
+            current = Pair::And(next, mask);
+            next = Pair::Add(Pair::And(columns[0], mask), Pair::Multiply(digit, factors.lanes[0]));
 #pragma GCC unroll 8
             for (int i = 1; i < Count; ++i) {
-                columns[i] = _mm_add_epi64(columns[i], _mm_mul_epu32(digit, factors.lanes[i]));
+                columns[i] = Pair::Add(columns[i], Pair::Multiply(digit, factors.lanes[i]));
             }
             return digit;
         }
@@ -169,21 +168,18 @@ private:
             ColumnSums<Lanes>(digits, start, factor.data(), factor.count(), start + 1,
                               start + 1 + Count, sums);
         }
-        const __m128i inverses =
-            _mm_set_epi32(0, static_cast<int>(inverse), 0, static_cast<int>(inverse));
-        __m128i columns[Block];
+        const Vector inverses = Pair::Both(inverse);
+        Vector columns[Block];
 #pragma GCC unroll 8
         for (int i = 0; i < Count; i += 2) {
-            const __m128i sum = _mm_load_si128(reinterpret_cast<const __m128i*>(sums + i));
-            const __m128i limbs =
-                _mm_load_si128(reinterpret_cast<const __m128i*>(dividend + start + i));
-            columns[i] = _mm_add_epi64(sum, _mm_mul_epu32(limbs, inverses));
-            columns[i + 1] = _mm_unpackhi_epi64(columns[i], columns[i]);
+            const Vector limbs = Pair::LoadAligned(dividend + start + i);
+            columns[i] = Pair::Add(Pair::LoadAligned(sums + i), Pair::Multiply(limbs, inverses));
+            columns[i + 1] = Pair::High(columns[i]);
         }
         DigitChain state = chain;
         [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
-            (_mm_storel_epi64(reinterpret_cast<__m128i*>(digits + start + I),
-                              state.template Next<Count - I>(factors, columns + I)),
+            (Pair::StoreLow(digits + start + I,
+                            state.template Next<Count - I>(factors, columns + I)),
              ...);
         }
         (std::make_integer_sequence<int, Count>{});

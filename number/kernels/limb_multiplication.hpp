@@ -1,5 +1,5 @@
-// How the product of two long mantissas is computed with vectors of any width. `Lanes` tells of one
-// width.
+// How the product of two long mantissas is computed with vectors of any width. `Lanes` is a
+// traits class of the vector width.
 #pragma once
 
 #include <algorithm>

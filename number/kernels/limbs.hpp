@@ -15,10 +15,10 @@
 // Cutting and joining take two limbs at once: they are 7 bytes, wherever the words begin.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
-#include <emmintrin.h>
-
+#include BIGNUMBER_PROCESSOR_PAIR
 #include "number/kernels/instruction_set.hpp"
 #include "number/kernels/words.hpp"
 
@@ -35,6 +35,8 @@ inline constexpr int PairBytes = 2 * LimbBits / ByteBits;
 inline constexpr int GroupPairs = 4;
 inline constexpr int GroupLimbs = 2 * GroupPairs;
 inline constexpr int GroupWords = GroupLimbs * LimbBits / WordBits;
+static_assert(GroupLimbs * LimbBits == GroupWords * WordBits);
+static_assert(std::endian::native == std::endian::little);
 
 /// How many limbs hold `words` words with `lead` zero bits before them.
 inline constexpr int LimbCount(int words, int lead = 0) {
@@ -70,7 +72,7 @@ public:
         }
         const int below = (PairBytes * (whole + 1) - bytes) * ByteBits;
         limbs += 2 * whole;
-        StorePair<Lead>(limbs, _mm_sll_epi64(Load(end - bytes), _mm_cvtsi32_si128(below)));
+        StorePair<Lead>(limbs, Pair::ShiftLeftBy(Load(end - bytes), below));
         Pad(limbs + 2);
     }
 
@@ -85,6 +87,8 @@ public:
     }
 
 private:
+    using Vector = Pair::Vector;
+
     static constexpr int Capacity = 2 * (Words * int{sizeof(Word)} / PairBytes + 1);
     static_assert(Lead <= ByteBits);
 
@@ -96,60 +100,59 @@ private:
         static_assert(Padding % 2 == 0);
 #pragma GCC unroll 16
         for (int i = 0; i < Padding; i += 2) {
-            _mm_store_si128(reinterpret_cast<__m128i*>(limbs + i), _mm_setzero_si128());
+            Pair::StoreAligned(limbs + i, Vector{});
         }
     }
 
-    static __m128i Load(const unsigned char* bytes) {
-        return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(bytes));
+    static Vector Load(const unsigned char* bytes) {
+        return Pair::LoadLow(bytes);
     }
 
     /// Two limbs, the lower one of which begins `Shift` bits above the lowest of `bits`.
     template <int Shift>
-    static void StorePair(Limb* limbs, __m128i bits) {
-        const __m128i mask = _mm_set_epi32(0, LimbMask, 0, LimbMask);
-        const __m128i pair =
-            _mm_unpacklo_epi64(_mm_srli_epi64(bits, Shift + LimbBits), _mm_srli_epi64(bits, Shift));
-        _mm_store_si128(reinterpret_cast<__m128i*>(limbs), _mm_and_si128(pair, mask));
+    static void StorePair(Limb* limbs, Vector bits) {
+        const Vector pair =
+            Pair::JoinLow(Pair::ShiftRight<Shift + LimbBits>(bits), Pair::ShiftRight<Shift>(bits));
+        Pair::StoreAligned(limbs, Pair::And(pair, Pair::Both(LimbMask)));
     }
 };
 
-/// Joins columns, the highest first, as words that end before `wordsEnd`, and makes the carries.
-/// Answers the carry out of the highest.
+/// Adds up columns, the highest first, into words that end before `wordsEnd`. Returns the carry out
+/// of the highest column.
 ///
-/// Columns are limbs of at most 2^35 + 2^28: two of them and a carry fit in a lane. Or they are
-/// sums below 2^63; then the highest is 0, and so is the one behind the groups. Sums keep their
-/// limbs and pass on the rest first, which makes them such columns.
+/// With `AreSums` false, a column is at most 2^35 + 2^28, so that two of them and a carry fit in a
+/// lane. With `AreSums` true, a column is below 2^63; the first one must be 0, and so must be the
+/// one behind the last group, which is read too. Each of them then keeps its low 28 bits and hands
+/// the others to the column above, after which it is at most 2^35 + 2^28 as well.
 ///
-/// Two limbs are written with what they carry above them, which the next two write over.
+/// Two columns are written at a time as 8 bytes, of which they fill 7; the next two overwrite the
+/// eighth.
 template <bool AreSums>
 inline DoubleWord JoinColumns(const DoubleWord* columns, int groups, Word* wordsEnd) {
-    const __m128i mask = _mm_set_epi32(0, LimbMask, 0, LimbMask);
-    const auto load = [&](int i) __attribute__((always_inline)) {
-        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(columns + i));
-    };
-    __m128i carry = _mm_setzero_si128();
+    using Vector = Pair::Vector;
+    const Vector mask = Pair::Both(LimbMask);
+    Vector carry = {};
     const auto join = [&](int pair) __attribute__((always_inline)) {
-        __m128i limbs = load(2 * pair);
+        Vector limbs = Pair::Load(columns + 2 * pair);
         if constexpr (AreSums) {
-            limbs = _mm_add_epi64(_mm_and_si128(limbs, mask),
-                                  _mm_srli_epi64(load(2 * pair + 1), LimbBits));
+            limbs = Pair::Add(Pair::And(limbs, mask),
+                              Pair::ShiftRight<LimbBits>(Pair::Load(columns + 2 * pair + 1)));
         }
-        const __m128i lower = _mm_add_epi64(carry, _mm_unpackhi_epi64(limbs, limbs));
-        const __m128i bits = _mm_add_epi64(_mm_slli_epi64(limbs, LimbBits), lower);
-        carry = _mm_srli_epi64(bits, 2 * LimbBits);
+        const Vector lower = Pair::Add(carry, Pair::High(limbs));
+        const Vector bits = Pair::Add(Pair::ShiftLeft<LimbBits>(limbs), lower);
+        carry = Pair::ShiftRight<2 * LimbBits>(bits);
         return bits;
     };
     auto* bytes = reinterpret_cast<unsigned char*>(wordsEnd) - groups * GroupPairs * PairBytes;
     for (int pair = groups * GroupPairs - 1; pair > 0; --pair, bytes += PairBytes) {
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(bytes), join(pair));
+        Pair::StoreLow(bytes, join(pair));
     }
-    const __m128i bits = join(0);
-    _mm_storeu_si32(bytes, bits);
-    _mm_storeu_si32(wordsEnd - 1, _mm_srli_epi64(bits, 2 * LimbBits - WordBits));
-    DoubleWord answer = 0;
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(&answer), carry);
-    return answer;
+    const Vector bits = join(0);
+    Pair::StoreLowest(bytes, bits);
+    Pair::StoreLowest(wordsEnd - 1, Pair::ShiftRight<2 * LimbBits - WordBits>(bits));
+    DoubleWord above = 0;
+    Pair::StoreLow(&above, carry);
+    return above;
 }
 
 }  // namespace BIGNUMBER_INSTRUCTION_SET

@@ -5,15 +5,12 @@
 #include <iterator>
 #include <utility>
 
-#include "number/kernels/instruction_set.hpp"
-#include "number/kernels/limb_arithmetic.hpp"
+#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
 #include "number/kernels/limbs.hpp"
+#include "number/kernels/vector_kernels.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
-
-/// Up to this many products of words, the schoolbook with words is faster than with limbs.
-inline constexpr int MaxWordProducts = 160;
 
 /// Mantissas of up to this many words are multiplied by code without loops.
 inline constexpr int MaxUnrolledWords = 8;
@@ -119,8 +116,8 @@ private:
     void MultiplyByLimbs(const Word* leftEnd, int leftCount, const Word* rightEnd, int rightCount,
                          Precision precision) {
         const auto compute = [&](int columns) {
-            (avx2Chosen ? MultiplyLimbsAvx2<W> : MultiplyLimbsSse2<W>)(leftEnd, leftCount, rightEnd,
-                                                                       rightCount, columns, end());
+            vectorKernels->Of<W>().multiply(leftEnd, leftCount, rightEnd, rightCount, columns,
+                                            end());
             std::fill(words_, end() - GroupCount(columns + 1) * GroupWords, 0);
         };
         constexpr int LeadingColumns = LimbCount(W + 1);

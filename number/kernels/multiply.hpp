@@ -37,15 +37,15 @@ ScaledWords<W> MultiplyNormalised(const Word* left, const Word* right) {
 }
 
 /// The product of two mantissas of any form, by ttmath.
-template <std::size_t W>
+template <ttmath::uint W>
 ScaledWords<W> MultiplyExactly(ttmath::UInt<W>& left, const ttmath::UInt<W>& right) {
     ttmath::UInt<2 * W> product;
     left.MulBig(right, product);
     return Scale<W>(product);
 }
 
-/// me = me * other. Answers a carry when the exponent overflows, and for a NaN.
-template <std::size_t E, std::size_t W>
+/// me = me * other. Returns a carry when the exponent overflows, and for a NaN.
+template <ttmath::uint E, ttmath::uint W>
 Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round) {
     if (me.IsNan() || other.IsNan()) {
         return me.CheckCarry(1);
@@ -69,9 +69,9 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
 }
 
-/// me = me * factor; what the mantissa has no room for is cut off. Answers a carry when the
+/// me = me * factor; what the mantissa has no room for is cut off. Returns a carry when the
 /// exponent overflows, and for a NaN.
-template <std::size_t E, std::size_t W>
+template <ttmath::uint E, ttmath::uint W>
 Word MultiplyByWord(ttmath::Big<E, W>& me, Word factor) {
     if (me.IsNan()) {
         return 1;

@@ -12,7 +12,7 @@ inline constexpr int PlainExponentLimit = 1 << 19;
 
 /// A number's exponent, provided it is a number like any other: neither NaN nor zero, its top bit
 /// set, and so near to 1 that its powers, and those in a series, have exponents that fit an int.
-template <std::size_t E, std::size_t W>
+template <ttmath::uint E, ttmath::uint W>
 std::optional<int> PlainExponent(const ttmath::Big<E, W>& number) {
     ttmath::sint exponent = 0;
     const bool isNanOrZero = (number.info & (TTMATH_BIG_NAN | TTMATH_BIG_ZERO)) != 0;

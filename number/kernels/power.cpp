@@ -3,10 +3,9 @@
 
 namespace ttmath {
 
-#define BIGNUMBER_DEFINE_POWER(E, W)                   \
-    template <>                                        \
-    uint Big<E, W>::PowUInt(Big<E, W> pow) {           \
-        return vqz::kernels::RaiseToPower(*this, pow); \
+#define BIGNUMBER_DEFINE_POWER(E, W)                     \
+    BIGNUMBER_KERNEL_POW_UINT(E, W) {                    \
+        return vqz::kernels::RaiseToPower(*this, power); \
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_POWER)

@@ -50,7 +50,7 @@ std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Wor
     return value;
 }
 
-/// number = number^power. Answers whether that got too large, or 2 for 0^0.
+/// number = number^power. Returns whether that got too large, or 2 for 0^0.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     if (const auto exact = ExactPower(number, power)) {
@@ -63,7 +63,6 @@ Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
 /// number = number^[|power|], as Big::PowUInt; `power` is used up.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
-    // GCOVR_EXCL_START: Big::Pow does not get here with such numbers
     if (number.IsNan() || power.IsNan()) {
         return number.CheckCarry(1);
     }
@@ -74,12 +73,13 @@ Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
         }
         return 0;
     }
-    // GCOVR_EXCL_STOP
     if (power.IsSign()) {
         power.Abs();
     }
+    // With the zero flag and a mantissa other than 0, IsInteger and ToUInt would see a 0, but the
+    // loop below, like ttmath's, sees the bits. So the shortcut is for plain exponents only.
     Word small = 0;
-    if (power.mantissa.IsTheHighestBitSet() && power.IsInteger() && power.ToUInt(small) == 0) {
+    if (PlainExponent(power) && power.IsInteger() && power.ToUInt(small) == 0) {
         if (const auto exact = ExactPower(number, small)) {
             number = *exact;
             return 0;

@@ -13,7 +13,7 @@ namespace vqz::kernels {
 enum class Tail : std::uint8_t { BelowHalf, Half, AboveHalf };
 
 /// A non-negative integer of 2 * W words, shifted left until its top bit is set.
-template <std::size_t W>
+template <ttmath::uint W>
 struct ScaledWords {
     /// The upper half after the shift.
     Word words[W];
@@ -24,7 +24,7 @@ struct ScaledWords {
 };
 
 /// Splits an integer of 2 * W words, which is shifted in place.
-template <std::size_t W>
+template <ttmath::uint W>
 ScaledWords<W> Scale(ttmath::UInt<2 * W>& integer) {
     ScaledWords<W> result;
     result.shift = integer.CompensationToLeft();
@@ -48,7 +48,7 @@ inline void SetInteger(ttmath::Int<2>& exponent, std::int64_t value) {
 }
 
 /// exponent += term, with ttmath's carry on overflow.
-template <std::size_t E>
+template <ttmath::uint E>
 Word AddToExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) {
     if constexpr (E == 2) {
         std::int64_t sum = 0;
@@ -61,7 +61,7 @@ Word AddToExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) {
 }
 
 /// exponent -= term, with ttmath's carry on overflow.
-template <std::size_t E>
+template <ttmath::uint E>
 Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) {
     if constexpr (E == 2) {
         std::int64_t difference = 0;
@@ -76,8 +76,8 @@ Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) 
 
 /// Makes `number`, whose exponent is set already, the number of these leading words: rounds half to
 /// even, sets the sign and standardises. `carry` is what the exponent has overflowed before.
-/// Answers whether it did, and then makes it a NaN.
-template <std::size_t E, std::size_t W>
+/// Returns whether it did, and then makes it a NaN.
+template <ttmath::uint E, ttmath::uint W>
 Word Finish(ttmath::Big<E, W>& number, const ScaledWords<W>& result, bool round, bool negative,
             Word carry) {
     std::copy_n(result.words, W, number.mantissa.table);

@@ -9,6 +9,7 @@
 #include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/series_tail.hpp"
 #include "number/kernels/specialisations.hpp"
+#include "number/kernels/vector_kernels.hpp"
 
 namespace vqz::kernels {
 namespace {
@@ -25,18 +26,18 @@ template <uint W>
 bool HasRoom(const ttmath::UInt<W>& mantissa, int position, bool adding, bool subtracting) {
     bool set = false;
     bool clear = false;
-    for (int bit = 32 * static_cast<int>(W) - 2; bit >= position && !(set && clear); --bit) {
+    for (int bit = WordBits * static_cast<int>(W) - 2; bit >= position && !(set && clear); --bit) {
         (mantissa.GetBit(static_cast<uint>(bit)) != 0 ? set : clear) = true;
     }
     return (set || !subtracting) && (clear || !adding);
 }
 
-/// Adds what is left of a series in fixed point: all terms from index `next` on. Answers the index
-/// of the last one; 0 if a term cannot be rounded with certainty; nothing if it is too early.
+/// Adds what is left of a series in fixed point: all terms from index `next` on. Returns the index
+/// of the last one; 0 if that cannot be done for this series; nothing if it is too early.
 template <auto Ratio, uint E, uint W>
 std::optional<uint> AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, W>& multiplier,
                             bool subtract, bool alternate, uint next, EndTest endTest) {
-    constexpr int bits = 32 * W;
+    constexpr int bits = WordBits * W;
     constexpr int wanted = 40;
     const auto sumExponent = PlainExponent(sum);
     const auto termExponent = PlainExponent(term);
@@ -73,11 +74,10 @@ std::optional<uint> AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, 
                           .wholeGroups = endTest == EndTest::EveryFourthTerm,
                           .next = next,
                           .ratio = [](Word index) { return PreparedRatio(Ratio(index)); }};
-    const auto add = avx2Chosen ? AddTailAvx2<W> : AddTailSse2<W>;
-    return add(sum.mantissa.table, start);
+    return vectorKernels->Of<W>().addTail(sum.mantissa.table, start);
 }
 
-/// Adds the terms of a series to `sum` and answers the index of the last one. A series has
+/// Adds the terms of a series to `sum` and returns the index of the last one. A series has
 ///
 ///     EndTest endTest              how the sum ends
 ///     bool alternating             whether terms are subtracted and added by turns
@@ -305,7 +305,9 @@ public:
     }
 
     bool MakeTerm() {
-        carry_ += power_.Mul(factor_);
+        if (!Halved) {
+            carry_ += power_.Mul(factor_);
+        }
         term = power_;
         carry_ += term.Mul(odds_);
         Number divisor = evens_;
@@ -318,6 +320,11 @@ public:
     }
 
     bool Advance() {
+        // The first power of the halved series is the factor itself: not 1 times it, which would
+        // drop flag bits without a meaning.
+        if (Halved) {
+            carry_ += power_.Mul(factor_);
+        }
         carry_ += odd_.Add(two_);
         carry_ += even_.Add(two_);
         carry_ += odds_.Mul(odd_);
@@ -436,7 +443,7 @@ Number ArcSineFromHalf(const Number& x) {
     Number distance = one;
     distance.Sub(x);
     Number sum = one;
-    ArcSineSeries<Number, true> series(one, distance);
+    ArcSineSeries<Number, true> series(distance, distance);
     Sum(series, sum);
     distance.exponent.AddOne();
     Number half = one;
@@ -455,34 +462,28 @@ Number ArcSineFromHalf(const Number& x) {
 namespace ttmath {
 
 #define BIGNUMBER_DEFINE_SERIES(E, W)                                       \
-    template <>                                                             \
-    void Big<E, W>::ExpSurrounding0(const Big<E, W>& x, uint* steps) {      \
+    BIGNUMBER_KERNEL_EXP(E, W) {                                            \
         const uint last = vqz::kernels::Exponential(*this, x);              \
         if (steps != nullptr) {                                             \
             *steps = last;                                                  \
         }                                                                   \
     }                                                                       \
-    template <>                                                             \
-    void Big<E, W>::LnSurrounding1(const Big<E, W>& x, uint* steps) {       \
+    BIGNUMBER_KERNEL_LN(E, W) {                                             \
         const std::optional<uint> last = vqz::kernels::Logarithm(*this, x); \
         if (steps != nullptr && last) {                                     \
             *steps = *last;                                                 \
         }                                                                   \
     }                                                                       \
-    template <>                                                             \
-    Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>& x) {               \
+    BIGNUMBER_KERNEL_ATAN(E, W) {                                           \
         return vqz::kernels::ArcTangent(x);                                 \
     }                                                                       \
-    template <>                                                             \
-    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>& x) {            \
+    BIGNUMBER_KERNEL_SIN(E, W) {                                            \
         return vqz::kernels::Sine(x);                                       \
     }                                                                       \
-    template <>                                                             \
-    Big<E, W> auxiliaryfunctions::ASin_0(const Big<E, W>& x) {              \
+    BIGNUMBER_KERNEL_ASIN_TO_HALF(E, W) {                                   \
         return vqz::kernels::ArcSineToHalf(x);                              \
     }                                                                       \
-    template <>                                                             \
-    Big<E, W> auxiliaryfunctions::ASin_1(const Big<E, W>& x) {              \
+    BIGNUMBER_KERNEL_ASIN_FROM_HALF(E, W) {                                 \
         return vqz::kernels::ArcSineFromHalf(x);                            \
     }
 

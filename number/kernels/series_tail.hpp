@@ -90,19 +90,4 @@ struct TailStart {
     PreparedRatio (*ratio)(Word index);
 };
 
-/// Adds terms from index `next` on to the sum's mantissa, of W words, until adding them changes
-/// nothing. Answers the index of the last term; or 0 if a term cannot be rounded with certainty,
-/// and leaves the sum as it is. The next term is below 2^-40 of the sum, each further one at most
-/// half of the one before, and the sum's top bit does not change on the way.
-template <std::size_t W>
-Word AddTailSse2(Word* sum, const TailStart& start);
-/// The same for processors with AVX2, of systems that know its registers.
-template <std::size_t W>
-Word AddTailAvx2(Word* sum, const TailStart& start);
-
-extern template Word AddTailSse2<8>(Word*, const TailStart&);
-extern template Word AddTailSse2<64>(Word*, const TailStart&);
-extern template Word AddTailAvx2<8>(Word*, const TailStart&);
-extern template Word AddTailAvx2<64>(Word*, const TailStart&);
-
 }  // namespace vqz::kernels

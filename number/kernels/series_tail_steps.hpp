@@ -1,5 +1,5 @@
 // How the tail of a series is computed with vectors of any width; series_tail.hpp tells what is
-// computed. `Lanes` tells of one width.
+// computed. `Lanes` is a traits class of the vector width.
 #pragma once
 
 #include "number/kernels/column_sums.hpp"
@@ -8,7 +8,7 @@
 namespace vqz::kernels {
 
 /// The tail of one series, whose numbers have W words.
-template <std::size_t W, typename Lanes>
+template <int W, typename Lanes>
 class SeriesTail {
 public:
     explicit SeriesTail(const TailStart& start)
@@ -26,7 +26,7 @@ public:
         }
     }
 
-    /// Computes the terms and adds them up. Answers the index of the last one, or 0 if one cannot
+    /// Computes the terms and adds them up. Returns the index of the last one, or 0 if one cannot
     /// be rounded with certainty.
     Word Run() {
         std::int64_t change = 0;
@@ -47,7 +47,8 @@ public:
                 }
             }
         }
-        return 0;  // GCOVR_EXCL_LINE: no series of these sizes takes 2000 terms
+        // The logarithm of a mantissa with leading zero bits may take more terms, some thousands.
+        return 0;
     }
 
     /// Adds all terms to the sum's mantissa.
@@ -65,8 +66,8 @@ public:
                 limb >>= LimbBits;
                 bitCount += LimbBits;
             }
-            carry += *word + (bits & 0xFFFFFFFF);
-            *word = static_cast<Word>(carry);
+            carry += DoubleWord{*word} + Low(bits);
+            *word = Low(carry);
             carry >>= WordBits;
             bits >>= WordBits;
             bitCount -= WordBits;
@@ -122,12 +123,14 @@ private:
 
     /// The 28 bits of a mantissa from the given one on, which may lie outside.
     static Limb LimbAt(const Word* mantissa, int position) {
-        const int index = position >> 5;
+        // Rounded down, also below 0.
+        constexpr int IndexShift = std::bit_width(static_cast<Word>(WordBits)) - 1;
+        const int index = position >> IndexShift;
         const auto wordAt = [mantissa](int i) -> DoubleWord {
-            return i >= 0 && i < static_cast<int>(W) ? mantissa[i] : 0;
+            return i >= 0 && i < W ? mantissa[i] : 0;
         };
         const DoubleWord two = wordAt(index + 1) << WordBits | wordAt(index);
-        return (two >> (position & 31)) & LimbMask;
+        return (two >> (position & (WordBits - 1))) & LimbMask;
     }
 
     /// Multiplies the multiplier by ratios, limb by limb from the top, as in division by hand: what
@@ -218,12 +221,12 @@ private:
 
     static Vector HandOn(Vector limbs, Vector mask, Vector& below) {
         const Vector carries = Lanes::template ShiftRight<LimbBits>(limbs);
-        const Vector result = Lanes::Add(limbs & mask, Lanes::Follow(carries, below));
+        const Vector result = Lanes::Add(Lanes::And(limbs, mask), Lanes::Follow(carries, below));
         below = carries;
         return result;
     }
 
-    /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Answers what
+    /// Rounds the term to an integer and adds it to, or subtracts it from, the total. Returns what
     /// was added, with its sign; or Large for more than a limb, whatever its sign; or NearTie.
     std::int64_t Accumulate() {
         constexpr int fractionBits = 2 * LimbBits;
@@ -249,16 +252,5 @@ private:
         return begin_ < last ? Large : sign * (static_cast<std::int64_t>(term()[last]) + unit);
     }
 };
-
-/// AddTailSse2 or AddTailAvx2.
-template <std::size_t W, typename Lanes>
-Word AddTailInSteps(Word* sum, const TailStart& start) {
-    SeriesTail<W, Lanes> tail(start);
-    const Word last = tail.Run();
-    if (last != 0) {
-        tail.AddTo(sum);
-    }
-    return last;
-}
 
 }  // namespace vqz::kernels

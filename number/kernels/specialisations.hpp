@@ -7,70 +7,99 @@
 
 #ifdef BIGNUMBER_KERNELS
 
-// The sizes of number, in words of exponent and of mantissa: those of the two classes, and those
-// that ttmath's ToString computes in.
-#define BIGNUMBER_KERNEL_SIZES(ROW) ROW(2, 8) ROW(3, 8) ROW(16, 64) ROW(17, 64)
+#include <type_traits>
+
+#include "number/kernels/sizes.hpp"
+#include "number/kernels/words.hpp"
+
+static_assert(std::is_same_v<ttmath::uint, vqz::kernels::Word>,
+              "the kernels are made for ttmath with words of 32 bits: define TTMATH_PLATFORM32");
+
+// Each member that has a kernel, as it is declared here and defined in the file named beside it.
+// number/kernels/README.md tells which other members get to it.
+
+// arithmetic.cpp
+#define BIGNUMBER_KERNEL_ADD(E, W) \
+    template <>                    \
+    uint Big<E, W>::Add(Big<E, W> other, bool round, bool adding)
+#define BIGNUMBER_KERNEL_MUL_REF(E, W) \
+    template <>                        \
+    uint Big<E, W>::MulRef(const Big<E, W>& other, bool round)
+#define BIGNUMBER_KERNEL_MUL_UINT(E, W) \
+    template <>                         \
+    uint Big<E, W>::MulUInt(uint factor)
+#define BIGNUMBER_KERNEL_DIV_REF(E, W) \
+    template <>                        \
+    uint Big<E, W>::DivRef(const Big<E, W>& other, bool round)
+
+// power.cpp
+#define BIGNUMBER_KERNEL_POW_UINT(E, W) \
+    template <>                         \
+    uint Big<E, W>::PowUInt(Big<E, W> power)
+
+// series.cpp
+#define BIGNUMBER_KERNEL_EXP(E, W) \
+    template <>                    \
+    void Big<E, W>::ExpSurrounding0(const Big<E, W>& x, uint* steps)
+#define BIGNUMBER_KERNEL_LN(E, W) \
+    template <>                   \
+    void Big<E, W>::LnSurrounding1(const Big<E, W>& x, uint* steps)
+#define BIGNUMBER_KERNEL_ATAN(E, W) \
+    template <>                     \
+    Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>& x)
+#define BIGNUMBER_KERNEL_SIN(E, W) \
+    template <>                    \
+    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>& x)
+#define BIGNUMBER_KERNEL_ASIN_TO_HALF(E, W) \
+    template <>                             \
+    Big<E, W> auxiliaryfunctions::ASin_0(const Big<E, W>& x)
+#define BIGNUMBER_KERNEL_ASIN_FROM_HALF(E, W) \
+    template <>                               \
+    Big<E, W> auxiliaryfunctions::ASin_1(const Big<E, W>& x)
+
+// text.cpp
+#define BIGNUMBER_KERNEL_READ_INTEGER(E, W)                                               \
+    template <>                                                                           \
+    template <>                                                                           \
+    uint Big<E, W>::FromString_ReadPartBeforeComma(const char*& source, const Conv& conv, \
+                                                   bool& isRead)
+#define BIGNUMBER_KERNEL_READ_FRACTION(E, W)                                             \
+    template <>                                                                          \
+    template <>                                                                          \
+    uint Big<E, W>::FromString_ReadPartAfterComma(const char*& source, const Conv& conv, \
+                                                  bool& isRead)
+#define BIGNUMBER_KERNEL_LOGARITHM(E, W) \
+    template <>                          \
+    uint Big<E, W>::ToString_Log(const Big<E, W>& x, uint base)
+#define BIGNUMBER_KERNEL_WRITE_INTEGER(W) \
+    template <>                           \
+    template <>                           \
+    void UInt<W>::ToStringBase(std::string& text, uint base, bool negative) const
 
 namespace ttmath {
 
-#define BIGNUMBER_DECLARE_OPERATIONS(E, W)          \
-    template <>                                     \
-    uint Big<E, W>::Add(Big<E, W>, bool, bool);     \
-    template <>                                     \
-    uint Big<E, W>::MulRef(const Big<E, W>&, bool); \
-    template <>                                     \
-    uint Big<E, W>::MulUInt(uint);                  \
-    template <>                                     \
-    uint Big<E, W>::DivRef(const Big<E, W>&, bool);
+#define BIGNUMBER_DECLARE_KERNELS(E, W)    \
+    BIGNUMBER_KERNEL_ADD(E, W);            \
+    BIGNUMBER_KERNEL_MUL_REF(E, W);        \
+    BIGNUMBER_KERNEL_MUL_UINT(E, W);       \
+    BIGNUMBER_KERNEL_DIV_REF(E, W);        \
+    BIGNUMBER_KERNEL_POW_UINT(E, W);       \
+    BIGNUMBER_KERNEL_EXP(E, W);            \
+    BIGNUMBER_KERNEL_LN(E, W);             \
+    BIGNUMBER_KERNEL_ATAN(E, W);           \
+    BIGNUMBER_KERNEL_SIN(E, W);            \
+    BIGNUMBER_KERNEL_ASIN_TO_HALF(E, W);   \
+    BIGNUMBER_KERNEL_ASIN_FROM_HALF(E, W); \
+    BIGNUMBER_KERNEL_READ_INTEGER(E, W);   \
+    BIGNUMBER_KERNEL_READ_FRACTION(E, W);
+#define BIGNUMBER_DECLARE_LOGARITHM(E, W) BIGNUMBER_KERNEL_LOGARITHM(E, W);
+#define BIGNUMBER_DECLARE_WRITING(W) BIGNUMBER_KERNEL_WRITE_INTEGER(W);
 
-#define BIGNUMBER_DECLARE_POWER(E, W) \
-    template <>                       \
-    uint Big<E, W>::PowUInt(Big<E, W>);
+BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_KERNELS)
+BIGNUMBER_TEXT_SIZES(BIGNUMBER_DECLARE_LOGARITHM)
+BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_DECLARE_WRITING)
 
-#define BIGNUMBER_DECLARE_SERIES(E, W)                        \
-    template <>                                               \
-    void Big<E, W>::ExpSurrounding0(const Big<E, W>&, uint*); \
-    template <>                                               \
-    void Big<E, W>::LnSurrounding1(const Big<E, W>&, uint*);  \
-    template <>                                               \
-    Big<E, W> auxiliaryfunctions::ATan0(const Big<E, W>&);    \
-    template <>                                               \
-    Big<E, W> auxiliaryfunctions::Sin0pi05(const Big<E, W>&); \
-    template <>                                               \
-    Big<E, W> auxiliaryfunctions::ASin_0(const Big<E, W>&);   \
-    template <>                                               \
-    Big<E, W> auxiliaryfunctions::ASin_1(const Big<E, W>&);
-
-#define BIGNUMBER_DECLARE_READING(E, W)                                               \
-    template <>                                                                       \
-    template <>                                                                       \
-    uint Big<E, W>::FromString_ReadPartBeforeComma(const char*&, const Conv&, bool&); \
-    template <>                                                                       \
-    template <>                                                                       \
-    uint Big<E, W>::FromString_ReadPartAfterComma(const char*&, const Conv&, bool&);
-
-#define BIGNUMBER_DECLARE_LOGARITHM(E, W) \
-    template <>                           \
-    uint Big<E, W>::ToString_Log(const Big<E, W>&, uint);
-
-#define BIGNUMBER_DECLARE_WRITING(W) \
-    template <>                      \
-    template <>                      \
-    void UInt<W>::ToStringBase(std::string&, uint, bool) const;
-
-BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_OPERATIONS)
-BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_POWER)
-BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_SERIES)
-BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DECLARE_READING)
-BIGNUMBER_DECLARE_LOGARITHM(3, 8)
-BIGNUMBER_DECLARE_LOGARITHM(17, 64)
-BIGNUMBER_DECLARE_WRITING(8)
-BIGNUMBER_DECLARE_WRITING(64)
-
-#undef BIGNUMBER_DECLARE_OPERATIONS
-#undef BIGNUMBER_DECLARE_POWER
-#undef BIGNUMBER_DECLARE_SERIES
-#undef BIGNUMBER_DECLARE_READING
+#undef BIGNUMBER_DECLARE_KERNELS
 #undef BIGNUMBER_DECLARE_LOGARITHM
 #undef BIGNUMBER_DECLARE_WRITING
 

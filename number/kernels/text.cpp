@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
 #include "number/kernels/growing_integer.hpp"
 #include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/power.hpp"
@@ -25,14 +26,21 @@ struct BasePower {
     int digits;
 };
 
-constexpr BasePower LargestPower(uint base) {
-    BasePower largest{base, 1};
-    while (largest.power <= std::numeric_limits<uint>::max() / base) {
-        largest.power *= base;
-        ++largest.digits;
+inline constexpr uint MinBase = 2;
+inline constexpr uint MaxBase = 16;
+
+constexpr auto LargestPowers = [] {
+    std::array<BasePower, MaxBase + 1> powers{};
+    for (uint base = MinBase; base <= MaxBase; ++base) {
+        BasePower largest{base, 1};
+        while (largest.power <= std::numeric_limits<uint>::max() / base) {
+            largest.power *= base;
+            ++largest.digits;
+        }
+        powers[base] = largest;
     }
-    return largest;
-}
+    return powers;
+}();
 
 /// Writes the digits of a block, the last first, and ends where they end. `Base` 0 is any base.
 template <uint Base>
@@ -44,27 +52,29 @@ void WriteBlock(char* end, uint block, uint base, int digits) {
     }
 }
 
-/// Appends the digits of an integer other than 0. A block of digits that fits into a word is
-/// divided off at a time, the lowest first. Two divisions go over the words together, the second
-/// one works on the first one's quotient: a division waits for the rest of the word before, but not
-/// for the other.
+/// Appends the digits of an integer of `words` words, of which the highest is not 0. A block of
+/// digits that fits into a word is divided off at a time, the lowest first. Two divisions go over
+/// the words together, the second one divides the first one's quotient: each division waits for the
+/// remainder of the word before, but not for the other division.
 template <uint W>
-void AppendDigits(std::string& text, UInt<W> integer, uint base) {
-    // A block has 28 bits at least, as the base has 4 at most.
-    constexpr std::size_t maxBlocks = 32 * W / 28 + 2;
+void AppendDigits(std::string& text, const UInt<W>& integer, std::size_t words, uint base) {
+    // A block has at least WordBits - 4 bits: one more digit, of 4 bits at most, would not fit.
+    constexpr std::size_t maxBlocks = W * WordBits / (WordBits - 4) + 2;
     std::array<uint, maxBlocks + 1> blocks;
-    const BasePower block = LargestPower(base);
+    std::array<uint, W> left;
+    std::copy_n(integer.table, words, left.begin());
+    const BasePower block = LargestPowers[base];
     std::size_t count = 0;
-    for (std::size_t words = W; words > 0; count += 2) {
+    for (; words > 0; count += 2) {
         uint first = 0;
         uint second = 0;
         for (std::size_t i = words; i > 0; --i) {
-            const uint quotient = DivideWords(first, integer.table[i - 1], block.power, first);
-            integer.table[i - 1] = DivideWords(second, quotient, block.power, second);
+            const uint quotient = DivideWords(first, left[i - 1], block.power, first);
+            left[i - 1] = DivideWords(second, quotient, block.power, second);
         }
         blocks[count] = first;
         blocks[count + 1] = second;
-        while (words > 0 && integer.table[words - 1] == 0) {
+        while (words > 0 && left[words - 1] == 0) {
             --words;
         }
     }
@@ -94,7 +104,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     text.clear();
     uint word = 0;
     uint bit = 0;
-    if (base < 2 || base > 16) {
+    if (base < MinBase || base > MaxBase) {
         return;
     }
     if (!integer.FindLeadingBit(word, bit)) {
@@ -107,7 +117,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     if (negative) {
         text = '-';
     }
-    AppendDigits(text, integer, base);
+    AppendDigits(text, integer, word + 1, base);
 }
 
 /// Goes over the digits of a text.
@@ -143,9 +153,9 @@ private:
     }
 };
 
-/// Makes `number` what ToString wants to know of the logarithm of x = 2^n to the base 10: between
-/// which integers it lies. It is the half between them then; or 0 if n is 0. Answers whether that
-/// can be told.
+/// ToString asks for log10(x) only to round it down or up. For x = 2^n it is enough to know between
+/// which two integers the logarithm lies: this sets `number` to the half between them, or to 0 if n
+/// is 0. Returns false, and leaves `number` alone, if the integers cannot be told with certainty.
 template <uint E, uint W>
 bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
     // log10(2) * 2^32. It is off by less than 1/2, so that the product with at most 2^20 is off by
@@ -180,13 +190,13 @@ bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
 }
 
 /// Reads digits as long as their integer fits into a mantissa, where no step on the way would be
-/// rounded. They are read by blocks that fit into a word, near the end one by one. Answers how many
+/// rounded. They are read by blocks that fit into a word, near the end one by one. Returns how many
 /// there were.
 template <uint E, uint W>
 uint ReadExactly(DigitReader& reader, uint base, Big<E, W>& number) {
     GrowingInteger<W> integer;
     uint count = 0;
-    for (uint limit = LargestPower(base).power; limit != 0;) {
+    for (uint limit = LargestPowers[base].power; limit != 0;) {
         const char* const start = reader.place();
         uint block = 0;
         uint power = 1;
@@ -268,25 +278,18 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
 
 namespace ttmath {
 
-#define BIGNUMBER_DEFINE_READING(E, W)                                                    \
-    template <>                                                                           \
-    template <>                                                                           \
-    uint Big<E, W>::FromString_ReadPartBeforeComma(const char*& source, const Conv& conv, \
-                                                   bool& value_read) {                    \
-        return vqz::kernels::ReadIntegerPart(*this, source, conv, value_read);            \
-    }                                                                                     \
-    template <>                                                                           \
-    template <>                                                                           \
-    uint Big<E, W>::FromString_ReadPartAfterComma(const char*& source, const Conv& conv,  \
-                                                  bool& value_read) {                     \
-        return vqz::kernels::ReadFraction(*this, source, conv, value_read);               \
+#define BIGNUMBER_DEFINE_READING(E, W)                                     \
+    BIGNUMBER_KERNEL_READ_INTEGER(E, W) {                                  \
+        return vqz::kernels::ReadIntegerPart(*this, source, conv, isRead); \
+    }                                                                      \
+    BIGNUMBER_KERNEL_READ_FRACTION(E, W) {                                 \
+        return vqz::kernels::ReadFraction(*this, source, conv, isRead);    \
     }
 
 BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
 
 #define BIGNUMBER_DEFINE_LOGARITHM(E, W)                                         \
-    template <>                                                                  \
-    uint Big<E, W>::ToString_Log(const Big<E, W>& x, uint base) {                \
+    BIGNUMBER_KERNEL_LOGARITHM(E, W) {                                           \
         if (base == 10 && vqz::kernels::SetHalfNearDecimalLogarithm(*this, x)) { \
             return 0;                                                            \
         }                                                                        \
@@ -302,17 +305,13 @@ BIGNUMBER_KERNEL_SIZES(BIGNUMBER_DEFINE_READING)
         return c == 0 ? 0 : 1;                                                   \
     }
 
-BIGNUMBER_DEFINE_LOGARITHM(3, 8)
-BIGNUMBER_DEFINE_LOGARITHM(17, 64)
+BIGNUMBER_TEXT_SIZES(BIGNUMBER_DEFINE_LOGARITHM)
 
-#define BIGNUMBER_DEFINE_WRITING(W)                                                \
-    template <>                                                                    \
-    template <>                                                                    \
-    void UInt<W>::ToStringBase(std::string& result, uint b, bool negative) const { \
-        vqz::kernels::WriteInteger(result, *this, b, negative, ToStringLog2(b));   \
+#define BIGNUMBER_DEFINE_WRITING(W)                                                  \
+    BIGNUMBER_KERNEL_WRITE_INTEGER(W) {                                              \
+        vqz::kernels::WriteInteger(text, *this, base, negative, ToStringLog2(base)); \
     }
 
-BIGNUMBER_DEFINE_WRITING(8)
-BIGNUMBER_DEFINE_WRITING(64)
+BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_DEFINE_WRITING)
 
 }  // namespace ttmath

@@ -1,15 +1,17 @@
-// Words, and the few operations on them that the language has no operator for.
+// Words, and what portable C++ can do with them.
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 namespace vqz::kernels {
 
-/// A number's unit of storage; mantissas are words, the lowest first.
+/// A number's unit of storage, the same as ttmath's; mantissas are words, the lowest first.
 using Word = std::uint32_t;
 using DoubleWord = std::uint64_t;
 
-inline constexpr int WordBits = 32;
+inline constexpr int WordBits = std::numeric_limits<Word>::digits;
+static_assert(std::numeric_limits<DoubleWord>::digits == 2 * WordBits);
 inline constexpr Word TopBit = Word{1} << (WordBits - 1);
 
 inline constexpr Word Low(DoubleWord value) {
@@ -30,58 +32,5 @@ inline int WithoutLowZeros(const Word* words, int count) {
     }
     return count - zeros;
 }
-
-/// (high, low) / divisor, for high < divisor. There is no operator for it: the language would
-/// divide two double words, which is a library call on a 32-bit processor.
-inline Word DivideWords(Word high, Word low, Word divisor, Word& remainder) {
-    Word quotient = 0;
-    asm("divl %4" : "=a"(quotient), "=d"(remainder) : "a"(low), "d"(high), "rm"(divisor) : "cc");
-    return quotient;
-}
-
-/// target += left * right + carry. Answers the word that is carried over. The compiler would keep
-/// the carry in memory.
-inline Word AddProduct(Word& target, Word left, Word right, Word carry) {
-    Word high = 0;
-    asm("mull %[right]\n\t"
-        "addl %[carry], %%eax\n\t"
-        "adcl $0, %%edx\n\t"
-        "addl %%eax, %[target]\n\t"
-        "adcl $0, %%edx"
-        : [target] "+m"(target), "=&d"(high), "+&a"(left)
-        : [right] "r"(right), [carry] "r"(carry)
-        : "cc");
-    return high;
-}
-
-/// A sum of products of words, and of what the sum before carries over.
-class ColumnSum {
-public:
-    /// Adds left * right. The compiler would find the carry by a comparison.
-    // NOLINTNEXTLINE(misc-unused-parameters): the assembly uses them.
-    void AddProduct(Word left, Word right) {
-        asm("mull %[right]\n\t"
-            "addl %%eax, %[low]\n\t"
-            "adcl %%edx, %[middle]\n\t"
-            "adcl $0, %[high]"
-            : [low] "+r"(low_), [middle] "+r"(middle_), [high] "+rm"(high_), "+a"(left)
-            : [right] "rm"(right)
-            : "edx", "cc");
-    }
-
-    /// The lowest word; the others are carried over to the next column.
-    Word Next() {
-        const Word lowest = low_;
-        low_ = middle_;
-        middle_ = high_;
-        high_ = 0;
-        return lowest;
-    }
-
-private:
-    Word low_ = 0;
-    Word middle_ = 0;
-    Word high_ = 0;
-};
 
 }  // namespace vqz::kernels

@@ -4,8 +4,8 @@ usage: compare.py [--basic N] [--function N] [--composed N] [--text N] [--bits B
                   [--cache FOLDER] [--emulator PROGRAM] [--library FILE] STOCK VARIANT...
 
 Each operation of a group is called N times per precision and program (tests/differential/differential.cpp
-says what with); with --bits in that precision only. The answers of the stock program are kept in the cache, if there is one, for the next
-variants and runs. A thorough run takes an hour:
+says what with); with --bits in that precision only. What the stock program computes is kept in the
+cache, if there is one, for the next variants and runs. A thorough run takes an hour:
 
     compare.py --basic 1000000 --function 20000 --composed 2000 --text 20000 --cache build/differential
                build/linux-x86/bin/differential_{stock,kernels,sse2,forced}

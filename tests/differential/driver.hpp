@@ -98,6 +98,13 @@ private:
             if (operation.prepare != nullptr) {
                 operation.prepare(pair.first, pair.second);
             }
+            if (operation.group != Group::Basic) {
+                for (Number* argument : {&pair.first, &pair.second}) {
+                    if (operands.Contradict(*argument)) {
+                        Operands<E, W>::MakeBearable(*argument);
+                    }
+                }
+            }
             if (options_.show >= 0) {
                 Print("first ", pair.first);
                 Print("second", pair.second);

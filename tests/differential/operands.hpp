@@ -84,6 +84,44 @@ public:
         return number;
     }
 
+    /// Sometimes makes an argument one that only raw access can write: flags that contradict the
+    /// mantissa or have no meaning, a mantissa with leading zero bits, or one that is 0 without the
+    /// zero flag. Returns whether it did.
+    bool Contradict(Number& number) {
+        if (!random_.OneIn(6)) {
+            return false;
+        }
+        switch (random_.Below(8)) {
+            case 0:
+                number.info = static_cast<std::uint8_t>(random_.Word());
+                break;
+            case 1:
+                number.info ^= static_cast<std::uint8_t>(1U << random_.Below(8));
+                break;
+            case 2:
+                number.info |= static_cast<std::uint8_t>(random_.Word() & NoMeaning);
+                break;
+            case 3:
+                number.mantissa.SetZero();
+                break;
+            case 4:
+                number.mantissa = SparseMantissa();
+                break;
+            default:
+                // As large as before, or not.
+                const auto bits = random_.Below(random_.OneIn(2) ? 40 : W * WordBits);
+                number.mantissa.Rcr(bits);
+                if (random_.OneIn(2)) {
+                    number.exponent.Add(ttmath::Int<E>(static_cast<ttmath::sint>(bits)));
+                }
+                break;
+        }
+        if (random_.OneIn(8)) {
+            number.info |= TTMATH_BIG_ZERO;
+        }
+        return true;
+    }
+
     /// The exponential of a number is squared as often as its exponent tells, until it overflows.
     /// That of a number that is not normalised may be 1, and would be squared for years.
     static void MakeBearable(Number& number) {
@@ -94,6 +132,10 @@ public:
     }
 
 private:
+    static constexpr std::uint32_t WordBits = TTMATH_BITS_PER_UINT;
+    /// The flag bits that ttmath does not use.
+    static constexpr std::uint32_t NoMeaning =
+        0xFFU & ~std::uint32_t{TTMATH_BIG_SIGN | TTMATH_BIG_NAN | TTMATH_BIG_ZERO};
     using Mantissa = ttmath::UInt<W>;
 
     Random random_;

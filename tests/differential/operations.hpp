@@ -13,7 +13,7 @@ namespace differential {
 /// Operations of one group are run equally often.
 enum class Group { Basic, Function, Composed, Text };
 
-/// What an operation of a number type does to `me`; text goes to `text`. Answers its carry or
+/// What an operation of a number type does to `me`; text goes to `text`. Returns its carry or
 /// error.
 template <typename Number>
 struct Operation {
@@ -143,6 +143,10 @@ std::vector<Operation<Number>> Operations() {
         {"Pow", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); }},
         {"PowInteger", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); },
          MakeIntegerPower<N>},
+        {"PowUInt", Group::Composed, [](N& me, const N& other, auto&) { return me.PowUInt(other); },
+         MakeIntegerPower<N>, false},
+        {"PowInt", Group::Composed, [](N& me, const N& other, auto&) { return me.PowInt(other); },
+         MakeIntegerPower<N>, false},
         {"PowHuge", Group::Composed, [](N& me, const N& other, auto&) { return me.Pow(other); },
          MakeHugePower<N>},
         {"Mod", Group::Composed, [](N& me, const N& other, auto&) { return me.Mod(other); }},

@@ -139,7 +139,7 @@ private:
         host_.Unlock(block);
     }
 
-    /// Answers 1 when the call failed, which every failure tells by an exception.
+    /// Returns 1 when the call failed, which every failure tells by an exception.
     ttmath::uint Call(const Member& member, Routine routine, Number& me, ttmath::uint factor,
                       std::string& text) {
         const Object partner = member.isPartner ? first_ : second_;

@@ -205,7 +205,7 @@ FAULTS = [
     ),
     *faults_in(
         "number/kernels/shift_words.hpp",
-        ("i + VectorWords < count\n", "i + VectorWords <= count\n"),
+        ("i + WordShift::Count == count", "i + WordShift::Count > count"),
     ),
     *faults_in(
         "number/kernels/add.hpp",
@@ -225,21 +225,21 @@ FAULTS = [
     *faults_in(
         "number/kernels/limb_division.hpp",
         ("top + (~top != 0 ? 1 : 0)", "top + 1"),
-        ("next = _mm_add_epi64(next, _mm_srli_epi64(columns[0], LimbBits));", ""),
-        ("_mm_andnot_si128(sum, mask)", "_mm_and_si128(sum, mask)"),
+        ("next = Pair::Add(next, Pair::ShiftRight<LimbBits>(columns[0]));", ""),
+        ("Pair::Missing(sum, mask)", "Pair::And(sum, mask)"),
     ),
     *faults_in(
         "number/kernels/limbs.hpp",
         ("whole = bytes / PairBytes;", "whole = (bytes - 1) / PairBytes;"),
-        ("_mm_srli_epi64(load(2 * pair + 1), LimbBits));", "_mm_setzero_si128());"),
+        ("Pair::ShiftRight<LimbBits>(Pair::Load(columns + 2 * pair + 1)));", "Vector{});"),
     ),
     *faults_in("number/kernels/growing_integer.hpp", ("words_ == W &&", "words_ == W + 1 &&")),
     *faults_in(
-        "number/kernels/lanes_avx2.hpp",
+        "number/kernels/processors/x86/lanes_avx2.hpp",
         ("blend_epi32(vector, next, 0x03)", "blend_epi32(vector, next, 0x01)"),
     ),
     *faults_in(
-        "number/kernels/lanes_sse2.hpp",
+        "number/kernels/processors/x86/pair.hpp",
         ("_mm_castsi128_pd(next), 1)", "_mm_castsi128_pd(next), 0)"),
     ),
     *faults_in(
@@ -253,7 +253,15 @@ FAULTS = [
         ("WithoutLowZeros(product.lower(), W - 1)", "WithoutLowZeros(product.lower(), W - 2)"),
         ("std::bit_width(above)", "std::bit_width(above) / 2 * 2"),
     ),
-    *faults_in("number/kernels/power.hpp", ("powers % 2 != 0", "powers % 2 == 0")),
+    *faults_in(
+        "number/kernels/power.hpp",
+        ("powers % 2 != 0", "powers % 2 == 0"),
+        ("PlainExponent(power) &&", "power.mantissa.IsTheHighestBitSet() &&"),
+    ),
+    *faults_in(
+        "number/kernels/processors/x86/carry_chains.hpp",
+        ('BIGNUMBER_CHAIN_LINK(OPERATION, "28")', ""),
+    ),
     *faults_in(
         "number/kernels/scaled_words.hpp",
         ("number.mantissa.table[W - 1] = TopBit;", ""),

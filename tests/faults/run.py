@@ -42,8 +42,8 @@ PROGRAMS = Stage(COMMAND, "tests/programs/", SLOW_PROGRAMS)
 TABLES = Stage(("BigNumberVQZ", "table_tests"), "unit/table_tests")
 OPERATIONS = Stage(("BigNumberVQZ", "operation_tests"), "unit/operation_tests/(others|256)")
 KERNELS = Stage(
-    tuple(f"differential_{variant}" for variant in ("stock", "kernels", "sse2", "forced")),
-    "differential/(sample|functions)",
+    ("kernel_tests", *(f"differential_{variant}" for variant in ("stock", "kernels", "sse2", "forced"))),
+    "unit/kernel_tests$|differential/(sample|functions)",
 )
 
 # Where the first failure is likely, by the longest beginning of the file's name; the rest follows.

@@ -7,7 +7,7 @@
 #include <functional>
 #include <type_traits>
 
-#include <ttmath/ttmath.h>
+#include "number/kernels/specialisations.hpp"
 
 #include "tests/unit/operations/bare_calls.hpp"
 

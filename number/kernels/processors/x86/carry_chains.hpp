@@ -1,10 +1,12 @@
-// Sums and differences of rows of words. The compiler keeps a carry in a register between two
-// words; these keep it where the processor does.
+// Sums and differences of eight words. The compiler keeps a carry in a register
+// between two words; these keep it where the processor does.
 #pragma once
 
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
+
+static_assert(WordBits == 32, "the chain adds 32 bits at a time");
 
 /// Words between which the carry stays in the processor's flag.
 inline constexpr int ChainWords = 8;
@@ -14,8 +16,8 @@ inline constexpr int ChainWords = 8;
     "(%[right]), %%eax\n\t"                                    \
     "movl %%eax, " OFFSET "(%[result])\n\t"
 
-// The carry is 0 or all ones between chains: adding 1 puts it into the flag, subtracting the
-// register from itself takes it out.
+// Adding 1 to a carry of all ones puts it into the flag, subtracting the register from itself takes
+// it out.
 #define BIGNUMBER_CHAIN(OPERATION)                                                              \
     asm volatile(                                                                               \
         "addl $1, %[carry]\n\t" BIGNUMBER_CHAIN_LINK(OPERATION, "0")                            \
@@ -27,34 +29,17 @@ inline constexpr int ChainWords = 8;
         : [left] "r"(left), [right] "r"(right), [result] "r"(result)                            \
         : "eax", "cc", "memory")
 
-/// result = left + right, of W words, which may all be the same. Answers the carry.
-template <int W>
+/// result = left + right + carry, of ChainWords words, which may all be the same. The carry, before
+/// and after it, is 0 or a word of ones.
 // The assembly writes there. NOLINTNEXTLINE(readability-non-const-parameter)
-bool AddWords(const Word* left, const Word* right, Word* result) {
-    static_assert(W % ChainWords == 0);
-    Word carry = 0;
-    for (int i = 0; i < W; i += ChainWords) {
-        BIGNUMBER_CHAIN("adcl");
-        left += ChainWords;
-        right += ChainWords;
-        result += ChainWords;
-    }
-    return carry != 0;
+inline void AddChain(const Word* left, const Word* right, Word* result, Word& carry) {
+    BIGNUMBER_CHAIN("adcl");
 }
 
-/// result = left - right, of W words, which may all be the same. Answers the borrow.
-template <int W>
+/// result = left - right - carry, likewise.
 // The assembly writes there. NOLINTNEXTLINE(readability-non-const-parameter)
-bool SubtractWords(const Word* left, const Word* right, Word* result) {
-    static_assert(W % ChainWords == 0);
-    Word carry = 0;
-    for (int i = 0; i < W; i += ChainWords) {
-        BIGNUMBER_CHAIN("sbbl");
-        left += ChainWords;
-        right += ChainWords;
-        result += ChainWords;
-    }
-    return carry != 0;
+inline void SubtractChain(const Word* left, const Word* right, Word* result, Word& carry) {
+    BIGNUMBER_CHAIN("sbbl");
 }
 
 #undef BIGNUMBER_CHAIN

@@ -1,0 +1,117 @@
+// How a case of the kernels' tests is written: operands with a reason, and a comparison with ttmath
+// that says by how much a result is off.
+#pragma once
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+
+#include <doctest/doctest.h>
+
+#include "tests/unit/kernels/calls.hpp"
+
+namespace kernel_tests {
+
+/// A size of number, for cases that go through all of them.
+template <unsigned E, unsigned W>
+struct Size {
+    using NumberType = Number<E, W>;
+    using Mantissa = std::array<Word, W>;
+    static constexpr int Words = W;
+    static constexpr int Bits = W * vqz::kernels::WordBits;
+
+    /// The leading words, the highest first, with `filler` in all others.
+    static Mantissa Leading(std::initializer_list<Word> words, Word filler = 0) {
+        Mantissa mantissa;
+        mantissa.fill(filler);
+        std::copy(words.begin(), words.end(), mantissa.rbegin());
+        return mantissa;
+    }
+    /// The same with the lowest word chosen, too.
+    static Mantissa Ending(Mantissa mantissa, Word lowest) {
+        mantissa[0] = lowest;
+        return mantissa;
+    }
+
+    /// mantissa * 2^exponent
+    static NumberType Make(const Mantissa& mantissa, std::int64_t exponent = 0,
+                           std::uint8_t info = 0) {
+        NumberType number{.info = info, .exponent = {}, .mantissa = mantissa};
+        number.exponent.fill(exponent < 0 ? ~Word{0} : 0);
+        number.exponent[0] = vqz::kernels::Low(static_cast<std::uint64_t>(exponent));
+        number.exponent[1] = vqz::kernels::High(static_cast<std::uint64_t>(exponent));
+        return number;
+    }
+    /// mantissa, with the point before its top bit, * 2^exponent: from 1/2 to 1 for exponent 0
+    static NumberType Fraction(const Mantissa& mantissa, std::int64_t exponent = 0,
+                               std::uint8_t info = 0) {
+        return Make(mantissa, exponent - Bits, info);
+    }
+    static NumberType Integer(Word value) {
+        Mantissa mantissa{};
+        const int zeros = std::countl_zero(value);
+        mantissa[W - 1] = value << zeros;
+        return Make(mantissa, vqz::kernels::WordBits - zeros - Bits);
+    }
+
+    /// "too large by 2" and the like: how one mantissa differs from another.
+    static std::string Difference(const Mantissa& actual, const Mantissa& expected) {
+        const bool isLarger = std::lexicographical_compare(expected.rbegin(), expected.rend(),
+                                                           actual.rbegin(), actual.rend());
+        const Mantissa& larger = isLarger ? actual : expected;
+        const Mantissa& smaller = isLarger ? expected : actual;
+        bool borrow = false;
+        Word low = 0;
+        bool isSmall = true;
+        for (std::size_t i = 0; i < W; ++i) {
+            const std::uint64_t difference =
+                std::uint64_t{larger[i]} - smaller[i] - (borrow ? 1 : 0);
+            borrow = vqz::kernels::High(difference) != 0;
+            if (i == 0) {
+                low = vqz::kernels::Low(difference);
+            } else if (vqz::kernels::Low(difference) != 0) {
+                isSmall = false;
+            }
+        }
+        if (isSmall && low == 0) {
+            return "right";
+        }
+        return std::string(isLarger ? "too large by " : "too small by ") +
+               (isSmall ? std::to_string(low) : "more than a word");
+    }
+
+    /// Calls with the kernels and without, and compares everything that comes out.
+    static Output<E, W> CheckLikePlain(Call call, const Input<E, W>& input) {
+        const auto actual = with_kernels::Compute(call, input);
+        auto expected = plain::Compute(call, input);
+        CHECK_MESSAGE(
+            Difference(actual.number.mantissa, expected.number.mantissa) == "right",
+            "the mantissa is " << Difference(actual.number.mantissa, expected.number.mantissa));
+        CHECK(actual.number.exponent == expected.number.exponent);
+        CHECK(int{actual.number.info} == int{expected.number.info});
+        CHECK(actual.carry == expected.carry);
+        CHECK(actual.text == expected.text);
+        return expected;
+    }
+    static Output<E, W> CheckLikePlain(Call call, const NumberType& first,
+                                       const NumberType& second = {}) {
+        return CheckLikePlain(call, {.first = first, .second = second, .word = 0, .text = {}});
+    }
+};
+
+using Small = Size<2, 8>;
+using Large = Size<16, 64>;
+
+/// The flag bits of a number.
+inline constexpr std::uint8_t SignFlag = 0x80;
+inline constexpr std::uint8_t NanFlag = 0x40;
+inline constexpr std::uint8_t ZeroFlag = 0x20;
+inline constexpr std::uint8_t FlagsWithoutMeaning = 0x1F;
+
+inline constexpr Word Ones = ~Word{0};
+inline constexpr Word Top = vqz::kernels::TopBit;
+
+}  // namespace kernel_tests

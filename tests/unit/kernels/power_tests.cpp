@@ -1,0 +1,71 @@
+// Named hard cases of integer powers (power.hpp).
+#include "tests/unit/kernels/cases.hpp"
+
+using namespace kernel_tests;
+
+namespace {
+
+constexpr auto PowerCalls = {Call::Pow, Call::PowInt, Call::PowUInt};
+
+}  // namespace
+
+TEST_CASE_TEMPLATE("an integer power", S, Small, Large) {
+    SUBCASE("whose exponent has the zero flag and a mantissa other than 0") {
+        // The units bit is set, and ttmath multiplies once: the result is the base.
+        auto power = S::Make(S::Leading({0xBC000000}), 6 - S::Bits, ZeroFlag);
+        const auto base = S::Make(S::Leading({0x8F280000}), -372282 - S::Bits);
+        for (const Call call : PowerCalls) {
+            const auto result = S::CheckLikePlain(call, base, power);
+            CHECK(result.number.mantissa == base.mantissa);
+        }
+        power.info |= SignFlag;
+        for (const Call call : PowerCalls) {
+            S::CheckLikePlain(call, base, power);
+        }
+    }
+    SUBCASE("whose exponent has any flags") {
+        for (int info = 0; info < 0x100; info += 0x10) {
+            for (const Call call : PowerCalls) {
+                CAPTURE(info);
+                auto power = S::Integer(5);
+                power.info = static_cast<std::uint8_t>(info | 1);
+                S::CheckLikePlain(call, S::Integer(3), power);
+                S::CheckLikePlain(call, power, S::Integer(3));
+            }
+        }
+    }
+    SUBCASE("whose exponent or base has leading zero bits") {
+        const auto unnormalised = S::Make(S::Leading({5}), vqz::kernels::WordBits - S::Bits);
+        for (const Call call : PowerCalls) {
+            S::CheckLikePlain(call, S::Integer(3), unnormalised);
+            S::CheckLikePlain(call, unnormalised, S::Integer(3));
+        }
+    }
+    SUBCASE("that just fits into the mantissa, and that does not") {
+        for (const Word power :
+             {Word{S::Bits - 2}, Word{S::Bits - 1}, Word{S::Bits}, Word{S::Bits + 1}}) {
+            CAPTURE(power);
+            S::CheckLikePlain(Call::Pow, S::Integer(2), S::Integer(power));
+            S::CheckLikePlain(Call::Pow, S::Integer(3), S::Integer(power));
+        }
+    }
+    SUBCASE("of a negative number") {
+        auto base = S::Integer(7);
+        base.info = SignFlag;
+        S::CheckLikePlain(Call::Pow, base, S::Integer(4));
+        S::CheckLikePlain(Call::Pow, base, S::Integer(5));
+    }
+    SUBCASE("of 0 and with 0") {
+        const auto zero = S::Make({}, 0, ZeroFlag);
+        for (const Call call : PowerCalls) {
+            CHECK(S::CheckLikePlain(call, zero, zero).carry == 2);
+            S::CheckLikePlain(call, zero, S::Integer(3));
+            S::CheckLikePlain(call, S::Integer(3), zero);
+        }
+    }
+    SUBCASE("whose result has no room") {
+        auto huge = S::Integer(3);
+        huge.exponent.back() = Ones >> 2;
+        CHECK(S::CheckLikePlain(Call::PowUInt, huge, S::Integer(100)).carry == 1);
+    }
+}

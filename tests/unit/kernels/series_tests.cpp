@@ -1,0 +1,54 @@
+// Named hard cases of the power series (series.cpp, series_tail.hpp).
+#include "tests/unit/kernels/cases.hpp"
+
+using namespace kernel_tests;
+
+TEST_CASE("a logarithm of leading zero bits takes more terms than are added in fixed point") {
+    // The series' argument is near 1 then, and its terms get small slowly: 2000 are not enough.
+    for (const Word top : {Word{0x15F619A0}, Word{0x15F719A0}, Word{0x15F819A0}}) {
+        CAPTURE(top);
+        Large::CheckLikePlain(Call::Ln, Large::Make(Large::Leading({top}), 1 - Large::Bits));
+    }
+}
+
+TEST_CASE_TEMPLATE("a series", S, Small, Large) {
+    const auto calls = {Call::Exp, Call::Ln, Call::Sin, Call::ATan, Call::ASin};
+    SUBCASE("of an argument next to 0, which has one term") {
+        for (const Call call : calls) {
+            S::CheckLikePlain(call, S::Fraction(S::Leading({Top}), 2 - S::Bits));
+        }
+    }
+    SUBCASE("of an argument of few bits, whose terms are exact for long") {
+        for (const Call call : calls) {
+            for (const int exponent : {-1, -3, -20}) {
+                S::CheckLikePlain(call, S::Fraction(S::Leading({Top}), exponent));
+            }
+        }
+    }
+    SUBCASE("of an argument next to where it is split: 1/2, 1, 2 and pi/4") {
+        for (const Call call : calls) {
+            for (const Word top : {Top, Ones, Word{0xC90FDAA2}, Word{0xC90FDAA3}}) {
+                for (const int exponent : {0, 1}) {
+                    S::CheckLikePlain(call, S::Fraction(S::Leading({top}, top), exponent));
+                }
+            }
+        }
+    }
+    SUBCASE("of 1, and of 1 with contradicting flags") {
+        for (const Call call : calls) {
+            for (const std::uint8_t info :
+                 {std::uint8_t{0}, SignFlag, ZeroFlag, NanFlag, FlagsWithoutMeaning}) {
+                S::CheckLikePlain(call, S::Fraction(S::Leading({Top}), 1, info));
+                S::CheckLikePlain(call, S::Fraction(S::Leading({0xB504F333}), 0, info));
+            }
+        }
+    }
+    SUBCASE("of the arc sine keeps flag bits without a meaning, above 1 as well") {
+        // No member passes an argument above 1.
+        for (const int exponent : {0, 1, 2}) {
+            CAPTURE(exponent);
+            S::CheckLikePlain(Call::ASinFromHalf,
+                              S::Fraction(S::Leading({0xB504F333}), exponent, FlagsWithoutMeaning));
+        }
+    }
+}
