@@ -42,7 +42,7 @@ SEED = 20
 COUNT = 150
 LEAST_SHARE = 0.95
 # Many do not compile, and some change nothing: so many are drawn for each one that has to count.
-DRAWN_FOR_EACH = 12
+DRAWN_FOR_EACH = 20
 FOUND = ROOT / "build" / "faults" / "drawn.jsonl"
 
 
@@ -119,10 +119,13 @@ def try_listed(faults: list[Fault], workshops: queue.SimpleQueue, jobs: int) -> 
 class Draw:
     """The drawn mutants, one after the other until enough of them count."""
 
-    def __init__(self, mutants: list[Mutant], count: int, resume: bool):
+    def __init__(self, mutants: list[Mutant], count: int, least: int, resume: bool):
+        """Tries until `count` of the mutants count; good are at least `least`."""
         self.waiting = collections.deque(mutants)
         self.count = count
+        self.least = least
         self.outcomes = {}
+        self.settled = set()
         self.lock = threading.Lock()
         self.known = self.read_known() if resume else {}
         FOUND.parent.mkdir(parents=True, exist_ok=True)
@@ -148,10 +151,14 @@ class Draw:
     def counted(self) -> int:
         return len(self.with_verdict(Verdict.CAUGHT, Verdict.SURVIVES))
 
+    def is_wanting(self) -> bool:
+        """Whether more have to be tried."""
+        return bool(self.waiting) and self.counted() < self.count
+
     def next(self) -> Mutant | None:
         """A mutant to try; None when enough of them count, or none is left."""
         with self.lock:
-            while self.waiting and self.counted() < self.count:
+            while self.is_wanting():
                 mutant = self.waiting.popleft()
                 if mutant not in self.known:
                     return mutant
@@ -189,7 +196,7 @@ class Draw:
         )
         if counted < self.count:
             print(f"only {counted} of the {self.count} mutants asked for were found")
-        return counted >= self.count and share >= LEAST_SHARE and not unexplained
+        return counted >= self.least and share >= LEAST_SHARE and not unexplained
 
 
 def drawn_mutants(files: list[str], seed: int, count: int) -> list[Mutant]:
@@ -207,16 +214,33 @@ def try_drawn(draw: Draw, workshops: queue.SimpleQueue, jobs: int) -> bool:
         workshop = workshops.get()
         while mutant := draw.next():
             begun = time.monotonic()
-            outcome = workshop.outcome(mutant.file, mutant.faulty_text(), thorough=True)
+            outcome = workshop.outcome(mutant.file, mutant.faulty_text())
             draw.add(mutant, outcome, time.monotonic() - begun)
         workshops.put(workshop)
 
-    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        for attempt in [pool.submit(attempt_all) for _ in range(jobs)]:
-            attempt.result()
+    # What turns out to be the same code once it is optimised makes room for others.
+    while draw.is_wanting():
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            for attempt in [pool.submit(attempt_all) for _ in range(jobs)]:
+                attempt.result()
+        look_again(draw, workshops)
     good = draw.report()
     print(f"drawn mutants took {minutes_since(started)}", flush=True)
     return good
+
+
+def look_again(draw: Draw, workshops: queue.SimpleQueue) -> None:
+    """Puts the survivors through the slow builds, which only one workshop makes."""
+    waiting = [workshops.get() for _ in range(workshops.qsize())]
+    workshop = min(waiting, key=lambda one: one.folder)
+    for mutant in draw.with_verdict(Verdict.SURVIVES):
+        if mutant not in draw.settled:
+            begun = time.monotonic()
+            outcome = workshop.second_look(mutant.file, mutant.faulty_text())
+            draw.settled.add(mutant)
+            draw.add(mutant, outcome, time.monotonic() - begun)
+    for one in waiting:
+        workshops.put(one)
 
 
 def holds(texts: list[str], *where: str) -> bool:
@@ -253,7 +277,9 @@ def main() -> None:
         workshops.put(workshop)
         mutants = drawn_mutants(files, arguments.seed, DRAWN_FOR_EACH * arguments.count)
         chosen = [mutant for mutant in mutants if holds(texts, mutant.file, mutant.before)]
-        good &= try_drawn(Draw(chosen, arguments.count, arguments.resume), workshops, jobs)
+        least = 0 if texts else arguments.count
+        draw = Draw(chosen, arguments.count, least, arguments.resume)
+        good &= try_drawn(draw, workshops, jobs)
     sys.exit(0 if good else 1)
 
 

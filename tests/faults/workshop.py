@@ -1,5 +1,6 @@
 """A copy of the sources in which faults are tried out, and the tests that have to notice them."""
 
+import contextlib
 import dataclasses
 import enum
 import os
@@ -8,6 +9,7 @@ import resource
 import shutil
 import subprocess
 import sys
+from collections.abc import Iterator
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PLAIN = "linux-x86-faults"
@@ -186,31 +188,37 @@ class Workshop:
                     names.add(name)
         return sorted(names)
 
-    def outcome(self, file: str, faulty: str, thorough: bool = False) -> Outcome:
-        """What becomes of a fault: of the file with this text. A thorough trial goes on, where the
-        other tests notice nothing, to compare optimised code and to run sanitized tests."""
+    @contextlib.contextmanager
+    def fault_in(self, file: str, faulty: str) -> Iterator[None]:
+        """While it lasts, the file has this text."""
         path = self.folder / file
         sound = path.read_text(encoding="utf-8")
+        path.write_text(faulty, encoding="utf-8")
         try:
-            path.write_text(faulty, encoding="utf-8")
+            yield
+        finally:
+            path.write_text(sound, encoding="utf-8")
+
+    def outcome(self, file: str, faulty: str) -> Outcome:
+        """What becomes of a fault: of the file with this text."""
+        with self.fault_in(file, faulty):
             if not self.make(PLAIN, LIBRARY):
                 return Outcome(Verdict.NO_BUILD)
             if self.has_same_code(PLAIN):
                 return Outcome(Verdict.SAME_CODE)
-            outcome = self.outcome_of(stages_for(file))
-            if outcome.verdict is not Verdict.SURVIVES or not thorough:
-                return outcome
-            if OPTIMISED not in self.sound_libraries:
-                path.write_text(sound, encoding="utf-8")
-                self.prepare(OPTIMISED)
-                self.prepare(SANITIZED, *WITH_SANITIZERS.targets)
-                self.expect_sound(WITH_SANITIZERS)
-                path.write_text(faulty, encoding="utf-8")
+            return self.outcome_of(stages_for(file))
+
+    def second_look(self, file: str, faulty: str) -> Outcome:
+        """What becomes of a fault that `outcome` says survives: whether the optimised library is
+        another one at all, and whether sanitized tests notice it."""
+        if OPTIMISED not in self.sound_libraries:
+            self.prepare(OPTIMISED)
+            self.prepare(SANITIZED, *WITH_SANITIZERS.targets)
+            self.expect_sound(WITH_SANITIZERS)
+        with self.fault_in(file, faulty):
             if self.make(OPTIMISED, LIBRARY) and self.has_same_code(OPTIMISED):
                 return Outcome(Verdict.SAME_CODE, "once it is optimised")
             return self.outcome_of([WITH_SANITIZERS])
-        finally:
-            path.write_text(sound, encoding="utf-8")
 
     def outcome_of(self, stages: list[Stage]) -> Outcome:
         for stage in stages:

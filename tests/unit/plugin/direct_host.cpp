@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include <doctest/doctest.h>
+
 #include "number/number_value.hpp"
 #include "platform/platform.hpp"
 #include "plugin/class_tables.hpp"
@@ -56,6 +58,7 @@ DirectHost::~DirectHost() {
     for (std::size_t index = 0; index < std::size(before_.records); ++index) {
         PutBack(*Records()[index], before_.records[index]);
     }
+    CHECK(LivingBuffers() == buffersBefore_);
 }
 
 void DirectHost::RegisterClasses() {

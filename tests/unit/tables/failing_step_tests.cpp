@@ -176,6 +176,16 @@ TEST_CASE("A property of a Variant counts as it was written, though the host tel
             CHECK(number.Text(NumberWithVariant(number, variant.Get()).Get()) == "0.0065");
         }
     }
+    SUBCASE("a UInt64, which its class tells") {
+        WatchedPlugin plugin(
+            {Replace<functions::REALGetPropValueUInt64>("REALGetPropValueUInt64", &WriteAndFail)});
+        WatchedPlugin::Hide("VariantToUInt64");
+        for (NumberClass& number : plugin.classes()) {
+            const HeldObject variant(plugin.host().MakeVariant(
+                static_cast<std::int32_t>(VariantTypeCode::Int64), std::uint64_t{7}));
+            CHECK(number.Text(NumberWithVariant(number, variant.Get()).Get()) == "65");
+        }
+    }
     SUBCASE("the type") {
         WatchedPlugin plugin({Replace<functions::REALGetPropValueInteger>("REALGetPropValueInteger",
                                                                           &WriteTypeAndFail)});
@@ -246,5 +256,33 @@ TEST_CASE("A block whose size is below 0 counts as one of size 0 and changes not
                   "too small. Range is " +
                       size + " to " + size + ", but value is 0.");
         }
+    }
+}
+
+TEST_CASE("Text that no number can hold raises, and a NaN is made all the same") {
+    LoadedPlugin plugin;
+    const HeldString text = plugin.MakeString("1e" + std::string(1000, '9'));
+    const HeldObject variant(
+        plugin.host().MakeVariant(static_cast<std::int32_t>(VariantTypeCode::String), text.Get()));
+    for (NumberClass& number : plugin.classes()) {
+        const auto fromText = tests::CallRoutine<HeldObject>(
+            number.SharedMethod("NumberWithString(value as String) as $").function, text.Get());
+        CHECK(TakeRaised(plugin.host()) ==
+              std::string(OverflowOf) + "Constructor operation failed.");
+        REQUIRE(fromText);
+        CHECK(number.Get<bool>("IsNan", fromText.Get()));
+
+        const HeldObject fromVariant = NumberWithVariant(number, variant.Get());
+        CHECK(TakeRaised(plugin.host()) ==
+              std::string(OverflowOf) + "Constructor operation failed.");
+        REQUIRE(fromVariant);
+        CHECK(number.Get<bool>("IsNan", fromVariant.Get()));
+
+        // The setter reports the number that the Variant's type made 0 before.
+        const HeldObject set = number.Make("7");
+        number.Set("VariantValue", set.Get(), variant.Get());
+        CHECK(TakeRaised(plugin.host()) ==
+              std::string(OverflowOf) + "StringValue operation failed with number 0.");
+        CHECK(number.Get<bool>("IsNan", set.Get()));
     }
 }

@@ -54,6 +54,32 @@ void* LoadedMethod(const char* module, const char* declaration) {
     return knowsMethods ? original(module, declaration) : nullptr;
 }
 
+int timesLent = 0;
+int timesGivenBack = 0;
+int timesAskedForEncoding = 0;
+
+host_interface::BooleanWord CountedLoan(host_interface::String text, std::uint32_t encoding,
+                                        host_interface::StringData* out) {
+    ++timesLent;
+    static const auto original = reinterpret_cast<functions::PluginGetStringData*>(
+        standin::Host::Resolve("PluginGetStringData"));
+    return original(text, encoding, out);
+}
+
+void CountedReturn(host_interface::StringData* data) {
+    ++timesGivenBack;
+    static const auto original = reinterpret_cast<functions::PluginDisposeStringData*>(
+        standin::Host::Resolve("PluginDisposeStringData"));
+    original(data);
+}
+
+std::uint32_t CountedEncoding(host_interface::String text) {
+    ++timesAskedForEncoding;
+    static const auto original = reinterpret_cast<functions::REALGetStringEncoding*>(
+        standin::Host::Resolve("REALGetStringEncoding"));
+    return original(text);
+}
+
 int timesAskedForVersion = 0;
 
 double ToldVersion() {
@@ -377,6 +403,38 @@ TEST_CASE("The host's version and kind are asked for at the start only") {
     CallEverything(plugin.loaded());
     CHECK(timesAskedForVersion == 1);
     CHECK(timesAskedForRuntime == 1);
+}
+
+TEST_CASE("A text is asked for its encoding and its bytes once, and they are given back once") {
+    WatchedPlugin plugin(
+        {Replace<functions::PluginGetStringData>("PluginGetStringData", &CountedLoan),
+         Replace<functions::PluginDisposeStringData>("PluginDisposeStringData", &CountedReturn),
+         Replace<functions::REALGetStringEncoding>("REALGetStringEncoding", &CountedEncoding)});
+    for (NumberClass& number : plugin.classes()) {
+        int members = 0;
+        for (const Member& member : MembersOf(number)) {
+            const bool takesVariant = member.Takes("variant");
+            if (!member.Takes("string") && !takesVariant) {
+                continue;
+            }
+            CAPTURE(member.name());
+            tests::OwnedSamples owned(plugin.loaded(), number);
+            const HeldString text = plugin.MakeString("5\xE9", HostTextEncoding::Latin1);
+            const HeldObject variant = Variant(plugin, VariantTypeCode::String, text.Get());
+            tests::Samples samples = owned.Get();
+            samples.text = text.Get();
+            samples.variant = variant.Get();
+            samples.integer = 10;
+            timesLent = timesGivenBack = timesAskedForEncoding = 0;
+            member.Call(samples);
+            CHECK(timesLent == 1);
+            CHECK(timesGivenBack == 1);
+            CHECK(timesAskedForEncoding == 1);
+            CHECK(TakeRaised(plugin.host()) == "");
+            ++members;
+        }
+        CHECK(members == 9);
+    }
 }
 
 TEST_CASE("The environment is read at the start only") {
