@@ -14,12 +14,40 @@ import contextlib
 import io
 import json
 import math
+import os
 import pathlib
 import random
+import re
 
 from universalmutator import mutator
 
 RULES = ["universal.rules", "c_like.rules", "cpp.rules"]
+
+
+def may_compile(lines: list[str], number: int, after: str) -> bool:
+    """False for what the compiler would refuse anyway: the rules know nothing of templates, pointers
+    and references, of numbers in names, and of where a loop is. Binary operators stand between blanks
+    here, as clang-format leaves them."""
+    before = lines[number - 1]
+    if before.lstrip().startswith(("//", "template")):
+        return False
+    if after.lstrip().startswith("/*") and re.search(r"^\s*[})#]|[{,(]$", before):
+        return False
+    if after.startswith(before.rstrip()) and (jump := re.search(r"\b(break|continue);$", after)):
+        loops = r"^( +)(?:for|while|do)\b" if jump[1] == "continue" else r"^( +)(?:for|while|do|switch)\b"
+        outer = [re.match(loops, line) for line in lines[max(0, number - 20) : number]]
+        indent = len(before) - len(before.lstrip())
+        return any(match and len(match[1]) < indent for match in outer)
+    place = len(os.path.commonprefix([before, after]))
+    if before[place - 1 : place] in ("<", ">") and after[place : place + 1] == "=":
+        place -= 1
+    left, changed, right = before[:place], before[place : place + 1], before[place + 1 :]
+    if changed and changed in "<>*&+|":
+        return left.endswith(" ") and right.startswith((" ", "="))
+    digits = re.match(r"[0-9]+", before[place:])
+    if digits and not after[place:].startswith(digits[0]):
+        return re.search(r"\w$", left) is None and re.match(r"[0-9]+\w", before[place:]) is None
+    return True
 
 
 def mutants_by_line(name: str) -> dict[int, list[dict]]:
@@ -29,6 +57,8 @@ def mutants_by_line(name: str) -> dict[int, list[dict]]:
         found = mutator.mutants_regexp(lines, RULES, ignorePatterns=[])
     by_line = collections.defaultdict(list)
     for number, after, *_ in found:
+        if not may_compile(lines, number, after):
+            continue
         mutant = {"file": name, "line": number, "before": lines[number - 1], "after": after}
         by_line[number].append(mutant)
     return by_line

@@ -18,7 +18,7 @@ it is optimised. Mutants are drawn until enough of them count.
   --seed N    draws others
   --resume    keeps what an earlier run with the same seed found, and tries its survivors again
   --jobs N    how many are tried at the same time
-  TEXT...     only faults whose file or line holds one of the texts
+  TEXT...     only listed faults, or with --drawn only mutants, whose file or line holds one of these
 """
 
 import argparse
@@ -271,7 +271,7 @@ def main() -> None:
     if not arguments.drawn:
         listed = [fault for fault in FAULTS if holds(texts, fault.file, fault.before)]
         good &= try_listed(listed, workshops, jobs)
-    if not arguments.listed:
+    if arguments.drawn or not (arguments.listed or texts):
         workshop = workshops.get()
         files = workshop.sources_of_library()
         workshops.put(workshop)
