@@ -13,4 +13,16 @@ class Explained:
     reason: str
 
 
-EXPLAINED: list[Explained] = []
+EXPLAINED = [
+    Explained(
+        'constexpr std::array Words = {"1", "true", "yes"};',
+        'constexpr std::array Words = {"1" , "yes", "true"};',
+        "Whether any of the words is the setting does not depend on their order.",
+    ),
+    Explained(
+        "std::current_exception();",
+        "/*std::current_exception();*/",
+        "Native language runtimes keep what this prepares in thread-local memory, which is there from "
+        "the start. It is for the runtime of Windows, which these builds do not have.",
+    ),
+]
