@@ -21,6 +21,7 @@ FAULTS = [
         "host/byte_view.hpp",
         ("text->storage + 1", "text->storage"),
         ("length_ = text->length", "length_ = text->length - 1"),
+        ("std::max<std::int32_t>(host::memoryBlockGetSize(block), 0)", "host::memoryBlockGetSize(block)"),
         ("ObjectReference::Share(block)", "ObjectReference(block)"),
     ),
     *faults_in(
@@ -34,6 +35,8 @@ FAULTS = [
         ("IsAnyOf<std::range_error, std::out_of_range>", "IsAnyOf<std::range_error>"),
         ("if (!exception) {\n        exception = ", "if (false) {\n        exception = "),
         ('"ErrorNumber", 0', '"ErrorNumber", 1'),
+        ('REALSetPropValueString(exception.Get(), "Message", message);',
+         'if (!REALSetPropValueString(exception.Get(), "Message", message)) {\n        return;\n    }'),
         ("RuntimeAddString(head.Get(), suffix.Get())", "RuntimeAddString(suffix.Get(), head.Get())"),
         ("static_cast<long long>(end - 1)", "static_cast<long long>(end)"),
         ('value < minimum ? "small"', 'value <= minimum ? "small"'),
@@ -59,6 +62,9 @@ FAULTS = [
          "kind = TextKind::Unchecked;\n            break;\n        case HostTextEncoding::Unknown"),
         ("std::memcpy(temp[index], data[index], count);", "std::memcpy(temp[index], data[index], count - 1);"),
         ("HostVersion < FirstVersionWithStringData", "HostVersion <= FirstVersionWithStringData"),
+        ('Fail("REALGetStringData failed.");\n        return;', 'Fail("REALGetStringData failed.");'),
+        ('LogIfEnabled("REALGetStringData...");\n    }',
+         'LogIfEnabled("REALGetStringData...");\n    }\n    hasStringData[index] = true;'),
         ('Fail("REALBuildUnicodeString failed");', ""),
         ("HostTextEncoding::WindowsAnsi).Get()", "HostTextEncoding::Latin1).Get()"),
     ),
@@ -86,6 +92,13 @@ FAULTS = [
         ("IsInstance(variant, UInt64Class) ? VariantTypeUInt64", "IsInstance(variant, UInt64Class) ? VariantTypeUInt32"),
         ("object != nullptr && IsInstance", "IsInstance"),
         ("classReference != nullptr && ", ""),
+        ("static const ClassReference UInt32Class", "const ClassReference UInt32Class"),
+        ("static const ClassReference UInt64Class", "const ClassReference UInt64Class"),
+        ("if (VarType == nullptr) {", "if (true) {"),
+        ("propertyReader(variant, property, &value);\n        return value;",
+         "return propertyReader(variant, property, &value) ? value : T();"),
+        ('REALGetPropValueInteger(variant, "Type", &type);',
+         'if (!REALGetPropValueInteger(variant, "Type", &type)) {\n        return 0;\n    }'),
     ),
     *faults_in("host/random.hpp", ("SystemRandom(value) ? value", "SystemRandom(value) ? 4")),
     *faults_in(
@@ -114,6 +127,8 @@ FAULTS = [
         "plugin/bindings/host_functions.hpp",
         ('"REALGetPropValueCurrency", "REALGetPropValueInt64"', '"REALGetPropValueCurrency"'),
         ("LowByte = 0xFF", "LowByte = 0xFFFF"),
+        ("if (address_ == nullptr) {", "if (true) {"),
+        ("if (found == nullptr && fallbackName_", "if (fallbackName_"),
     ),
     *faults_in(
         "plugin/members/operators.hpp",
@@ -137,6 +152,12 @@ FAULTS = [
         ("const auto roundCarry = value.Round();", "const ttmath::uint roundCarry = 0;"),
         ("static_cast<double>(VariantToSingle(variant))", "VariantToDouble(variant)"),
         ("StoreNumberValue(self, ZeroValue<Value>());", ""),
+        ("number.Div(CurrencyScale<Value>(), true)", "number.Div(CurrencyScale<Value>(), false)"),
+        ("value.Mul(scale, true)", "value.Mul(scale, false)"),
+        ("return 0;\n        }\n        return result;",
+         "return result;\n        }\n        return result;"),
+        ("FailureName.text);\n        return 0;\n    }\n    return amount;",
+         "FailureName.text);\n    }\n    return amount;"),
         ("NumberFrom<Value>(std::numeric_limits<Host>::max())", "NumberFrom<Value>(std::numeric_limits<Host>::max() - 1)"),
     ),
     *faults_in(
@@ -152,6 +173,8 @@ FAULTS = [
         "number/value/number_object.hpp",
         ("value == nullptr ? NilNumberValue<Value> : *value", "*value"),
         ("std::exchange(InstanceOf<Value>(object).ref, nullptr)", "InstanceOf<Value>(object).ref"),
+        ("const std::unique_ptr<Value> replaced(", "static_cast<void>("),
+        ("const std::unique_ptr<Value> dropped(", "static_cast<void>("),
     ),
     *faults_in(
         "number/value/number_value.hpp",
@@ -176,6 +199,11 @@ FAULTS = [
         ("text.Utf8Length() > 0", "text.Utf8Length() > 1"),
         ("StringReference(std::exchange(*afterText, nullptr)).Reset();", ""),
         ("*valueRead = digitsRead ? 1 : 0;", "*valueRead = 1;"),
+        ("*valueRead = 0;\n", ""),
+        ("if (failed) {\n            RaiseOverflowException<Value>(FailureName.text, self);\n"
+         "        }\n        StoreNumberValue(self, value);",
+         "StoreNumberValue(self, value);\n        if (failed) {\n"
+         "            RaiseOverflowException<Value>(FailureName.text, self);\n        }"),
         ("const StringReference held = StringReference::Share(text);", ""),
     ),
     *faults_in(

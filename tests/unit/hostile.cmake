@@ -11,5 +11,6 @@ add_unit_tests(hostile_tests
   SOURCES
     hostile/allocation_tests.cpp
     hostile/caller_tests.cpp
+    hostile/output_tests.cpp
   LIBRARIES hostile_test_support table_test_support unit_test_support standin_runtime)
 add_dependencies(hostile_tests BigNumberVQZ)

@@ -27,7 +27,8 @@ target_link_options(plugin_tests PRIVATE
 add_library(table_test_support OBJECT
   tables/loaded_plugin.cpp
   tables/members.cpp
-  tables/recipes.cpp)
+  tables/recipes.cpp
+  tables/watched_plugin.cpp)
 target_link_libraries(table_test_support PUBLIC unit_test_support)
 target_compile_definitions(table_test_support PRIVATE
   "BIGNUMBERVQZ_LIBRARY=\"$<TARGET_FILE:BigNumberVQZ>\"")
@@ -35,7 +36,10 @@ target_compile_definitions(table_test_support PRIVATE
 add_unit_tests(table_tests
   SOURCES
     tables/arithmetic_tests.cpp
+    tables/currency_tests.cpp
+    tables/failing_step_tests.cpp
     tables/lifecycle_tests.cpp
+    tables/lookup_tests.cpp
     tables/raw_access_tests.cpp
     tables/robustness_tests.cpp
     tables/table_contents_tests.cpp

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include <doctest/doctest.h>
+
 #include "number/value/number_value.hpp"
 #include "platform/platform.hpp"
 #include "plugin/bindings/startup_globals.hpp"
@@ -56,6 +58,7 @@ DirectHost::~DirectHost() {
     for (std::size_t index = 0; index < std::size(before_.records); ++index) {
         PutBack(*Records()[index], before_.records[index]);
     }
+    CHECK(LivingBuffers() == buffersBefore_);
 }
 
 void DirectHost::RegisterClasses() {

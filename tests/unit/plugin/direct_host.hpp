@@ -10,13 +10,15 @@
 #include "interface/host_interface.hpp"
 #include "plugin/bindings/startup_globals.hpp"
 #include "standin/runtime/host.hpp"
+#include "tests/unit/plugin/failing_memory.hpp"
 #include "tests/unit/support/host_values.hpp"
 
 namespace tests {
 
 /// A host that the plug-in's start-up globals are set for. At its end it checks that the ledger is
-/// empty and puts everything back as it was. Host functions once found stay bound in this process,
-/// so a host that lacks functions is of use only to bindings of a test's own.
+/// empty and that no buffer of the plug-in's was left over, and puts everything back as it was.
+/// Host functions once found stay bound in this process, so a host that lacks functions is of use
+/// only to bindings of a test's own.
 class DirectHost : public standin::Host {
 public:
     explicit DirectHost(standin::HostOptions options = {});
@@ -48,6 +50,7 @@ private:
     static Globals ReadGlobals();
 
     Globals before_ = ReadGlobals();
+    int buffersBefore_ = LivingBuffers();
 };
 
 /// While it lives, a binding of the plug-in calls a function of the test instead of the host's.

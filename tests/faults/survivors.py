@@ -1,0 +1,28 @@
+"""Drawn mutants that no test notices, each with the reason why that is right."""
+
+import dataclasses
+
+
+@dataclasses.dataclass(frozen=True)
+class Explained:
+    """A line of a source file and what a mutant makes of it, both without the blanks around them,
+    and why no test can tell them apart."""
+
+    before: str
+    after: str
+    reason: str
+
+
+EXPLAINED = [
+    Explained(
+        'constexpr std::array Words = {"1", "true", "yes"};',
+        'constexpr std::array Words = {"1" , "yes", "true"};',
+        "Whether any of the words is the setting does not depend on their order.",
+    ),
+    Explained(
+        "std::current_exception();",
+        "/*std::current_exception();*/",
+        "Native language runtimes keep what this prepares in thread-local memory, which is there from "
+        "the start. It is for the runtime of Windows, which these builds do not have.",
+    ),
+]
