@@ -59,6 +59,11 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_compile_options(project_options INTERFACE -mstackrealign -msse2 -mfpmath=sse)
 endif()
 
+# Returns and indirect calls are checked by processors that can.
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL "aarch64")
+  target_compile_options(project_options INTERFACE -mbranch-protection=standard)
+endif()
+
 if(BIGNUMBERVQZ_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_compile_options(project_options INTERFACE ${sanitizers} -fno-omit-frame-pointer -g1 -O1)

@@ -14,11 +14,30 @@ namespace vqz {
 /// valid. An empty view has null data and length 0.
 class ByteView {
 public:
-    /// All bytes of a string as the host stores them; a null string gives an empty view.
+    /// All bytes of a string as the host stores them; a null string gives an empty view. A 64-bit
+    /// host lends them, and when it does not, or when there are more than 0x7FFFFFFF, the view is
+    /// empty and `failed`.
     explicit ByteView(host_interface::String text) : string_(StringReference::Share(text)) {
-        if (text != nullptr) {
-            data_ = text->storage + 1;
-            length_ = text->length;
+        if (text == nullptr) {
+            return;
+        }
+#if HOST_INTERFACE_32_BIT
+        data_ = text->storage + 1;
+        length_ = text->length;
+#else
+        isLent_ = host::PluginGetStringData(text, host::REALGetStringEncoding(text), &lent_);
+        failed_ = !isLent_ || lent_.length > INT32_MAX;
+        if (!failed_) {
+            data_ = lent_.data;
+            length_ = static_cast<host_interface::Integer>(lent_.length);
+        }
+#endif
+    }
+    ByteView(const ByteView&) = delete;
+    ByteView& operator=(const ByteView&) = delete;
+    ~ByteView() {
+        if (isLent_) {
+            host::PluginDisposeStringData(&lent_);
         }
     }
 
@@ -30,22 +49,34 @@ public:
         if (block == nullptr) {
             return;
         }
-        const std::int32_t wanted =
-            length == 0 ? std::max<std::int32_t>(host::memoryBlockGetSize(block), 0) : length;
+        const host_interface::Integer wanted =
+            length == 0 ? std::max<host_interface::Integer>(host::memoryBlockGetSize(block), 0)
+                        : length;
         if (const void* first = host::memoryBlockGetPtr(block)) {
             data_ = static_cast<const char*>(first) + offset;
             length_ = wanted;
         }
     }
 
-    const char* data() const noexcept { return data_; }
-    std::int32_t length() const noexcept { return length_; }
+    const char* data() const noexcept {
+        return data_;
+    }
+    /// Whether the host did not lend the bytes of a string.
+    bool failed() const noexcept {
+        return failed_;
+    }
+    host_interface::Integer length() const noexcept {
+        return length_;
+    }
 
 private:
     StringReference string_;
     ObjectReference block_;
     const char* data_ = nullptr;
-    std::int32_t length_ = 0;
+    host_interface::Integer length_ = 0;
+    bool failed_ = false;
+    bool isLent_ = false;
+    host_interface::StringData lent_ = {};
 };
 
 }  // namespace vqz

@@ -11,8 +11,10 @@
 namespace vqz {
 namespace {
 
+#if HOST_INTERFACE_32_BIT
 /// Hosts from here on hand out string data by "PluginGetStringData".
 constexpr double FirstVersionWithStringData = 2012.0;
+#endif
 
 constexpr const char EmptyText[] = "";
 constexpr const char16_t EmptyUtf16[] = u"";
@@ -95,6 +97,9 @@ rbText::~rbText() {
     LogBadCheckWord(checkWord1, "Check1 in rbText invalid");
     LogBadCheckWord(checkWord2, "Check2 in rbText invalid");
 
+#if !HOST_INTERFACE_32_BIT
+    sourceBytes.reset();
+#endif
     if (source != nullptr) {
         host::REALUnlockString(source);
     }
@@ -139,10 +144,25 @@ void rbText::ReplaceSource(host_interface::String text) {
         if (source != nullptr) {
             host::REALUnlockString(source);
         }
+#if !HOST_INTERFACE_32_BIT
+        sourceBytes.reset();
+#endif
         source = text;
         encoding = static_cast<HostTextEncoding>(host::REALGetStringEncoding(source));
     }
 }
+
+#if !HOST_INTERFACE_32_BIT
+const ByteView& rbText::SourceBytes() {
+    if (!sourceBytes) {
+        sourceBytes.emplace(source);
+        if (sourceBytes->failed()) {
+            Fail("REALGetStringData failed.");
+        }
+    }
+    return *sourceBytes;
+}
+#endif
 
 void rbText::Classify() {
     switch (encoding) {
@@ -177,14 +197,14 @@ void rbText::CheckForAscii() {
     if (kind != TextKind::Unchecked) {
         return;
     }
-    const ByteView bytes(source);
-    if (!AllAscii(bytes.data(), bytes.length())) {
+    const ByteView& bytes = SourceBytes();
+    if (!AllAscii(bytes.data(), static_cast<std::int32_t>(bytes.length()))) {
         kind = TextKind::NeedsConversion;
         return;
     }
     kind = TextKind::Shared;
     for (const TextSlot slot : EightBitSlots) {
-        length[Index(slot)] = bytes.length();
+        length[Index(slot)] = static_cast<std::int32_t>(bytes.length());
         data[Index(slot)] = bytes.length() > 0 ? bytes.data() : EmptyText;
     }
 }
@@ -192,7 +212,7 @@ void rbText::CheckForAscii() {
 /// Bytes of no known encoding are taken for Windows ANSI. A rebuilt text counts as failed too:
 /// callers are meant to know that its encoding was guessed.
 void rbText::RebuildUnknownEncoding() {
-    const ByteView bytes(source);
+    const ByteView& bytes = SourceBytes();
     void* probe = platform::AllocateZeroed(static_cast<std::size_t>(bytes.length()) + 4);
     if (probe == nullptr) {
         kind = TextKind::Unchecked;
@@ -236,8 +256,14 @@ const char* rbText::Fill(TextSlot slot) {
     const bool isUtf8Already =
         encoding == HostTextEncoding::Ascii || encoding == HostTextEncoding::Utf8;
     if (slot == TextSlot::Utf8 && isUtf8Already) {
+#if HOST_INTERFACE_32_BIT
         length[index] = source->length;
         data[index] = source->storage + 1;
+#else
+        const ByteView& bytes = SourceBytes();
+        length[index] = static_cast<std::int32_t>(bytes.length());
+        data[index] = bytes.length() > 0 ? bytes.data() : EmptyText;
+#endif
     } else {
         FillByHost(slot);
     }
@@ -247,6 +273,7 @@ const char* rbText::Fill(TextSlot slot) {
 
 void rbText::FillByHost(TextSlot slot) {
     const std::size_t index = Index(slot);
+#if HOST_INTERFACE_32_BIT
     if (HostVersion < FirstVersionWithStringData) {
         const host_interface::String text = host::REALConvertString(source, EncodingOf(slot));
         converted[index] = text;
@@ -258,6 +285,7 @@ void rbText::FillByHost(TextSlot slot) {
         length[index] = text->length;
         return;
     }
+#endif
     if (slot == TextSlot::Ascii) {
         LogIfEnabled("REALGetStringData...");
     }
@@ -266,6 +294,12 @@ void rbText::FillByHost(TextSlot slot) {
         return;
     }
     hasStringData[index] = true;
+    if (HOST_INTERFACE_32_BIT == 0 && stringData[index].length > INT32_MAX) {
+        host::PluginDisposeStringData(&stringData[index]);
+        hasStringData[index] = false;
+        Fail("REALGetStringData failed.");
+        return;
+    }
     if (stringData[index].data != nullptr) {
         data[index] = stringData[index].data;
         length[index] = static_cast<std::int32_t>(stringData[index].length);

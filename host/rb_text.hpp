@@ -4,7 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
+#include "host/byte_view.hpp"
 #include "host/string_building.hpp"
 #include "interface/host_interface.hpp"
 
@@ -54,6 +56,10 @@ struct rbText {
     std::array<char*, TextSlotCount> temp = {};
     std::array<host_interface::StringData, TextSlotCount> stringData;
     std::array<bool, TextSlotCount> hasStringData = {};
+#if !HOST_INTERFACE_32_BIT
+    /// The source's bytes, into which texts in place point.
+    std::optional<ByteView> sourceBytes;
+#endif
     bool failed = false;
     HostTextEncoding encoding = HostTextEncoding::Ascii;
     TextKind kind = TextKind::Shared;
@@ -63,6 +69,15 @@ struct rbText {
 private:
     void Reset() noexcept;
     void ReplaceSource(host_interface::String text);
+#if HOST_INTERFACE_32_BIT
+    ByteView SourceBytes() const {
+        return ByteView(source);
+    }
+#else
+    /// The source's bytes, which stay where they are until the source is replaced. A text whose
+    /// bytes cannot be had is empty and `failed`.
+    const ByteView& SourceBytes();
+#endif
     void Classify();
     void CheckForAscii();
     void RebuildUnknownEncoding();

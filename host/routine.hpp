@@ -19,13 +19,11 @@
 namespace vqz {
 
 using host_interface::BooleanWord;
+using host_interface::Integer;
 using host_interface::Object;
 using host_interface::Routine;
 using host_interface::String;
-
-/// What a declaration calls Integer and UInteger. All routines take their widths from here.
-using Integer = std::int32_t;
-using UInteger = std::uint32_t;
+using host_interface::UInteger;
 
 /// A Boolean as the host passes it: only the low byte counts.
 constexpr bool IsTrue(BooleanWord word) {

@@ -54,11 +54,11 @@ std::int32_t HostVariantType(Object variant) {
             host::REALLoadGlobalMethod("VarType(value As Variant) As Integer"));
     }
     if (VarType != nullptr) {
-        return VarType(variant);
+        return static_cast<std::int32_t>(VarType(variant));
     }
-    std::int32_t type = 0;
+    host_interface::Integer type = 0;
     host::REALGetPropValueInteger(variant, "Type", &type);
-    return type;
+    return static_cast<std::int32_t>(type);
 }
 
 /// A property of a date; nothing when the host reports a failure, whatever it wrote before.

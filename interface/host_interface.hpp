@@ -2,13 +2,30 @@
 // codes and the C types of the host functions. It is the one header that the plug-in and the
 // stand-in host share; everything here is a fact of the host, and nothing here is code.
 //
-// Calling convention everywhere: C linkage, cdecl, no structures returned by value.
+// Calling convention everywhere: C linkage, no structures returned by value; cdecl on 32-bit x86,
+// the platform's own C convention on 64-bit processors.
+//
+// The width of a pointer decides the width of Integer, of counts and sizes, and the layout of every
+// record. 64-bit hosts are younger than interface version 9 and keep their strings to themselves,
+// so the short records and the readable string record exist at 32 bits only.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
+/// Whether the host is a 32-bit program.
+#if UINTPTR_MAX == UINT32_MAX
+#define HOST_INTERFACE_32_BIT 1
+#else
+#define HOST_INTERFACE_32_BIT 0
+#endif
+
 namespace host_interface {
+
+/// What declarations call Integer: as wide as a pointer.
+using Integer = std::intptr_t;
+/// What declarations call UInteger.
+using UInteger = std::uintptr_t;
 
 /// Text-encoding codes: the base encoding in the low 16 bits, the format in the top 6.
 enum class HostTextEncoding : std::uint32_t {
@@ -55,6 +72,7 @@ enum class VariantTypeCode : std::int32_t {
 /// A routine whose real type depends on the declaration it stands beside.
 using Routine = void (*)();
 
+#if HOST_INTERFACE_32_BIT
 /// The part of a host string that a plug-in may read without a call. The text begins one byte
 /// after `storage`, holds `length` bytes, and is not promised to be followed by a NUL.
 struct StringRecord {
@@ -63,8 +81,12 @@ struct StringRecord {
     void* hostWord2;
     std::int32_t length;
 };
+#else
+struct StringRecord;
+#endif
 
-/// A handle of a reference-counted host string; null is the legal empty string.
+/// A handle of a reference-counted host string; null is the legal empty string. At 64 bits it is
+/// opaque: the bytes come from "PluginGetStringData".
 using String = StringRecord*;
 
 struct ObjectRecord;
@@ -72,7 +94,7 @@ struct ObjectRecord;
 using Object = ObjectRecord*;
 
 struct ClassReferenceRecord;
-/// The host's reference of a class, as "pluginObjectType" answers it. Not counted.
+/// The host's reference of a class, as "pluginObjectType" returns it. Not counted.
 using ClassReference = ClassReferenceRecord*;
 
 /// A Boolean in a 4-byte slot of which only the low byte counts when a plug-in reads it.
@@ -104,11 +126,18 @@ inline constexpr std::uint32_t Ios = 0x400;
 
 // ---------------------------------------------------------------------------------------------
 // Records that describe a class. The long forms are read by hosts of interface version 10 and
-// later, the short ones (suffix Version9) by older hosts.
+// later, the short ones (suffix Version9) by older hosts, which are 32-bit programs.
 
 struct AttributeDefinition {
     const char* name;
     const char* value;
+};
+
+/// Words of a property's record that are the host's own.
+struct PropertyHostWords {
+    void* pointer;
+    std::size_t count;
+    void* secondPointer;
 };
 
 struct PropertyDefinition {
@@ -119,11 +148,12 @@ struct PropertyDefinition {
     Routine getter;
     Routine setter;
     std::int32_t parameter;
-    std::uint32_t reserved[3];
-    std::uint32_t attributeCount;
+    PropertyHostWords reserved;
+    std::size_t attributeCount;
     const AttributeDefinition* attributes;
 };
 
+#if HOST_INTERFACE_32_BIT
 struct PropertyDefinitionVersion9 {
     const char* group;
     const char* name;
@@ -132,51 +162,58 @@ struct PropertyDefinitionVersion9 {
     Routine getter;
     Routine setter;
     std::int32_t parameter;
-    std::uint32_t reserved[3];
+    PropertyHostWords reserved;
 };
+#endif
 
 struct MethodDefinition {
     Routine function;
     Routine setterFunction;
     const char* declaration;
     std::uint32_t flags;
-    std::uint32_t attributeCount;
+    std::size_t attributeCount;
     const AttributeDefinition* attributes;
 };
 
+#if HOST_INTERFACE_32_BIT
 struct MethodDefinitionVersion9 {
     Routine function;
     Routine setterFunction;
     const char* declaration;
     std::uint32_t flags;
 };
+#endif
 
 /// The second word belongs to the host: it is where a registered event is found again.
 struct EventDefinition {
     const char* declaration;
     const void* reference;
-    std::uint32_t attributeCount;
+    std::size_t attributeCount;
     const AttributeDefinition* attributes;
 };
 
+#if HOST_INTERFACE_32_BIT
 struct EventDefinitionVersion9 {
     const char* declaration;
     const void* reference;
 };
+#endif
 
 struct ConstantDefinition {
     const char* declaration;
     const void* value;
     std::uint32_t flags;
-    std::uint32_t attributeCount;
+    std::size_t attributeCount;
     const AttributeDefinition* attributes;
 };
 
+#if HOST_INTERFACE_32_BIT
 struct ConstantDefinitionVersion9 {
     const char* declaration;
     const void* value;
     std::uint32_t flags;
 };
+#endif
 
 /// One class as handed to "PluginRegisterClass". On interface version 9 the tables hold short
 /// entries; the pointers keep their types here and are read as the short form by such a host.
@@ -186,35 +223,36 @@ struct ClassDefinition {
     std::uint32_t version;
     const char* name;
     const char* superName;
-    std::uint32_t dataSize;
-    std::uint32_t instanceDataOffset;
+    std::size_t dataSize;
+    UInteger instanceDataOffset;
     Routine constructor;
     Routine destructor;
     PropertyDefinition* properties;
-    std::uint32_t propertyCount;
+    std::size_t propertyCount;
     MethodDefinition* methods;
-    std::uint32_t methodCount;
+    std::size_t methodCount;
     EventDefinition* events;
-    std::uint32_t eventCount;
+    std::size_t eventCount;
     void* reservedTable1;
-    std::uint32_t reservedCount1;
+    std::size_t reservedCount1;
     void* reservedWord;
     void* reservedTable2;
-    std::uint32_t reservedCount2;
+    std::size_t reservedCount2;
     ConstantDefinition* constants;
-    std::uint32_t constantCount;
+    std::size_t constantCount;
     std::uint32_t flags;
     PropertyDefinition* sharedProperties;
-    std::uint32_t sharedPropertyCount;
+    std::size_t sharedPropertyCount;
     MethodDefinition* sharedMethods;
-    std::uint32_t sharedMethodCount;
+    std::size_t sharedMethodCount;
 };
 
 // ---------------------------------------------------------------------------------------------
 // C types of the host functions, by the name under which the host hands them out. What such a
 // function returns carries one reference that the caller releases; what it is given does not
-// change hands. Booleans come back as words: whether the whole word or only its low byte counts
-// is a fact of each function that the caller has to know.
+// change hands. Booleans come back as words: at 32 bits, whether the whole word or only its low
+// byte counts is a fact of each function that the caller has to know; at 64 bits it is the low
+// byte.
 
 /// The lookup that the host passes to the library's entry: a host function's address, or null.
 using Resolver = void* (*)(const char* name);
@@ -246,7 +284,7 @@ using REALLoadGlobalMethod = void*(const char* module, const char* declaration);
 using REALinRuntime = BooleanWord();
 
 using memoryBlockGetPtr = void*(Object block);
-using memoryBlockGetSize = std::int32_t(Object block);
+using memoryBlockGetSize = Integer(Object block);
 using newMemoryBlock = Object(std::int32_t byteCount);
 
 using Int32ToVariant = Object(std::int32_t value);
@@ -261,7 +299,7 @@ using VariantToUInt32 = std::uint32_t(Object variant);
 using VariantToUInt64 = std::uint64_t(Object variant);
 using VariantToString = String(Object variant);
 /// Loaded with the declaration "VarType(value As Variant) As Integer".
-using VarType = std::int32_t(Object variant);
+using VarType = Integer(Object variant);
 
 template <typename T>
 using PropertyReader = BooleanWord(Object object, const char* name, T* out);
@@ -272,96 +310,113 @@ using REALGetPropValueCurrency = PropertyReader<Currency>;
 using REALGetPropValueDouble = PropertyReader<double>;
 using REALGetPropValueInt = PropertyReader<std::int32_t>;
 using REALGetPropValueInt64 = PropertyReader<std::int64_t>;
-using REALGetPropValueInteger = PropertyReader<std::int32_t>;
+using REALGetPropValueInteger = PropertyReader<Integer>;
 using REALGetPropValueSingle = PropertyReader<float>;
 using REALGetPropValueString = PropertyReader<String>;
 using REALGetPropValueUInt32 = PropertyReader<std::uint32_t>;
 using REALGetPropValueUInt64 = PropertyReader<std::uint64_t>;
 using REALSetPropValueInt = PropertyWriter<std::int32_t>;
-using REALSetPropValueInteger = PropertyWriter<std::int32_t>;
+using REALSetPropValueInteger = PropertyWriter<Integer>;
 using REALSetPropValueString = PropertyWriter<String>;
 }  // namespace functions
 
 // ---------------------------------------------------------------------------------------------
-// The layouts of a 32-bit host, with literal offsets. A 64-bit host has the same fields in the same
-// order with wider pointers.
+// The layouts, with the offset of every field at 32 and at 64 bits.
 namespace layout_lock {
-inline constexpr bool Is32Bit = sizeof(void*) == 4;
 template <typename Record>
-consteval bool Words(std::size_t count) {
-    return !Is32Bit || sizeof(Record) == 4 * count;
+consteval bool Size(std::size_t narrow, std::size_t wide) {
+    return sizeof(Record) == (HOST_INTERFACE_32_BIT != 0 ? narrow : wide);
 }
-consteval bool At(std::size_t offset, std::size_t expected) {
-    return !Is32Bit || offset == expected;
+consteval bool At(std::size_t offset, std::size_t narrow, std::size_t wide) {
+    return offset == (HOST_INTERFACE_32_BIT != 0 ? narrow : wide);
 }
 
-static_assert(Words<AttributeDefinition>(2));
-static_assert(Words<PropertyDefinition>(12) && Words<PropertyDefinitionVersion9>(10));
-static_assert(Words<MethodDefinition>(6) && Words<MethodDefinitionVersion9>(4));
-static_assert(Words<EventDefinition>(4) && Words<EventDefinitionVersion9>(2));
-static_assert(Words<ConstantDefinition>(5) && Words<ConstantDefinitionVersion9>(3));
-static_assert(Words<ClassDefinition>(25));
-static_assert(Words<StringData>(5));
-static_assert(Words<StringRecord>(4));
+static_assert(Size<AttributeDefinition>(8, 16));
+static_assert(Size<PropertyDefinition>(48, 96));
+static_assert(Size<MethodDefinition>(24, 48));
+static_assert(Size<EventDefinition>(16, 32));
+static_assert(Size<ConstantDefinition>(20, 40));
+static_assert(Size<ClassDefinition>(100, 200));
+static_assert(Size<StringData>(20, 40));
 
-static_assert(At(offsetof(StringRecord, storage), 4));
-static_assert(At(offsetof(StringRecord, length), 12));
-static_assert(At(offsetof(StringData, data), 0));
-static_assert(At(offsetof(StringData, length), 4));
-static_assert(At(offsetof(StringData, encoding), 8));
-static_assert(At(offsetof(StringData, hostPointer), 12));
-static_assert(At(offsetof(StringData, hostWord), 16));
+static_assert(At(offsetof(AttributeDefinition, name), 0, 0));
+static_assert(At(offsetof(AttributeDefinition, value), 4, 8));
 
-static_assert(At(offsetof(PropertyDefinition, group), 0));
-static_assert(At(offsetof(PropertyDefinition, name), 4));
-static_assert(At(offsetof(PropertyDefinition, type), 8));
-static_assert(At(offsetof(PropertyDefinition, flags), 12));
-static_assert(At(offsetof(PropertyDefinition, getter), 16));
-static_assert(At(offsetof(PropertyDefinition, setter), 20));
-static_assert(At(offsetof(PropertyDefinition, parameter), 24));
-static_assert(At(offsetof(PropertyDefinition, reserved), 28));
-static_assert(At(offsetof(PropertyDefinition, attributeCount), 40));
-static_assert(At(offsetof(PropertyDefinition, attributes), 44));
-static_assert(At(offsetof(PropertyDefinitionVersion9, reserved), 28));
+static_assert(At(offsetof(PropertyDefinition, group), 0, 0));
+static_assert(At(offsetof(PropertyDefinition, name), 4, 8));
+static_assert(At(offsetof(PropertyDefinition, type), 8, 16));
+static_assert(At(offsetof(PropertyDefinition, flags), 12, 24));
+static_assert(At(offsetof(PropertyDefinition, getter), 16, 32));
+static_assert(At(offsetof(PropertyDefinition, setter), 20, 40));
+static_assert(At(offsetof(PropertyDefinition, parameter), 24, 48));
+static_assert(At(offsetof(PropertyDefinition, reserved.pointer), 28, 56));
+static_assert(At(offsetof(PropertyDefinition, reserved.count), 32, 64));
+static_assert(At(offsetof(PropertyDefinition, reserved.secondPointer), 36, 72));
+static_assert(At(offsetof(PropertyDefinition, attributeCount), 40, 80));
+static_assert(At(offsetof(PropertyDefinition, attributes), 44, 88));
 
-static_assert(At(offsetof(MethodDefinition, function), 0));
-static_assert(At(offsetof(MethodDefinition, setterFunction), 4));
-static_assert(At(offsetof(MethodDefinition, declaration), 8));
-static_assert(At(offsetof(MethodDefinition, flags), 12));
-static_assert(At(offsetof(MethodDefinition, attributeCount), 16));
-static_assert(At(offsetof(MethodDefinition, attributes), 20));
-static_assert(At(offsetof(MethodDefinitionVersion9, flags), 12));
+static_assert(At(offsetof(MethodDefinition, function), 0, 0));
+static_assert(At(offsetof(MethodDefinition, setterFunction), 4, 8));
+static_assert(At(offsetof(MethodDefinition, declaration), 8, 16));
+static_assert(At(offsetof(MethodDefinition, flags), 12, 24));
+static_assert(At(offsetof(MethodDefinition, attributeCount), 16, 32));
+static_assert(At(offsetof(MethodDefinition, attributes), 20, 40));
 
-static_assert(At(offsetof(EventDefinition, reference), 4));
-static_assert(At(offsetof(EventDefinition, attributes), 12));
-static_assert(At(offsetof(ConstantDefinition, flags), 8));
-static_assert(At(offsetof(ConstantDefinition, attributes), 16));
+static_assert(At(offsetof(EventDefinition, declaration), 0, 0));
+static_assert(At(offsetof(EventDefinition, reference), 4, 8));
+static_assert(At(offsetof(EventDefinition, attributeCount), 8, 16));
+static_assert(At(offsetof(EventDefinition, attributes), 12, 24));
 
-static_assert(At(offsetof(ClassDefinition, version), 0));
-static_assert(At(offsetof(ClassDefinition, name), 4));
-static_assert(At(offsetof(ClassDefinition, superName), 8));
-static_assert(At(offsetof(ClassDefinition, dataSize), 12));
-static_assert(At(offsetof(ClassDefinition, instanceDataOffset), 16));
-static_assert(At(offsetof(ClassDefinition, constructor), 20));
-static_assert(At(offsetof(ClassDefinition, destructor), 24));
-static_assert(At(offsetof(ClassDefinition, properties), 28));
-static_assert(At(offsetof(ClassDefinition, propertyCount), 32));
-static_assert(At(offsetof(ClassDefinition, methods), 36));
-static_assert(At(offsetof(ClassDefinition, methodCount), 40));
-static_assert(At(offsetof(ClassDefinition, events), 44));
-static_assert(At(offsetof(ClassDefinition, eventCount), 48));
-static_assert(At(offsetof(ClassDefinition, reservedTable1), 52));
-static_assert(At(offsetof(ClassDefinition, reservedCount1), 56));
-static_assert(At(offsetof(ClassDefinition, reservedWord), 60));
-static_assert(At(offsetof(ClassDefinition, reservedTable2), 64));
-static_assert(At(offsetof(ClassDefinition, reservedCount2), 68));
-static_assert(At(offsetof(ClassDefinition, constants), 72));
-static_assert(At(offsetof(ClassDefinition, constantCount), 76));
-static_assert(At(offsetof(ClassDefinition, flags), 80));
-static_assert(At(offsetof(ClassDefinition, sharedProperties), 84));
-static_assert(At(offsetof(ClassDefinition, sharedPropertyCount), 88));
-static_assert(At(offsetof(ClassDefinition, sharedMethods), 92));
-static_assert(At(offsetof(ClassDefinition, sharedMethodCount), 96));
+static_assert(At(offsetof(ConstantDefinition, declaration), 0, 0));
+static_assert(At(offsetof(ConstantDefinition, value), 4, 8));
+static_assert(At(offsetof(ConstantDefinition, flags), 8, 16));
+static_assert(At(offsetof(ConstantDefinition, attributeCount), 12, 24));
+static_assert(At(offsetof(ConstantDefinition, attributes), 16, 32));
+
+static_assert(At(offsetof(ClassDefinition, version), 0, 0));
+static_assert(At(offsetof(ClassDefinition, name), 4, 8));
+static_assert(At(offsetof(ClassDefinition, superName), 8, 16));
+static_assert(At(offsetof(ClassDefinition, dataSize), 12, 24));
+static_assert(At(offsetof(ClassDefinition, instanceDataOffset), 16, 32));
+static_assert(At(offsetof(ClassDefinition, constructor), 20, 40));
+static_assert(At(offsetof(ClassDefinition, destructor), 24, 48));
+static_assert(At(offsetof(ClassDefinition, properties), 28, 56));
+static_assert(At(offsetof(ClassDefinition, propertyCount), 32, 64));
+static_assert(At(offsetof(ClassDefinition, methods), 36, 72));
+static_assert(At(offsetof(ClassDefinition, methodCount), 40, 80));
+static_assert(At(offsetof(ClassDefinition, events), 44, 88));
+static_assert(At(offsetof(ClassDefinition, eventCount), 48, 96));
+static_assert(At(offsetof(ClassDefinition, reservedTable1), 52, 104));
+static_assert(At(offsetof(ClassDefinition, reservedCount1), 56, 112));
+static_assert(At(offsetof(ClassDefinition, reservedWord), 60, 120));
+static_assert(At(offsetof(ClassDefinition, reservedTable2), 64, 128));
+static_assert(At(offsetof(ClassDefinition, reservedCount2), 68, 136));
+static_assert(At(offsetof(ClassDefinition, constants), 72, 144));
+static_assert(At(offsetof(ClassDefinition, constantCount), 76, 152));
+static_assert(At(offsetof(ClassDefinition, flags), 80, 160));
+static_assert(At(offsetof(ClassDefinition, sharedProperties), 84, 168));
+static_assert(At(offsetof(ClassDefinition, sharedPropertyCount), 88, 176));
+static_assert(At(offsetof(ClassDefinition, sharedMethods), 92, 184));
+static_assert(At(offsetof(ClassDefinition, sharedMethodCount), 96, 192));
+
+static_assert(At(offsetof(StringData, data), 0, 0));
+static_assert(At(offsetof(StringData, length), 4, 8));
+static_assert(At(offsetof(StringData, encoding), 8, 16));
+static_assert(At(offsetof(StringData, hostPointer), 12, 24));
+static_assert(At(offsetof(StringData, hostWord), 16, 32));
+
+#if HOST_INTERFACE_32_BIT
+static_assert(sizeof(PropertyDefinitionVersion9) == 40);
+static_assert(sizeof(MethodDefinitionVersion9) == 16);
+static_assert(sizeof(EventDefinitionVersion9) == 8);
+static_assert(sizeof(ConstantDefinitionVersion9) == 12);
+static_assert(sizeof(StringRecord) == 16);
+static_assert(offsetof(PropertyDefinitionVersion9, reserved) == 28);
+static_assert(offsetof(MethodDefinitionVersion9, flags) == 12);
+static_assert(offsetof(ConstantDefinitionVersion9, flags) == 8);
+static_assert(offsetof(StringRecord, storage) == 4);
+static_assert(offsetof(StringRecord, length) == 12);
+#endif
 }  // namespace layout_lock
 
 }  // namespace host_interface

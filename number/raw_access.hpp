@@ -66,7 +66,7 @@ NamedRoutine SetPart() {
         }
         auto& words = (value->*Part).table;
         const ByteView bytes(block);
-        if (bytes.length() != static_cast<std::int32_t>(sizeof words)) {
+        if (bytes.length() != static_cast<Integer>(sizeof words)) {
             RaiseParameterOutOfBounds(bytes.length(), sizeof words, sizeof words + 1,
                                       "MemoryBlock.Size", MethodName.text);
             return;

@@ -2,6 +2,7 @@
 // debug log and the name that a failure is reported under.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -18,10 +19,15 @@ namespace vqz {
 /// How a number is written; the defaults write all digits in base 10.
 using TextFormat = ttmath::Conv;
 
+/// The 32-bit number nearest to an Integer: ttmath takes no wider ones.
+inline std::int32_t Nearest32(Integer value) {
+    return static_cast<std::int32_t>(std::clamp<Integer>(value, INT32_MIN, INT32_MAX));
+}
+
 /// The default format in another base. With a base outside of 2 to 16 formatting fails.
 inline TextFormat FormatWithBase(Integer base) {
     TextFormat format;
-    format.base = static_cast<ttmath::uint>(base);
+    format.base = static_cast<ttmath::uint>(Nearest32(base));
     return format;
 }
 
@@ -84,8 +90,8 @@ NamedRoutine GetTextFormatted() {
            BooleanWord trimZeros, String comma) {
             TextFormat format = FormatWithBase(base);
             format.scient = IsTrue(scientific);
-            format.scient_from = scientificFrom;
-            format.round = round;
+            format.scient_from = Nearest32(scientificFrom);
+            format.round = Nearest32(round);
             format.trim_zeroes = IsTrue(trimZeros);
             // ttmath narrows the separator to a char again, so the sign extension does no harm.
             format.comma = static_cast<ttmath::uint>(DecimalSeparator(comma));
@@ -99,7 +105,7 @@ template <typename Value>
 void StoreText(Object self, String text, Integer base, const char* failureName) {
     Value value = NanValue<Value>();
     const TerminatedText source(text);
-    if (value.FromString(source.begin(), static_cast<ttmath::uint>(base)) != 0) {
+    if (value.FromString(source.begin(), static_cast<ttmath::uint>(Nearest32(base))) != 0) {
         RaiseOverflowException<Value>(failureName, self);
     }
     StoreNumberValue(self, value);
@@ -145,8 +151,9 @@ NamedRoutine SetTextAndReturnRest() {
         const TerminatedText source(text);
         const char* after = source.begin();
         bool digitsRead = false;
-        const bool failed = value.FromString(source.begin(), static_cast<ttmath::uint>(base),
-                                             &after, &digitsRead) != 0;
+        const bool failed =
+            value.FromString(source.begin(), static_cast<ttmath::uint>(Nearest32(base)), &after,
+                             &digitsRead) != 0;
         *valueRead = digitsRead ? 1 : 0;
         *afterText =
             REALBuildUnicodeString(after, source.end() - after, HostTextEncoding::Utf8).Release();

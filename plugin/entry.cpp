@@ -16,6 +16,8 @@ namespace {
 
 /// Hosts from here on know the type UInteger.
 constexpr double FirstVersionWithUInteger = 2015.0;
+/// The first release of 64-bit hosts: none is older, whatever it tells.
+constexpr double First64BitVersion = 2015.03;
 
 /// Points to a text that a search of the library file finds the version by. It is never read;
 /// volatile keeps the compiler from dropping it.
@@ -95,6 +97,9 @@ void REALPluginMain(host_interface::Resolver resolver) {
         if (auto* hostVersion = LookUp<functions::REALGetRBVersion>("REALGetRBVersion")) {
             HostVersion = hostVersion();
         }
+    }
+    if constexpr (sizeof(void*) == 8) {
+        HostVersion = std::max(HostVersion, First64BitVersion);
     }
     PluginInterfaceVersion = InterfaceVersionOf(HostVersion);
     if (resolver == nullptr) {

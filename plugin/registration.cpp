@@ -14,12 +14,14 @@ namespace {
 
 using namespace host_interface;
 
+#if HOST_INTERFACE_32_BIT
 /// Hosts of this interface version and later read the long table entries.
 constexpr std::uint32_t FirstVersionWithAttributes = 10;
+#endif
 /// Instance data comes in multiples of this many bytes.
-constexpr std::uint32_t DataSizeUnit = 16;
+constexpr std::size_t DataSizeUnit = 16;
 
-constexpr std::uint32_t RoundedUp(std::uint32_t size) {
+constexpr std::size_t RoundedUp(std::size_t size) {
     return (size + DataSizeUnit - 1) / DataSizeUnit * DataSizeUnit;
 }
 
@@ -41,8 +43,8 @@ std::uint32_t FixedFlags(std::uint32_t word) {
 }
 
 template <typename Entry>
-void FixFlagsOf(Entry* table, std::uint32_t count) {
-    if (table == nullptr || static_cast<std::int32_t>(count) < 1) {
+void FixFlagsOf(Entry* table, std::size_t count) {
+    if (table == nullptr || static_cast<std::ptrdiff_t>(count) < 1) {
         return;
     }
     for (Entry& entry : std::span(table, count)) {
@@ -50,6 +52,7 @@ void FixFlagsOf(Entry* table, std::uint32_t count) {
     }
 }
 
+#if HOST_INTERFACE_32_BIT
 /// Copies the first part of each entry: the old form is the long one without its last members.
 template <typename ShortEntry, typename Entry>
 ShortEntry* Shortened(const char* name, const Entry* table, std::uint32_t count) {
@@ -71,6 +74,7 @@ ShortEntry* Shortened(const char* name, const Entry* table, std::uint32_t count)
     }
     return shortTable;
 }
+#endif
 
 }  // namespace
 
@@ -82,6 +86,7 @@ void FixFlags(ClassDefinition& record) {
     FixFlagsOf(record.sharedProperties, record.sharedPropertyCount);
 }
 
+#if HOST_INTERFACE_32_BIT
 PropertyDefinitionVersion9* FixProperties(const PropertyDefinition* table, std::uint32_t count) {
     return Shortened<PropertyDefinitionVersion9>("FixProperties", table, count);
 }
@@ -127,23 +132,26 @@ ClassDefinition* FixClass(const ClassDefinition& record) {
         FixProperties(record.sharedProperties, record.sharedPropertyCount));
     return old;
 }
+#endif
 
 void RegisterClassDefinition(ClassDefinition& record) {
     FixFlags(record);
     record.dataSize = RoundedUp(record.dataSize);
-    if (PluginInterfaceVersion >= FirstVersionWithAttributes) {
-        record.version = PluginInterfaceVersion;
+#if HOST_INTERFACE_32_BIT
+    if (PluginInterfaceVersion < FirstVersionWithAttributes) {
+        ClassDefinition* old = FixClass(record);
+        if (old == nullptr) {
+            // The host would misread long entries, so the class is left out.
+            return;
+        }
+        record = *old;
         host::PluginRegisterClass(&record);
+        platform::FreeBuffer(old);
         return;
     }
-    ClassDefinition* old = FixClass(record);
-    if (old == nullptr) {
-        // The host would misread long entries, so the class is left out.
-        return;
-    }
-    record = *old;
+#endif
+    record.version = PluginInterfaceVersion;
     host::PluginRegisterClass(&record);
-    platform::FreeBuffer(old);
 }
 
 }  // namespace vqz

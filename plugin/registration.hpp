@@ -11,13 +11,15 @@
 
 namespace vqz {
 
-/// Adapts the record to the host and registers it. On a host of interface version 9 the record is
-/// replaced by its old form. Does nothing else on a host without "PluginRegisterClass".
+/// Adapts the record to the host and registers it. On a host of interface version 9, which is
+/// always a 32-bit one, the record is replaced by its old form. Does nothing else on a host without
+/// "PluginRegisterClass".
 void RegisterClassDefinition(host_interface::ClassDefinition& record);
 
 /// Replaces flags of the record and its tables that the host's release does not know.
 void FixFlags(host_interface::ClassDefinition& record);
 
+#if HOST_INTERFACE_32_BIT
 /// A copy of the record whose tables have the old form; null when memory is missing. The caller
 /// frees the record with `platform::FreeBuffer`. The tables are never freed: the host keeps using
 /// them.
@@ -35,5 +37,6 @@ host_interface::ConstantDefinitionVersion9* FixConstants(
 /// Also stores the address of each old entry in the entry that it was copied from.
 host_interface::EventDefinitionVersion9* FixEvents(host_interface::EventDefinition* table,
                                                    std::uint32_t count);
+#endif
 
 }  // namespace vqz

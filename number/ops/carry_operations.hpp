@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #include "host/routine.hpp"
 #include "number/ops/failure_report.hpp"
@@ -95,6 +96,15 @@ ttmath::uint MultiplyBy(Value& me, std::int32_t factor) {
         me.ChangeSign();
     }
     return me.MulUInt(std::uint32_t{1} << 31);
+}
+
+/// A factor beyond 32 bits is made a number first.
+template <typename Value>
+ttmath::uint MultiplyBy(Value& me, std::int64_t factor) {
+    if (std::in_range<std::int32_t>(factor)) {
+        return MultiplyBy(me, static_cast<std::int32_t>(factor));
+    }
+    return me.Mul(NumberFrom<Value>(factor), true);
 }
 
 /// A product with a machine integer. A failure reports the product as ttmath left it, not the

@@ -68,7 +68,9 @@ public:
     using Slot::Slot;
 
     bool operator()(Arguments... arguments) {
-        return (Slot::operator()(arguments...) & static_cast<std::uint32_t>(Width)) != 0;
+        // 64-bit hosts have low bytes only.
+        constexpr auto Mask = HOST_INTERFACE_32_BIT != 0 ? Width : BooleanWidth::LowByte;
+        return (Slot::operator()(arguments...) & static_cast<std::uint32_t>(Mask)) != 0;
     }
 };
 
@@ -137,7 +139,7 @@ inline constinit WordPredicate<functions::REALGetPropValueInt> REALGetPropValueI
 inline constinit LowBytePredicate<functions::REALGetPropValueInt64> REALGetPropValueInt64(
     "REALGetPropValueInt64");
 inline constinit LowBytePredicate<functions::REALGetPropValueInteger> REALGetPropValueInteger(
-    "REALGetPropValueInteger", "REALGetPropValueInt");
+    "REALGetPropValueInteger", HOST_INTERFACE_32_BIT != 0 ? "REALGetPropValueInt" : nullptr);
 inline constinit LowBytePredicate<functions::REALGetPropValueSingle> REALGetPropValueSingle(
     "REALGetPropValueSingle");
 inline constinit WordPredicate<functions::REALGetPropValueString> REALGetPropValueString(
@@ -147,7 +149,7 @@ inline constinit LowBytePredicate<functions::REALGetPropValueUInt32> REALGetProp
 inline constinit LowBytePredicate<functions::REALGetPropValueUInt64> REALGetPropValueUInt64(
     "REALGetPropValueUInt64");
 inline constinit LowBytePredicate<functions::REALSetPropValueInteger> REALSetPropValueInteger(
-    "REALSetPropValueInteger", "REALSetPropValueInt");
+    "REALSetPropValueInteger", HOST_INTERFACE_32_BIT != 0 ? "REALSetPropValueInt" : nullptr);
 inline constinit LowBytePredicate<functions::REALSetPropValueString> REALSetPropValueString(
     "REALSetPropValueString");
 

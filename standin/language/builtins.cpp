@@ -64,8 +64,9 @@ Value VarType(const Arguments& arguments, const Machine& machine) {
 /// from another.
 Value VariantOfType(const Arguments& arguments, const Machine& machine) {
     Host& host = machine.host();
-    auto variant = Value::Adopt(host.MakeVariant(arguments[0].Get<std::int32_t>(),
-                                                 host.VariantContents(arguments[1].object())));
+    auto variant =
+        Value::Adopt(host.MakeVariant(static_cast<std::int32_t>(arguments[0].Get<Integer>()),
+                                      host.VariantContents(arguments[1].object())));
     if (variant.object() == nullptr) {
         machine.Raise("OutOfMemoryException", "There is no memory for a new Variant.");
     }
@@ -117,13 +118,13 @@ Value Length(const Arguments& arguments, const Machine& machine) {
 
 template <Unit By>
 Value Left(const Arguments& arguments, const Machine& machine) {
-    return Units(arguments[0], By, machine).Cut(0, arguments[1].Get<std::int32_t>(), machine);
+    return Units(arguments[0], By, machine).Cut(0, arguments[1].Get<Integer>(), machine);
 }
 
 template <Unit By>
 Value Right(const Arguments& arguments, const Machine& machine) {
     const Units units(arguments[0], By, machine);
-    const auto length = std::max<std::int64_t>(arguments[1].Get<std::int32_t>(), 0);
+    const auto length = std::max<std::int64_t>(arguments[1].Get<Integer>(), 0);
     return units.Cut(static_cast<std::int64_t>(units.count()) - length, length, machine);
 }
 
@@ -131,20 +132,20 @@ Value Right(const Arguments& arguments, const Machine& machine) {
 template <Unit By>
 Value Middle(const Arguments& arguments, const Machine& machine) {
     const Units units(arguments[0], By, machine);
-    const std::int64_t start = std::max(arguments[1].Get<std::int32_t>(), 1);
-    const std::int64_t length = arguments[2].Get<std::int32_t>();
+    const std::int64_t start = std::max<Integer>(arguments[1].Get<Integer>(), 1);
+    const std::int64_t length = arguments[2].Get<Integer>();
     return units.Cut(start - 1, length, machine);
 }
 
 // Characters and encodings -----------------------------------------------------------------------
 
 Value Chr(const Arguments& arguments, const Machine& machine) {
-    const auto codePoint = arguments[0].Get<std::int32_t>();
+    const auto codePoint = arguments[0].Get<Integer>();
     return machine.MakeText(EncodeUtf8(static_cast<char32_t>(codePoint)));
 }
 
 Value ChrByte(const Arguments& arguments, const Machine& machine) {
-    const auto byte = static_cast<char>(arguments[0].Get<std::int32_t>());
+    const auto byte = static_cast<char>(arguments[0].Get<Integer>());
     return machine.MakeText(std::string_view(&byte, 1), HostTextEncoding::Unknown);
 }
 

@@ -142,7 +142,7 @@ public:
     ComparedByOperator(ExpressionPtr call, syntax::BinaryOperator comparison, bool isMirrored)
         : call_(std::move(call)), comparison_(comparison), isMirrored_(isMirrored) {}
     Value Evaluate(Frame& frame) const override {
-        const auto result = call_->Evaluate(frame).Get<std::int32_t>();
+        const auto result = call_->Evaluate(frame).Get<Integer>();
         return Value::Of(Fulfils(isMirrored_ ? 0 <=> result : result <=> 0, comparison_));
     }
 

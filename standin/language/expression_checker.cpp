@@ -98,8 +98,8 @@ Checked ExpressionChecker::MakeInteger(std::uint64_t magnitude, bool isNegative,
         return MakeConstant(Value::Of(magnitude), {Kind::UInt64}, at);
     }
     const auto value = static_cast<std::int64_t>(isNegative ? 0U - magnitude : magnitude);
-    const bool isInteger = std::in_range<std::int32_t>(value);
-    auto constant = MakeConstant(Value::Of(value), {isInteger ? Kind::Int32 : Kind::Int64}, at);
+    const bool isInteger = std::in_range<Integer>(value);
+    auto constant = MakeConstant(Value::Of(value), {isInteger ? IntegerKind : Kind::Int64}, at);
     constant.literal = value;
     return constant;
 }

@@ -34,14 +34,14 @@ Value GetErrorNumber(const Arguments& arguments, const Machine& machine) {
 }
 
 Value SetErrorNumber(const Arguments& arguments, const Machine& machine) {
-    machine.host().SetErrorNumber(arguments[0].object(), arguments[1].Get<std::int32_t>());
+    machine.host().SetErrorNumber(arguments[0].object(), arguments[1].Get<Integer>());
     return {};
 }
 
 Value FillException(const Arguments& arguments, const Machine& machine) {
     Host& host = machine.host();
     host.SetMessage(arguments[0].object(), host.Utf8(arguments[1].text()));
-    host.SetErrorNumber(arguments[0].object(), arguments[2].Get<std::int32_t>());
+    host.SetErrorNumber(arguments[0].object(), arguments[2].Get<Integer>());
     return {};
 }
 
@@ -59,8 +59,8 @@ Value RequireMade(Object object, std::string_view className, const Machine& mach
 
 /// A size for a MemoryBlock: what is no size raises, and so does more than there could be.
 std::size_t RequireSize(const Value& value, const Machine& machine) {
-    constexpr std::int32_t LargestSize = 256 * 1024 * 1024;
-    const auto size = value.Get<std::int32_t>();
+    constexpr Integer LargestSize = 256 * 1024 * 1024;
+    const auto size = value.Get<Integer>();
     if (size < 0) {
         machine.Raise("OutOfBoundsException", "A MemoryBlock has no negative size.");
     }
@@ -87,7 +87,7 @@ Value SetSize(const Arguments& arguments, const Machine& machine) {
 /// The bytes from an offset on, of which there must be `size`.
 std::span<std::byte> BytesAt(const Arguments& arguments, std::size_t size, const Machine& machine) {
     const auto bytes = machine.host().BlockBytes(arguments[0].object());
-    const auto offset = arguments[1].Get<std::int32_t>();
+    const auto offset = arguments[1].Get<Integer>();
     if (offset < 0 || size > bytes.size() ||
         static_cast<std::size_t>(offset) > bytes.size() - size) {
         machine.Raise("OutOfBoundsException", "The MemoryBlock ends before that.");
@@ -110,7 +110,7 @@ Value SetNumber(const Arguments& arguments, const Machine& machine) {
 }
 
 Value GetBytes(const Arguments& arguments, const Machine& machine) {
-    const auto size = static_cast<std::uint32_t>(arguments[2].Get<std::int32_t>());
+    const auto size = static_cast<std::size_t>(arguments[2].Get<Integer>());
     const auto bytes = BytesAt(arguments, size, machine);
     const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     return machine.MakeText(text, HostTextEncoding::Unknown);
@@ -118,7 +118,7 @@ Value GetBytes(const Arguments& arguments, const Machine& machine) {
 
 /// Exactly that many bytes: a longer text is cut, a shorter one leaves zeros behind it.
 Value SetBytes(const Arguments& arguments, const Machine& machine) {
-    const auto size = static_cast<std::uint32_t>(arguments[2].Get<std::int32_t>());
+    const auto size = static_cast<std::size_t>(arguments[2].Get<Integer>());
     const auto bytes = std::as_writable_bytes(BytesAt(arguments, size, machine));
     const auto text = machine.host().Bytes(arguments[3].text());
     const auto given = std::as_bytes(std::span(text)).first(std::min(text.size(), bytes.size()));
@@ -187,7 +187,7 @@ constexpr auto Properties = std::to_array<HostMember>({
     {"Variant", "Type As Integer", TypeCode, nullptr},
     {"Variant", "IsNull As Boolean", IsNull, nullptr},
     {"Variant", "BooleanValue As Boolean", Unboxed<Kind::Boolean>, nullptr},
-    {"Variant", "IntegerValue As Integer", Unboxed<Kind::Int32>, nullptr},
+    {"Variant", "IntegerValue As Integer", Unboxed<IntegerKind>, nullptr},
     {"Variant", "Int32Value As Int32", Unboxed<Kind::Int32>, nullptr},
     {"Variant", "UInt32Value As UInt32", Unboxed<Kind::UInt32>, nullptr},
     {"Variant", "Int64Value As Int64", Unboxed<Kind::Int64>, nullptr},

@@ -57,7 +57,7 @@ Value Microseconds(const Arguments& /*arguments*/, const Machine& /*machine*/) {
 
 Value Ticks(const Arguments& /*arguments*/, const Machine& /*machine*/) {
     using Sixtieths = std::chrono::duration<std::int64_t, std::ratio<1, 60>>;
-    return Value::Of(static_cast<std::int32_t>(TimeIn<Sixtieths>()));
+    return Value::Of(static_cast<Integer>(TimeIn<Sixtieths>()));
 }
 
 constexpr auto Functions = std::to_array<BuiltInRow>({

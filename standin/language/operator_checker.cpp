@@ -301,7 +301,7 @@ std::optional<Checked> ExpressionChecker::TryCompareOperator(BinaryOperator oper
     if (!call) {
         return std::nullopt;
     }
-    auto result = ConvertTo(std::move(*call), {Kind::Int32});
+    auto result = ConvertTo(std::move(*call), {IntegerKind});
     return MakeBoolean(
         std::make_unique<code::ComparedByOperator>(std::move(result.code), operation, isMirrored),
         at);

@@ -11,43 +11,23 @@ namespace {
 
 const char* currentLabel = nullptr;
 
-using Word = std::uintptr_t;
-using Words = std::vector<Word>;
-
-void AppendWide(Words& words, std::uint64_t value) {
-    words.push_back(static_cast<Word>(value));
-    if constexpr (sizeof(Word) == 4) {
-        words.push_back(static_cast<Word>(value >> 32U));
-    }
-}
-
-Word HandleWord(const void* handle) {
-    return std::bit_cast<Word>(handle);
-}
-
-void Append(Words& words, const Value& value, Kind kind) {
+void Append(CallArguments& arguments, const Value& value, Kind kind) {
     switch (kind) {
-        case Kind::Int64:
-        case Kind::UInt64:
-        case Kind::Currency:
-            AppendWide(words, value.Get<std::uint64_t>());
-            break;
-        case Kind::Double:
-            AppendWide(words, std::bit_cast<std::uint64_t>(value.Get<double>()));
-            break;
-        case Kind::Single:
-            words.push_back(std::bit_cast<std::uint32_t>(value.Get<float>()));
-            break;
+        case Kind::Boolean:
+            return arguments.Add(value.IsTrue());
         case Kind::Text:
-            words.push_back(HandleWord(value.text()));
-            break;
+            return arguments.Add(value.text());
         case Kind::Instance:
         case Kind::Variant:
-            words.push_back(HandleWord(value.object()));
-            break;
+            return arguments.Add(value.object());
+        case Kind::Currency:
+            return arguments.Add(value.Get<CurrencyAmount>().scaled);
         default:
-            words.push_back(static_cast<Word>(value.Get<std::int64_t>()));
-            break;
+            return WithNumberType(kind, [&]<typename T>(std::type_identity<T>) {
+                if constexpr (!std::is_same_v<T, CurrencyAmount>) {
+                    arguments.Add(value.Get<T>());
+                }
+            });
     }
 }
 
@@ -73,7 +53,7 @@ public:
     ByRefCell& operator=(const ByRefCell&) = delete;
 
     bool IsFor(const Value& variable) const { return &variable_ == &variable; }
-    Word Address() const { return HandleWord(bytes_.data()); }
+    const std::byte* Address() const { return bytes_.data(); }
 
 private:
     void Fill() {
@@ -120,7 +100,7 @@ private:
 /// The cells of one call. A variable that is passed twice has one cell, as it has one address.
 class ByRefCells {
 public:
-    Word AddressFor(Value& variable, Kind kind) {
+    const std::byte* AddressFor(Value& variable, Kind kind) {
         for (const auto& cell : cells_) {
             if (cell.IsFor(variable)) {
                 return cell.Address();
@@ -132,15 +112,6 @@ public:
 private:
     std::deque<ByRefCell> cells_;
 };
-
-template <typename Handle>
-Handle HandleFrom(const ReturnValue& returned) {
-    auto word = static_cast<Word>(returned.low);
-    if constexpr (sizeof(Word) == 8) {
-        word |= static_cast<Word>(std::uint64_t{returned.high} << 32U);
-    }
-    return std::bit_cast<Handle>(word);
-}
 
 }  // namespace
 
@@ -183,12 +154,12 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
             arguments[i].BorrowFrom(*storage);
         }
     }
-    Words words;
+    CallArguments passed;
     if (self != nullptr) {
-        words.push_back(HandleWord(*self));
+        passed.Add(*self);
     }
     if (parameter_) {
-        words.push_back(static_cast<Word>(*parameter_));
+        passed.Add(*parameter_);
     }
     ReturnValue returned;
     {
@@ -196,13 +167,13 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
         for (std::size_t i = 0; i < arguments.size(); ++i) {
             const auto& argument = arguments_[i];
             if (argument.byRef) {
-                words.push_back(cells.AddressFor(*argument.value->Storage(frame), argument.kind));
+                passed.Add(cells.AddressFor(*argument.value->Storage(frame), argument.kind));
             } else {
-                Append(words, arguments[i], argument.kind);
+                Append(passed, arguments[i], argument.kind);
             }
         }
         const CallLabel label(label_.c_str());
-        returned = frame.machine.host().Call(routine_, words, HowToReturn());
+        returned = frame.machine.host().Call(routine_, passed, HowToReturn());
     }
     auto result = ToValue(returned);
     if (auto* exception = frame.machine.host().TakeException()) {
@@ -223,10 +194,6 @@ ReturnKind PluginCall::HowToReturn() const {
             return ReturnKind::Single;
         case Kind::Double:
             return ReturnKind::Double;
-        case Kind::Text:
-        case Kind::Instance:
-        case Kind::Variant:
-            return sizeof(Word) == 8 ? ReturnKind::TwoWords : ReturnKind::Word;
         default:
             return ReturnKind::Word;
     }
@@ -243,15 +210,15 @@ Value PluginCall::ToValue(const ReturnValue& returned) const {
         case Kind::Int64:
         case Kind::UInt64:
         case Kind::Currency:
-            return Value::Of((std::uint64_t{returned.high} << 32U) | returned.low);
+            return Value::Of(returned.Wide());
         case Kind::Single:
         case Kind::Double:
             return Value::Of(returned.real);
         case Kind::Text:
-            return Value::Adopt(HandleFrom<String>(returned));
+            return Value::Adopt(std::bit_cast<String>(returned.Word()));
         case Kind::Instance:
         case Kind::Variant:
-            return Value::Adopt(HandleFrom<Object>(returned));
+            return Value::Adopt(std::bit_cast<Object>(returned.Word()));
         default:
             return Value::Of(returned.low);
     }

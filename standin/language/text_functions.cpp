@@ -68,7 +68,7 @@ std::size_t Find(std::string_view text, std::string_view wanted, std::size_t fro
 }
 
 /// The offset in bytes behind that many characters, at most the end.
-std::size_t OffsetBehind(std::string_view text, std::int32_t characters) {
+std::size_t OffsetBehind(std::string_view text, Integer characters) {
     std::size_t offset = 0;
     for (; characters > 0 && offset < text.size(); --characters) {
         const auto character = DecodeUtf8(text, offset);
@@ -77,8 +77,8 @@ std::size_t OffsetBehind(std::string_view text, std::int32_t characters) {
     return offset;
 }
 
-std::int32_t CharactersIn(std::string_view text) {
-    std::int32_t count = 0;
+Integer CharactersIn(std::string_view text) {
+    Integer count = 0;
     for (std::size_t offset = 0; offset < text.size(); ++count) {
         offset += OffsetBehind(text.substr(offset), 1);
     }
@@ -86,7 +86,7 @@ std::int32_t CharactersIn(std::string_view text) {
 }
 
 /// The number of the first character of `wanted`, counted from 1; 0 without it.
-std::int32_t NumberOf(std::string_view text, std::string_view wanted, std::int32_t start) {
+Integer NumberOf(std::string_view text, std::string_view wanted, Integer start) {
     const auto found = Find(text, wanted, OffsetBehind(text, start - 1));
     return found == std::string_view::npos ? 0 : CharactersIn(text.substr(0, found)) + 1;
 }
@@ -97,13 +97,12 @@ Value InStr(const Arguments& arguments, const Machine& machine) {
 
 Value InStrFrom(const Arguments& arguments, const Machine& machine) {
     return Value::Of(NumberOf(Utf8Of(arguments[1], machine), Utf8Of(arguments[2], machine),
-                              arguments[0].Get<std::int32_t>()));
+                              arguments[0].Get<Integer>()));
 }
 
 Value IndexOf(const Arguments& arguments, const Machine& machine) {
-    const auto start = std::max(arguments[2].Get<std::int32_t>(), 0) + std::int64_t{1};
-    const auto first = static_cast<std::int32_t>(
-        std::min<std::int64_t>(start, std::numeric_limits<std::int32_t>::max()));
+    const auto before = std::max<Integer>(arguments[2].Get<Integer>(), 0);
+    const Integer first = std::min(before, std::numeric_limits<Integer>::max() - 1) + 1;
     return Value::Of(NumberOf(Utf8Of(arguments[0], machine), Utf8Of(arguments[1], machine), first) -
                      1);
 }
@@ -201,7 +200,7 @@ Value CountFields(const Arguments& arguments, const Machine& machine) {
 Value NthField(const Arguments& arguments, const Machine& machine) {
     const auto text = Utf8Of(arguments[0], machine);
     const auto fields = Fields(text, Utf8Of(arguments[1], machine));
-    const auto number = arguments[2].Get<std::int32_t>();
+    const auto number = arguments[2].Get<Integer>();
     const bool isThere = number >= 1 && static_cast<std::size_t>(number) <= fields.size();
     return machine.MakeText(isThere ? fields[static_cast<std::size_t>(number) - 1]
                                     : std::string_view{});

@@ -18,9 +18,9 @@ struct KindName {
 /// Where a kind has several names the first is the one that messages show.
 constexpr auto KindNames = std::to_array<KindName>({
     {"Boolean", Kind::Boolean},
-    {"Integer", Kind::Int32},
+    {"Integer", IntegerKind},
     {"Int32", Kind::Int32},
-    {"UInteger", Kind::UInt32},
+    {"UInteger", UIntegerKind},
     {"UInt32", Kind::UInt32},
     {"Int64", Kind::Int64},
     {"UInt64", Kind::UInt64},

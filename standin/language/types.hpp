@@ -9,11 +9,15 @@
 #include <type_traits>
 #include <utility>
 
+#include "interface/host_interface.hpp"
+
 namespace standin::language {
+
+using host_interface::Integer;
 
 class ClassModel;
 
-/// What a value is made of. Integer is Int32 and UInteger is UInt32: the host is a 32-bit one.
+/// What a value is made of.
 enum class Kind : std::uint8_t {
     /// Of a routine that returns nothing.
     None,
@@ -38,6 +42,12 @@ enum class Kind : std::uint8_t {
     /// A row of values of one type. Who has the array has the same one.
     Array,
 };
+
+/// Integer and UInteger are as wide as the host's pointers.
+inline constexpr Kind IntegerKind =
+    sizeof(host_interface::Integer) == 4 ? Kind::Int32 : Kind::Int64;
+inline constexpr Kind UIntegerKind =
+    sizeof(host_interface::UInteger) == 4 ? Kind::UInt32 : Kind::UInt64;
 
 /// A kind; for objects, and arrays of them, their class.
 struct Type {

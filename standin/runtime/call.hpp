@@ -1,6 +1,8 @@
-// Calling a plug-in's routine with argument words made at run time.
+// Calling a plug-in's routine with arguments made at run time, by the convention of the platform.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -8,7 +10,7 @@
 
 namespace standin {
 
-/// In what state of the processor a routine is called.
+/// In what state of the processor a routine is called. 64-bit hosts have the defaults.
 struct CallConditions {
     /// How far, in bytes, the stack is off its 16-byte alignment: 0, 4, 8 or 12.
     std::uint32_t stackOffset = 0;
@@ -20,9 +22,10 @@ struct CallConditions {
 struct CallFaults {
     /// The stack pointer came back elsewhere: the routine took its arguments off the stack.
     bool stackMoved = false;
-    /// EBX or EDI came back changed.
+    /// A register that a routine has to preserve came back changed: EBX and EDI at 32 bits, all but
+    /// the frame pointer at 64.
     bool registersChanged = false;
-    /// The x87 stack was left higher or lower than the result accounts for.
+    /// The x87 stack was left higher or lower than the result accounts for. Watched at 32 bits.
     bool floatStackUnbalanced = false;
 };
 
@@ -31,8 +34,31 @@ struct CallResult {
     CallFaults faults;
 };
 
-/// Calls a routine with C linkage and the cdecl convention.
-CallResult CallRoutine(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind,
+/// The arguments of a call as words of the host; on a 32-bit host wide ones are two, the low one
+/// first.
+class ArgumentWords {
+public:
+    explicit ArgumentWords(std::span<const CallArgument> arguments) {
+        for (const CallArgument& argument : arguments) {
+            words_[count_++] = static_cast<std::uintptr_t>(argument.bits);
+            if (sizeof(std::uintptr_t) < sizeof argument.bits &&
+                (argument.passing == Passing::Wide || argument.passing == Passing::Double)) {
+                words_[count_++] = static_cast<std::uintptr_t>(argument.bits >> 32U);
+            }
+        }
+    }
+
+    std::span<const std::uintptr_t> All() const { return {words_.data(), count_}; }
+
+private:
+    std::array<std::uintptr_t, 2 * MostArguments> words_{};
+    std::size_t count_ = 0;
+};
+
+/// Calls a routine with C linkage and the platform's convention: cdecl at 32 bits, that of System
+/// V, of Windows or of ARM at 64. There, what an argument leaves free in its register or stack
+/// slot, and every register that holds none, is filled with noise.
+CallResult CallRoutine(Routine routine, std::span<const CallArgument> arguments, ReturnKind kind,
                        CallConditions conditions);
 
 }  // namespace standin

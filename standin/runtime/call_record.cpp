@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "standin/runtime/call.hpp"
+
 namespace standin {
 namespace {
 
@@ -99,9 +101,9 @@ void CallRecord::NoteRaise(std::string_view className, std::string_view message)
     raised_ = std::string(className) + ": " + WithoutNumbers(message);
 }
 
-void CallRecord::NoteCall(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind,
+void CallRecord::NoteCall(Routine routine, std::span<const CallArgument> arguments, ReturnKind kind,
                           const ReturnValue& value) {
-    std::string outcome = kind == ReturnKind::Word && value.low == 0 ? "null" : "answered";
+    std::string outcome = kind == ReturnKind::Word && value.Word() == 0 ? "null" : "answered";
     if (const std::string raised = std::exchange(raised_, {}); !raised.empty()) {
         outcome = "raised " + raised;
     }
@@ -110,7 +112,8 @@ void CallRecord::NoteCall(Routine routine, std::span<const std::uintptr_t> words
         return;
     }
     std::string shown;
-    for (const std::uintptr_t word : words) {
+    const ArgumentWords words(arguments);
+    for (const std::uintptr_t word : words.All()) {
         shown += word == 0 ? '0' : 'x';
     }
     for (Forms* forms : found->second) {

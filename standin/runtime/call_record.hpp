@@ -24,7 +24,7 @@ namespace standin {
 ///   lookup  NAME  COUNT                                            a name asked of the resolver
 ///
 /// KIND is "property", "method", "shared property", "shared method" or "destructor", and PART
-/// "get", "set" or "call". WORDS shows the argument words, 0 for a zero and x for anything else.
+/// "get", "set" or "call". WORDS shows the arguments, 0 for a word of zero and x for any other.
 /// OUTCOME is "answered", "null" for a zero in the result's word, or "raised CLASS: MESSAGE" with #
 /// for every number. Entries that share a routine have its calls in common.
 class CallRecord {
@@ -42,7 +42,7 @@ public:
     /// An exception that the running call raises.
     void NoteRaise(std::string_view className, std::string_view message);
     /// A call that came back.
-    void NoteCall(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind,
+    void NoteCall(Routine routine, std::span<const CallArgument> arguments, ReturnKind kind,
                   const ReturnValue& value);
     /// The addresses that were noted are no routines any more.
     void ForgetRoutines();

@@ -6,10 +6,12 @@
 #include <stdexcept>
 #include <utility>
 
+#include "standin/runtime/record_layout.hpp"
+
 namespace standin {
 namespace {
 
-using host_interface::ClassDefinition;
+using layout::Record;
 
 /// The part of an object that belongs to the host alone.
 constexpr std::size_t ObjectHeader = 5 * sizeof(void*);
@@ -17,7 +19,7 @@ constexpr std::size_t ObjectHeader = 5 * sizeof(void*);
 constexpr std::size_t DataAlignment = sizeof(void*);
 /// Interface versions up to this one read the short table entries.
 constexpr std::int32_t LastShortVersion = 9;
-constexpr std::uint32_t DataSizeUnit = 16;
+constexpr std::size_t DataSizeUnit = 16;
 
 struct HostClass {
     std::string_view name;
@@ -73,102 +75,105 @@ private:
         return text;
     }
 
-    /// The entries of a table in its long or short form. The plug-in's pointer has the type of the
-    /// long form in either case.
-    template <typename Short, typename Long, typename ReadEntry>
-    auto Table(const Long* table, std::uint32_t count, const std::string& tableName,
+    /// The entries of a table, in the long or the short form of the layout `Entry`.
+    template <typename Entry, typename ReadEntry>
+    auto Table(layout::Table table, std::size_t count, const std::string& tableName,
                ReadEntry readEntry) {
-        std::vector<decltype(readEntry(*table, tableName))> infos;
+        std::vector<decltype(readEntry(Record(table), tableName))> infos;
         if ((table == nullptr) != (count == 0)) {
             Complain("the " + tableName + " table and its count disagree");
         }
         if (table == nullptr) {
             return infos;
         }
-        for (std::uint32_t k = 0; k < count; ++k) {
-            const std::string place = tableName + " " + std::to_string(k + 1);
-            infos.push_back(shortEntries_
-                                ? readEntry(reinterpret_cast<const Short*>(table)[k], place)
-                                : readEntry(table[k], place));
+        const layout::Bytes size = shortEntries_ ? Entry::ShortSize : Entry::Size;
+        for (std::size_t k = 0; k < count; ++k) {
+            infos.push_back(
+                readEntry(Record(table).Next(k, size), tableName + " " + std::to_string(k + 1)));
         }
         return infos;
     }
 
-    template <typename Entry>
-    PropertyInfo Read(const Entry& entry, const std::string& place) {
-        PropertyInfo info;
-        info.name = Text(entry.name, place + " has no name");
-        info.type = Text(entry.type, place + " has no type");
-        info.flags = entry.flags;
-        info.getter = entry.getter;
-        info.setter = entry.setter;
-        info.parameter = entry.parameter;
-        info.attributes = ReadAttributes(entry, place);
-        info.group = entry.group == nullptr ? "" : entry.group;
-        return info;
-    }
-
     /// Only the long forms have attributes.
     template <typename Entry>
-    Attributes ReadAttributes([[maybe_unused]] const Entry& entry,
-                              [[maybe_unused]] const std::string& place) {
+    Attributes ReadAttributes(const Record& entry, const std::string& place) {
         Attributes attributes;
-        if constexpr (requires { entry.attributes; }) {
-            if ((entry.attributes == nullptr) != (entry.attributeCount == 0)) {
-                Complain(place + ": the attributes and their count disagree");
-            }
-            const std::uint32_t count = entry.attributes == nullptr ? 0 : entry.attributeCount;
-            for (std::uint32_t k = 0; k < count; ++k) {
-                const host_interface::AttributeDefinition& attribute = entry.attributes[k];
-                attributes.emplace_back(
-                    Text(attribute.name, place + " has an attribute without name"),
-                    attribute.value == nullptr ? "" : attribute.value);
-            }
+        if (shortEntries_) {
+            return attributes;
+        }
+        const layout::Table table = entry.Get(Entry::Attributes);
+        const std::size_t count = entry.Get(Entry::AttributeCount);
+        if ((table == nullptr) != (count == 0)) {
+            Complain(place + ": the attributes and their count disagree");
+        }
+        for (std::size_t k = 0; table != nullptr && k < count; ++k) {
+            const Record attribute = Record(table).Next(k, layout::Attribute::Size);
+            const char* value = attribute.Get(layout::Attribute::Value);
+            attributes.emplace_back(Text(attribute.Get(layout::Attribute::Name),
+                                         place + " has an attribute without name"),
+                                    value == nullptr ? "" : value);
         }
         return attributes;
     }
 
 public:
-    std::vector<PropertyInfo> Properties(const host_interface::PropertyDefinition* table,
-                                         std::uint32_t count, const char* tableName) {
-        return Table<host_interface::PropertyDefinitionVersion9>(
-            table, count, tableName,
-            [this](const auto& entry, const std::string& place) { return Read(entry, place); });
+    std::vector<PropertyInfo> Properties(layout::Table table, std::size_t count,
+                                         const char* tableName) {
+        using Entry = layout::Property;
+        return Table<Entry>(table, count, tableName,
+                            [this](const Record& entry, const std::string& place) {
+                                const char* group = entry.Get(Entry::Group);
+                                PropertyInfo info;
+                                info.name = Text(entry.Get(Entry::Name), place + " has no name");
+                                info.type = Text(entry.Get(Entry::Type), place + " has no type");
+                                info.flags = entry.Get(Entry::Flags);
+                                info.getter = entry.Get(Entry::Getter);
+                                info.setter = entry.Get(Entry::Setter);
+                                info.parameter = entry.Get(Entry::Parameter);
+                                info.attributes = ReadAttributes<Entry>(entry, place);
+                                info.group = group == nullptr ? "" : group;
+                                return info;
+                            });
     }
 
-    std::vector<MethodInfo> Methods(const host_interface::MethodDefinition* table,
-                                    std::uint32_t count, const char* tableName) {
-        return Table<host_interface::MethodDefinitionVersion9>(
-            table, count, tableName, [this](const auto& entry, const std::string& place) {
-                MethodInfo info;
-                info.declaration = Text(entry.declaration, place + " has no declaration");
-                info.flags = entry.flags;
-                info.function = entry.function;
-                info.setter = entry.setterFunction;
-                info.attributes = ReadAttributes(entry, place);
-                return info;
-            });
+    std::vector<MethodInfo> Methods(layout::Table table, std::size_t count, const char* tableName) {
+        using Entry = layout::Method;
+        return Table<Entry>(table, count, tableName,
+                            [this](const Record& entry, const std::string& place) {
+                                MethodInfo info;
+                                info.declaration = Declaration<Entry>(entry, place);
+                                info.flags = entry.Get(Entry::Flags);
+                                info.function = entry.Get(Entry::Function);
+                                info.setter = entry.Get(Entry::Setter);
+                                info.attributes = ReadAttributes<Entry>(entry, place);
+                                return info;
+                            });
     }
 
-    std::vector<DeclarationInfo> Events(const host_interface::EventDefinition* table,
-                                        std::uint32_t count) {
-        return Table<host_interface::EventDefinitionVersion9>(
-            table, count, "event", [this](const auto& entry, const std::string& place) {
-                return DeclarationInfo{Text(entry.declaration, place + " has no declaration"), 0,
-                                       ReadAttributes(entry, place)};
-            });
+    std::vector<DeclarationInfo> Events(layout::Table table, std::size_t count) {
+        using Entry = layout::Event;
+        return Table<Entry>(table, count, "event",
+                            [this](const Record& entry, const std::string& place) {
+                                return DeclarationInfo{Declaration<Entry>(entry, place), 0,
+                                                       ReadAttributes<Entry>(entry, place)};
+                            });
     }
 
-    std::vector<DeclarationInfo> Constants(const host_interface::ConstantDefinition* table,
-                                           std::uint32_t count) {
-        return Table<host_interface::ConstantDefinitionVersion9>(
-            table, count, "constant", [this](const auto& entry, const std::string& place) {
-                return DeclarationInfo{Text(entry.declaration, place + " has no declaration"),
-                                       entry.flags, ReadAttributes(entry, place)};
+    std::vector<DeclarationInfo> Constants(layout::Table table, std::size_t count) {
+        using Entry = layout::Constant;
+        return Table<Entry>(
+            table, count, "constant", [this](const Record& entry, const std::string& place) {
+                return DeclarationInfo{Declaration<Entry>(entry, place), entry.Get(Entry::Flags),
+                                       ReadAttributes<Entry>(entry, place)};
             });
     }
 
 private:
+    template <typename Entry>
+    std::string Declaration(const Record& entry, const std::string& place) {
+        return Text(entry.Get(Entry::Declaration), place + " has no declaration");
+    }
+
     std::string className_;
     bool shortEntries_;
     ViolationList& violations_;
@@ -251,65 +256,82 @@ ClassTable::ClassTable(const std::set<std::string, std::less<>>& missing) {
     }
 }
 
-const ClassEntry* ClassTable::Register(ClassDefinition& record,
+const ClassEntry* ClassTable::Register(host_interface::ClassDefinition* definition,
                                        std::optional<std::int32_t> interfaceVersion,
                                        ViolationList& violations) {
-    if (record.name == nullptr || *record.name == '\0') {
+    using Fields = layout::Class;
+    const Record record(definition);
+    const auto textOrEmpty = [&record](layout::Field<layout::Text> field) {
+        const char* text = record.Get(field);
+        return std::string(text == nullptr ? "" : text);
+    };
+    const std::string name = textOrEmpty(Fields::Name);
+    if (name.empty()) {
         violations.Add("PluginRegisterClass: a class without a name");
         return nullptr;
     }
-    const auto version = interfaceVersion.value_or(static_cast<std::int32_t>(record.version));
-    RecordReader reader(record.name, version <= LastShortVersion, violations);
+    const std::uint32_t recordVersion = record.Get(Fields::Version);
+    const auto version = interfaceVersion.value_or(static_cast<std::int32_t>(recordVersion));
+    const bool isShort = version <= LastShortVersion;
+    RecordReader reader(name, isShort && layout::IsNarrow, violations);
     if (!interfaceVersion) {
         reader.Complain("registered before \"RegisterPluginVersion\" was called");
-    } else if (record.version != static_cast<std::uint32_t>(version)) {
-        reader.Complain("its version is " + std::to_string(record.version) +
+    } else if (recordVersion != static_cast<std::uint32_t>(version)) {
+        reader.Complain("its version is " + std::to_string(recordVersion) +
                         ", but the plug-in registered itself as " + std::to_string(version));
     }
-    if (record.dataSize % DataSizeUnit != 0) {
-        reader.Complain("its data size " + std::to_string(record.dataSize) + " is no multiple of " +
+    if (isShort && !layout::IsNarrow) {
+        reader.Complain("its version is " + std::to_string(version) +
+                        ", which no 64-bit host reads");
+    }
+    const std::size_t dataSize = record.Get(Fields::DataSize);
+    if (dataSize % DataSizeUnit != 0) {
+        reader.Complain("its data size " + std::to_string(dataSize) + " is no multiple of " +
                         std::to_string(DataSizeUnit));
     }
 
-    const ClassEntry* known = Find(record.name);
+    const ClassEntry* known = Find(name);
     if (known != nullptr && known->record == nullptr) {
         reader.Complain("the host has a class of that name");
         return nullptr;
     }
-    const std::string superName = record.superName == nullptr ? "" : record.superName;
+    const std::string superName = textOrEmpty(Fields::SuperName);
     const ClassEntry* super = Find(superName.empty() ? "Object" : superName);
     if (super == nullptr) {
         reader.Complain("its superclass \"" + superName + "\" is not known");
         super = Find("Object");
     }
 
-    ClassEntry& entry = known != nullptr ? *byName_.find(record.name)->second : Add(record.name);
+    ClassEntry& entry = known != nullptr ? *byName_.find(name)->second : Add(name);
     if (known == nullptr) {
         registered_.push_back(&entry);
         // Another offset in every class, so that none can be mistaken for a constant.
         const std::size_t superSize = super == nullptr ? ObjectHeader : super->objectSize;
-        entry.dataOffset =
-            static_cast<std::uint32_t>(superSize + DataAlignment * (1 + registered_.size()));
+        entry.dataOffset = superSize + DataAlignment * (1 + registered_.size());
     }
     entry.super = super;
     entry.superName = superName;
-    entry.record = &record;
-    entry.version = record.version;
-    entry.flags = record.flags;
-    entry.dataSize = record.dataSize;
+    entry.record = definition;
+    entry.version = recordVersion;
+    entry.flags = record.Get(Fields::Flags);
+    entry.dataSize = dataSize;
     entry.payload = super == nullptr ? Payload::None : super->payload;
     entry.objectSize = entry.dataOffset + entry.dataSize;
-    entry.constructor = record.constructor;
-    entry.destructor = record.destructor;
-    entry.properties = reader.Properties(record.properties, record.propertyCount, "property");
-    entry.methods = reader.Methods(record.methods, record.methodCount, "method");
-    entry.events = reader.Events(record.events, record.eventCount);
-    entry.constants = reader.Constants(record.constants, record.constantCount);
+    entry.constructor = record.Get(Fields::Constructor);
+    entry.destructor = record.Get(Fields::Destructor);
+    entry.properties = reader.Properties(record.Get(Fields::Properties),
+                                         record.Get(Fields::PropertyCount), "property");
+    entry.methods =
+        reader.Methods(record.Get(Fields::Methods), record.Get(Fields::MethodCount), "method");
+    entry.events = reader.Events(record.Get(Fields::Events), record.Get(Fields::EventCount));
+    entry.constants =
+        reader.Constants(record.Get(Fields::Constants), record.Get(Fields::ConstantCount));
     entry.sharedProperties =
-        reader.Properties(record.sharedProperties, record.sharedPropertyCount, "shared property");
-    entry.sharedMethods =
-        reader.Methods(record.sharedMethods, record.sharedMethodCount, "shared method");
-    record.instanceDataOffset = entry.dataOffset;
+        reader.Properties(record.Get(Fields::SharedProperties),
+                          record.Get(Fields::SharedPropertyCount), "shared property");
+    entry.sharedMethods = reader.Methods(record.Get(Fields::SharedMethods),
+                                         record.Get(Fields::SharedMethodCount), "shared method");
+    layout::Set(definition, Fields::InstanceDataOffset, entry.dataOffset);
     return &entry;
 }
 

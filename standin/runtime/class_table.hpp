@@ -46,9 +46,10 @@ public:
     explicit ClassTable(const std::set<std::string, std::less<>>& missing);
 
     /// Reads a plug-in's record as a host of that interface version does: the tables hold short
-    /// entries up to version 9 and long ones later. Writes the record's `instanceDataOffset`. A
-    /// class that is known already is read anew. Null, with a violation, for a record without name.
-    const ClassEntry* Register(host_interface::ClassDefinition& record,
+    /// entries up to version 9, which 32-bit hosts alone have, and long ones later. Writes the
+    /// record's `instanceDataOffset`. A class that is known already is read anew. Null, with a
+    /// violation, for a record without name.
+    const ClassEntry* Register(host_interface::ClassDefinition* definition,
                                std::optional<std::int32_t> interfaceVersion,
                                ViolationList& violations);
 

@@ -48,6 +48,23 @@ std::uintptr_t AsWord(Object object) {
     return reinterpret_cast<std::uintptr_t>(object);
 }
 
+/// Throws std::invalid_argument for options that no 64-bit host has.
+void RequireHostThatExists(const HostOptions& options) {
+    if (HOST_INTERFACE_32_BIT != 0) {
+        return;
+    }
+    if (options.misalignedStack || options.changedControlWord) {
+        throw std::invalid_argument(std::string(options.misalignedStack
+                                                    ? "a misaligned stack"
+                                                    : "a changed x87 control word") +
+                                    " is a matter of 32-bit hosts; this is a 64-bit one");
+    }
+    if (options.version.value_or(0.0) < First64BitVersion) {
+        throw std::invalid_argument(
+            "64-bit hosts tell a version, 2015.03 or a later one; older hosts are 32-bit programs");
+    }
+}
+
 }  // namespace
 
 void DebugLog::Write(std::string_view line) {
@@ -94,6 +111,7 @@ Host::Host(HostOptions options) {
     if (TheHost != nullptr) {
         throw std::logic_error("a process has one host at a time");
     }
+    RequireHostThatExists(options);
     state_ = std::make_unique<State>(*this, std::move(options));
     TheHost = this;
     platform::CaptureDebugOutput(
@@ -234,12 +252,12 @@ void Host::SetMessage(Object exception, std::string_view utf8) {
     Unlock(text);
 }
 
-std::int32_t Host::ErrorNumber(Object exception) {
+Integer Host::ErrorNumber(Object exception) {
     const auto* payload = state_->objects.PayloadOf<ExceptionPayload>(exception, HostUser);
-    return payload == nullptr ? 0 : payload->errorNumber;
+    return payload == nullptr ? Integer{0} : payload->errorNumber;
 }
 
-void Host::SetErrorNumber(Object exception, std::int32_t number) {
+void Host::SetErrorNumber(Object exception, Integer number) {
     WriteProperty(*this, exception, "ErrorNumber", number, HostUser);
 }
 
@@ -333,7 +351,7 @@ void Host::SetSeconds(Object date, double seconds) {
 
 // Calls -----------------------------------------------------------------------------------------
 
-ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind) {
+ReturnValue Host::Call(Routine routine, const CallArguments& arguments, ReturnKind kind) {
     if (routine == nullptr) {
         throw std::logic_error("a call of a routine that is not there");
     }
@@ -342,7 +360,7 @@ ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, R
     if (state_->options.misalignedStack) {
         conditions.stackOffset = StackOffsets[state_->calls++ % StackOffsets.size()];
     }
-    const CallResult result = CallRoutine(routine, words, kind, conditions);
+    const CallResult result = CallRoutine(routine, arguments.All(), kind, conditions);
     if (result.faults.stackMoved) {
         state_->violations.Add("a routine took its arguments off the stack");
     }
@@ -353,7 +371,7 @@ ReturnValue Host::Call(Routine routine, std::span<const std::uintptr_t> words, R
         state_->violations.Add("a routine left the x87 stack unbalanced");
     }
     if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
-        record.NoteCall(routine, words, kind, result.value);
+        record.NoteCall(routine, arguments.All(), kind, result.value);
     }
     return result.value;
 }

@@ -2,6 +2,10 @@
 // a ledger that knows every reference. One host lives in a process at a time.
 #pragma once
 
+#include <array>
+#include <bit>
+#include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -9,8 +13,10 @@
 #include <optional>
 #include <set>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -25,16 +31,22 @@ namespace standin {
 enum class Allocation { String, Object };
 
 using host_interface::HostTextEncoding;
+using host_interface::Integer;
 using host_interface::Object;
 using host_interface::Routine;
 using host_interface::String;
+using host_interface::UInteger;
 
 /// The release number of the host that is stood in for when nothing else is asked for.
 inline constexpr double CurrentHostVersion = 2023.04;
 
+/// The first release with 64-bit programs.
+inline constexpr double First64BitVersion = 2015.03;
+
 /// What kind of host to be. The defaults are a current host in the development environment.
 struct HostOptions {
-    /// What "REALGetRBVersion" answers; without a value the host does not offer that function.
+    /// What "REALGetRBVersion" returns; without a value the host does not offer that function.
+    /// 64-bit hosts have one, `First64BitVersion` or later.
     std::optional<double> version = CurrentHostVersion;
     /// What the host lacks: functions by the name that the resolver is asked for, global methods by
     /// declaration or name, and classes and properties of its own by name.
@@ -45,10 +57,11 @@ struct HostOptions {
     bool newInstanceRunsConstructor = false;
     /// Whether the byte after a string's text is something else than NUL.
     bool unterminatedStrings = false;
-    /// Whether plug-in routines are called with a stack that is aligned to 4 bytes only.
+    /// Whether plug-in routines are called with a stack that is aligned to 4 bytes only. 32-bit
+    /// hosts only.
     bool misalignedStack = false;
     /// Whether plug-in routines are called with an x87 control word of single precision and
-    /// rounding toward zero.
+    /// rounding toward zero. 32-bit hosts only.
     bool changedControlWord = false;
     /// Whether new memory blocks have a size but no data pointer.
     bool blocksWithoutData = false;
@@ -61,14 +74,93 @@ struct HostOptions {
     std::uint32_t spareReferences = 0;
 };
 
-/// How the words that a plug-in routine leaves in the registers are to be read.
+/// How a routine takes an argument.
+enum class Passing : std::uint8_t {
+    /// One byte; what stands above it is nobody's.
+    Boolean,
+    /// 32 bits; what stands above them, where a register has more, is nobody's.
+    Narrow,
+    /// 64 bits, two words of a 32-bit host.
+    Wide,
+    /// As wide as a pointer: handles, addresses, Integer and UInteger.
+    Word,
+    Single,
+    Double,
+};
+
+/// An argument: how it is passed, and its bits.
+struct CallArgument {
+    Passing passing = Passing::Word;
+    std::uint64_t bits = 0;
+};
+
+inline constexpr std::size_t MostArguments = 32;
+
+/// The arguments of one call, in order. Throws std::length_error when there are too many.
+class CallArguments {
+public:
+    CallArguments() = default;
+    /// Arguments that are a word each, or halves of wider ones on a 32-bit host.
+    template <typename Words>
+    requires std::convertible_to<const Words&, std::span<const std::uintptr_t>>
+    // NOLINTNEXTLINE(google-explicit-constructor): most calls have nothing but words
+    explicit(false) CallArguments(const Words& words) {
+        for (const std::uintptr_t word : std::span<const std::uintptr_t>(words)) {
+            Add({Passing::Word, word});
+        }
+    }
+
+    void Add(CallArgument argument) {
+        if (count_ == arguments_.size()) {
+            throw std::length_error("a call with more than " + std::to_string(count_) +
+                                    " arguments");
+        }
+        arguments_[count_++] = argument;
+    }
+
+    /// Adds a value in the way of its type: a Boolean, a number, a handle or an address.
+    template <typename T>
+    requires std::is_scalar_v<T>
+    void Add(T value) {
+        if constexpr (std::is_same_v<T, bool>) {
+            Add({Passing::Boolean, std::uint64_t{value}});
+        } else if constexpr (std::is_same_v<T, float>) {
+            Add({Passing::Single, std::bit_cast<std::uint32_t>(value)});
+        } else if constexpr (std::is_same_v<T, double>) {
+            Add({Passing::Double, std::bit_cast<std::uint64_t>(value)});
+        } else if constexpr (std::is_null_pointer_v<T>) {
+            Add({Passing::Word, 0});
+        } else if constexpr (std::is_pointer_v<T>) {
+            Add({Passing::Word, std::bit_cast<std::uintptr_t>(value)});
+        } else if constexpr (sizeof(T) == sizeof(std::uint64_t)) {
+            Add({Passing::Wide, static_cast<std::uint64_t>(value)});
+        } else {
+            Add({Passing::Narrow, static_cast<std::uint32_t>(value)});
+        }
+    }
+
+    std::span<const CallArgument> All() const { return {arguments_.data(), count_}; }
+
+private:
+    std::array<CallArgument, MostArguments> arguments_{};
+    std::size_t count_ = 0;
+};
+
+/// What a routine returns: nothing; 32 bits, a Boolean, a handle or an Integer; 64 bits; or a real
+/// number.
 enum class ReturnKind { None, Word, TwoWords, Single, Double };
 
-/// What a plug-in routine returned: EAX and EDX, or ST(0).
+/// What a plug-in routine returned: EAX and EDX, the halves of a 64-bit register, or the register
+/// of real numbers.
 struct ReturnValue {
     std::uint32_t low = 0;
     std::uint32_t high = 0;
     double real = 0.0;
+
+    /// A result of 64 bits.
+    std::uint64_t Wide() const { return std::uint64_t{high} << 32U | low; }
+    /// A result that is as wide as a pointer.
+    std::uintptr_t Word() const { return static_cast<std::uintptr_t>(Wide()); }
 };
 
 /// The attributes of an entry, name and value, in the plug-in's order.
@@ -111,8 +203,8 @@ struct ClassInfo {
     host_interface::ClassDefinition* record = nullptr;
     std::uint32_t version = 0;
     std::uint32_t flags = 0;
-    std::uint32_t dataSize = 0;
-    std::uint32_t dataOffset = 0;
+    std::size_t dataSize = 0;
+    std::size_t dataOffset = 0;
     Routine destructor = nullptr;
     std::vector<PropertyInfo> properties;
     std::vector<MethodInfo> methods;
@@ -154,6 +246,7 @@ struct LedgerCounts {
 /// Every member that answers a handle gives one reference, which the caller releases.
 class Host {
 public:
+    /// Throws std::invalid_argument for options that no host of this width has.
     explicit Host(HostOptions options = {});
     ~Host();
     Host(const Host&) = delete;
@@ -210,8 +303,8 @@ public:
     /// Properties that the host itself keeps, on exceptions "Message" and "ErrorNumber".
     std::string Message(Object exception);
     void SetMessage(Object exception, std::string_view utf8);
-    std::int32_t ErrorNumber(Object exception);
-    void SetErrorNumber(Object exception, std::int32_t number);
+    Integer ErrorNumber(Object exception);
+    void SetErrorNumber(Object exception, Integer number);
 
     // Values in objects ----------------------------------------------------------------------
     // All answer null on a failing allocation; the readers ask for an object of that kind.
@@ -243,8 +336,8 @@ public:
     void SetSeconds(Object date, double seconds);
 
     // Calls ----------------------------------------------------------------------------------
-    /// Calls a routine of the plug-in with these argument words, in the way `options()` tell.
-    ReturnValue Call(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind);
+    /// Calls a routine of the plug-in with these arguments, in the way `options()` tell.
+    ReturnValue Call(Routine routine, const CallArguments& arguments, ReturnKind kind);
     /// Takes over the exception that was raised since the last call of this, if any.
     Object TakeException();
     /// How often "RuntimeRaiseException" was called since the host was made.

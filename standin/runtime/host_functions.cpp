@@ -36,9 +36,9 @@ BooleanWord InLowByte(bool value) {
     return 0xA5A5A500U | static_cast<BooleanWord>(value);
 }
 
-/// A Boolean as a whole word.
+/// A Boolean of which a 32-bit plug-in may read the whole word.
 BooleanWord InWholeWord(bool value) {
-    return static_cast<BooleanWord>(value);
+    return HOST_INTERFACE_32_BIT != 0 ? static_cast<BooleanWord>(value) : InLowByte(value);
 }
 
 /// The name of a host function as a template argument.
@@ -72,7 +72,7 @@ void RegisterClass(ClassDefinition* definition) noexcept {
     }
     Host::State& state = Current();
     const ClassEntry* entry =
-        state.classes.Register(*definition, state.pluginInterfaceVersion, state.violations);
+        state.classes.Register(definition, state.pluginInterfaceVersion, state.violations);
     CallRecord& record = CallRecord::OfProcess();
     if (record.IsKept() && entry != nullptr) {
         record.NoteClass(*entry);
@@ -221,9 +221,9 @@ void* BlockPointer(Object block) noexcept {
     return payload == nullptr || !payload->hasData ? nullptr : payload->bytes.data();
 }
 
-std::int32_t BlockSize(Object block) noexcept {
+Integer BlockSize(Object block) noexcept {
     const auto* payload = Current().objects.PayloadOf<BlockPayload>(block, "memoryBlockGetSize");
-    return payload == nullptr ? 0 : static_cast<std::int32_t>(payload->bytes.size());
+    return payload == nullptr ? Integer{0} : static_cast<Integer>(payload->bytes.size());
 }
 
 Object NewBlock(std::int32_t byteCount) noexcept {
@@ -292,7 +292,7 @@ String UnboxString(Object variant) noexcept {
     return VariantText(Current(), variant, "VariantToString");
 }
 
-std::int32_t TypeOf(Object variant) noexcept {
+Integer TypeOf(Object variant) noexcept {
     return VariantTypeOf(Current(), variant, "VarType");
 }
 
@@ -400,7 +400,7 @@ const auto& HostFunctions() {
                     InWholeWord>(),
         OfferReader<functions::REALGetPropValueInt64, "REALGetPropValueInt64", std::int64_t,
                     InLowByte>(),
-        OfferReader<functions::REALGetPropValueInteger, "REALGetPropValueInteger", std::int32_t,
+        OfferReader<functions::REALGetPropValueInteger, "REALGetPropValueInteger", Integer,
                     InLowByte>(),
         OfferReader<functions::REALGetPropValueSingle, "REALGetPropValueSingle", float,
                     InLowByte>(),
@@ -411,7 +411,7 @@ const auto& HostFunctions() {
         OfferReader<functions::REALGetPropValueUInt64, "REALGetPropValueUInt64", std::uint64_t,
                     InLowByte>(),
         OfferWriter<functions::REALSetPropValueInt, "REALSetPropValueInt", std::int32_t>(),
-        OfferWriter<functions::REALSetPropValueInteger, "REALSetPropValueInteger", std::int32_t>(),
+        OfferWriter<functions::REALSetPropValueInteger, "REALSetPropValueInteger", Integer>(),
         OfferWriter<functions::REALSetPropValueString, "REALSetPropValueString", String>(),
     };
     return table;

@@ -18,7 +18,7 @@ namespace standin {
 /// What the host keeps in an exception.
 struct ExceptionPayload {
     String message = nullptr;
-    std::int32_t errorNumber = 0;
+    Integer errorNumber = 0;
 };
 
 /// What the host keeps in a Variant that is no object itself.

@@ -10,12 +10,12 @@
 
 namespace standin::platform {
 
-/// Text in an 8-bit encoding or UTF-8 as well-formed UTF-16, by the system's converter. Malformed
-/// bytes become U+FFFD.
+/// Text in an 8-bit encoding or UTF-8 as well-formed UTF-16, as the system's converter has it.
+/// Malformed bytes become U+FFFD.
 std::u16string DecodeBytes(std::string_view bytes, host_interface::HostTextEncoding encoding);
 
-/// Well-formed UTF-16 as text in an 8-bit encoding or UTF-8, by the system's converter. What the
-/// encoding cannot express becomes '?'.
+/// Well-formed UTF-16 as text in an 8-bit encoding or UTF-8, as the system's converter has it. What
+/// the encoding cannot express becomes '?'.
 std::string EncodeBytes(std::u16string_view text, host_interface::HostTextEncoding encoding);
 
 /// Starts to hand every line that this process writes to the debugger's output to `take`; stops

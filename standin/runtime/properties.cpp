@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <vector>
 
 #include "standin/runtime/variants.hpp"
 
@@ -43,7 +42,7 @@ PropertyValue ReadErrorNumber(Host::State& state, Object object, const char* use
 
 bool WriteErrorNumber(Host::State& state, Object object, const PropertyValue& value,
                       const char* user) {
-    const auto* number = std::get_if<std::int32_t>(&value);
+    const auto* number = std::get_if<Integer>(&value);
     if (number == nullptr) {
         return false;
     }
@@ -52,7 +51,7 @@ bool WriteErrorNumber(Host::State& state, Object object, const PropertyValue& va
 }
 
 PropertyValue ReadType(Host::State& state, Object object, const char* user) {
-    return VariantTypeOf(state, object, user);
+    return Integer{VariantTypeOf(state, object, user)};
 }
 
 template <typename Number>
@@ -84,7 +83,7 @@ PropertyValue ReadSeconds(Host::State& state, Object object, const char* user) {
 
 PropertyValue ReadBlockSize(Host::State& state, Object object, const char* user) {
     const auto* block = state.objects.PayloadOf<BlockPayload>(object, user);
-    return static_cast<std::int32_t>(block->bytes.size());
+    return static_cast<Integer>(block->bytes.size());
 }
 
 constexpr std::array HostProperties = {
@@ -92,7 +91,7 @@ constexpr std::array HostProperties = {
     HostProperty{Payload::Exception, "ErrorNumber", ReadErrorNumber, WriteErrorNumber},
     HostProperty{Payload::Variant, "DoubleValue", ReadReal<double>, nullptr},
     HostProperty{Payload::Variant, "SingleValue", ReadReal<float>, nullptr},
-    HostProperty{Payload::Variant, "IntegerValue", ReadSigned<std::int32_t>, nullptr},
+    HostProperty{Payload::Variant, "IntegerValue", ReadSigned<Integer>, nullptr},
     HostProperty{Payload::Variant, "Int32Value", ReadSigned<std::int32_t>, nullptr},
     HostProperty{Payload::Variant, "Int64Value", ReadSigned<std::int64_t>, nullptr},
     HostProperty{Payload::Variant, "LongValue", ReadSigned<std::int64_t>, nullptr},
@@ -140,13 +139,9 @@ struct PassedType {
     PropertyValue (*fromReturn)(const ReturnValue& value);
 };
 
-std::uint64_t BothWords(const ReturnValue& value) {
-    return static_cast<std::uint64_t>(value.high) << 32U | value.low;
-}
-
-template <typename Integer>
+template <typename Number>
 PropertyValue FromWords(const ReturnValue& value) {
-    return static_cast<Integer>(BothWords(value));
+    return static_cast<Number>(value.Wide());
 }
 
 template <typename Real>
@@ -155,14 +150,13 @@ PropertyValue FromReal(const ReturnValue& value) {
 }
 
 PropertyValue FromString(const ReturnValue& value) {
-    const std::uint64_t words = sizeof(void*) == 4 ? value.low : BothWords(value);
-    return std::bit_cast<String>(static_cast<std::uintptr_t>(words));
+    return std::bit_cast<String>(value.Word());
 }
 
 constexpr std::array PassedTypes = {
-    PassedType{"Integer", ReturnKind::Word, FromWords<std::int32_t>},
+    PassedType{"Integer", ReturnKind::Word, FromWords<Integer>},
     PassedType{"Int32", ReturnKind::Word, FromWords<std::int32_t>},
-    PassedType{"UInteger", ReturnKind::Word, FromWords<std::uint32_t>},
+    PassedType{"UInteger", ReturnKind::Word, FromWords<UInteger>},
     PassedType{"UInt32", ReturnKind::Word, FromWords<std::uint32_t>},
     PassedType{"Int64", ReturnKind::TwoWords, FromWords<std::int64_t>},
     PassedType{"Currency", ReturnKind::TwoWords, FromWords<std::int64_t>},
@@ -178,45 +172,16 @@ const PassedType* FindPassedType(std::string_view name) {
     return found == PassedTypes.end() ? nullptr : found;
 }
 
-/// A value as argument words, the low one first.
-std::vector<std::uintptr_t> AsWords(const PropertyValue& value) {
-    return std::visit(
-        [](auto plain) -> std::vector<std::uintptr_t> {
-            using Plain = decltype(plain);
-            if constexpr (std::is_same_v<Plain, String>) {
-                return {reinterpret_cast<std::uintptr_t>(plain)};
-            } else if constexpr (sizeof(Plain) <= sizeof(std::uint32_t)) {
-                return {static_cast<std::uintptr_t>(std::bit_cast<std::uint32_t>(plain))};
-            } else {
-                const auto bits = std::bit_cast<std::uint64_t>(plain);
-                if constexpr (sizeof(std::uintptr_t) == sizeof bits) {
-                    return {bits};
-                } else {
-                    return {static_cast<std::uintptr_t>(bits),
-                            static_cast<std::uintptr_t>(bits >> 32U)};
-                }
-            }
-        },
-        value);
-}
-
-std::uintptr_t AsWord(Object object) {
-    return reinterpret_cast<std::uintptr_t>(object);
-}
-
-/// The record's own word as the routine gets it.
-std::uintptr_t AsWord(std::int32_t parameter) {
-    return static_cast<std::uint32_t>(parameter);
-}
-
 std::optional<PropertyValue> ReadPluginProperty(Host& host, Object object,
                                                 const PropertyInfo& property) {
     const PassedType* type = FindPassedType(property.type);
     if (type == nullptr || property.getter == nullptr) {
         return std::nullopt;
     }
-    const std::array words = {AsWord(object), AsWord(property.parameter)};
-    return type->fromReturn(host.Call(property.getter, words, type->kind));
+    CallArguments arguments;
+    arguments.Add(object);
+    arguments.Add(property.parameter);
+    return type->fromReturn(host.Call(property.getter, arguments, type->kind));
 }
 
 bool WritePluginProperty(Host& host, Object object, const PropertyInfo& property,
@@ -226,10 +191,11 @@ bool WritePluginProperty(Host& host, Object object, const PropertyInfo& property
         type->fromReturn(ReturnValue{}).index() != value.index()) {
         return false;
     }
-    std::vector<std::uintptr_t> words = {AsWord(object), AsWord(property.parameter)};
-    const std::vector<std::uintptr_t> valueWords = AsWords(value);
-    words.insert(words.end(), valueWords.begin(), valueWords.end());
-    host.Call(property.setter, words, ReturnKind::None);
+    CallArguments arguments;
+    arguments.Add(object);
+    arguments.Add(property.parameter);
+    std::visit([&](auto plain) { arguments.Add(plain); }, value);
+    host.Call(property.setter, arguments, ReturnKind::None);
     return true;
 }
 

@@ -11,7 +11,8 @@
 
 namespace standin {
 
-/// A value of a property; the alternative is its type. Currency is a 64-bit integer.
+/// A value of a property; the alternative is its type. Currency is a 64-bit integer, and so are
+/// Integer and UInteger at 64 bits.
 using PropertyValue =
     std::variant<std::int32_t, std::uint32_t, std::int64_t, std::uint64_t, float, double, String>;
 

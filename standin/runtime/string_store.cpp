@@ -6,17 +6,16 @@
 #include <new>
 #include <utility>
 
+#include "standin/runtime/record_layout.hpp"
 #include "standin/runtime/text_encoding.hpp"
 
 namespace standin {
 namespace {
 
 using host_interface::StringData;
-using host_interface::StringRecord;
 
 /// What fills bytes and words of a string that a plug-in has no business with.
 constexpr std::byte NoiseByte{0xEE};
-constexpr std::uintptr_t NoiseWord = 0x0BADF00D;
 /// The host's bytes in front of a text.
 constexpr std::size_t TextOffset = 1;
 
@@ -44,6 +43,34 @@ std::optional<HostTextEncoding> CommonEncoding(HostTextEncoding left, HostTextEn
     return std::nullopt;
 }
 
+/// The handle of a string whose fields no plug-in may read: an address at which no processor lets a
+/// program read, and which is no other string's.
+String OpaqueHandle(std::uint64_t serial) {
+    constexpr std::uint64_t NobodysAddresses = 0x00F0'0000'0000'0000;
+    constexpr std::uint64_t Distance = 64;
+    return std::bit_cast<String>(static_cast<std::uintptr_t>(NobodysAddresses + Distance * serial));
+}
+
+/// Fills the record that 32-bit plug-ins read and answers its handle.
+String ReadableHandle(const StringEntry& entry) {
+    std::byte* record = entry.record.data();
+    std::fill_n(record, entry.record.size(), NoiseByte);
+    layout::Set(record, layout::String::Storage, reinterpret_cast<const char*>(entry.text.data()));
+    layout::Set(record, layout::String::Length, static_cast<std::int32_t>(entry.length));
+    return reinterpret_cast<String>(record);
+}
+
+/// Whether the record that 32-bit plug-ins read is as the host made it.
+bool RecordKept(const StringEntry& entry) {
+    if (!layout::IsNarrow) {
+        return true;
+    }
+    const layout::Record record(entry.record.data());
+    return record.Get(layout::String::Storage) ==
+               reinterpret_cast<const char*>(entry.text.data()) &&
+           record.Get(layout::String::Length) == static_cast<std::int32_t>(entry.length);
+}
+
 }  // namespace
 
 String StringStore::Make(std::string_view bytes, HostTextEncoding encoding) {
@@ -56,7 +83,7 @@ String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding
     }
     StringEntry entry;
     try {
-        entry.record = VisibleMemory(sizeof(StringRecord));
+        entry.record = VisibleMemory(layout::String::Size.Here());
         entry.text = MakeText(bytes, TextOffset);
     } catch (const std::bad_alloc&) {
         return nullptr;
@@ -67,13 +94,9 @@ String StringStore::MakeRecord(std::string_view bytes, HostTextEncoding encoding
     entry.serial = ++lastSerial_;
     entry.references += spareReferences_;
 
-    auto* record = reinterpret_cast<StringRecord*>(entry.record.data());
-    record->hostWord0 = std::bit_cast<void*>(NoiseWord);
-    record->storage = reinterpret_cast<const char*>(entry.text.data());
-    record->hostWord2 = std::bit_cast<void*>(NoiseWord);
-    record->length = static_cast<std::int32_t>(bytes.size());
-    strings_.Add(record, std::move(entry));
-    return record;
+    String handle = layout::IsNarrow ? ReadableHandle(entry) : OpaqueHandle(entry.serial);
+    strings_.Add(handle, std::move(entry));
+    return handle;
 }
 
 String StringStore::Join(String left, String right, const char* user) {
@@ -163,9 +186,12 @@ bool StringStore::LendData(String text, HostTextEncoding encoding, StringData* r
                         held->second.description + " was not given back");
         lent_.erase(held);
     }
-    const auto bytes = encoding == HostTextEncoding::Unknown
-                           ? std::optional<std::string>(Bytes(text, user))
-                           : BytesAs(text, encoding, user);
+    // What a 64-bit plug-in asks for in the string's own encoding are the bytes as they are.
+    const StringEntry* entry = layout::IsNarrow ? nullptr : strings_.Find(text);
+    const bool asTheyAre =
+        encoding == HostTextEncoding::Unknown || (entry != nullptr && encoding == entry->encoding);
+    const auto bytes =
+        asTheyAre ? std::optional<std::string>(Bytes(text, user)) : BytesAs(text, encoding, user);
     if (!bytes || failures_.FailsNow(Allocation::String)) {
         return false;
     }
@@ -174,11 +200,12 @@ bool StringStore::LendData(String text, HostTextEncoding encoding, StringData* r
     data.serial = ++lastLentSerial_;
     data.description = "string data #" + std::to_string(data.serial) + " " + Quoted(*bytes) + " (" +
                        EncodingName(encoding) + ", " + std::to_string(bytes->size()) + " bytes)";
-    record->data = reinterpret_cast<const char*>(data.bytes.data());
-    record->length = bytes->size();
-    record->encoding = static_cast<std::uint32_t>(encoding);
-    record->hostPointer = data.bytes.data();
-    record->hostWord = data.serial;
+    using Fields = layout::StringData;
+    layout::Set(record, Fields::Data, reinterpret_cast<const char*>(data.bytes.data()));
+    layout::Set(record, Fields::Length, bytes->size());
+    layout::Set(record, Fields::Encoding, static_cast<std::uint32_t>(encoding));
+    layout::Set(record, Fields::HostPointer, data.bytes.data());
+    layout::Set(record, Fields::HostWord, data.serial);
     lent_.insert_or_assign(record, std::move(data));
     return true;
 }
@@ -192,7 +219,8 @@ void StringStore::ReturnData(StringData* record, const char* user) {
         return;
     }
     const auto held = lent_.find(record);
-    if (held != lent_.end() && held->second.serial == record->hostWord) {
+    const std::uint32_t serial = layout::Record(record).Get(layout::StringData::HostWord);
+    if (held != lent_.end() && held->second.serial == serial) {
         quarantine_.Add(std::move(held->second.bytes), "string data", held->second.serial);
         lent_.erase(held);
         return;
@@ -201,12 +229,12 @@ void StringStore::ReturnData(StringData* record, const char* user) {
         complain("the record of " + held->second.description + " was overwritten");
         return;
     }
-    const auto original = std::ranges::find_if(
-        lent_, [&](const auto& lent) { return lent.second.serial == record->hostWord; });
+    const auto original =
+        std::ranges::find_if(lent_, [&](const auto& lent) { return lent.second.serial == serial; });
     if (original != lent_.end()) {
         complain("a copy of the record of " + original->second.description + " is given back");
-    } else if (record->hostWord > 0 && record->hostWord <= lastLentSerial_) {
-        complain("string data #" + std::to_string(record->hostWord) + " was given back before");
+    } else if (serial > 0 && serial <= lastLentSerial_) {
+        complain("string data #" + std::to_string(serial) + " was given back before");
     } else {
         complain("a record that the host never filled is given back");
     }
@@ -280,10 +308,7 @@ void StringStore::Die(String text, const StringEntry& entry, const char* user) {
 }
 
 void StringStore::CheckUnchanged(const StringEntry& entry, const char* user) {
-    const auto* record = reinterpret_cast<const StringRecord*>(entry.record.data());
-    const bool recordKept = record->storage == reinterpret_cast<const char*>(entry.text.data()) &&
-                            record->length == static_cast<std::int32_t>(entry.length);
-    if (!recordKept || std::hash<std::string_view>{}(TextOf(entry)) != entry.textHash) {
+    if (!RecordKept(entry) || std::hash<std::string_view>{}(TextOf(entry)) != entry.textHash) {
         violations_.Add(std::string(user) + ": " + Describe(entry) +
                         " was changed, but strings belong to the host");
     }

@@ -13,7 +13,8 @@
 
 namespace standin {
 
-/// What the host knows of one string. The plug-in sees `record` and `text`.
+/// What the host knows of one string. A 32-bit plug-in sees `record` and `text`; for a 64-bit one
+/// the handle is no address of anything.
 struct StringEntry {
     VisibleMemory record;
     VisibleMemory text;
@@ -55,8 +56,8 @@ public:
     void Lock(String text, const char* user);
     void Unlock(String text, const char* user);
 
-    /// Fills a record with the text in that encoding (0xFFFF: its bytes as they are); false, with
-    /// the record untouched, when that cannot be had.
+    /// Fills a record with the text in that encoding (0xFFFF, or at 64 bits its own encoding: its
+    /// bytes as they are); false, with the record untouched, when that cannot be had.
     bool LendData(String text, HostTextEncoding encoding, host_interface::StringData* record,
                   const char* user);
     void ReturnData(host_interface::StringData* record, const char* user);

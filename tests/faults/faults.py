@@ -21,7 +21,7 @@ FAULTS = [
         "host/byte_view.hpp",
         ("text->storage + 1", "text->storage"),
         ("length_ = text->length", "length_ = text->length - 1"),
-        ("std::max<std::int32_t>(host::memoryBlockGetSize(block), 0)", "host::memoryBlockGetSize(block)"),
+        ("std::max<host_interface::Integer>(host::memoryBlockGetSize(block), 0)", "host::memoryBlockGetSize(block)"),
         ("ObjectReference::Share(block)", "ObjectReference(block)"),
     ),
     *faults_in(
@@ -194,7 +194,7 @@ FAULTS = [
     ),
     *faults_in(
         "number/text.hpp",
-        ("scient_from = scientificFrom", "scient_from = scientificFrom + 1"),
+        ("scient_from = Nearest32(scientificFrom)", "scient_from = scientificFrom + 1"),
         ("trim_zeroes = IsTrue(trimZeros)", "trim_zeroes = !IsTrue(trimZeros)"),
         ("text.Utf8Length() > 0", "text.Utf8Length() > 1"),
         ("StringReference(std::exchange(*afterText, nullptr)).Reset();", ""),

@@ -77,8 +77,8 @@ void Raise(const char* className, const std::string& message) {
     host.unlockObject(exception);
 }
 
-std::int32_t instances = 0;
-std::int32_t counter = 0;
+Integer instances = 0;
+Integer counter = 0;
 
 // Life -------------------------------------------------------------------------------------------
 
@@ -87,9 +87,9 @@ void Construct(Object self) {
     Write(self, 0);
 }
 
-void ConstructInteger(Object self, std::int32_t value) {
+void ConstructInteger(Object self, Integer value) {
     ++instances;
-    Write(self, value);
+    Write(self, static_cast<std::int32_t>(value));
 }
 
 void ConstructInt64(Object self, std::int64_t value) {
@@ -122,44 +122,44 @@ String ConvertToString(Object self) {
 
 // Properties -------------------------------------------------------------------------------------
 
-std::int32_t GetValue(Object self, std::int32_t parameter) {
+Integer GetValue(Object self, std::int32_t parameter) {
     return Read(self) + parameter;
 }
 
-void SetValue(Object self, std::int32_t parameter, std::int32_t value) {
-    Write(self, value - parameter);
+void SetValue(Object self, std::int32_t parameter, Integer value) {
+    Write(self, static_cast<std::int32_t>(value - parameter));
 }
 
 /// Only the low byte of a Boolean counts.
-std::uint32_t GetIsOdd(Object self, std::int32_t /*parameter*/) {
+BooleanWord GetIsOdd(Object self, std::int32_t /*parameter*/) {
     return 0xA5A5A500U | ((Read(self) & 1) != 0 ? 1U : 0U);
 }
 
-std::int32_t GetCounter() {
+Integer GetCounter() {
     return counter;
 }
 
-void SetCounter(std::int32_t value) {
+void SetCounter(Integer value) {
     counter = value;
 }
 
-std::int32_t GetInstances() {
+Integer GetInstances() {
     return instances;
 }
 
 // Methods ----------------------------------------------------------------------------------------
 
-String Describe(Object self, std::uint32_t boolean, std::int32_t integer, std::uint32_t unsigned32,
+String Describe(Object self, BooleanWord boolean, Integer integer, std::uint32_t unsigned32,
                 std::int64_t wide, std::uint64_t unsignedWide, float single, double real,
                 std::int64_t currency, String text, Object other) {
-    return Make(std::to_string(Read(self)) + " " + std::to_string(boolean) + " " +
+    return Make(std::to_string(Read(self)) + " " + std::to_string(boolean & 0xFFU) + " " +
                 std::to_string(integer) + " " + std::to_string(unsigned32) + " " +
                 std::to_string(wide) + " " + std::to_string(unsignedWide) + " " +
                 std::to_string(single) + " " + std::to_string(real) + " " +
                 std::to_string(currency) + " " + Text(text) + " " + std::to_string(Read(other)));
 }
 
-void Change(Object /*self*/, std::uint8_t* boolean, std::int32_t* integer, std::uint64_t* wide,
+void Change(Object /*self*/, std::uint8_t* boolean, Integer* integer, std::uint64_t* wide,
             float* single, double* real, String* text, Object* other) {
     *boolean = *boolean == 0 ? 1 : 0;
     *integer += 1;
@@ -192,25 +192,25 @@ String Swap(Object /*self*/, String text, String* variable) {
     return Make(result);
 }
 
-String Greet(Object /*self*/, String name, std::int32_t times, std::uint32_t loud, double factor,
+String Greet(Object /*self*/, String name, Integer times, BooleanWord loud, double factor,
              String end) {
     std::string text;
-    for (std::int32_t i = 0; i < times; ++i) {
+    for (Integer i = 0; i < times; ++i) {
         text += "hello " + Text(name) + Text(end);
     }
-    return Make(text + (loud != 0 ? "!" : ".") + std::to_string(factor));
+    return Make(text + ((loud & 0xFFU) != 0 ? "!" : ".") + std::to_string(factor));
 }
 
-std::int32_t GetCell(Object self, std::int32_t index) {
+Integer GetCell(Object self, Integer index) {
     return Read(self) * 10 + index;
 }
 
-void SetCell(Object self, std::int32_t index, std::int32_t value) {
-    Write(self, value - index);
+void SetCell(Object self, Integer index, Integer value) {
+    Write(self, static_cast<std::int32_t>(value - index));
 }
 
 template <int Number>
-std::int32_t Which() {
+Integer Which() {
     return Number;
 }
 
@@ -258,7 +258,7 @@ void Replace(Object /*self*/, Object* variant) {
     *variant = MakeSample(7);
 }
 
-std::int32_t GetBlockSize(Object /*self*/, Object block) {
+Integer GetBlockSize(Object /*self*/, Object block) {
     return block == nullptr ? -1 : host.getBlockSize(block);
 }
 
@@ -268,8 +268,8 @@ Object Add(Object self, Object other) {
     return MakeSample(Read(self) + Read(other));
 }
 
-Object AddInteger(Object self, std::int32_t other) {
-    return MakeSample(Read(self) + other);
+Object AddInteger(Object self, Integer other) {
+    return MakeSample(static_cast<std::int32_t>(Read(self) + other));
 }
 
 Object SubtractRight(Object self, Object other) {
@@ -280,7 +280,7 @@ Object Negate(Object self) {
     return MakeSample(-Read(self));
 }
 
-std::int32_t Compare(Object self, Object other) {
+Integer Compare(Object self, Object other) {
     return Read(self) - Read(other);
 }
 

@@ -1,5 +1,6 @@
 // How the stand-in host calls routines, takes debug lines and loads libraries.
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <span>
 #include <stdexcept>
@@ -15,6 +16,7 @@ extern "C" void OutputDebugStringA(const char* text);
 #endif
 
 using namespace standin_tests;
+using standin::CallArguments;
 using standin::Host;
 using standin::HostOptions;
 using standin::PluginLibrary;
@@ -35,6 +37,17 @@ using Words = std::vector<std::uintptr_t>;
 constexpr const char* SmallLibrary = STANDIN_TESTS_SMALL_LIBRARY;
 constexpr const char* LibraryWithoutEntry = STANDIN_TESTS_LIBRARY_WITHOUT_ENTRY;
 
+std::string& Received() {
+    static std::string received;
+    return received;
+}
+
+// Four parameters of a kind each, and how they are shown.
+#define TAKES_FOUR(k) double real##k, std::uint32_t word##k, float single##k, std::uint32_t flag##k
+#define SHOWN_FOUR(k)                                                       \
+    " | " + std::to_string(real##k) + " " + std::to_string(word##k) + " " + \
+        std::to_string(single##k) + " " + std::to_string(flag##k & 0xFFU)
+
 extern "C" {
 std::uint32_t WeighedSum(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d,
                          std::uint32_t e, std::uint32_t f, std::uint32_t g, std::uint32_t h,
@@ -53,6 +66,16 @@ float SingleReal() {
 void Throwing() {
     throw std::runtime_error("from inside");
 }
+void TakeEveryKind(std::uint32_t boolean, double real, std::int32_t narrow, float single,
+                   std::uint64_t wide, void* address, TAKES_FOUR(1), TAKES_FOUR(2), TAKES_FOUR(3),
+                   TAKES_FOUR(4), TAKES_FOUR(5), TAKES_FOUR(6)) {
+    std::array<char, 17> hexadecimal{};
+    std::to_chars(hexadecimal.data(), hexadecimal.data() + 16, wide, 16);
+    Received() = std::to_string(boolean & 0xFFU) + " " + std::to_string(real) + " " +
+                 std::to_string(narrow) + " " + std::to_string(single) + " " + hexadecimal.data() +
+                 " " + std::to_string(reinterpret_cast<std::uintptr_t>(address)) + SHOWN_FOUR(1) +
+                 SHOWN_FOUR(2) + SHOWN_FOUR(3) + SHOWN_FOUR(4) + SHOWN_FOUR(5) + SHOWN_FOUR(6);
+}
 }
 
 }  // namespace
@@ -70,6 +93,39 @@ TEST_CASE("the words arrive in order and the result comes back in its registers"
           static_cast<double>(0.1F));
     CHECK(host.Violations().empty());
     CHECK_THROWS_AS(host.Call(nullptr, {}, ReturnKind::None), std::logic_error);
+}
+
+TEST_CASE("arguments of every kind arrive, in registers and on the stack") {
+    Host host;
+    CallArguments arguments;
+    arguments.Add(true);
+    arguments.Add(0.5);
+    arguments.Add(std::int32_t{-3});
+    arguments.Add(0.25F);
+    arguments.Add(std::uint64_t{0xFEDCBA9876543210});
+    arguments.Add(&host);
+    for (int k = 1; k <= 6; ++k) {
+        arguments.Add(k * 1.5);
+        arguments.Add(std::uint32_t{0xFFFFFFF0U} + static_cast<std::uint32_t>(k));
+        arguments.Add(static_cast<float>(k) / 4);
+        arguments.Add(k % 2 == 0);
+    }
+    Received() = {};
+    host.Call(AsRoutine(TakeEveryKind), arguments, ReturnKind::None);
+    CHECK(Received() == "1 0.500000 -3 0.250000 fedcba9876543210 " +
+                            std::to_string(reinterpret_cast<std::uintptr_t>(&host)) +
+                            " | 1.500000 4294967281 0.250000 0 | 3.000000 4294967282 0.500000 1"
+                            " | 4.500000 4294967283 0.750000 0 | 6.000000 4294967284 1.000000 1"
+                            " | 7.500000 4294967285 1.250000 0 | 9.000000 4294967286 1.500000 1");
+    CHECK(host.Violations().empty());
+}
+
+TEST_CASE("a call has an end of arguments") {
+    CallArguments arguments;
+    for (std::size_t k = 0; k < standin::MostArguments; ++k) {
+        arguments.Add(k);
+    }
+    CHECK_THROWS_AS(arguments.Add(true), std::length_error);
 }
 
 TEST_CASE("a native exception passes through a call") {
@@ -175,6 +231,80 @@ TEST_CASE("breaking the calling convention is a violation") {
     asm volatile("fstp %%st(0)" ::: "st");
 }
 
+#else
+
+extern "C" {
+std::uint64_t FirstRegister() asm("test_first_register");
+void DamageRegister() asm("test_damage_register");
+}
+
+#if defined(__aarch64__)
+asm(R"(
+    .text
+test_first_register:
+    hint #34
+    ret
+test_damage_register:
+    hint #34
+    mov x19, #1
+    ret
+)");
+#else
+asm(R"(
+    .text
+test_first_register:
+)"
+#if defined(_WIN32)
+    "movq %rcx, %rax\n"
+#else
+    "movq %rdi, %rax\n"
+#endif
+    R"(
+    ret
+test_damage_register:
+    movq $1, %rbx
+    ret
+)");
+#endif
+
+TEST_CASE("what an argument leaves free of its register is noise") {
+    Host host;
+    const auto inRegister = [&](auto value) {
+        CallArguments arguments;
+        arguments.Add(value);
+        return host.Call(AsRoutine(FirstRegister), arguments, ReturnKind::TwoWords).Wide();
+    };
+    CHECK(inRegister(true) == 0xA5A5A5A5A5A5A501U);
+    CHECK(inRegister(std::int32_t{-2}) == 0xA5A5A5A5FFFFFFFEU);
+    CHECK(inRegister(std::int64_t{-2}) == 0xFFFFFFFFFFFFFFFEU);
+    CHECK(host.Call(AsRoutine(FirstRegister), {}, ReturnKind::TwoWords).Wide() ==
+          0xA5A5A5A5A5A5A5A5U);
+}
+
+TEST_CASE("breaking the calling convention is a violation") {
+    Host host;
+    host.Call(AsRoutine(DamageRegister), {}, ReturnKind::None);
+    CHECK(Only(TakeViolations(host)) == "a routine changed a register that it has to preserve");
+}
+
+TEST_CASE("what only 32-bit hosts are is refused") {
+    const auto refusal = [](const HostOptions& options) {
+        try {
+            const Host host(options);
+        } catch (const std::invalid_argument& error) {
+            return std::string(error.what());
+        }
+        return std::string("accepted");
+    };
+    CHECK(refusal({.misalignedStack = true}) ==
+          "a misaligned stack is a matter of 32-bit hosts; this is a 64-bit one");
+    CHECK(refusal({.changedControlWord = true}) ==
+          "a changed x87 control word is a matter of 32-bit hosts; this is a 64-bit one");
+    CHECK(Contains(refusal({.version = 2015.02}), "2015.03 or a later one"));
+    CHECK(Contains(refusal({.version = std::nullopt}), "2015.03 or a later one"));
+    CHECK(refusal({.version = 2015.03}) == "accepted");
+}
+
 #endif
 
 TEST_CASE("debug lines are kept, or go to a sink") {
@@ -224,7 +354,8 @@ TEST_CASE("a library's entry gets the resolver, or null where that is asked for"
         CHECK(host.lookups().empty());
         CHECK(host.RegisteredClasses().empty());
     }
-    Host host(HostOptions{.misalignedStack = true, .changedControlWord = true});
+    constexpr bool IsNarrow = sizeof(void*) == 4;
+    Host host(HostOptions{.misalignedStack = IsNarrow, .changedControlWord = IsNarrow});
     PluginLibrary library(SmallLibrary);
     CHECK(host.TakeDebugLog() == std::vector<std::string>{"entered with a resolver"});
     CHECK(host.pluginInterfaceVersion() == 13);

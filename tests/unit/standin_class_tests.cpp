@@ -1,4 +1,4 @@
-// How the stand-in host reads the records of a plug-in, in both layouts of their tables.
+// How the stand-in host reads the records of a plug-in, in both forms of their tables.
 #include <array>
 #include <cstdint>
 #include <string>
@@ -9,13 +9,9 @@ using namespace standin_tests;
 using host_interface::AttributeDefinition;
 using host_interface::ClassDefinition;
 using host_interface::ConstantDefinition;
-using host_interface::ConstantDefinitionVersion9;
 using host_interface::EventDefinition;
-using host_interface::EventDefinitionVersion9;
 using host_interface::MethodDefinition;
-using host_interface::MethodDefinitionVersion9;
 using host_interface::PropertyDefinition;
-using host_interface::PropertyDefinitionVersion9;
 using host_interface::Routine;
 using standin::ClassInfo;
 using standin::Host;
@@ -30,7 +26,7 @@ void SecondRoutine() {}
 
 constexpr AttributeDefinition Hidden{"Hidden", ""};
 
-/// The same class in the long and in the short layout.
+/// The same class in the long and in the short form.
 struct LongTables {
     std::array<PropertyDefinition, 2> properties = {{
         {nullptr, "One", "Integer", 2, &FirstRoutine, nullptr, 0, {}, 0, nullptr},
@@ -44,18 +40,21 @@ struct LongTables {
     std::array<ConstantDefinition, 1> constants = {{{"Limit = 5", nullptr, 8, 0, nullptr}}};
 };
 
+#if HOST_INTERFACE_32_BIT
 struct ShortTables {
-    std::array<PropertyDefinitionVersion9, 2> properties = {{
+    std::array<host_interface::PropertyDefinitionVersion9, 2> properties = {{
         {nullptr, "One", "Integer", 2, &FirstRoutine, nullptr, 0, {}},
         {"Look", "Two", "String", 0x26, &SecondRoutine, &FirstRoutine, -3, {}},
     }};
-    std::array<MethodDefinitionVersion9, 2> methods = {{
+    std::array<host_interface::MethodDefinitionVersion9, 2> methods = {{
         {&SecondRoutine, nullptr, "Twice As Integer", 4},
         {nullptr, nullptr, "Nothing", 4},
     }};
-    std::array<EventDefinitionVersion9, 1> events = {{{"Changed()", nullptr}}};
-    std::array<ConstantDefinitionVersion9, 1> constants = {{{"Limit = 5", nullptr, 8}}};
+    std::array<host_interface::EventDefinitionVersion9, 1> events = {{{"Changed()", nullptr}}};
+    std::array<host_interface::ConstantDefinitionVersion9, 1> constants = {
+        {{"Limit = 5", nullptr, 8}}};
 };
+#endif
 
 template <typename Tables>
 ClassDefinition Record(Tables& tables, std::uint32_t version) {
@@ -67,13 +66,13 @@ ClassDefinition Record(Tables& tables, std::uint32_t version) {
     record.flags = 4;
     record.destructor = &FirstRoutine;
     record.properties = reinterpret_cast<PropertyDefinition*>(tables.properties.data());
-    record.propertyCount = static_cast<std::uint32_t>(tables.properties.size());
+    record.propertyCount = tables.properties.size();
     record.methods = reinterpret_cast<MethodDefinition*>(tables.methods.data());
-    record.methodCount = static_cast<std::uint32_t>(tables.methods.size());
+    record.methodCount = tables.methods.size();
     record.events = reinterpret_cast<EventDefinition*>(tables.events.data());
-    record.eventCount = static_cast<std::uint32_t>(tables.events.size());
+    record.eventCount = tables.events.size();
     record.constants = reinterpret_cast<ConstantDefinition*>(tables.constants.data());
-    record.constantCount = static_cast<std::uint32_t>(tables.constants.size());
+    record.constantCount = tables.constants.size();
     record.sharedProperties = record.properties;
     record.sharedPropertyCount = 1;
     record.sharedMethods = record.methods;
@@ -136,6 +135,7 @@ TEST_CASE("from interface version 10 on the tables hold long entries with attrib
     CHECK(host.Leaks().empty());
 }
 
+#if HOST_INTERFACE_32_BIT
 TEST_CASE("up to interface version 9 the tables hold short entries") {
     Host host(HostOptions{.version = std::nullopt});
     RegisterVersion(9);
@@ -148,6 +148,17 @@ TEST_CASE("up to interface version 9 the tables hold short entries") {
     CHECK(info->properties[1].attributes.empty());
     CHECK(host.Leaks().empty());
 }
+#else
+TEST_CASE("no 64-bit host reads what a plug-in of interface version 9 registers") {
+    Host host;
+    RegisterVersion(9);
+    LongTables tables;
+    ClassDefinition record = Record(tables, 9);
+    Register(&record);
+    CHECK(Only(host.Violations()) ==
+          "PluginRegisterClass: class \"Sample\": its version is 9, which no 64-bit host reads");
+}
+#endif
 
 TEST_CASE("every class has an offset of its own") {
     Host host;
@@ -245,7 +256,7 @@ TEST_CASE("a class that is registered again is read anew and keeps its offset") 
     ClassDefinition record = Record(tables, 13);
     Register(&record);
     const ClassInfo* info = host.FindClass("Sample");
-    const std::uint32_t offset = record.instanceDataOffset;
+    const host_interface::UInteger offset = record.instanceDataOffset;
     record.methodCount = 1;
     Register(&record);
     CHECK(host.FindClass("Sample") == info);

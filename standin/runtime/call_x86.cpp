@@ -1,14 +1,8 @@
-#include "standin/runtime/call.hpp"
-
-#include <algorithm>
-#include <array>
+// Calls at 32 bits: cdecl, from a stack of any alignment.
 #include <bit>
 #include <cstddef>
-#include <stdexcept>
-#include <type_traits>
-#include <utility>
 
-#if defined(__i386__)
+#include "standin/runtime/call.hpp"
 
 namespace standin {
 namespace {
@@ -142,12 +136,13 @@ standin_call_trampoline:
 
 namespace standin {
 
-CallResult CallRoutine(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind,
+CallResult CallRoutine(Routine routine, std::span<const CallArgument> arguments, ReturnKind kind,
                        CallConditions conditions) {
+    const ArgumentWords words(arguments);
     CallFrame frame{};
     frame.routine = routine;
-    frame.words = words.data();
-    frame.count = static_cast<std::uint32_t>(words.size());
+    frame.words = words.All().data();
+    frame.count = static_cast<std::uint32_t>(words.All().size());
     frame.stackOffset = conditions.stackOffset;
     frame.controlWord = conditions.changedControlWord ? SinglePrecisionTowardZero : 0;
     frame.realForm = kind == ReturnKind::Single ? 1 : kind == ReturnKind::Double ? 2 : 0;
@@ -167,51 +162,3 @@ CallResult CallRoutine(Routine routine, std::span<const std::uintptr_t> words, R
 }
 
 }  // namespace standin
-
-#else
-
-namespace standin {
-namespace {
-
-/// A processor whose calling convention passes words in registers or on the stack in one way for
-/// all counts: a routine called with more words than it takes does not look at the rest.
-constexpr std::size_t MostWords = 16;
-
-template <typename Result, std::size_t... K>
-Result CallWith(Routine routine, const std::array<std::uintptr_t, MostWords>& words,
-                std::index_sequence<K...>) {
-    using Function = Result(std::remove_cvref_t<decltype(words[K])>...);
-    return reinterpret_cast<Function*>(routine)(words[K]...);
-}
-
-template <typename Result>
-Result CallAs(Routine routine, const std::array<std::uintptr_t, MostWords>& words) {
-    return CallWith<Result>(routine, words, std::make_index_sequence<MostWords>{});
-}
-
-}  // namespace
-
-CallResult CallRoutine(Routine routine, std::span<const std::uintptr_t> words, ReturnKind kind,
-                       CallConditions) {
-    if (words.size() > MostWords) {
-        throw std::length_error("a routine with more than 16 argument words");
-    }
-    std::array<std::uintptr_t, MostWords> all{};
-    std::ranges::copy(words, all.begin());
-
-    CallResult result;
-    if (kind == ReturnKind::Single) {
-        result.value.real = static_cast<double>(CallAs<float>(routine, all));
-    } else if (kind == ReturnKind::Double) {
-        result.value.real = CallAs<double>(routine, all);
-    } else {
-        const auto word = static_cast<std::uint64_t>(CallAs<std::uintptr_t>(routine, all));
-        result.value.low = static_cast<std::uint32_t>(word);
-        result.value.high = static_cast<std::uint32_t>(word >> 32U);
-    }
-    return result;
-}
-
-}  // namespace standin
-
-#endif
