@@ -12,13 +12,14 @@ namespace standin {
 const std::string_view UsageText =
     R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
 
-PROGRAM is a file in the host's language, `-` reads it from standard input, -e takes its text; -i runs
+PROGRAM is a project, NAME.xojo_project, or a file in the host's language, `-` reads it from standard input, -e takes its text; -i runs
 line by line what is typed.
 
   --library FILE       the plug-in library to load (./run gives it)
   --documentation FILE what -i tells about the members (./run gives it)
   --prompts            -i shows where a line is expected (./run gives it on a terminal)
-  --list               every registered class with its members as the host sees them
+  --list [NAME]        every registered class with its members as the host sees them, or those with
+                       that name
   --dump               the registered tables, entry by entry
   --ledger             counts of strings and objects at the end, on standard error
   --debug-log          the plug-in's log lines, on standard error
@@ -165,6 +166,9 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
     }
     if (line.task == Task::Prompt && (line.file || line.text)) {
         throw UsageError("-i takes no program");
+    }
+    if (line.task == Task::Dump && line.file) {
+        throw UsageError("--dump takes no program");
     }
     if (line.task == Task::Run && line.file.has_value() == line.text.has_value()) {
         throw UsageError(line.file ? "both a program file and -e are given"

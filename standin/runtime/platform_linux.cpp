@@ -10,6 +10,7 @@
 
 #include <dlfcn.h>
 #include <iconv.h>
+#include <malloc.h>
 
 #include "standin/runtime/platform.hpp"
 
@@ -214,6 +215,10 @@ host_interface::Routine FindExport(void* library, const char* name) {
 
 void UnloadLibrary(void* library) {
     dlclose(library);
+}
+
+std::size_t MemoryUsed() {
+    return mallinfo2().uordblks;
 }
 
 }  // namespace standin::platform
