@@ -33,7 +33,8 @@ bool IsWordPart(char character) {
 std::vector<std::string_view> WordsOf(std::string_view text) {
     std::vector<std::string_view> words;
     while (!text.empty()) {
-        const auto size = static_cast<std::size_t>(std::ranges::find_if_not(text, IsWordPart) - text.begin());
+        const auto size =
+            static_cast<std::size_t>(std::ranges::find_if_not(text, IsWordPart) - text.begin());
         if (size > 0) {
             words.push_back(text.substr(0, size));
         }

@@ -68,9 +68,9 @@ std::vector<code::ExpressionPtr> ExpressionChecker::CheckIndices(const Checked& 
     }
     const auto dimensions = array.type.dimensions;
     if (indices.size() != dimensions) {
-        throw ProgramError(at, dimensions == 1 ? "an array takes one index"
-                                               : "this array takes " + std::to_string(dimensions) +
-                                                     " indices");
+        throw ProgramError(at, dimensions == 1
+                                   ? "an array takes one index"
+                                   : "this array takes " + std::to_string(dimensions) + " indices");
     }
     return ConvertAll(std::move(indices), {Kind::Int64});
 }
@@ -93,12 +93,12 @@ std::optional<Checked> ExpressionChecker::TryArrayMember(Checked& array, const s
     if (array.type.dimensions > 1) {
         if (member->function == FindArrayMember("ResizeTo")->function) {
             auto indices = CheckIndices(array, std::move(arguments), at);
-            return Checked{std::make_unique<code::ResizeArray>(std::move(array.code),
-                                                               std::move(indices)),
-                           {Kind::None},
-                           at,
-                           {},
-                           false};
+            return Checked{
+                std::make_unique<code::ResizeArray>(std::move(array.code), std::move(indices)),
+                {Kind::None},
+                at,
+                {},
+                false};
         }
         if (member->function != FindArrayMember("Ubound")->function) {
             throw ProgramError(at, "an array of several dimensions has no " + Quoted(name));
@@ -137,9 +137,9 @@ std::optional<Checked> ExpressionChecker::TrySortBy(Checked& array, const std::s
     };
     const auto found = std::ranges::find_if(callables_.routines, compares);
     if (found == callables_.routines.end()) {
-        throw ProgramError(arguments.front()->at,
-                           "there is no Function " + Quoted(address->name) + " that takes two " +
-                               NameOf(element) + " and returns an Integer");
+        throw ProgramError(arguments.front()->at, "there is no Function " + Quoted(address->name) +
+                                                      " that takes two " + NameOf(element) +
+                                                      " and returns an Integer");
     }
     return Checked{std::make_unique<code::SortBy>(std::move(array.code), *found->code),
                    {Kind::None},

@@ -168,7 +168,8 @@ Value& RequireElement(Array& array, const std::vector<std::int64_t>& indices,
         if (indices[i] < 0 || indices[i] > array.lastIndices[i]) {
             machine.Raise("OutOfBoundsException",
                           "The index " + std::to_string(indices[i]) + " of dimension " +
-                              std::to_string(i + 1) + " is outside the array, whose last index is " +
+                              std::to_string(i + 1) +
+                              " is outside the array, whose last index is " +
                               std::to_string(array.lastIndices[i]) + ".");
         }
         offset = offset * static_cast<std::size_t>(array.lastIndices[i] + 1) +

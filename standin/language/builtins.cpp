@@ -307,9 +307,8 @@ constexpr auto EncodingNames = std::to_array<EncodingName>({
 
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     std::vector<BuiltIn> builtIns;
-    for (const auto& table :
-         {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions(),
-          ApplicationFunctions()}) {
+    for (const auto& table : {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions(),
+                              ApplicationFunctions()}) {
         for (const auto& row : table) {
             auto signature = types.Resolve(ParseDeclaration(row.declaration), row.declaration);
             if (row.module != nullptr) {

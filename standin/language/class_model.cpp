@@ -68,19 +68,41 @@ bool HasArray(const Signature& signature) {
 }
 
 /// Types of the host that programs of other kinds use.
-constexpr std::string_view UnsupportedTypes[] = {
-    "BinaryStream",   "Color",        "Database",  "DateInterval",   "Delegate",
-    "FolderItem",     "Graphics",     "JSONItem",  "Mutex",          "Pair",
-    "Picture",        "Ptr",          "RegEx",     "Semaphore",      "Shell",
-    "TextInputStream", "TextOutputStream", "Thread", "Timer",        "WString",
-    "CString",        "Xojo",         "TCPSocket", "URLConnection",  "Text",
-    "CGFloat",        "Auto",         "Window",    "DesktopWindow",  "DictionaryEntry"};
+constexpr std::string_view UnsupportedTypes[] = {"BinaryStream",
+                                                 "Color",
+                                                 "Database",
+                                                 "DateInterval",
+                                                 "Delegate",
+                                                 "FolderItem",
+                                                 "Graphics",
+                                                 "JSONItem",
+                                                 "Mutex",
+                                                 "Pair",
+                                                 "Picture",
+                                                 "Ptr",
+                                                 "RegEx",
+                                                 "Semaphore",
+                                                 "Shell",
+                                                 "TextInputStream",
+                                                 "TextOutputStream",
+                                                 "Thread",
+                                                 "Timer",
+                                                 "WString",
+                                                 "CString",
+                                                 "Xojo",
+                                                 "TCPSocket",
+                                                 "URLConnection",
+                                                 "Text",
+                                                 "CGFloat",
+                                                 "Auto",
+                                                 "Window",
+                                                 "DesktopWindow",
+                                                 "DictionaryEntry"};
 
 /// Throws for a type that the host has, but that is not supported here.
 void RefuseHostType(const syntax::TypeName& name) {
-    if (std::ranges::any_of(UnsupportedTypes, [&name](std::string_view type) {
-            return SameName(type, name.name);
-        })) {
+    if (std::ranges::any_of(UnsupportedTypes,
+                            [&name](std::string_view type) { return SameName(type, name.name); })) {
         throw ProgramError(name.at, "the type " + Quoted(name.name) + " is not supported here");
     }
 }
@@ -249,10 +271,10 @@ Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
     signature.name = std::move(syntax.name);
     signature.declaration = std::move(declaration);
     for (auto& parameter : syntax.parameters) {
-        signature.parameters.push_back(
-            {std::move(parameter.name), resolve(parameter.type), parameter.byRef,
-             std::move(parameter.defaultValue), parameter.isOptional, parameter.isParamArray,
-             parameter.isExtended});
+        signature.parameters.push_back({std::move(parameter.name), resolve(parameter.type),
+                                        parameter.byRef, std::move(parameter.defaultValue),
+                                        parameter.isOptional, parameter.isParamArray,
+                                        parameter.isExtended});
     }
     if (syntax.result) {
         signature.result = resolve(*syntax.result);
@@ -293,8 +315,7 @@ ClassModel& TypeTable::Declare(const std::string& name, ClassModel::Origin origi
     } else {
         info = &Host::Current().ProgramClass(name);
     }
-    const auto* super =
-        origin == ClassModel::Origin::Enumeration ? nullptr : FindClass("Object");
+    const auto* super = origin == ClassModel::Origin::Enumeration ? nullptr : FindClass("Object");
     return *classes_.emplace(name, std::make_unique<ClassModel>(*info, super, origin))
                 .first->second;
 }
@@ -318,8 +339,8 @@ Type TypeTable::Require(const syntax::TypeName& name) const {
     const auto type = Find(name.name);
     if (!type) {
         RefuseHostType(name);
-        throw ProgramError(name.at, "there is no type " + Quoted(name.name) +
-                                        SuggestionFor(name.name, Names()));
+        throw ProgramError(
+            name.at, "there is no type " + Quoted(name.name) + SuggestionFor(name.name, Names()));
     }
     return name.dimensions == 0 ? *type : Type::ArrayOf(*type, name.dimensions);
 }

@@ -145,7 +145,9 @@ public:
     std::size_t declaredCount() const { return declared_.size(); }
 
     /// What the host tells of itself.
-    const Constants& constants() const { return outer_ == nullptr ? constants_ : outer_->constants(); }
+    const Constants& constants() const {
+        return outer_ == nullptr ? constants_ : outer_->constants();
+    }
     /// The names of all types.
     std::vector<std::string_view> Names() const;
 

@@ -24,12 +24,11 @@ Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
                                     : "(" + std::string(type.dimensions - 1, ',') + ")";
     };
     for (auto& parameter : syntax.parameters) {
-        declaration += (declaration.empty() ? "" : ", ") +
-                       std::string(parameter.byRef ? "ByRef " : "") +
-                       (parameter.isExtended ? "Extends " : "") +
-                       (parameter.isParamArray ? "ParamArray " : "") + parameter.name +
-                       (parameter.isParamArray ? "" : brackets(parameter.type)) + " As " +
-                       parameter.type.name;
+        declaration +=
+            (declaration.empty() ? "" : ", ") + std::string(parameter.byRef ? "ByRef " : "") +
+            (parameter.isExtended ? "Extends " : "") +
+            (parameter.isParamArray ? "ParamArray " : "") + parameter.name +
+            (parameter.isParamArray ? "" : brackets(parameter.type)) + " As " + parameter.type.name;
         head.parameters.push_back({parameter.name, parameter.at, parameter.type, parameter.byRef,
                                    std::move(parameter.defaultValue), parameter.isOptional,
                                    parameter.isParamArray, parameter.isExtended});
@@ -88,17 +87,18 @@ code::Block Compiler::CompileProject(syntax::Program program, const Source& sour
     if (application == program.units.end()) {
         if (errors.empty()) {
             errors.Add(ProgramError(
-                0, "no class of the project inherits from ConsoleApplication, so nothing can start"));
+                0,
+                "no class of the project inherits from ConsoleApplication, so nothing can start"));
         }
     } else if (std::ranges::none_of(application->routines, [](const syntax::Routine& routine) {
                    return SameName(routine.signature.name, RunName);
                })) {
-        errors.Add(ProgramError(application->at, Quoted(application->name) +
-                                                     " has no Function Run(args() As String)"));
+        errors.Add(ProgramError(
+            application->at, Quoted(application->name) + " has no Function Run(args() As String)"));
     } else {
         const Position at = application->at;
-        auto run = Make(at, syntax::Member{Make(at, syntax::Name{application->name}),
-                                           std::string(RunName)});
+        auto run = Make(
+            at, syntax::Member{Make(at, syntax::Name{application->name}), std::string(RunName)});
         syntax::Expressions words;
         words.push_back(Make(at, syntax::TextLiteral{source.name()}));
         syntax::Expressions arguments;
@@ -159,9 +159,8 @@ void Compiler::CompileBody(const Pending& pending, ErrorList& errors) {
     StatementChecker checker(types_, callables_, scope, globals_, errors, result,
                              pending.surroundings);
     pending.code->result = result;
-    errors.Try([&] {
-        pending.code->body = checker.CheckBody(pending.routine->body, parameters, places);
-    });
+    errors.Try(
+        [&] { pending.code->body = checker.CheckBody(pending.routine->body, parameters, places); });
     pending.code->slotCount = scope.slotCount();
 }
 
@@ -182,8 +181,8 @@ void Compiler::CheckDefaults(const Signature& signature, ErrorList& errors) cons
 void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
     for (const auto& enumeration : program.enumerations) {
         errors.Try([&] {
-            auto& model = types_.Declare(enumeration.name, ClassModel::Origin::Enumeration,
-                                         enumeration.at);
+            auto& model =
+                types_.Declare(enumeration.name, ClassModel::Origin::Enumeration, enumeration.at);
             model.items = enumeration.items;
         });
     }
@@ -209,8 +208,7 @@ void Compiler::DeclareUnit(syntax::Unit& unit, ErrorList& errors) {
             if (std::ranges::any_of(callables_.constants, isSame)) {
                 throw ProgramError(constant.at, Quoted(constant.name) + " is declared already");
             }
-            const bool isHidden =
-                unit.isClass && constant.visibility == syntax::Visibility::Global;
+            const bool isHidden = unit.isClass && constant.visibility == syntax::Visibility::Global;
             callables_.constants.push_back(
                 {constant.name, constant.value, unit.name,
                  isHidden ? syntax::Visibility::Qualified : constant.visibility});
@@ -336,11 +334,10 @@ void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
     }
     auto& code = NewRoutine();
     pending_.push_back({signature, &code, &routine, {model.name(), &model}});
-    model.methods.push_back(
-        {.signature = std::move(signature),
-         .host = {},
-         .routine = &code,
-         .isPrivate = routine.visibility != syntax::Visibility::Global});
+    model.methods.push_back({.signature = std::move(signature),
+                             .host = {},
+                             .routine = &code,
+                             .isPrivate = routine.visibility != syntax::Visibility::Global});
 }
 
 code::Block Compiler::CompileStatements(const syntax::Block& statements, ErrorList& errors,

@@ -9,8 +9,8 @@
 
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
-#include "standin/language/expression_checker.hpp"
 #include "standin/language/errors.hpp"
+#include "standin/language/expression_checker.hpp"
 #include "standin/language/scope.hpp"
 #include "standin/language/statement_checker.hpp"
 #include "standin/language/syntax.hpp"

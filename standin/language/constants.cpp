@@ -276,9 +276,8 @@ syntax::ExpressionPtr LiteralOf(const ConstantValue& value, Position at) {
                 return item < 0 ? negative(syntax::IntegerLiteral{0U - magnitude})
                                 : make(syntax::IntegerLiteral{magnitude});
             } else {
-                return item.value < 0
-                           ? negative(syntax::RealLiteral{-item.value, item.digits})
-                           : make(item);
+                return item.value < 0 ? negative(syntax::RealLiteral{-item.value, item.digits})
+                                      : make(item);
             }
         },
         value);

@@ -136,7 +136,6 @@ Checked ExpressionChecker::CheckNode(const syntax::NilLiteral& /*literal*/, Posi
     return MakeConstant(Value::Adopt(Object{}), {Kind::Nil}, at);
 }
 
-
 Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
     using enum code::VariableKind;
     code::ExpressionPtr code;
@@ -506,18 +505,17 @@ Checked ExpressionChecker::CheckNode(const syntax::Cast& cast, Position at) {
 Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
     const bool isDowncast = value.type.kind == Kind::Instance && type.kind == Kind::Instance &&
                             type.model->IsA(*value.type.model);
-    const bool isEnumeration =
-        (value.type.kind == Kind::Enumeration && IsInteger(type.kind)) ||
-        (IsInteger(value.type.kind) && type.kind == Kind::Enumeration);
+    const bool isEnumeration = (value.type.kind == Kind::Enumeration && IsInteger(type.kind)) ||
+                               (IsInteger(value.type.kind) && type.kind == Kind::Enumeration);
     if (isEnumeration) {
         const Kind from = IsInteger(value.type.kind) ? value.type.kind : Kind::Int64;
         const Kind to = IsInteger(type.kind) ? type.kind : Kind::Int64;
-        return {std::make_unique<code::UnaryOperation>(FindConversion(from, to),
-                                                       std::move(value.code)),
-                type,
-                at,
-                {},
-                false};
+        return {
+            std::make_unique<code::UnaryOperation>(FindConversion(from, to), std::move(value.code)),
+            type,
+            at,
+            {},
+            false};
     }
     if (!isDowncast) {
         auto converted = ConvertTo(std::move(value), type);
@@ -623,8 +621,7 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
         }
     }
     auto arguments = call == nullptr ? Arguments{} : CheckArguments(call->arguments);
-    const auto methods =
-        receiver.value ? model.FindMethods(name) : std::vector<const Method*>{};
+    const auto methods = receiver.value ? model.FindMethods(name) : std::vector<const Method*>{};
     if (!methods.empty()) {
         return CallMethodSetter(std::move(receiver), methods, false, std::move(arguments),
                                 Check(value), at);
@@ -671,8 +668,8 @@ code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
     const auto& name = methods.front()->signature.name;
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
     const auto& signature = method.signature;
-    const bool isReadable = method.function != nullptr || method.host.function != nullptr ||
-                            method.routine != nullptr;
+    const bool isReadable =
+        method.function != nullptr || method.host.function != nullptr || method.routine != nullptr;
     if (method.setter == nullptr && method.host.setter == nullptr && isReadable) {
         throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
     }

@@ -192,7 +192,8 @@ private:
     std::optional<Checked> TryOperatorOf(const std::string& name, Checked& receiver,
                                          Checked& argument, bool isReceiverRight, Position at);
 
-    /// Whether code here sees something of a module; `isQualified` with the module's name before it.
+    /// Whether code here sees something of a module; `isQualified` with the module's name before
+    /// it.
     template <typename Declared>
     bool IsVisible(const Declared& declared, bool isQualified) const {
         return SameName(declared.unit, surroundings_.unit) ||

@@ -345,9 +345,8 @@ syntax::Parameter ExpressionParser::ParseParameter() {
     // A parameter may itself be called like one of the words that can precede it.
     for (;;) {
         const bool isName = cursor_.Following().kind == TokenKind::As;
-        if (isName ||
-            !cursor_.IsAtAny({TokenKind::ByRef, TokenKind::ByVal, TokenKind::Optional,
-                              TokenKind::ParamArray, TokenKind::Extends})) {
+        if (isName || !cursor_.IsAtAny({TokenKind::ByRef, TokenKind::ByVal, TokenKind::Optional,
+                                        TokenKind::ParamArray, TokenKind::Extends})) {
             break;
         }
         const auto word = cursor_.Take().kind;
@@ -376,7 +375,8 @@ bool ExpressionParser::AtExpression() const {
     return cursor_.IsAtAny({TokenKind::Integer, TokenKind::Real, TokenKind::Text, TokenKind::True,
                             TokenKind::False, TokenKind::Nil, TokenKind::Name, TokenKind::New,
                             TokenKind::CType, TokenKind::If, TokenKind::OpenParenthesis,
-                            TokenKind::AddressOf, TokenKind::Plus, TokenKind::Minus, TokenKind::Not});
+                            TokenKind::AddressOf, TokenKind::Plus, TokenKind::Minus,
+                            TokenKind::Not});
 }
 
 }  // namespace standin::language

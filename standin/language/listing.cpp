@@ -62,7 +62,8 @@ void AppendMembers(std::string& text, std::string_view what, const Members& memb
 
 std::string ListClasses(const Host& host, const TypeTable& types, std::string_view wanted) {
     const auto dot = wanted.rfind('.');
-    const auto className = dot == std::string_view::npos ? std::string_view() : wanted.substr(0, dot);
+    const auto className =
+        dot == std::string_view::npos ? std::string_view() : wanted.substr(0, dot);
     const auto memberName = dot == std::string_view::npos ? wanted : wanted.substr(dot + 1);
     std::string text;
     std::vector<std::string_view> names;

@@ -493,7 +493,8 @@ OrderFunction FindOrder(Kind left, Kind right) {
     if (left == Kind::Variant) {
         return OrderVariants;
     }
-    const bool isWord = left == Kind::Boolean || left == Kind::TextEncoding || left == Kind::Enumeration;
+    const bool isWord =
+        left == Kind::Boolean || left == Kind::TextEncoding || left == Kind::Enumeration;
     return isWord ? OrderWords : nullptr;
 }
 

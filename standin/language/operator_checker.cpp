@@ -260,8 +260,8 @@ Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Check
             right = ConvertTo(std::move(right), variant);
         }
     }
-    const bool isOrdered = isEquality || left.type.kind == Kind::Enumeration || left.type.kind == Kind::Variant ||
-                           left.type.kind == Kind::Text ||
+    const bool isOrdered = isEquality || left.type.kind == Kind::Enumeration ||
+                           left.type.kind == Kind::Variant || left.type.kind == Kind::Text ||
                            (IsNumber(left.type.kind) && IsNumber(right.type.kind));
     const auto order = FindOrder(left.type.kind, right.type.kind);
     const bool areOtherEnumerations =

@@ -22,8 +22,7 @@ struct FittingCandidate {
 bool IsWholeArray(const Signature& signature, const std::vector<Checked>& arguments) {
     const auto& parameters = signature.parameters;
     return !parameters.empty() && arguments.size() == parameters.size() &&
-           parameters.back().isParamArray &&
-           arguments.back().type == parameters.back().type;
+           parameters.back().isParamArray && arguments.back().type == parameters.back().type;
 }
 
 /// How each argument fits; nothing when the candidate cannot take them.
@@ -41,13 +40,13 @@ std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked
                            : FitOf(arguments[i], parameter));
     }
     const auto given = std::min(arguments.size(), parameters.size());
-    const bool areMissingOptional = std::all_of(
-        parameters.begin() + static_cast<std::ptrdiff_t>(given), parameters.end(),
-        [](const Parameter& parameter) {
-            return (parameter.defaultValue != nullptr || parameter.isOptional ||
-                    parameter.isParamArray) &&
-                   !parameter.byRef;
-        });
+    const bool areMissingOptional =
+        std::all_of(parameters.begin() + static_cast<std::ptrdiff_t>(given), parameters.end(),
+                    [](const Parameter& parameter) {
+                        return (parameter.defaultValue != nullptr || parameter.isOptional ||
+                                parameter.isParamArray) &&
+                               !parameter.byRef;
+                    });
     const bool doAllFit = std::ranges::find(fits, Fit::None) == fits.end();
     return areMissingOptional && doAllFit ? std::optional(fits) : std::nullopt;
 }
@@ -175,13 +174,13 @@ std::vector<code::Argument> Fill(const Signature& signature, std::vector<Checked
     for (std::size_t i = 0; i < signature.parameters.size(); ++i) {
         const auto& parameter = signature.parameters[i];
         if (parameter.isParamArray && !isWholeArray) {
-            filled.push_back({CollectFrom(i, arguments, parameter.type.ElementType()),
-                              Kind::Array, false});
+            filled.push_back(
+                {CollectFrom(i, arguments, parameter.type.ElementType()), Kind::Array, false});
             break;
         }
         if (i >= arguments.size() && parameter.defaultValue == nullptr) {
-            filled.push_back({std::make_unique<code::DefaultValue>(parameter.type),
-                              parameter.type.kind, false});
+            filled.push_back(
+                {std::make_unique<code::DefaultValue>(parameter.type), parameter.type.kind, false});
             continue;
         }
         auto argument = i < arguments.size() ? std::move(arguments[i])

@@ -118,16 +118,16 @@ private:
         if (!hasCode) {
             // Settings can have semicolons as well; items have a path and ids.
             if (item.path.find('.') != std::string_view::npos) {
-                throw ProgramError(item.at, "items of the kind " + Quoted(item.kind) +
-                                                " are not supported here");
+                throw ProgramError(
+                    item.at, "items of the kind " + Quoted(item.kind) + " are not supported here");
             }
             return;
         }
         auto name = PathBeside(source_.name(), item.path);
         auto text = read_(name);
         if (!text) {
-            throw ProgramError(item.at, "cannot read the file " + name + " of " +
-                                            Quoted(item.name));
+            throw ProgramError(item.at,
+                               "cannot read the file " + name + " of " + Quoted(item.name));
         }
         source_.Add(std::move(name), std::move(*text));
     }

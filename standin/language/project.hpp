@@ -16,8 +16,8 @@ using FileReader = std::function<std::optional<std::string>(const std::string& n
 /// Whether a file's name is that of a project.
 bool IsProjectName(std::string_view name);
 
-/// Adds the files of the modules and classes that a project lists, of which `source` holds the text.
-/// Throws ProgramError for what is wrong with the project.
+/// Adds the files of the modules and classes that a project lists, of which `source` holds the
+/// text. Throws ProgramError for what is wrong with the project.
 void AddProjectFiles(Source& source, const FileReader& read);
 
 }  // namespace standin::language

@@ -54,8 +54,8 @@ bool Session::Run(const Source& fragment) {
     ErrorList errors;
     Constants constants(&compiler_.constants());
     auto parsed = ParseFragment(fragment.text(), constants, errors);
-    if (!errors.empty() && (errors.IsUnfinished() ||
-                            errors.First().position() >= fragment.text().size())) {
+    if (!errors.empty() &&
+        (errors.IsUnfinished() || errors.First().position() >= fragment.text().size())) {
         return false;
     }
     auto before = compiler_.Remember();

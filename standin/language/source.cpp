@@ -151,8 +151,9 @@ std::string Source::DescribeOne(const ProgramError& error) const {
             caret += shown.bytes == "\t" ? '\t' : ' ';
         }
     }
-    return FileAt(error.position()).name + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) +
-           ": error: " + error.what() + "\n  " + line + "\n  " + caret + "^\n";
+    return FileAt(error.position()).name + ":" + std::to_string(place.line) + ":" +
+           std::to_string(place.column) + ": error: " + error.what() + "\n  " + line + "\n  " +
+           caret + "^\n";
 }
 
 }  // namespace standin::language

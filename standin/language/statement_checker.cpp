@@ -354,8 +354,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Try& statement,
 }
 
 code::Try::Catch StatementChecker::CheckCatch(const syntax::Try::Catch& handler) {
-    const auto type =
-        expressions_.RequireType(handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
+    const auto type = expressions_.RequireType(
+        handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
     if (type.kind != Kind::Instance || !type.model->IsException()) {
         throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
     }

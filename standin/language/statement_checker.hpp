@@ -14,8 +14,8 @@ namespace standin::language {
 /// The variables that live outside of all frames, by their slots.
 using GlobalTypes = std::vector<Type>;
 
-/// Makes the body of one routine, or of the main program. A statement with an error is left out; the
-/// error goes to the list.
+/// Makes the body of one routine, or of the main program. A statement with an error is left out;
+/// the error goes to the list.
 class StatementChecker {
 public:
     /// `result` is what the routine returns; missing in the main program, which returns nothing.

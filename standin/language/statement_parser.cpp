@@ -93,10 +93,10 @@ void StatementParser::Recover(std::size_t start) {
             errors_.Doubt(cursor_.TokenAt(mark).text);
         }
     }
-    const auto line = cursor_.StartOfLine(cursor_.IsAt(TokenKind::EndOfText) ? start : cursor_.Mark());
+    const auto line =
+        cursor_.StartOfLine(cursor_.IsAt(TokenKind::EndOfText) ? start : cursor_.Mark());
     const auto word = cursor_.TokenAt(line).kind;
-    const bool isInside =
-        OpensBlock(start) && (line <= start || IsOneOf(word, Dividers));
+    const bool isInside = OpensBlock(start) && (line <= start || IsOneOf(word, Dividers));
     cursor_.SkipLine();
     if (isInside) {
         SkipBlock();
@@ -246,7 +246,8 @@ syntax::Statement::Node StatementParser::ParseAssignmentOrCall() {
     return syntax::CallStatement{std::move(target)};
 }
 
-syntax::Statement::Node StatementParser::ParseCompound(BinaryOperator operation, std::size_t start, syntax::ExpressionPtr target) {
+syntax::Statement::Node StatementParser::ParseCompound(BinaryOperator operation, std::size_t start,
+                                                       syntax::ExpressionPtr target) {
     const Position at = cursor_.At();
     cursor_.Rewind(start);
     auto left = expressions_.ParsePostfix();

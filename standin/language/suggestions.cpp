@@ -24,9 +24,10 @@ std::size_t Distance(std::string_view from, std::string_view to) {
         for (std::size_t j = 1; j <= to.size(); ++j) {
             const char a = FoldCase(from[i - 1]);
             const char b = FoldCase(to[j - 1]);
-            current[j] = std::min({last[j] + 1, current[j - 1] + 1, last[j - 1] + (a == b ? 0 : 1)});
-            const bool isSwapped = i > 1 && j > 1 && a == FoldCase(to[j - 2]) &&
-                                   FoldCase(from[i - 2]) == b;
+            current[j] =
+                std::min({last[j] + 1, current[j - 1] + 1, last[j - 1] + (a == b ? 0 : 1)});
+            const bool isSwapped =
+                i > 1 && j > 1 && a == FoldCase(to[j - 2]) && FoldCase(from[i - 2]) == b;
             if (isSwapped) {
                 current[j] = std::min(current[j], beforeLast[j - 2] + 1);
             }

@@ -114,9 +114,9 @@ struct Binary {
 };
 
 struct Expression {
-    using Node = std::variant<IntegerLiteral, RealLiteral, TextLiteral, BooleanLiteral, NilLiteral,
-                              Name, Member, Call, New, Cast, ClassTest, Conditional, AddressOf,
-                              Unary, Binary>;
+    using Node =
+        std::variant<IntegerLiteral, RealLiteral, TextLiteral, BooleanLiteral, NilLiteral, Name,
+                     Member, Call, New, Cast, ClassTest, Conditional, AddressOf, Unary, Binary>;
     /// Where messages about the expression point: an operator, a member's name, the first token.
     Position at;
     /// Levels of expressions below this one, itself included.

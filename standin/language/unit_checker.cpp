@@ -26,7 +26,8 @@ const Declared* ExpressionChecker::FindDeclared(const std::vector<Declared>& lis
                                                 std::optional<std::string_view> unit) const {
     const Declared* found = nullptr;
     for (const auto& declared : list) {
-        const bool fits = SameName(declared.name, name) && (!unit || SameName(declared.unit, *unit)) &&
+        const bool fits = SameName(declared.name, name) &&
+                          (!unit || SameName(declared.unit, *unit)) &&
                           IsVisible(declared, unit.has_value());
         if (fits && (found == nullptr || SameName(declared.unit, surroundings_.unit))) {
             found = &declared;
@@ -62,14 +63,15 @@ std::optional<Variable> ExpressionChecker::FindVariable(
 
 const std::string* ExpressionChecker::FindUnit(const syntax::Expression& expression) const {
     const auto* name = std::get_if<syntax::Name>(&expression.node);
-    const bool isUnit = name != nullptr && scope_.Find(name->name) == nullptr &&
-                        !IsOwnMember(name->name);
+    const bool isUnit =
+        name != nullptr && scope_.Find(name->name) == nullptr && !IsOwnMember(name->name);
     return isUnit ? &name->name : nullptr;
 }
 
 bool ExpressionChecker::IsOwnMember(const std::string& name) const {
     const auto* self = surroundings_.self;
-    return self != nullptr && (self->FindProperty(name) != nullptr || !self->FindMethods(name).empty());
+    return self != nullptr &&
+           (self->FindProperty(name) != nullptr || !self->FindMethods(name).empty());
 }
 
 ExpressionChecker::Receiver ExpressionChecker::OwnReceiver(Position at) const {
@@ -194,9 +196,8 @@ Checked ExpressionChecker::ConstructOwn(const ClassModel& model, Arguments argum
     } else if (!arguments.empty()) {
         throw ProgramError(at, model.name() + " has no constructor that takes arguments");
     }
-    return {std::make_unique<code::NewProgramObject>(model.info(), std::move(fields),
-                                                     model.initialiser, constructor,
-                                                     std::move(filled)),
+    return {std::make_unique<code::NewProgramObject>(
+                model.info(), std::move(fields), model.initialiser, constructor, std::move(filled)),
             {Kind::Instance, &model},
             at,
             {},

@@ -30,8 +30,8 @@ constexpr auto ModifierWords = std::to_array<Modifier>({
 });
 
 /// Words that can stand where a statement of the main program ends a routine or block by mistake.
-constexpr auto StrayWords = {TokenKind::End,  TokenKind::Next, TokenKind::Wend,
-                             TokenKind::Loop, TokenKind::Else, TokenKind::ElseIf,
+constexpr auto StrayWords = {TokenKind::End,  TokenKind::Next,  TokenKind::Wend,
+                             TokenKind::Loop, TokenKind::Else,  TokenKind::ElseIf,
                              TokenKind::Case, TokenKind::Catch, TokenKind::Finally};
 
 const Modifier* FindModifier(const Token& token) {
@@ -135,8 +135,8 @@ void UnitParser::ParseBase(syntax::Unit& unit) {
     cursor_.Take();
     const auto base = cursor_.ExpectName();
     if (!SameName(base.text, ApplicationBase) && !SameName(base.text, "Object")) {
-        throw ProgramError(base.at, "Classes that inherit from " + Quoted(base.text) +
-                                        " are not supported here");
+        throw ProgramError(
+            base.at, "Classes that inherit from " + Quoted(base.text) + " are not supported here");
     }
     if (SameName(base.text, ApplicationBase)) {
         unit.isClass = false;
@@ -213,7 +213,7 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
     if (const auto flags = tag.Number("Flags")) {
         constexpr std::uint64_t Private = 0x20;
         constexpr std::uint64_t Protected = 0x1;
-        tagged_.visibility = (*flags & Private) != 0      ? Visibility::Private
+        tagged_.visibility = (*flags & Private) != 0     ? Visibility::Private
                              : (*flags & Protected) != 0 ? Visibility::Qualified
                                                          : Visibility::Global;
     }

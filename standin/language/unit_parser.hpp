@@ -11,7 +11,8 @@ namespace standin::language {
 /// Parses one text into a program. Errors go to the list.
 class UnitParser {
 public:
-    /// `constants` gets those that modules declare. `start` is the position of the text's first byte.
+    /// `constants` gets those that modules declare. `start` is the position of the text's first
+    /// byte.
     UnitParser(std::string_view text, Position start, Constants& constants, ErrorList& errors)
         : cursor_(text, start),
           constants_(constants),

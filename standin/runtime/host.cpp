@@ -204,8 +204,7 @@ const ClassInfo& Host::ProgramClass(const std::string& name) {
 }
 
 Object Host::MakeObject(const ClassInfo& type, std::unique_ptr<HeldData> data) {
-    return state_->objects.Make(static_cast<const ClassEntry&>(type),
-                                HeldPayload{std::move(data)});
+    return state_->objects.Make(static_cast<const ClassEntry&>(type), HeldPayload{std::move(data)});
 }
 
 HeldData* Host::Held(Object object) {

@@ -45,9 +45,8 @@ struct HeldPayload {
     std::unique_ptr<HeldData> data;
 };
 
-using ObjectPayload =
-    std::variant<std::monostate, ExceptionPayload, VariantPayload, BlockPayload, DatePayload,
-                 HeldPayload>;
+using ObjectPayload = std::variant<std::monostate, ExceptionPayload, VariantPayload, BlockPayload,
+                                   DatePayload, HeldPayload>;
 
 /// What the host knows of one object. The plug-in sees `memory`.
 struct ObjectEntry {
