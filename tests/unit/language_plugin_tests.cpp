@@ -204,20 +204,23 @@ TEST_CASE("operators of classes") {
     const auto show = [&](const std::string& expression) {
         return host.Run(make + "Print " + expression);
     };
-    CHECK(show("(a + b).Value") == "13\n");
-    CHECK(show("(a + 5).Value") == "15\n");
-    CHECK(show("(a + \"5\").Value") == "15\n");
-    CHECK(show("(\"5\" + a).Value") == "15\n");
-    CHECK(show("(\"5\" - a).Value") == "-5\n");
-    CHECK(show("(-a).Value") == "-10\n");
-    CHECK(show("a > b") == "True\n");
-    CHECK(show("a = \"10\"") == "True\n");
-    CHECK(show("\"3\" < a") == "True\n");
-    CHECK(show("a = Nil") == "False\n");
-    CHECK(show("Nil < a") == "True\n");
-    CHECK(show("a Is Nil") == "False\n");
+    const auto value = [&](const std::string& expression) {
+        return show("Str(" + expression + ")");
+    };
+    CHECK(value("(a + b).Value") == "13\n");
+    CHECK(value("(a + 5).Value") == "15\n");
+    CHECK(value("(a + \"5\").Value") == "15\n");
+    CHECK(value("(\"5\" + a).Value") == "15\n");
+    CHECK(value("(\"5\" - a).Value") == "-5\n");
+    CHECK(value("(-a).Value") == "-10\n");
+    CHECK(value("a > b") == "True\n");
+    CHECK(value("a = \"10\"") == "True\n");
+    CHECK(value("\"3\" < a") == "True\n");
+    CHECK(value("a = Nil") == "False\n");
+    CHECK(value("Nil < a") == "True\n");
+    CHECK(value("a Is Nil") == "False\n");
     // The right operand's operator takes the left one as its argument.
-    CHECK(show("(a - b).Value") == "7\n");
+    CHECK(value("(a - b).Value") == "7\n");
     CHECK(show("a / b") == "2:9: \"/\" cannot stand between Sample and Sample");
     CHECK(show("5 + a") ==
           "2:9: \"+\" cannot stand between Integer and Sample; there is "
@@ -258,7 +261,7 @@ TEST_CASE("a raised exception reaches the program, what came with it is released
     CHECK(host.Run("Dim s As New Sample\nTry\nCall s.Fail(\"why\")\nPrint \"no\"\n"
                    "Catch e As SampleException\nPrint e.Message\nEnd Try\n"
                    "Dim r As Sample = s\nTry\nr = s.Fail(\"again\")\nCatch e As RuntimeException\n"
-                   "Print Str(r Is s)\nEnd Try\nCall s.Fail \"last\"") ==
+                   "Print Str(r Is s)\nEnd Try\nCall s.Fail(\"last\")") ==
           "why\nTrue\nUnhandled SampleException: last (line 14)\n");
 }
 

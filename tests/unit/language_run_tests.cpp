@@ -126,7 +126,7 @@ TEST_CASE("And and Or leave out what cannot matter") {
 TEST_CASE("variables") {
     SampleHost host;
     CHECK(host.Run("dim A, b as integer = 3, C As String\nvar d As Boolean\n"
-                   "PRINT a\nPrint Str(B)\nPrint c + \"|\"\nPrint Str(D)") == "3\n3\n|\nFalse\n");
+                   "PRINT Str(a)\nPrint Str(B)\nPrint c + \"|\"\nPrint Str(D)") == "3\n3\n|\nFalse\n");
     CHECK(host.Run("Dim a As Integer\nDim A As Integer") == "2:5: \"A\" is declared already");
     CHECK(host.Run("If True Then\nDim a As Integer = 1\nEnd If\nPrint a") ==
           "4:7: there is nothing named \"a\"");
@@ -139,7 +139,7 @@ TEST_CASE("variables") {
     CHECK(host.Run("Dim a As Integer = \"1\"") ==
           "1:20: expected Integer, this is String; use Val");
     CHECK(host.Run("Dim a As String = 1") == "1:19: expected String, this is Integer; use Str");
-    CHECK(host.Run("a = 1") == "1:1: this cannot be assigned to");
+    CHECK(host.Run("a = 1") == "1:1: there is nothing named \"a\"");
     CHECK(host.Run("Dim a As Integer\na") ==
           "2:1: this does nothing; a statement is a call or an assignment");
 }
@@ -192,7 +192,7 @@ TEST_CASE("counting loops") {
     CHECK(host.Run("For i As Boolean = True To False\nNext") ==
           "1:5: a loop counts in a variable of a number type");
     CHECK(host.Run("For c As Currency = 1 To 2\nNext") == "1:1: a loop cannot count in Currency");
-    CHECK(host.Run("For j = 1 To 2\nNext") == "1:5: there is no variable \"j\"");
+    CHECK(host.Run("For j = 1 To 2\nNext") == "1:5: there is nothing named \"j\"");
 }
 
 TEST_CASE("conditional loops") {

@@ -44,7 +44,7 @@ public:
     /// What one expression shows at a prompt, without the end of the line. Columns count as if
     /// "Print " stood before it.
     std::string Show(const std::string& expression) {
-        auto output = RunAs<Shown>("      " + expression);
+        auto output = RunAs<Shown>("     (" + expression + ")");
         if (output.ends_with('\n')) {
             output.pop_back();
         }

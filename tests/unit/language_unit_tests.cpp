@@ -58,7 +58,7 @@ TEST_CASE("modules hold variables, constants and routines") {
         "Sub Grow()\nn = n + kOne\nhidden = 100\nEnd Sub\nEnd Module\n";
     CHECK(host.Run(module + "Grow\nM.Grow\nPrint Str(n) + \" \" + Str(M.n)\nPrint Str(M.Inner)\n"
                             "Print Str(kOne + M.kOne)") == "7 7\n107\n2\n");
-    CHECK(host.Run(module + "Print Str(Inner)").starts_with("12:11: there is nothing named"));
+    CHECK(host.Run(module + "Print Str(Inner)").starts_with("13:11: there is nothing named"));
     CHECK(host.Run(module + "Print Str(M.hidden)").find("no such member") != std::string::npos);
     CHECK(host.Run("Dim s As Sample\nModule A\nDim x As New Sample(3)\nEnd Module\n"
                    "Print Str(A.x.Value)") == "3\n");
@@ -90,10 +90,10 @@ TEST_CASE("classes hold fields, methods and constructors") {
 
 TEST_CASE("enumerations, constants of the host and static variables") {
     SampleHost host;
-    CHECK(host.Run("Enum E\nA\nB = 7\nC\nEnd Enum\nDim e As E = E.C\nPrint Str(Integer(e))\n"
-                   "Print Str(e = E.B)\ne = E(7)\nPrint Str(e = E.B)") == "8\nFalse\nTrue\n");
+    CHECK(host.Run("Enum E\nA\nB = 7\nC\nEnd Enum\nDim x As E = E.C\nPrint Str(Integer(x))\n"
+                   "Print Str(x = E.B)\nx = E(7)\nPrint Str(x = E.B)") == "8\nFalse\nTrue\n");
     CHECK(host.Run("Enum E\nA\nEnd Enum\nDim i As Integer = E.A")
-              .starts_with("4:20: expected Integer"));
+              .find("expected Integer, this is E") != std::string::npos);
     CHECK(host.Run("#If XojoVersion > 2013 And TargetConsole And Not TargetDesktop Then\n"
                    "Print \"new\"\n#Else\nthis is ( no program\n#EndIf") == "new\n");
     CHECK(host.Run("Const kOn = False\n#If kOn\nPrint 5 \"\n#ElseIf 2 > 1\nPrint \"b\"\n#Else\n"

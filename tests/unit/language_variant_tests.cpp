@@ -160,7 +160,7 @@ TEST_CASE("a class that the host lacks takes only its own members away") {
     SampleHost host({.missing = {"Date"}});
     CHECK(host.Run(
               "Dim v As Variant = 5\nPrint Str(v.IntegerValue)\nPrint Str(v.DateValue Is Nil)") ==
-          "3:9: cannot use \"DateValue As Date\": there is no type \"Date\"");
+          "3:13: cannot use \"DateValue As Date\": there is no type \"Date\"");
 }
 
 TEST_CASE("Variants are compared by what they hold") {
