@@ -30,6 +30,9 @@ Fragment ParseFragment(std::string_view text, Constants& constants, ErrorList& e
         auto* const expression = LoneExpression(program);
         return expression == nullptr ? Fragment(std::move(program)) : std::move(*expression);
     }
+    if (errors.IsUnfinished()) {
+        return program;
+    }
     try {
         auto expression = ParseExpression(text);
         errors = ErrorList();
