@@ -74,7 +74,8 @@ set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
 # One test for each program of the folder that has its expected output beside it;
 # tests/run_program.py says which files count.
 function(add_program_tests folder)
-  file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script")
+  file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script"
+    "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_project")
   foreach(program IN LISTS programs)
     cmake_path(GET program STEM LAST_ONLY stem)
     add_project_test(NAME "${folder}/${stem}"

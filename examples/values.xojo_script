@@ -47,7 +47,7 @@ x = New BigNumberVQZ(price)
 x = x * "3" / "7"
 Print Left(x.StringValue, 40) + "..."
 price = x.CurrencyValue                          ' rounded, halves away from zero
-Print price
+Print Str(price)
 
 Print "-- A Variant says what it holds"
 Dim value As Variant = 1099511627776
@@ -57,7 +57,7 @@ Print BigNumberVQZ.NumberWithVariant(value)
 value = New Date(3847219200.5)                   ' dates count as their seconds
 Print BigNumberVQZ.NumberWithVariant(value)
 value = x
-Print BigNumberVQZ.NumberWithVariant(value).Equals(x)
+Print Str(BigNumberVQZ.NumberWithVariant(value).Equals(x))
 value = New MemoryBlock(8)
 Try
   Print BigNumberVQZ.NumberWithVariant(value)

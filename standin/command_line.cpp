@@ -175,6 +175,9 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
     if (line.task == Task::Prompt && (line.file || line.text)) {
         throw UsageError("-i takes no program");
     }
+    if (line.task == Task::Dump && line.file) {
+        throw UsageError("--dump takes no program");
+    }
     if (line.task == Task::Run && line.file.has_value() == line.text.has_value()) {
         throw UsageError(line.file ? "both a program file and -e are given"
                                    : "no program is given");

@@ -1,6 +1,8 @@
 #include "standin/documentation.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 namespace standin {
 namespace {
@@ -23,6 +25,36 @@ bool ContainsName(std::string_view name, std::string_view part) {
     return std::search(name.begin(), name.end(), part.begin(), part.end(), isSame) != name.end();
 }
 
+bool IsWordPart(char character) {
+    const char folded = language::FoldCase(character);
+    return (folded >= 'a' && folded <= 'z') || (folded >= '0' && folded <= '9');
+}
+
+std::vector<std::string_view> WordsOf(std::string_view text) {
+    std::vector<std::string_view> words;
+    while (!text.empty()) {
+        const auto size =
+            static_cast<std::size_t>(std::ranges::find_if_not(text, IsWordPart) - text.begin());
+        if (size > 0) {
+            words.push_back(text.substr(0, size));
+        }
+        text.remove_prefix(std::min(size + 1, text.size()));
+    }
+    return words;
+}
+
+/// The first line of prose: one that ends like a sentence.
+std::string Summary(std::string_view text) {
+    while (!text.empty()) {
+        auto line = TakeLine(text);
+        line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+        if (line.ends_with('.')) {
+            return std::string(line);
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
 Documentation::Documentation(std::string_view text) {
@@ -41,6 +73,24 @@ Documentation::Documentation(std::string_view text) {
 std::string_view Documentation::Find(std::string_view name) const {
     const auto found = texts_.find(name);
     return found == texts_.end() ? std::string_view() : found->second;
+}
+
+std::string Documentation::Matching(std::string_view question) const {
+    const auto words = WordsOf(question);
+    std::string found;
+    for (const auto& [name, text] : texts_) {
+        const std::string all = name + " " + text;
+        const auto there = WordsOf(all);
+        const bool fits = std::ranges::all_of(words, [&there](std::string_view word) {
+            return std::ranges::any_of(there, [word](std::string_view candidate) {
+                return language::SameName(candidate.substr(0, word.size()), word);
+            });
+        });
+        if (fits && !words.empty()) {
+            found += "  " + name + ": " + Summary(text) + "\n";
+        }
+    }
+    return found;
 }
 
 std::string Documentation::NamesWith(std::string_view part) const {

@@ -19,6 +19,9 @@ public:
 
     /// The text of a member, in any letter case; empty when there is none.
     std::string_view Find(std::string_view name) const;
+    /// Members whose texts hold all words of a question, in any letter case and with any ending: a
+    /// line each, with the first line that tells about it.
+    std::string Matching(std::string_view question) const;
     /// The names that contain `part` in any letter case, each in a line of its own.
     std::string NamesWith(std::string_view part) const;
 

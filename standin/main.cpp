@@ -7,6 +7,7 @@
 #include "standin/language/listing.hpp"
 #include "standin/language/plugin_call.hpp"
 #include "standin/language/program.hpp"
+#include "standin/language/project.hpp"
 #include "standin/process.hpp"
 #include "standin/prompt.hpp"
 #include "standin/runtime/host.hpp"
@@ -48,8 +49,7 @@ void SendDebugLog(Host& host, bool shows) {
 void ReportUnhandled(Host& host, const Source& source, const language::Thrown& thrown) {
     auto* const exception = thrown.exception().object();
     WriteError("Unhandled " + host.ClassOf(exception).name + ": " + host.Message(exception) +
-               "\n  at " + source.name() + ":" +
-               std::to_string(source.Locate(thrown.position()).line) + "\n");
+               "\n  at " + source.NameLine(thrown.position()) + "\n");
 }
 
 /// From now on allocations fail and memory ends where the command says so.
@@ -65,16 +65,15 @@ void SetLimits(Host& host, const CommandLine& line) {
     }
 }
 
-Status RunProgram(Host& host, const Source& source, const language::TypeTable& types,
+Status RunProgram(Host& host, Source& source, const language::TypeTable& types,
                   const CommandLine& line) {
     try {
+        if (line.file && language::IsProjectName(*line.file)) {
+            language::AddProjectFiles(source, process::ReadFile);
+        }
         const language::Program program(source, types);
         SetLimits(host, line);
-        const auto print = [](std::string_view text) {
-            WriteOutput(text);
-            WriteOutput("\n");
-        };
-        program.Run(host, print, line.maximumSteps);
+        return static_cast<Status>(program.Run(host, process::WriteLine, line.maximumSteps));
     } catch (const language::ProgramError& error) {
         WriteError(source.Describe(error));
         return Status::Wrong;
@@ -84,11 +83,9 @@ Status RunProgram(Host& host, const Source& source, const language::TypeTable& t
         return Status::Unhandled;
     } catch (const language::OutOfObjects& error) {
         WriteError("Unhandled OutOfMemoryException: " + std::string(error.what()) + "\n  at " +
-                   source.name() + ":" + std::to_string(source.Locate(error.position()).line) +
-                   "\n");
+                   source.NameLine(error.position()) + "\n");
         return Status::Unhandled;
     }
-    return Status::Good;
 }
 
 /// Tells what was leaked or released too often. Answers whether nothing was.
@@ -137,8 +134,9 @@ Status Perform(const CommandLine& line) {
         SetLimits(host, line);
         RunPrompt(host, types, line);
     } else {
-        WriteOutput(line.task == Task::List ? language::ListClasses(host, types)
-                                            : DumpTables(host));
+        WriteOutput(line.task == Task::List
+                        ? language::ListClasses(host, types, line.file.value_or(""))
+                        : DumpTables(host));
     }
     host.StopFailing();
     return ReportLedger(host, line.showsLedger) ? status : Status::Unbalanced;

@@ -11,14 +11,15 @@ namespace standin {
 inline constexpr std::string_view OptionsText =
     R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
 
-Runs a program in the host's language against the plug-in library. PROGRAM is a .xojo_script file;
-`-` reads the program from standard input; without any program examples/tour.xojo_script runs. The
+Runs a program in the host's language against the plug-in library. PROGRAM is a .xojo_script file
+or a project, NAME.xojo_project; `-` reads the program from standard input; without any program examples/tour.xojo_script runs. The
 library is the Windows DLL, loaded by the stand-in host under Wine. What is missing is installed,
 fetched and built first.
 
   -e TEXT              the text of the program itself
   -i                   runs line by line what you type
-  --list               every registered class with its members as the host sees them
+  --list               every registered class with its members as the host sees them; `--list NAME`
+                       shows the members with that name
   --dump               the registered tables, entry by entry
   --ledger             counts of strings and objects at the end, on standard error
   --debug-log          the plug-in's log lines, on standard error

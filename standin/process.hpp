@@ -16,11 +16,17 @@ std::optional<std::string> ReadFile(const std::string& name);
 /// All of standard input, byte for byte.
 std::string ReadStandardInput();
 
-/// Writes bytes as they are. Standard output is kept back for speed; standard error is written at
-/// once, after everything that was kept back.
+/// Writes bytes as they are. Standard output is kept back until `FlushOutput`; standard error is
+/// written at once, after everything that was kept back.
 void WriteOutput(std::string_view bytes);
 void WriteError(std::string_view bytes);
 void FlushOutput();
+/// Writes a line at once, after everything that was kept back.
+void WriteLine(std::string_view line);
+
+/// From now on Ctrl-C calls `action` instead of ending the process; it may do no more than a signal
+/// handler. A read of standard input that waits fails then where the system lets it.
+void OnInterrupt(void (*action)());
 
 /// From now on a crash of the process (a wrong memory access, an illegal instruction, an abort)
 /// writes what was kept back, then a message with what `currentCall` answers (it may be null), and

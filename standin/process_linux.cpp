@@ -74,6 +74,14 @@ std::string ReadStandardInput() {
     return {std::istreambuf_iterator<char>(std::cin), {}};
 }
 
+void OnInterrupt(void (*action)()) {
+    static void (*wanted)() = nullptr;
+    wanted = action;
+    struct sigaction handler {};
+    handler.sa_handler = [](int) { wanted(); };
+    sigaction(SIGINT, &handler, nullptr);
+}
+
 void ReportCrashes(const char* (*currentCall)(), int status) {
     currentCallFunction = currentCall;
     crashStatus = status;

@@ -25,6 +25,12 @@ void FlushOutput() {
     kept.clear();
 }
 
+void WriteLine(std::string_view line) {
+    WriteOutput(line);
+    WriteOutput("\n");
+    FlushOutput();
+}
+
 void WriteError(std::string_view bytes) {
     FlushOutput();
     WriteBytes(Stream::Error, bytes);

@@ -108,6 +108,31 @@ std::string ReadStandardInput() {
     return text;
 }
 
+void OnInterrupt(void (*action)()) {
+    static void (*wanted)() = nullptr;
+    wanted = action;
+    SetConsoleCtrlHandler(
+        [](DWORD event) -> BOOL {
+            const bool isInterrupt = event == CTRL_C_EVENT;
+            if (isInterrupt) {
+                wanted();
+            }
+            return isInterrupt ? TRUE : FALSE;
+        },
+        TRUE);
+    // Without a console Wine raises the exception of a Ctrl-C instead.
+    AddVectoredExceptionHandler(1, [](EXCEPTION_POINTERS* pointers) -> LONG {
+        constexpr DWORD ControlC = 0xC000013A;
+        constexpr DWORD DebugControlC = 0x40010005;
+        const auto code = pointers->ExceptionRecord->ExceptionCode;
+        if (code != ControlC && code != DebugControlC) {
+            return EXCEPTION_CONTINUE_SEARCH;
+        }
+        wanted();
+        return EXCEPTION_CONTINUE_EXECUTION;
+    });
+}
+
 void ReportCrashes(const char* (*currentCall)(), int status) {
     currentCallFunction = currentCall;
     crashStatus = status;

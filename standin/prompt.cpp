@@ -1,5 +1,6 @@
 #include "standin/prompt.hpp"
 
+#include <cstdio>
 #include <iostream>
 #include <string_view>
 
@@ -24,7 +25,8 @@ constexpr std::string_view HelpText =
   Dim a As BigNumberVQZ = "1.5"
   a.Multiply("2e30")
 If, For, Function and the like run when their End is there.
-? NAME tells about a member, such as ? Sqrt; Quit or Ctrl-D ends.
+? NAME tells about a member, such as ? Sqrt, and ? WORDS finds members by what they do, such as
+? rounding. Ctrl-C stops what runs or what was typed; Quit or Ctrl-D ends.
 )";
 
 std::string_view Trim(std::string_view text) {
@@ -60,6 +62,11 @@ void Answer(const Documentation& documentation, std::string_view question) {
         return;
     }
     const auto similar = documentation.NamesWith(name);
+    const auto matching = documentation.Matching(words);
+    if (!matching.empty()) {
+        WriteOutput("Members that are about \"" + std::string(words) + "\":\n" + matching);
+        return;
+    }
     WriteOutput("Nothing is known about \"" + std::string(name) + "\"" +
                 (similar.empty() ? ".\n" : "; there are:\n" + similar));
 }
@@ -75,6 +82,8 @@ bool RunFragment(Host& host, language::Session& session, const Source& fragment)
         WriteError(host.ClassOf(exception).name + ": " + host.Message(exception) + "\n");
     } catch (const language::OutOfObjects& error) {
         WriteError("OutOfMemoryException: " + std::string(error.what()) + "\n");
+    } catch (const language::Interrupted&) {
+        WriteError("Interrupted.\n");
     }
     return true;
 }
@@ -83,18 +92,29 @@ bool RunFragment(Host& host, language::Session& session, const Source& fragment)
 
 void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line) {
     const auto documentation = ReadDocumentation(line.documentation);
-    const auto print = [](std::string_view text) {
-        WriteOutput(text);
-        WriteOutput("\n");
-    };
-    language::Session session(host, types, print, line.maximumSteps);
+    process::OnInterrupt(language::Machine::Interrupt);
+    language::Session session(host, types, process::WriteLine, line.maximumSteps);
     std::string fragment;
     const auto readLine = [&](std::string& text) {
         if (line.showsPrompts) {
             WriteOutput(fragment.empty() ? "> " : "... ");
         }
         process::FlushOutput();
-        return static_cast<bool>(std::getline(std::cin, text));
+        while (!std::getline(std::cin, text)) {
+            // Where Ctrl-C ended the waiting, what was typed so far is dropped.
+            if (!language::Machine::TakeInterrupt()) {
+                return false;
+            }
+            std::cin.clear();
+            std::clearerr(stdin);
+            fragment.clear();
+            WriteOutput(line.showsPrompts ? "\n> " : "");
+            process::FlushOutput();
+        }
+        if (language::Machine::TakeInterrupt()) {
+            fragment.clear();
+        }
+        return true;
     };
 
     WriteOutput(line.showsPrompts ? Greeting : "");

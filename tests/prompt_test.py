@@ -101,8 +101,32 @@ class PromptTest(unittest.TestCase):
             prompt.wait_for(r"\n50\s+> ")
             prompt.press("For i As Integer = 8 To 8\r")
             prompt.wait_for(r"\.\.\. ")
-            prompt.press("Print i\rNext\r")
+            prompt.press("Print Str(i)\rNext\r")
             prompt.wait_for(r"\n8\s+> ")
+            prompt.press("\x04")
+            self.assertEqual(prompt.process.wait(PATIENCE), 0)
+
+    def test_ctrl_c(self) -> None:
+        """It stops what runs, or drops what was typed; variables stay."""
+        if "wine" in self.command[0]:
+            self.skipTest("Wine sees to Ctrl-C itself")
+        with tempfile.TemporaryDirectory() as folder:
+            prompt = Terminal(self.source / "scripts/prompt", folder, *self.command, "-i")
+            self.addCleanup(prompt.close)
+            prompt.wait_for(r"Quit ends\.\s+> ")
+            prompt.press("Dim a As Integer = 40\r")
+            prompt.wait_for(r"> ")
+            prompt.press("Do\ra = 42\rLoop\r")
+            prompt.wait_for(r"Loop\s")
+            time.sleep(1)
+            prompt.press("\x03")
+            prompt.wait_for(r"Interrupted\.\s+> ")
+            prompt.press("If a > 1 Then\r")
+            prompt.wait_for(r"\.\.\. ")
+            prompt.press("\x03")
+            prompt.wait_for(r"\n> ")
+            prompt.press("a\r")
+            prompt.wait_for(r"\n42\s+> ")
             prompt.press("\x04")
             self.assertEqual(prompt.process.wait(PATIENCE), 0)
 

@@ -1,6 +1,8 @@
 """Runs a program in the host's language and compares what it does with the files beside it.
 
-usage: run_program.py PROGRAM.xojo_script -- COMMAND...
+usage: run_program.py PROGRAM -- COMMAND...
+
+PROGRAM is a script, NAME.xojo_script, or a project, NAME.xojo_project.
 
 The files bear the program's name, and lie beside it or in a folder `expected` there:
 

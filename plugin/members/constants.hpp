@@ -39,7 +39,7 @@ Print BigNumberVQZ.One)"}},
              .details = "It compares as equal to 0; IsNan tells it from 0.",
              .example = R"(
 Print BigNumberVQZ.Nan
-Print BigNumberVQZ.Nan.IsNan)"}},
+Print Str(BigNumberVQZ.Nan.IsNan))"}},
         Row{Declaration<Value, "Pi as $">,
             Constant<Value>([](auto& value) { value.SetPi(); }),
             {.section = Section::Constants, .summary = "The circle constant.", .example = R"(
@@ -88,7 +88,7 @@ For i As Integer = 0 To 31
   random = random * "256" + BigNumberVQZ.NumberWithInteger(bytes.Byte(i))
 Next
 random = (random / two ^ "156").Floor
-Print random >= "0" And random < two ^ "100")"}},
+Print Str(random >= "0" And random < two ^ "100"))"}},
     };
 }
 

@@ -109,7 +109,7 @@ Dim found As Boolean
 length.SetStringValue("12.5 m", 10, rest, found)
 Print length
 Print rest
-Print found)",
+Print Str(found))",
              .failing = R"(
 Dim length As New BigNumberVQZ
 Dim rest As String
@@ -154,7 +154,7 @@ Print BigNumberVQZ.Nan.Round)"}},
              .details = "NaN and Nil count as 0.",
              .example = R"(
 Dim price As BigNumberVQZ = "12.5"
-Print price.Equals("12.50"))"}},
+Print Str(price.Equals("12.50")))"}},
         Row{Declaration<Value, "Sqrt as $">,
             OneNumberOrCarry<Value, "Sqrt">([](auto& me) { return me.Sqrt(); }),
             {.section = Section::Powers,
@@ -192,7 +192,7 @@ Print debt.Pow("0.5"))"}},
              .range = "0 or 1",
              .example = R"(
 Dim pages As BigNumberVQZ = "12345678901234567890123"
-Print pages.Modulate2)"}},
+Print Str(pages.Modulate2))"}},
         Row{Declaration<Value, "Modulate(other as $) as $">,
             Remainder<Value>(),
             {.section = Section::Arithmetic,

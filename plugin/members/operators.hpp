@@ -233,9 +233,9 @@ Print "0" ^ BigNumberVQZ.Zero)"}},
              .range = "-1, 0 or 1",
              .example = R"(
 Dim a As BigNumberVQZ = "12.5"
-Print a > "12.49"
-Print a = "12.50"
-Print a.Operator_Compare("13"))"}},
+Print Str(a > "12.49")
+Print Str(a = "12.50")
+Print Str(a.Operator_Compare("13")))"}},
     };
 }
 

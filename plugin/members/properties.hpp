@@ -26,7 +26,7 @@ auto NumberProperties() {
                                 "turn up.",
                      .example = R"(
 Dim balance As BigNumberVQZ = "0.00"
-Print balance.IsZero)"}},
+Print Str(balance.IsZero))"}},
         Row{.name = "IsNegative",
             .type = "Boolean",
             .getter = TestValue<Value, "IsSign">([](const auto& value) { return value.IsSign(); }),
@@ -35,7 +35,7 @@ Print balance.IsZero)"}},
                      .details = "There is no negative zero. Nil and NaN are not negative.",
                      .example = R"(
 Dim balance As BigNumberVQZ = "-12.50"
-Print balance.IsNegative)"}},
+Print Str(balance.IsNegative))"}},
         Row{.name = "IsNan",
             .type = "Boolean",
             .getter = TestValue<Value, "IsNan">([](const auto& value) { return value.IsNan(); }),
@@ -44,8 +44,8 @@ Print balance.IsNegative)"}},
                      .details = "Comparing cannot tell: NaN compares as equal to 0.",
                      .example = R"(
 Dim nothing As BigNumberVQZ
-Print nothing.IsNan
-Print BigNumberVQZ.Zero.IsNan)"}},
+Print Str(nothing.IsNan)
+Print Str(BigNumberVQZ.Zero.IsNan))"}},
         Row{.name = "IsInteger",
             .type = "Boolean",
             .getter =
@@ -56,8 +56,8 @@ Print BigNumberVQZ.Zero.IsNan)"}},
                                 "are all integers.",
                      .example = R"(
 Dim pages As BigNumberVQZ = "120"
-Print pages.IsInteger
-Print (pages / "7").IsInteger)"}},
+Print Str(pages.IsInteger)
+Print Str((pages / "7").IsInteger))"}},
         Row{.name = "IntegerValue",
             .type = "Integer",
             .getter = GetProperty<Value, "GetIntegerValue", "IntegerValue", Integer>(),
@@ -71,15 +71,15 @@ Print (pages / "7").IsInteger)"}},
                               "which give 0",
                      .example = R"(
 Dim price As BigNumberVQZ = "19.99"
-Print price.IntegerValue
+Print Str(price.IntegerValue)
 price.IntegerValue = 20
 Print price)",
                      .failing = R"(
 Dim large As BigNumberVQZ = "2147483648"
-Print large.IntegerValue
+Print Str(large.IntegerValue)
 
 Dim loss As BigNumberVQZ = "-0.4"
-Print loss.IntegerValue)"}},
+Print Str(loss.IntegerValue))"}},
         Row{.name = "Int64Value",
             .type = "Int64",
             .getter = GetProperty<Value, "GetInt64Value", "Int64Value", std::int64_t>(),
@@ -92,10 +92,10 @@ Print loss.IntegerValue)"}},
                               "which give 0",
                      .example = R"(
 Dim stars As BigNumberVQZ = "2e11"
-Print stars.Int64Value)",
+Print Str(stars.Int64Value))",
                      .failing = R"(
 Dim loss As BigNumberVQZ = "-0.4"
-Print loss.Int64Value)"}},
+Print Str(loss.Int64Value))"}},
         Row{.name = "UInt64Value",
             .type = "UInt64",
             .getter = GetProperty<Value, "GetUInt64Value", "UInt64Value", std::uint64_t>(),
@@ -107,10 +107,10 @@ Print loss.Int64Value)"}},
                      .fails = "negative numbers and numbers beyond that range, which give 0",
                      .example = R"(
 Dim two As BigNumberVQZ = "2"
-Print (two ^ "64" - "1").UInt64Value)",
+Print Str((two ^ "64" - "1").UInt64Value))",
                      .failing = R"(
 Dim debt As BigNumberVQZ = "-1"
-Print debt.UInt64Value)"}},
+Print Str(debt.UInt64Value))"}},
         Row{.name = "DoubleValue",
             .type = "Double",
             .getter = GetProperty<Value, "GetDoubleValue", "DoubleValue", double>(),
@@ -124,12 +124,12 @@ Print debt.UInt64Value)"}},
                      .example = R"(
 Dim third As BigNumberVQZ = "1"
 third = third / "3"
-Print third.DoubleValue
+Print Str(third.DoubleValue)
 third.DoubleValue = 0.1
 Print third)",
                      .failing = R"(
 Dim large As BigNumberVQZ = "1e400"
-Print large.DoubleValue)"}},
+Print Str(large.DoubleValue))"}},
         Row{.name = "StringValue",
             .type = "String",
             .getter = GetText<Value, "GetStringValue", "StringValue">(),
@@ -163,13 +163,13 @@ huge.StringValue = "1e99999999999999999999")"}},
                               "above about Max / 10,000 give 0 without an exception",
                      .example = R"(
 Dim amount As BigNumberVQZ = "1.23456"
-Print amount.CurrencyValue
+Print Str(amount.CurrencyValue)
 Dim price As Currency = 19.99
 amount.CurrencyValue = price
 Print amount)",
                      .failing = R"(
 Dim fortune As BigNumberVQZ = "1e15"
-Print fortune.CurrencyValue)"}},
+Print Str(fortune.CurrencyValue))"}},
         Row{.name = "VariantValue",
             .type = "Variant",
             .getter = GetVariant<Value, "GetVariantValue">(),
@@ -187,7 +187,7 @@ Print fortune.CurrencyValue)"}},
                      .example = R"(
 Dim number As BigNumberVQZ = "12"
 Dim v As Variant = number.VariantValue
-Print v.Type
+Print Str(v.Type)
 number.VariantValue = 0.5
 Print number)",
                      .failing = R"(
@@ -210,8 +210,8 @@ number.VariantValue = "1e99999999999999999999")"}},
                      .example = R"(
 Dim one As BigNumberVQZ = "1"
 Dim bytes As MemoryBlock = one.DataMantissa
-Print bytes.Size
-Print bytes.Byte(31))",
+Print Str(bytes.Size)
+Print Str(bytes.Byte(31)))",
                      .failing = R"(
 Dim number As BigNumberVQZ = "1"
 number.DataMantissa = New MemoryBlock(31)
@@ -220,7 +220,7 @@ Dim number As BigNumberVQZ = "1"
 number.DataMantissa = Nil
 
 Dim nothing As BigNumberVQZ
-Print nothing.DataMantissa.Size)"}},
+Print Str(nothing.DataMantissa.Size))"}},
         Row{.name = "DataExponent",
             .type = "MemoryBlock",
             .getter = GetPart<Value, &Value::exponent>(),
@@ -235,7 +235,7 @@ Print nothing.DataMantissa.Size)"}},
                               "another size",
                      .example = R"(
 Dim one As BigNumberVQZ = "1"
-Print one.DataExponent.Int64Value(0))",
+Print Str(one.DataExponent.Int64Value(0)))",
                      .failing = R"(
 Dim number As BigNumberVQZ = "1"
 number.DataExponent = New MemoryBlock(9)
@@ -244,7 +244,7 @@ Dim number As BigNumberVQZ = "1"
 number.DataExponent = Nil
 
 Dim nothing As BigNumberVQZ
-Print nothing.DataExponent.Size)"}},
+Print Str(nothing.DataExponent.Size))"}},
         Row{.name = "DataFlags",
             .type = "Integer",
             .getter = GetFlags<Value>(),
@@ -256,11 +256,11 @@ Print nothing.DataExponent.Size)"}},
                      .fails = "Nil objects",
                      .example = R"(
 Dim debt As BigNumberVQZ = "-5"
-Print debt.DataFlags
-Print BigNumberVQZ.Nan.DataFlags)",
+Print Str(debt.DataFlags)
+Print Str(BigNumberVQZ.Nan.DataFlags))",
                      .failing = R"(
 Dim nothing As BigNumberVQZ
-Print nothing.DataFlags)"}},
+Print Str(nothing.DataFlags))"}},
     };
 }
 
@@ -282,9 +282,9 @@ auto NumberSharedProperties() {
                  .details = "One switch for both classes. It is on from the start when the "
                             "environment variable VQZDEBUG is 1, true or yes.",
                  .example = R"(
-Print BigNumberVQZ.Debugging
+Print Str(BigNumberVQZ.Debugging)
 BigNumberVQZ.Debugging = True
-Print BiggerNumberVQZ.Debugging
+Print Str(BiggerNumberVQZ.Debugging)
 BigNumberVQZ.Debugging = False)"}}};
 }
 

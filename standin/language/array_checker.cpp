@@ -1,6 +1,7 @@
 // The arrays of the expression checker: their elements, their methods and how they are made.
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <utility>
 
 #include "standin/language/array_members.hpp"
@@ -30,50 +31,78 @@ Type MeetingType(const std::vector<Checked>& values, Position at) {
     return meeting;
 }
 
+std::vector<code::ExpressionPtr> ConvertAll(std::vector<Checked> values, Type type) {
+    std::vector<code::ExpressionPtr> converted;
+    std::ranges::transform(values, std::back_inserter(converted), [type](Checked& value) {
+        return ConvertTo(std::move(value), type).code;
+    });
+    return converted;
+}
+
+const ArrayMember* FindArrayMember(std::string_view name) {
+    const auto members = ArrayMembers();
+    const auto member = std::ranges::find_if(members, [name](const ArrayMember& candidate) {
+        return candidate.declaration.size() > name.size() &&
+               SameName(candidate.declaration.substr(0, name.size()), name) &&
+               candidate.declaration[name.size()] == '(';
+    });
+    return member == members.end() ? nullptr : &*member;
+}
+
 }  // namespace
 
-Checked ExpressionChecker::CheckElement(Checked array, const syntax::Expressions& indices,
-                                        Position at) {
-    auto index = CheckIndex(array, indices, at);
+Checked ExpressionChecker::CheckElement(Checked array, Arguments indices, Position at) {
     const Type type = array.type.ElementType();
-    return {std::make_unique<code::Element>(std::move(array.code), std::move(index)),
+    auto checked = CheckIndices(array, std::move(indices), at);
+    return {std::make_unique<code::Element>(std::move(array.code), std::move(checked)),
             type,
             at,
             {},
             false};
 }
 
-code::ExpressionPtr ExpressionChecker::CheckIndex(const Checked& array,
-                                                  const syntax::Expressions& indices, Position at) {
+std::vector<code::ExpressionPtr> ExpressionChecker::CheckIndices(const Checked& array,
+                                                                 Arguments indices, Position at) {
     if (array.type.kind != Kind::Array) {
         throw ProgramError(at, "this is not something that takes arguments");
     }
-    if (indices.size() != 1) {
-        throw ProgramError(at, "an array takes one index");
+    const auto dimensions = array.type.dimensions;
+    if (indices.size() != dimensions) {
+        throw ProgramError(at, dimensions == 1
+                                   ? "an array takes one index"
+                                   : "this array takes " + std::to_string(dimensions) + " indices");
     }
-    return CheckAs(*indices.front(), {Kind::Int64});
+    return ConvertAll(std::move(indices), {Kind::Int64});
 }
 
-code::ExpressionPtr ExpressionChecker::CheckElementSetter(const syntax::Call& element,
+code::ExpressionPtr ExpressionChecker::CheckElementSetter(Checked array, Arguments indices,
                                                           const syntax::Expression& value,
                                                           Position at) {
-    auto array = Check(*element.callee);
-    auto index = CheckIndex(array, element.arguments, at);
+    auto checked = CheckIndices(array, std::move(indices), at);
     auto converted = CheckAs(value, array.type.ElementType());
-    return std::make_unique<code::SetElement>(std::move(array.code), std::move(index),
+    return std::make_unique<code::SetElement>(std::move(array.code), std::move(checked),
                                               std::move(converted));
 }
 
 std::optional<Checked> ExpressionChecker::TryArrayMember(Checked& array, const std::string& name,
                                                          Arguments& arguments, Position at) {
-    const auto members = ArrayMembers();
-    const auto member = std::ranges::find_if(members, [&name](const ArrayMember& candidate) {
-        return candidate.declaration.size() > name.size() &&
-               SameName(candidate.declaration.substr(0, name.size()), name) &&
-               candidate.declaration[name.size()] == '(';
-    });
-    if (array.type.kind != Kind::Array || member == members.end()) {
+    const auto* member = FindArrayMember(name);
+    if (array.type.kind != Kind::Array || member == nullptr) {
         return std::nullopt;
+    }
+    if (array.type.dimensions > 1) {
+        if (member->function == FindArrayMember("ResizeTo")->function) {
+            auto indices = CheckIndices(array, std::move(arguments), at);
+            return Checked{
+                std::make_unique<code::ResizeArray>(std::move(array.code), std::move(indices)),
+                {Kind::None},
+                at,
+                {},
+                false};
+        }
+        if (member->function != FindArrayMember("Ubound")->function) {
+            throw ProgramError(at, "an array of several dimensions has no " + Quoted(name));
+        }
     }
     const auto signature =
         types_.Resolve(ParseDeclaration(member->declaration), std::string(member->declaration),
@@ -83,6 +112,37 @@ std::optional<Checked> ExpressionChecker::TryArrayMember(Checked& array, const s
     filled.insert(filled.begin(), {std::move(array.code), Kind::Array, false});
     return Checked{std::make_unique<code::BuiltInCall>(member->function, std::move(filled)),
                    signature.result,
+                   at,
+                   {},
+                   false};
+}
+
+std::optional<Checked> ExpressionChecker::TrySortBy(Checked& array, const std::string& name,
+                                                    const syntax::Expressions& arguments,
+                                                    Position at) {
+    const auto* address =
+        arguments.size() == 1 ? std::get_if<syntax::AddressOf>(&arguments.front()->node) : nullptr;
+    if (array.type.kind != Kind::Array || array.type.dimensions != 1 || address == nullptr ||
+        !SameName(name, "Sort")) {
+        return std::nullopt;
+    }
+    const auto element = array.type.ElementType();
+    const auto compares = [&](const DeclaredRoutine& routine) {
+        const auto& signature = routine.signature;
+        return SameName(signature.name, address->name) && IsVisible(routine, false) &&
+               signature.result == Type{IntegerKind} && signature.parameters.size() == 2 &&
+               std::ranges::all_of(signature.parameters, [element](const Parameter& parameter) {
+                   return parameter.type == element && !parameter.byRef;
+               });
+    };
+    const auto found = std::ranges::find_if(callables_.routines, compares);
+    if (found == callables_.routines.end()) {
+        throw ProgramError(arguments.front()->at, "there is no Function " + Quoted(address->name) +
+                                                      " that takes two " + NameOf(element) +
+                                                      " and returns an Integer");
+    }
+    return Checked{std::make_unique<code::SortBy>(std::move(array.code), *found->code),
+                   {Kind::None},
                    at,
                    {},
                    false};
@@ -101,11 +161,7 @@ Checked ExpressionChecker::CheckArrayCall(const syntax::Call& call, std::optiona
         throw ProgramError(at, "an array without values needs a variable that tells its type");
     }
     const Type type = element ? *element : MeetingType(values, at);
-    std::vector<code::ExpressionPtr> items;
-    std::ranges::transform(values, std::back_inserter(items), [type](Checked& value) {
-        return ConvertTo(std::move(value), type).code;
-    });
-    return {std::make_unique<code::ArrayOfValues>(type, std::move(items)),
+    return {std::make_unique<code::ArrayOfValues>(type, ConvertAll(std::move(values), type)),
             Type::ArrayOf(type),
             at,
             {},

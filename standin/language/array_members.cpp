@@ -20,8 +20,17 @@ Value Count(const Arguments& arguments, const Machine& machine) {
     return Value::Of(RequireArray(arguments[0], machine).items.size());
 }
 
+/// Dimensions count from 1.
 Value LastIndex(const Arguments& arguments, const Machine& machine) {
-    return Value::Of(LastIndexOf(RequireArray(arguments[0], machine)));
+    const auto& array = RequireArray(arguments[0], machine);
+    const auto dimension = arguments[1].Get<std::int64_t>();
+    const auto count = std::max<std::size_t>(array.lastIndices.size(), 1);
+    if (dimension < 1 || !std::cmp_less_equal(dimension, count)) {
+        machine.Raise("OutOfBoundsException", "The array has no dimension with that number.");
+    }
+    return Value::Of(array.lastIndices.empty()
+                         ? LastIndexOf(array)
+                         : array.lastIndices[static_cast<std::size_t>(dimension) - 1]);
 }
 
 Value ResizeTo(const Arguments& arguments, const Machine& machine) {
@@ -110,16 +119,21 @@ Value Sort(const Arguments& arguments, const Machine& machine) {
 
 constexpr auto Members = std::to_array<ArrayMember>({
     {"Count() As Integer", Count},
-    {"LastIndex() As Integer", LastIndex},
-    {"Ubound() As Integer", LastIndex},
+    {"LastIndex(dimension As Integer = 1) As Integer", LastIndex},
+    {"LastRowIndex(dimension As Integer = 1) As Integer", LastIndex},
+    {"Ubound(dimension As Integer = 1) As Integer", LastIndex},
     {"ResizeTo(lastIndex As Int64)", ResizeTo},
     {"Append(value As Element)", Append},
     {"Add(value As Element)", Append},
     {"Insert(index As Int64, value As Element)", AddAt},
+    {"AddRow(value As Element)", Append},
+    {"AddRowAt(index As Int64, value As Element)", AddAt},
     {"AddAt(index As Int64, value As Element)", AddAt},
     {"Remove(index As Int64)", RemoveAt},
     {"RemoveAt(index As Int64)", RemoveAt},
+    {"RemoveRowAt(index As Int64)", RemoveAt},
     {"RemoveAll()", RemoveAll},
+    {"RemoveAllRows()", RemoveAll},
     {"Pop() As Element", Pop},
     {"IndexOf(value As Element) As Integer", IndexOf},
     {"Sort()", Sort},
@@ -145,6 +159,56 @@ Value& RequireElement(Array& array, std::int64_t index, const Machine& machine) 
                           "index is " + std::to_string(LastIndexOf(array)) + ".");
     }
     return array.items[static_cast<std::size_t>(index)];
+}
+
+Value& RequireElement(Array& array, const std::vector<std::int64_t>& indices,
+                      const Machine& machine) {
+    std::size_t offset = 0;
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        if (indices[i] < 0 || indices[i] > array.lastIndices[i]) {
+            machine.Raise("OutOfBoundsException",
+                          "The index " + std::to_string(indices[i]) + " of dimension " +
+                              std::to_string(i + 1) +
+                              " is outside the array, whose last index is " +
+                              std::to_string(array.lastIndices[i]) + ".");
+        }
+        offset = offset * static_cast<std::size_t>(array.lastIndices[i] + 1) +
+                 static_cast<std::size_t>(indices[i]);
+    }
+    return array.items[offset];
+}
+
+void Resize(Array& array, const std::vector<std::int64_t>& lastIndices, const Machine& machine) {
+    std::int64_t count = 1;
+    for (const auto last : lastIndices) {
+        if (last < -1) {
+            machine.Raise("OutOfBoundsException", "An array has no negative size.");
+        }
+        if (last >= MaximumArraySize || count * (last + 1) > MaximumArraySize) {
+            machine.Raise("OutOfMemoryException", "There is no memory for so large an array.");
+        }
+        count *= last + 1;
+    }
+    Array resized{.element = array.element, .lastIndices = lastIndices};
+    resized.items.reserve(static_cast<std::size_t>(count));
+    for (std::int64_t i = 0; i < count; ++i) {
+        resized.items.push_back(Value::DefaultOf(array.element));
+    }
+    std::vector<std::int64_t> indices(lastIndices.size(), 0);
+    for (std::size_t next = 0; next < array.items.size(); ++next) {
+        auto rest = static_cast<std::int64_t>(next);
+        bool stays = true;
+        for (auto i = indices.size(); i-- > 0;) {
+            indices[i] = rest % (array.lastIndices[i] + 1);
+            rest /= array.lastIndices[i] + 1;
+            stays = stays && indices[i] <= lastIndices[i];
+        }
+        if (stays) {
+            std::swap(RequireElement(resized, indices, machine), array.items[next]);
+        }
+    }
+    std::swap(array.items, resized.items);
+    array.lastIndices = lastIndices;
 }
 
 void Resize(Array& array, std::int64_t lastIndex, const Machine& machine) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "standin/language/code.hpp"
 
@@ -27,8 +28,13 @@ std::span<const ArrayMember> ArrayMembers();
 Array& RequireArray(const Value& value, const Machine& machine);
 /// The element with that index. Raises OutOfBoundsException where there is none.
 Value& RequireElement(Array& array, std::int64_t index, const Machine& machine);
+/// The same of an array of several dimensions.
+Value& RequireElement(Array& array, const std::vector<std::int64_t>& indices,
+                      const Machine& machine);
 /// Cuts an array, or fills it up with the default of its type. The last index is -1 for an empty
 /// one. Raises OutOfBoundsException below that, OutOfMemoryException beyond the largest size.
 void Resize(Array& array, std::int64_t lastIndex, const Machine& machine);
+/// The same in each of several dimensions. Elements keep their indices.
+void Resize(Array& array, const std::vector<std::int64_t>& lastIndices, const Machine& machine);
 
 }  // namespace standin::language

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "standin/language/format.hpp"
 #include "standin/language/operations.hpp"
 #include "standin/language/parser.hpp"
 #include "standin/language/text.hpp"
@@ -34,6 +35,11 @@ Value TextOfNumber(const Arguments& arguments, const Machine& machine) {
 
 Value TextOfBoolean(const Arguments& arguments, const Machine& machine) {
     return machine.MakeText(TextOf(arguments[0].IsTrue()));
+}
+
+Value Formatted(const Arguments& arguments, const Machine& machine) {
+    const auto pattern = machine.host().Utf8(arguments[1].text());
+    return machine.MakeText(FormatNumber(arguments[0].Get<double>(), pattern));
 }
 
 Value TextItself(const Arguments& arguments, const Machine& /*machine*/) {
@@ -137,6 +143,13 @@ Value Middle(const Arguments& arguments, const Machine& machine) {
     return units.Cut(start - 1, length, machine);
 }
 
+/// The first character has the index 0.
+Value MiddleFrom(const Arguments& arguments, const Machine& machine) {
+    const auto start = std::max<std::int64_t>(arguments[1].Get<std::int32_t>(), 0);
+    return Units(arguments[0], Unit::Character, machine)
+        .Cut(start, arguments[2].Get<std::int32_t>(), machine);
+}
+
 // Characters and encodings -----------------------------------------------------------------------
 
 Value Chr(const Arguments& arguments, const Machine& machine) {
@@ -204,6 +217,12 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Single) As String", TextOfNumber<float>},
     {"Str(value As Double) As String", TextOfNumber<double>},
     {"Str(value As Currency) As String", TextOfNumber<CurrencyAmount>},
+    {"Str(value As Int8) As String", TextOfNumber<std::int8_t>},
+    {"Str(value As UInt8) As String", TextOfNumber<std::uint8_t>},
+    {"Str(value As Int16) As String", TextOfNumber<std::int16_t>},
+    {"Str(value As UInt16) As String", TextOfNumber<std::uint16_t>},
+    {"Str(value As Double, pattern As String) As String", Formatted},
+    {"Format(value As Double, pattern As String) As String", Formatted},
     {"Str(value As Boolean) As String", TextOfBoolean},
     {"VarType(value As Variant) As Integer", VarType},
     {"VariantOfType(typeCode As Integer, value As Variant) As Variant", VariantOfType},
@@ -233,7 +252,10 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
      Middle<Unit::Character>},
     {"MidB(text As String, start As Integer, length As Integer = 2147483647) As String",
      Middle<Unit::Byte>},
+    {"Middle(text As String, index As Integer, length As Integer = 2147483647) As String",
+     MiddleFrom},
     {"Chr(codePoint As Integer) As String", Chr},
+    {"Chr(codePoint As Integer) As String", Chr, "String"},
     {"ChrB(byte As Integer) As String", ChrByte},
     {"Asc(text As String) As Integer", Asc},
     {"AscB(text As String) As Integer", AscByte},
@@ -255,6 +277,11 @@ constexpr auto OtherNames = std::to_array<OtherName>({
     {"Str", "ToString"},
     {"Len", "Length"},
     {"LenB", "Bytes"},
+    {"Hex", "ToHex"},
+    {"Oct", "ToOctal"},
+    {"Bin", "ToBinary"},
+    {"LTrim", "TrimLeft"},
+    {"RTrim", "TrimRight"},
 });
 
 struct EncodingName {
@@ -281,10 +308,13 @@ constexpr auto EncodingNames = std::to_array<EncodingName>({
 
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
     std::vector<BuiltIn> builtIns;
-    for (const auto& table :
-         {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions()}) {
+    for (const auto& table : {std::span<const BuiltInRow>(Rows), TextFunctions(), MathFunctions(),
+                              ApplicationFunctions()}) {
         for (const auto& row : table) {
             auto signature = types.Resolve(ParseDeclaration(row.declaration), row.declaration);
+            if (row.module != nullptr) {
+                signature.name = std::string(row.module) + "." + signature.name;
+            }
             builtIns.push_back({signature, row.function});
             for (const auto& other : OtherNames) {
                 if (SameName(other.name, signature.name)) {

@@ -16,11 +16,14 @@ namespace standin::language {
 struct BuiltInRow {
     const char* declaration;
     BuiltInFunction function;
+    /// The module or type whose name stands before it; null for none.
+    const char* module = nullptr;
 };
 
 /// The tables that stand in files of their own.
 std::span<const BuiltInRow> TextFunctions();
 std::span<const BuiltInRow> MathFunctions();
+std::span<const BuiltInRow> ApplicationFunctions();
 
 /// A function with its declaration, from which overloads are chosen as for a plug-in's methods.
 struct BuiltIn {

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/language/dictionary.hpp"
 #include "standin/language/host_members.hpp"
 #include "standin/language/parser.hpp"
+#include "standin/language/suggestions.hpp"
 
 namespace standin::language {
 namespace {
@@ -65,6 +67,46 @@ bool HasArray(const Signature& signature) {
            });
 }
 
+/// Types of the host that programs of other kinds use.
+constexpr std::string_view UnsupportedTypes[] = {"BinaryStream",
+                                                 "Color",
+                                                 "Database",
+                                                 "DateInterval",
+                                                 "Delegate",
+                                                 "FolderItem",
+                                                 "Graphics",
+                                                 "JSONItem",
+                                                 "Mutex",
+                                                 "Pair",
+                                                 "Picture",
+                                                 "Ptr",
+                                                 "RegEx",
+                                                 "Semaphore",
+                                                 "Shell",
+                                                 "TextInputStream",
+                                                 "TextOutputStream",
+                                                 "Thread",
+                                                 "Timer",
+                                                 "WString",
+                                                 "CString",
+                                                 "Xojo",
+                                                 "TCPSocket",
+                                                 "URLConnection",
+                                                 "Text",
+                                                 "CGFloat",
+                                                 "Auto",
+                                                 "Window",
+                                                 "DesktopWindow",
+                                                 "DictionaryEntry"};
+
+/// Throws for a type that the host has, but that is not supported here.
+void RefuseHostType(const syntax::TypeName& name) {
+    if (std::ranges::any_of(UnsupportedTypes,
+                            [&name](std::string_view type) { return SameName(type, name.name); })) {
+        throw ProgramError(name.at, "the type " + Quoted(name.name) + " is not supported here");
+    }
+}
+
 /// The name that a declaration begins with, for one that does not parse.
 std::string LeadingName(std::string_view declaration) {
     return std::string(declaration.substr(0, declaration.find_first_of(" (\t")));
@@ -96,17 +138,38 @@ const Property* ClassModel::FindProperty(std::string_view name) const {
                        [name](const ClassModel& model) { return Named(model.properties, name); });
 }
 
+std::vector<std::string_view> ClassModel::MemberNames() const {
+    std::vector<std::string_view> names;
+    for (const auto* model = this; model != nullptr; model = model->super()) {
+        for (const auto* list : {&model->methods, &model->sharedMethods}) {
+            for (const auto& method : *list) {
+                names.push_back(method.signature.name);
+            }
+        }
+        for (const auto* list : {&model->properties, &model->sharedProperties}) {
+            for (const auto& property : *list) {
+                names.push_back(property.name);
+            }
+        }
+        for (const auto& item : model->items) {
+            names.push_back(item.name);
+        }
+    }
+    return names;
+}
+
 const Property* ClassModel::FindSharedProperty(std::string_view name) const {
     return FirstAnswer(
         this, [name](const ClassModel& model) { return Named(model.sharedProperties, name); });
 }
 
-TypeTable::TypeTable(const Host& host) {
+TypeTable::TypeTable(const Host& host) : constants_(HostConstants(host)) {
     for (const auto name : HostClassNames) {
         if (const auto* info = host.FindClass(name)) {
             AddClass(*info);
         }
     }
+    AddClass(Host::Current().ProgramClass(std::string(DictionaryClass)));
     for (const auto* info : host.RegisteredClasses()) {
         AddClass(*info);
     }
@@ -199,14 +262,19 @@ Property TypeTable::ReadProperty(const PropertyInfo& info) const {
 Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
                              std::optional<Type> element) const {
     const auto resolve = [this, element](const syntax::TypeName& name) {
-        return element && name.name == ElementPlaceholder ? *element : Require(name);
+        if (element && name.name == ElementPlaceholder) {
+            return name.dimensions == 0 ? *element : Type::ArrayOf(*element, name.dimensions);
+        }
+        return Require(name);
     };
     Signature signature;
     signature.name = std::move(syntax.name);
     signature.declaration = std::move(declaration);
     for (auto& parameter : syntax.parameters) {
         signature.parameters.push_back({std::move(parameter.name), resolve(parameter.type),
-                                        parameter.byRef, std::move(parameter.defaultValue)});
+                                        parameter.byRef, std::move(parameter.defaultValue),
+                                        parameter.isOptional, parameter.isParamArray,
+                                        parameter.isExtended});
     }
     if (syntax.result) {
         signature.result = resolve(*syntax.result);
@@ -218,23 +286,63 @@ std::optional<Type> TypeTable::Find(std::string_view name) const {
     if (const auto kind = FindKind(name)) {
         return Type{*kind};
     }
-    if (const auto* model = FindClass(name)) {
-        return Type{Kind::Instance, model};
+    const auto* model = FindClass(name);
+    if (model == nullptr) {
+        return std::nullopt;
     }
-    return std::nullopt;
+    const bool isEnumeration = model->origin() == ClassModel::Origin::Enumeration;
+    return Type{isEnumeration ? Kind::Enumeration : Kind::Instance, model};
 }
 
 const ClassModel* TypeTable::FindClass(std::string_view name) const {
     const auto found = classes_.find(name);
-    return found == classes_.end() ? nullptr : found->second.get();
+    if (found != classes_.end()) {
+        return found->second.get();
+    }
+    return outer_ == nullptr ? nullptr : outer_->FindClass(name);
+}
+
+ClassModel& TypeTable::Declare(const std::string& name, ClassModel::Origin origin, Position at) {
+    if (Find(name)) {
+        throw ProgramError(at, Quoted(name) + " is declared already");
+    }
+    declared_.push_back(name);
+    const ClassInfo* info = nullptr;
+    if (origin == ClassModel::Origin::Enumeration) {
+        ownInfos_.push_back(std::make_unique<ClassInfo>());
+        ownInfos_.back()->name = name;
+        info = ownInfos_.back().get();
+    } else {
+        info = &Host::Current().ProgramClass(name);
+    }
+    const auto* super = origin == ClassModel::Origin::Enumeration ? nullptr : FindClass("Object");
+    return *classes_.emplace(name, std::make_unique<ClassModel>(*info, super, origin))
+                .first->second;
+}
+
+void TypeTable::KeepFirst(std::size_t count) {
+    while (declared_.size() > count) {
+        classes_.erase(declared_.back());
+        declared_.pop_back();
+    }
+}
+
+std::vector<std::string_view> TypeTable::Names() const {
+    auto names = outer_ == nullptr ? KindNames() : outer_->Names();
+    for (const auto& [name, model] : classes_) {
+        names.push_back(name);
+    }
+    return names;
 }
 
 Type TypeTable::Require(const syntax::TypeName& name) const {
     const auto type = Find(name.name);
     if (!type) {
-        throw ProgramError(name.at, "there is no type " + Quoted(name.name));
+        RefuseHostType(name);
+        throw ProgramError(
+            name.at, "there is no type " + Quoted(name.name) + SuggestionFor(name.name, Names()));
     }
-    return name.isArray ? Type::ArrayOf(*type) : *type;
+    return name.dimensions == 0 ? *type : Type::ArrayOf(*type, name.dimensions);
 }
 
 }  // namespace standin::language

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "standin/language/code.hpp"
+#include "standin/language/constants.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/syntax.hpp"
 #include "standin/language/types.hpp"
@@ -27,6 +28,12 @@ struct Parameter {
     bool byRef = false;
     /// The literal that fills a missing argument; null when the argument must be given.
     std::shared_ptr<const syntax::Expression> defaultValue;
+    /// Whether a missing argument is the default of the type.
+    bool isOptional = false;
+    /// Whether all further arguments come as one array.
+    bool isParamArray = false;
+    /// Whether the routine is called on it.
+    bool isExtended = false;
 };
 
 /// The head of anything that is called with arguments.
@@ -56,6 +63,9 @@ struct Method {
     HostAccess host;
     /// Of a constructor of the host: whether it makes the object, instead of filling a new one.
     bool isFactory = false;
+    /// Of a class of the program: what runs, with the object as first argument.
+    const code::Routine* routine = nullptr;
+    bool isPrivate = false;
 };
 
 /// A property of a class.
@@ -69,17 +79,25 @@ struct Property {
     Routine setter = nullptr;
     std::int32_t parameter = 0;
     HostAccess host;
+    /// Of a class of the program: which of an object's fields it is.
+    std::optional<std::size_t> field = {};
+    bool isPrivate = false;
 };
 
 /// One class. Members are looked up from the class to its ancestors; the nearest class that has
 /// the name answers.
 class ClassModel {
 public:
-    ClassModel(const ClassInfo& info, const ClassModel* super) : info_(&info), super_(super) {}
+    /// What the program declares: a class of its own, or an `Enum`.
+    enum class Origin : std::uint8_t { Host, Program, Enumeration };
+
+    ClassModel(const ClassInfo& info, const ClassModel* super, Origin origin = Origin::Host)
+        : info_(&info), super_(super), origin_(origin) {}
 
     const std::string& name() const { return info_->name; }
     const ClassInfo& info() const { return *info_; }
     const ClassModel* super() const { return super_; }
+    Origin origin() const { return origin_; }
     bool IsA(const ClassModel& other) const;
     /// Whether objects of this class can be raised.
     bool IsException() const;
@@ -93,10 +111,18 @@ public:
     std::vector<Method> sharedMethods;
     std::vector<Property> properties;
     std::vector<Property> sharedProperties;
+    /// The values of an `Enum`.
+    std::vector<syntax::Enumeration::Item> items;
+    /// Of a class of the program: what gives the fields of a new object their first values.
+    const code::Routine* initialiser = nullptr;
+
+    /// The names of all members, those of the ancestors included.
+    std::vector<std::string_view> MemberNames() const;
 
 private:
     const ClassInfo* info_;
     const ClassModel* super_;
+    Origin origin_;
 };
 
 /// Every type by its name.
@@ -104,8 +130,26 @@ class TypeTable {
 public:
     /// Reads the classes of the host: its own and those that the plug-in registered.
     explicit TypeTable(const Host& host);
+    /// The types of a program: its own, and behind them those of `outer`, which outlives it.
+    explicit TypeTable(const TypeTable* outer) : outer_(outer) {}
     TypeTable(const TypeTable&) = delete;
     TypeTable& operator=(const TypeTable&) = delete;
+
+    /// Adds a class of the program, or an `Enum`. Throws ProgramError when there is a type of that
+    /// name.
+    ClassModel& Declare(const std::string& name, ClassModel::Origin origin, Position at);
+    /// The model of a type that was declared here.
+    ClassModel& OwnModel(std::string_view name) { return *classes_.find(name)->second; }
+    /// Forgets the types that were declared here, but for the first ones.
+    void KeepFirst(std::size_t count);
+    std::size_t declaredCount() const { return declared_.size(); }
+
+    /// What the host tells of itself.
+    const Constants& constants() const {
+        return outer_ == nullptr ? constants_ : outer_->constants();
+    }
+    /// The names of all types.
+    std::vector<std::string_view> Names() const;
 
     std::optional<Type> Find(std::string_view name) const;
     const ClassModel* FindClass(std::string_view name) const;
@@ -124,6 +168,12 @@ private:
     Signature ReadDeclaration(std::string_view declaration) const;
     Property ReadProperty(const PropertyInfo& info) const;
 
+    const TypeTable* outer_ = nullptr;
+    /// The names of the types that were declared here, in their order.
+    std::vector<std::string> declared_;
+    Constants constants_;
+    /// What stands for the host's record of an `Enum`, of which there are no objects.
+    std::vector<std::unique_ptr<ClassInfo>> ownInfos_;
     std::map<std::string, std::unique_ptr<ClassModel>, NameLess> classes_;
 };
 

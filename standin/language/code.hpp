@@ -2,6 +2,7 @@
 // slot by then, every overload chosen, every conversion a node of its own.
 #pragma once
 
+#include <csignal>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -13,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "standin/language/native_data.hpp"
 #include "standin/language/source.hpp"
 #include "standin/language/value.hpp"
 #include "standin/runtime/host.hpp"
@@ -47,6 +49,12 @@ private:
     Position at_;
 };
 
+/// Somebody wants the program to end; no Catch of it sees that.
+class Interrupted : public std::exception {
+public:
+    const char* what() const noexcept override { return "interrupted"; }
+};
+
 /// Statements that a program may take, each turn of a loop and each branch counted as one more.
 inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_t>::max();
 
@@ -58,8 +66,21 @@ public:
     Machine(Host& host, Output print, std::uint64_t maximumSteps)
         : host_(host), print_(std::move(print)), maximumSteps_(maximumSteps) {}
 
+    ~Machine() { NativeData::ReleaseAll(); }
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+
     Host& host() const { return host_; }
     void Print(std::string_view utf8) const { print_(utf8); }
+
+    /// Ends what runs, with Interrupted at its next step. A signal handler may call it.
+    static void Interrupt() { interrupted_ = 1; }
+    /// Whether `Interrupt` was called since the last call of this.
+    static bool TakeInterrupt() {
+        const bool wasInterrupted = interrupted_ != 0;
+        interrupted_ = 0;
+        return wasInterrupted;
+    }
 
     /// The statement that runs now; exceptions carry it.
     Position position = 0;
@@ -67,6 +88,8 @@ public:
     std::size_t depth = 0;
     /// Where the native stack stood at the first of them.
     std::size_t stackBase = 0;
+    /// The variables of modules and those that are static.
+    std::vector<Value> globals = {};
 
     /// Counts one step. Throws ProgramError when there were more than the program may take, or when
     /// it has needed more memory than it may: no Catch of the program sees that.
@@ -92,6 +115,7 @@ private:
     Output print_;
     std::uint64_t maximumSteps_;
     std::uint64_t steps_ = 0;
+    static inline volatile std::sig_atomic_t interrupted_ = 0;
 };
 
 /// A function of the host or of the language itself.

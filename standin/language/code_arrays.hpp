@@ -11,14 +11,39 @@ namespace standin::language::code {
 /// A new array whose elements have the default of their type.
 class NewArray final : public Expression {
 public:
-    /// `lastIndex` is null for an empty array.
-    NewArray(Type element, ExpressionPtr lastIndex)
-        : element_(element), lastIndex_(std::move(lastIndex)) {}
+    /// `lastIndices` has one for each dimension, or none for an empty array.
+    NewArray(Type array, std::vector<ExpressionPtr> lastIndices)
+        : array_(array), lastIndices_(std::move(lastIndices)) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
-    Type element_;
-    ExpressionPtr lastIndex_;
+    Type array_;
+    std::vector<ExpressionPtr> lastIndices_;
+};
+
+/// An array of several dimensions in another size. What is in both sizes stays.
+class ResizeArray final : public Expression {
+public:
+    ResizeArray(ExpressionPtr array, std::vector<ExpressionPtr> lastIndices)
+        : array_(std::move(array)), lastIndices_(std::move(lastIndices)) {}
+    Value Evaluate(Frame& frame) const override;
+
+private:
+    ExpressionPtr array_;
+    std::vector<ExpressionPtr> lastIndices_;
+};
+
+/// Sorts an array by a routine that compares two elements: its result is less than, equal to or
+/// greater than 0 as the first one is.
+class SortBy final : public Expression {
+public:
+    SortBy(ExpressionPtr array, const Routine& comparison)
+        : array_(std::move(array)), comparison_(comparison) {}
+    Value Evaluate(Frame& frame) const override;
+
+private:
+    ExpressionPtr array_;
+    const Routine& comparison_;
 };
 
 /// A new array of values.
@@ -36,25 +61,26 @@ private:
 /// One element of an array.
 class Element final : public Expression {
 public:
-    Element(ExpressionPtr array, ExpressionPtr index)
-        : array_(std::move(array)), index_(std::move(index)) {}
+    /// One index for each dimension.
+    Element(ExpressionPtr array, std::vector<ExpressionPtr> indices)
+        : array_(std::move(array)), indices_(std::move(indices)) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
     ExpressionPtr array_;
-    ExpressionPtr index_;
+    std::vector<ExpressionPtr> indices_;
 };
 
 /// A value into an element of an array.
 class SetElement final : public Expression {
 public:
-    SetElement(ExpressionPtr array, ExpressionPtr index, ExpressionPtr value)
-        : array_(std::move(array)), index_(std::move(index)), value_(std::move(value)) {}
+    SetElement(ExpressionPtr array, std::vector<ExpressionPtr> indices, ExpressionPtr value)
+        : array_(std::move(array)), indices_(std::move(indices)), value_(std::move(value)) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
     ExpressionPtr array_;
-    ExpressionPtr index_;
+    std::vector<ExpressionPtr> indices_;
     ExpressionPtr value_;
 };
 

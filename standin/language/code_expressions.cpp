@@ -1,6 +1,8 @@
 #include "standin/language/code_expressions.hpp"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace standin::language::code {
 namespace {
@@ -80,15 +82,24 @@ Value NewHostObject::Evaluate(Frame& frame) const {
 }
 
 Value RoutineCall::Evaluate(Frame& frame) const {
-    Frame callee(frame.machine, routine_.slotCount, &frame.main);
-    for (std::size_t i = 0; i < arguments_.size(); ++i) {
-        const auto& argument = arguments_[i];
-        callee.slots[i] = argument.byRef ? Value::ReferenceTo(*argument.value->Storage(frame))
-                                         : argument.value->Evaluate(frame);
+    std::vector<Value> values;
+    values.reserve(arguments_.size());
+    for (const auto& argument : arguments_) {
+        values.push_back(argument.byRef ? Value::ReferenceTo(*argument.value->Storage(frame))
+                                        : argument.value->Evaluate(frame));
     }
-    callee.result = Value::DefaultOf(routine_.result);
-    const DepthGuard guard(frame.machine);
-    routine_.body.Execute(callee);
+    if (isMethod_) {
+        frame.machine.RequireObject(values.front());
+    }
+    return CallRoutine(routine_, std::move(values), frame);
+}
+
+Value CallRoutine(const Routine& routine, std::vector<Value> arguments, Frame& caller) {
+    Frame callee(caller.machine, routine.slotCount, &caller.main);
+    std::ranges::move(arguments, callee.slots.begin());
+    callee.result = Value::DefaultOf(routine.result);
+    const DepthGuard guard(caller.machine);
+    routine.body.Execute(callee);
     return std::move(callee.result);
 }
 

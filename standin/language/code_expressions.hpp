@@ -20,6 +20,16 @@ private:
     Value value_;
 };
 
+/// The value of a variable of that type before anything is assigned, made anew each time.
+class DefaultValue final : public Expression {
+public:
+    explicit DefaultValue(Type type) : type_(type) {}
+    Value Evaluate(Frame& /*frame*/) const override { return Value::DefaultOf(type_); }
+
+private:
+    Type type_;
+};
+
 /// A text literal: a string of the host that is made anew each time.
 class TextConstant final : public Expression {
 public:
@@ -31,7 +41,7 @@ private:
 };
 
 /// Where a variable lives.
-enum class VariableKind : std::uint8_t { Local, Main, Reference };
+enum class VariableKind : std::uint8_t { Local, Main, Reference, Global };
 
 template <VariableKind Where>
 class Variable final : public Expression {
@@ -43,6 +53,8 @@ public:
             return &frame.slots[slot_];
         } else if constexpr (Where == VariableKind::Main) {
             return &frame.main.slots[slot_];
+        } else if constexpr (Where == VariableKind::Global) {
+            return &frame.machine.globals[slot_];
         } else {
             return &frame.slots[slot_].Target();
         }
@@ -232,13 +244,18 @@ private:
 /// A call of one of the program's own routines, which outlives the node.
 class RoutineCall final : public Expression {
 public:
-    RoutineCall(const Routine& routine, std::vector<Argument> arguments)
-        : routine_(routine), arguments_(std::move(arguments)) {}
+    /// The first argument of a method is its object, which must not be Nil.
+    RoutineCall(const Routine& routine, std::vector<Argument> arguments, bool isMethod = false)
+        : routine_(routine), arguments_(std::move(arguments)), isMethod_(isMethod) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
     const Routine& routine_;
     std::vector<Argument> arguments_;
+    bool isMethod_;
 };
+
+/// Runs a routine with values in its first slots.
+Value CallRoutine(const Routine& routine, std::vector<Value> arguments, Frame& caller);
 
 }  // namespace standin::language::code

@@ -4,109 +4,368 @@
 #include <string>
 #include <utility>
 
+#include "standin/language/code_statements.hpp"
 #include "standin/language/parser.hpp"
-#include "standin/language/statement_checker.hpp"
 
 namespace standin::language {
 namespace {
 
-DeclaredRoutine Declare(syntax::Signature& syntax, const code::Routine& code,
-                        const TypeTable& types) {
-    // Names and types are still needed for the body; only the defaults move.
+constexpr std::string_view RunName = "Run";
+/// No program can write this name.
+constexpr auto InitialiserName = "(fields)";
+
+/// The head of a routine with the names of its types resolved. The routine keeps the names, which
+/// its body needs; only the defaults move.
+Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
     syntax::Signature head{syntax.name, syntax.at, {}, syntax.result};
     std::string declaration;
+    const auto brackets = [](const syntax::TypeName& type) {
+        return type.dimensions == 0 ? std::string()
+                                    : "(" + std::string(type.dimensions - 1, ',') + ")";
+    };
     for (auto& parameter : syntax.parameters) {
-        declaration += (declaration.empty() ? "" : ", ") +
-                       std::string(parameter.byRef ? "ByRef " : "") + parameter.name +
-                       (parameter.type.isArray ? "()" : "") + " As " + parameter.type.name;
+        declaration +=
+            (declaration.empty() ? "" : ", ") + std::string(parameter.byRef ? "ByRef " : "") +
+            (parameter.isExtended ? "Extends " : "") +
+            (parameter.isParamArray ? "ParamArray " : "") + parameter.name +
+            (parameter.isParamArray ? "" : brackets(parameter.type)) + " As " + parameter.type.name;
         head.parameters.push_back({parameter.name, parameter.at, parameter.type, parameter.byRef,
-                                   std::move(parameter.defaultValue)});
+                                   std::move(parameter.defaultValue), parameter.isOptional,
+                                   parameter.isParamArray, parameter.isExtended});
     }
     declaration = syntax.name + "(" + declaration + ")";
     if (syntax.result) {
-        declaration += " As " + syntax.result->name;
+        declaration += " As " + syntax.result->name + brackets(*syntax.result);
     }
-    return {types.Resolve(std::move(head), std::move(declaration)), &code};
+    return types.Resolve(std::move(head), std::move(declaration));
+}
+
+bool HaveSameHead(const Signature& left, const Signature& right) {
+    return SameName(left.name, right.name) &&
+           std::ranges::equal(left.parameters, right.parameters, {}, &Parameter::type,
+                              &Parameter::type);
 }
 
 /// Whether no program can tell which of the two a call means.
 bool AreSame(const DeclaredRoutine& left, const DeclaredRoutine& right) {
-    return SameName(left.signature.name, right.signature.name) &&
-           std::ranges::equal(left.signature.parameters, right.signature.parameters, {},
-                              &Parameter::type, &Parameter::type);
+    return SameName(left.unit, right.unit) && HaveSameHead(left.signature, right.signature);
 }
 
-/// Throws when a default does not fit its parameter, even if no call needs it.
-void CheckDefaults(const Signature& signature, const TypeTable& types, const Callables& callables) {
-    const Scope nothing;
-    ExpressionChecker checker(types, callables, nothing);
-    for (const auto& parameter : signature.parameters) {
-        if (parameter.defaultValue) {
-            checker.CheckAs(*parameter.defaultValue, parameter.type);
-        }
+syntax::ExpressionPtr Make(Position at, syntax::Expression::Node node) {
+    return std::make_unique<syntax::Expression>(syntax::Expression{at, 1, std::move(node)});
+}
+
+/// `owner.name = value`, or `owner.name.ResizeTo(indices)`; nothing for a field without either.
+void AppendFirstValue(syntax::Block& block, const std::string& owner,
+                      syntax::Declarator& declarator) {
+    const Position at = declarator.at;
+    auto field = Make(at, syntax::Member{Make(at, syntax::Name{owner}), declarator.name});
+    syntax::Statement::Node node;
+    if (!declarator.lastIndices.empty()) {
+        auto resize = Make(at, syntax::Member{std::move(field), "ResizeTo"});
+        node = syntax::CallStatement{
+            Make(at, syntax::Call{std::move(resize), std::move(declarator.lastIndices)})};
+    } else if (declarator.initialiser) {
+        node = syntax::Assignment{std::move(field), std::move(declarator.initialiser)};
+    } else {
+        return;
     }
+    block.push_back(std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)}));
 }
 
 }  // namespace
 
-Compiler::Compiler(const TypeTable& types) : types_(types), callables_{MakeBuiltIns(types), {}} {}
+Compiler::Compiler(const TypeTable& types) : types_(&types), callables_{MakeBuiltIns(types)} {}
 
-code::Block Compiler::Compile(syntax::Program program) {
-    std::vector<DeclaredRoutine> declared;
-    for (auto& routine : program.routines) {
-        DeclareRoutine(routine.signature, declared);
-    }
-    auto main = CompileStatements(program.main);
-    for (std::size_t i = 0; i < declared.size(); ++i) {
-        const auto& signature = declared[i].signature;
-        auto& code = *routines_[routines_.size() - declared.size() + i];
-        Scope scope(&scope_);
-        StatementChecker checker(types_, callables_, scope, signature.result);
-        code.result = signature.result;
-        code.body = checker.CheckBody(program.routines[i].body, signature.parameters,
-                                      program.routines[i].signature.parameters);
-        code.slotCount = scope.slotCount();
-    }
-    return main;
+code::Block Compiler::Compile(syntax::Program program, ErrorList& errors) {
+    return CompileAll(program, errors, std::nullopt);
 }
 
-void Compiler::DeclareRoutine(syntax::Signature& head, std::vector<DeclaredRoutine>& siblings) {
-    routines_.push_back(std::make_unique<code::Routine>());
-    const auto declared = Declare(head, *routines_.back(), types_);
-    const auto isSame = [&](const auto& other) { return AreSame(other, declared); };
-    if (std::ranges::any_of(siblings, isSame)) {
-        throw ProgramError(head.at, Quoted(head.name) + " is declared already");
+code::Block Compiler::CompileProject(syntax::Program program, const Source& source,
+                                     ErrorList& errors) {
+    const auto application = std::ranges::find(program.units, true, &syntax::Unit::isApplication);
+    if (application == program.units.end()) {
+        if (errors.empty()) {
+            errors.Add(ProgramError(
+                0,
+                "no class of the project inherits from ConsoleApplication, so nothing can start"));
+        }
+    } else if (std::ranges::none_of(application->routines, [](const syntax::Routine& routine) {
+                   return SameName(routine.signature.name, RunName);
+               })) {
+        errors.Add(ProgramError(
+            application->at, Quoted(application->name) + " has no Function Run(args() As String)"));
+    } else {
+        const Position at = application->at;
+        auto run = Make(
+            at, syntax::Member{Make(at, syntax::Name{application->name}), std::string(RunName)});
+        syntax::Expressions words;
+        words.push_back(Make(at, syntax::TextLiteral{source.name()}));
+        syntax::Expressions arguments;
+        arguments.push_back(
+            Make(at, syntax::Call{Make(at, syntax::Name{"Array"}), std::move(words)}));
+        auto call = Make(at, syntax::Call{std::move(run), std::move(arguments)});
+        program.main.push_back(std::make_unique<syntax::Statement>(
+            syntax::Statement{at, syntax::Return{std::move(call)}}));
     }
-    CheckDefaults(declared.signature, types_, callables_);
+    return CompileAll(program, errors, Type{IntegerKind});
+}
+
+code::Block Compiler::CompileAll(syntax::Program& program, ErrorList& errors,
+                                 std::optional<Type> result) {
+    pending_.clear();
+    starts_.clear();
+    DeclareTypes(program, errors);
+    for (auto& unit : program.units) {
+        DeclareUnit(unit, errors);
+    }
+    std::vector<DeclaredRoutine> siblings;
+    for (auto& routine : program.routines) {
+        errors.Try([&] { DeclareRoutine(routine, {}, siblings); });
+    }
+    for (const auto& pending : pending_) {
+        CheckDefaults(pending.signature, errors);
+    }
+    code::Block block;
+    for (const auto& [surroundings, statements] : starts_) {
+        auto start = CompileStatements(statements, errors, std::nullopt, surroundings);
+        std::ranges::move(start.statements, std::back_inserter(block.statements));
+    }
+    auto main = CompileStatements(program.main, errors, result, {});
+    std::ranges::move(main.statements, std::back_inserter(block.statements));
+    for (const auto& pending : pending_) {
+        CompileBody(pending, errors);
+    }
+    pending_.clear();
+    errors.ThrowIfAny();
+    return block;
+}
+
+void Compiler::CompileBody(const Pending& pending, ErrorList& errors) {
+    Scope scope(&scope_);
+    auto parameters = pending.signature.parameters;
+    auto places = std::vector<Position>();
+    if (const auto* self = pending.surroundings.self) {
+        Parameter object;
+        object.name = SelfName;
+        object.type = {Kind::Instance, self};
+        parameters.insert(parameters.begin(), std::move(object));
+        places.push_back(pending.routine->signature.at);
+    }
+    for (const auto& parameter : pending.routine->signature.parameters) {
+        places.push_back(parameter.at);
+    }
+    const auto result = pending.signature.result;
+    StatementChecker checker(types_, callables_, scope, globals_, errors, result,
+                             pending.surroundings);
+    pending.code->result = result;
+    errors.Try(
+        [&] { pending.code->body = checker.CheckBody(pending.routine->body, parameters, places); });
+    pending.code->slotCount = scope.slotCount();
+}
+
+code::Routine& Compiler::NewRoutine() {
+    return *routines_.emplace_back(std::make_unique<code::Routine>());
+}
+
+void Compiler::CheckDefaults(const Signature& signature, ErrorList& errors) const {
+    const Scope nothing;
+    ExpressionChecker checker(types_, callables_, nothing, errors);
+    for (const auto& parameter : signature.parameters) {
+        if (parameter.defaultValue) {
+            errors.Try([&] { checker.CheckAs(*parameter.defaultValue, parameter.type); });
+        }
+    }
+}
+
+void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
+    for (const auto& enumeration : program.enumerations) {
+        errors.Try([&] {
+            auto& model =
+                types_.Declare(enumeration.name, ClassModel::Origin::Enumeration, enumeration.at);
+            model.items = enumeration.items;
+        });
+    }
+    for (const auto& unit : program.units) {
+        errors.Try([&] {
+            if (types_.Find(unit.name) || callables_.units.contains(unit.name)) {
+                throw ProgramError(unit.at, Quoted(unit.name) + " is declared already");
+            }
+            callables_.units.insert(unit.name);
+            if (unit.isClass) {
+                types_.Declare(unit.name, ClassModel::Origin::Program, unit.at);
+            }
+        });
+    }
+}
+
+void Compiler::DeclareUnit(syntax::Unit& unit, ErrorList& errors) {
+    for (const auto& constant : unit.constants) {
+        errors.Try([&] {
+            const auto isSame = [&](const UnitConstant& other) {
+                return SameName(other.name, constant.name) && SameName(other.unit, unit.name);
+            };
+            if (std::ranges::any_of(callables_.constants, isSame)) {
+                throw ProgramError(constant.at, Quoted(constant.name) + " is declared already");
+            }
+            const bool isHidden = unit.isClass && constant.visibility == syntax::Visibility::Global;
+            callables_.constants.push_back(
+                {constant.name, constant.value, unit.name,
+                 isHidden ? syntax::Visibility::Qualified : constant.visibility});
+        });
+    }
+    if (unit.isClass) {
+        DeclareClass(unit, errors);
+    } else {
+        DeclareModule(unit, errors);
+    }
+}
+
+void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
+    // What belongs to the application is named with its name outside of it.
+    const auto seen = [&unit](syntax::Visibility visibility) {
+        return unit.isApplication && visibility == syntax::Visibility::Global
+                   ? syntax::Visibility::Qualified
+                   : visibility;
+    };
+    syntax::Block start;
+    for (auto& field : unit.fields) {
+        errors.Try([&] {
+            const auto isSame = [&](const UnitVariable& other) {
+                return SameName(other.name, field.declarator.name) &&
+                       SameName(other.unit, unit.name);
+            };
+            if (std::ranges::any_of(callables_.variables, isSame)) {
+                throw ProgramError(field.declarator.at,
+                                   Quoted(field.declarator.name) + " is declared already");
+            }
+            const auto type = types_.Require(field.declarator.type);
+            const Variable variable{type, globals_.size(), code::VariableKind::Global};
+            globals_.push_back(type);
+            callables_.variables.push_back(
+                {field.declarator.name, variable, unit.name, seen(field.visibility)});
+            AppendFirstValue(start, unit.name, field.declarator);
+        });
+    }
+    starts_.emplace_back(Surroundings{unit.name, nullptr}, std::move(start));
+    std::vector<DeclaredRoutine> siblings;
+    for (auto& routine : unit.routines) {
+        routine.visibility = seen(routine.visibility);
+        errors.Try([&] { DeclareRoutine(routine, unit.name, siblings); });
+    }
+}
+
+void Compiler::DeclareRoutine(syntax::Routine& routine, const std::string& unit,
+                              std::vector<DeclaredRoutine>& siblings) {
+    auto& code = NewRoutine();
+    const DeclaredRoutine declared{Resolve(routine.signature, types_), &code, unit,
+                                   routine.visibility};
+    const auto isSame = [&](const DeclaredRoutine& other) { return AreSame(other, declared); };
+    if (std::ranges::any_of(siblings, isSame)) {
+        throw ProgramError(routine.signature.at,
+                           Quoted(routine.signature.name) + " is declared already");
+    }
     std::erase_if(callables_.routines, isSame);
     callables_.routines.push_back(declared);
     siblings.push_back(declared);
+    pending_.push_back({declared.signature, &code, &routine, {unit, nullptr}});
 }
 
-code::Block Compiler::CompileStatements(const syntax::Block& statements) {
-    StatementChecker checker(types_, callables_, scope_, std::nullopt);
+void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
+    const auto found = types_.Find(unit.name);
+    if (!found || found->kind != Kind::Instance ||
+        found->model->origin() != ClassModel::Origin::Program) {
+        return;
+    }
+    // The table hands out constant models; this one is its program's own.
+    auto& model = types_.OwnModel(unit.name);
+    auto initialiser = std::make_unique<syntax::Routine>();
+    initialiser->signature.name = InitialiserName;
+    initialiser->signature.at = unit.at;
+    for (auto& field : unit.fields) {
+        errors.Try([&] {
+            const auto& declarator = field.declarator;
+            if (model.FindProperty(declarator.name) != nullptr) {
+                throw ProgramError(declarator.at, Quoted(declarator.name) + " is declared already");
+            }
+            const auto type = types_.Require(declarator.type);
+            model.properties.push_back(
+                {.name = declarator.name,
+                 .type = type,
+                 .declaration = declarator.name + " As " + NameOf(type),
+                 .problem = {},
+                 .host = {},
+                 .field = model.properties.size(),
+                 .isPrivate = field.visibility != syntax::Visibility::Global});
+            AppendFirstValue(initialiser->body, SelfName, field.declarator);
+        });
+    }
+    for (auto& routine : unit.routines) {
+        errors.Try([&] { DeclareMethod(model, routine); });
+    }
+    if (!initialiser->body.empty()) {
+        auto& code = NewRoutine();
+        Signature signature;
+        signature.name = InitialiserName;
+        pending_.push_back({signature, &code, initialiser.get(), {unit.name, &model}});
+        model.initialiser = &code;
+        made_.push_back(std::move(initialiser));
+    }
+}
+
+void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
+    const auto& name = routine.signature.name;
+    const Position at = routine.signature.at;
+    constexpr std::string_view Operator = "Operator_";
+    if (SameName(std::string_view(name).substr(0, Operator.size()), Operator)) {
+        throw ProgramError(at, "Operators of classes are not supported here");
+    }
+    if (SameName(name, "Destructor")) {
+        throw ProgramError(at, "Destructors are not supported here");
+    }
+    auto signature = Resolve(routine.signature, types_);
+    for (const auto& method : model.methods) {
+        if (HaveSameHead(method.signature, signature)) {
+            throw ProgramError(at, Quoted(name) + " is declared already");
+        }
+    }
+    if (model.FindProperty(name) != nullptr) {
+        throw ProgramError(at, Quoted(name) + " is declared already");
+    }
+    auto& code = NewRoutine();
+    pending_.push_back({signature, &code, &routine, {model.name(), &model}});
+    model.methods.push_back({.signature = std::move(signature),
+                             .host = {},
+                             .routine = &code,
+                             .isPrivate = routine.visibility != syntax::Visibility::Global});
+}
+
+code::Block Compiler::CompileStatements(const syntax::Block& statements, ErrorList& errors,
+                                        std::optional<Type> result,
+                                        const Surroundings& surroundings) {
+    StatementChecker checker(types_, callables_, scope_, globals_, errors, result, surroundings);
     auto code = checker.CheckFragment(statements);
     scope_.ShareAll();
     return code;
 }
 
-code::Block Compiler::CompileShown(syntax::ExpressionPtr expression) {
-    const Position at = expression->at;
-    ExpressionChecker checker(types_, callables_, scope_);
-    syntax::Statement::Node node;
-    if (checker.CheckCall(*expression).type.kind != Kind::None) {
-        node = syntax::Print{std::move(expression)};
+code::Block Compiler::CompileShown(const syntax::Expression& expression) {
+    ErrorList errors;
+    ExpressionChecker checker(types_, callables_, scope_, errors);
+    code::Block block;
+    auto checked = checker.CheckCall(expression);
+    if (checked.type.kind == Kind::None) {
+        block.statements.push_back(
+            std::make_unique<code::Perform>(expression.at, std::move(checked.code)));
     } else {
-        node = syntax::CallStatement{std::move(expression)};
+        block.statements.push_back(
+            std::make_unique<code::Print>(expression.at, checker.CheckAsShown(expression)));
     }
-    syntax::Block statements;
-    statements.push_back(
-        std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)}));
-    return CompileStatements(statements);
+    return block;
 }
 
 void Compiler::Restore(Declarations declarations) {
-    callables_.routines = std::move(declarations.routines);
+    callables_ = std::move(declarations.callables);
     scope_ = std::move(declarations.variables);
 }
 

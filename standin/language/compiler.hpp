@@ -2,13 +2,17 @@
 #pragma once
 
 #include <memory>
-#include <string_view>
+#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
+#include "standin/language/errors.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/scope.hpp"
+#include "standin/language/statement_checker.hpp"
 #include "standin/language/syntax.hpp"
 
 namespace standin::language {
@@ -19,7 +23,7 @@ class Compiler {
 public:
     /// What the fragments so far have declared.
     struct Declarations {
-        std::vector<DeclaredRoutine> routines;
+        Callables callables;
         Scope variables;
     };
 
@@ -28,29 +32,66 @@ public:
     Compiler(const Compiler&) = delete;
     Compiler& operator=(const Compiler&) = delete;
 
-    /// The statements of a program outside of its routines. Throws ProgramError at the first
-    /// mistake, and may leave declarations behind then.
-    code::Block Compile(syntax::Program program);
+    /// The statements of a program outside of its routines. Throws ProgramError for its errors,
+    /// those that are in the list already included, and may leave declarations behind then.
+    code::Block Compile(syntax::Program program, ErrorList& errors);
+    /// The same for a project: its one statement starts the application, whose result is that of
+    /// the frame.
+    code::Block CompileProject(syntax::Program program, const Source& source, ErrorList& errors);
     /// An expression that stands alone: it is printed, if it has a value.
-    code::Block CompileShown(syntax::ExpressionPtr expression);
+    code::Block CompileShown(const syntax::Expression& expression);
 
-    Declarations Remember() const { return {callables_.routines, scope_}; }
-    /// Forgets what was declared since.
+    Declarations Remember() const { return {callables_, scope_}; }
+    /// Forgets what was declared since, the types excepted: there may be objects of them.
     void Restore(Declarations declarations);
+    /// Forgets the types of a program that has errors.
+    void ForgetTypes(std::size_t count) { types_.KeepFirst(count); }
+    std::size_t typeCount() const { return types_.declaredCount(); }
+
+    /// What the host tells of itself.
+    const Constants& constants() const { return types_.constants(); }
+    /// The variables outside of the frame.
+    const GlobalTypes& globals() const { return globals_; }
 
     /// Slots that the frame of the statements needs.
     std::size_t slotCount() const { return scope_.slotCount(); }
 
 private:
-    /// Makes a routine known whose body is still to be checked. Throws when one of `siblings` is
-    /// the same.
-    void DeclareRoutine(syntax::Signature& head, std::vector<DeclaredRoutine>& siblings);
-    code::Block CompileStatements(const syntax::Block& statements);
+    /// A routine whose head is known and whose body is still to be checked.
+    struct Pending {
+        Signature signature;
+        code::Routine* code;
+        const syntax::Routine* routine;
+        Surroundings surroundings;
+    };
 
-    const TypeTable& types_;
+    void DeclareTypes(syntax::Program& program, ErrorList& errors);
+    void DeclareUnit(syntax::Unit& unit, ErrorList& errors);
+    void DeclareModule(syntax::Unit& unit, ErrorList& errors);
+    void DeclareClass(syntax::Unit& unit, ErrorList& errors);
+    void DeclareMethod(ClassModel& model, syntax::Routine& routine);
+    /// Throws when one of the siblings, those of the same text and module, is the same.
+    void DeclareRoutine(syntax::Routine& routine, const std::string& unit,
+                        std::vector<DeclaredRoutine>& siblings);
+    code::Routine& NewRoutine();
+    void CheckDefaults(const Signature& signature, ErrorList& errors) const;
+    /// Statements of the main frame.
+    code::Block CompileStatements(const syntax::Block& statements, ErrorList& errors,
+                                  std::optional<Type> result, const Surroundings& surroundings);
+    code::Block CompileAll(syntax::Program& program, ErrorList& errors, std::optional<Type> result);
+    void CompileBody(const Pending& pending, ErrorList& errors);
+
+    TypeTable types_;
     Callables callables_;
     Scope scope_;
+    GlobalTypes globals_;
     std::vector<std::unique_ptr<code::Routine>> routines_;
+    /// What the program that is being compiled still needs.
+    std::vector<Pending> pending_;
+    /// The first values of the variables of its modules.
+    std::vector<std::pair<Surroundings, syntax::Block>> starts_;
+    /// Routines that stand in no text: those that fill new objects.
+    std::vector<std::unique_ptr<syntax::Routine>> made_;
 };
 
 }  // namespace standin::language

@@ -70,10 +70,17 @@ std::string LabelOf(const ClassModel& model, const Method& method) {
 
 Checked ConvertIn(Checked value, Type to, const Method& method) {
     const Position at = value.at;
-    RequireRoutine(method.function, method.signature.declaration, at);
     auto argument = ConvertTo(std::move(value), method.signature.parameters.front().type);
     std::vector<code::Argument> arguments;
     arguments.push_back({std::move(argument.code), argument.type.kind, false});
+    if (method.host.function != nullptr) {
+        return {std::make_unique<code::BuiltInCall>(method.host.function, std::move(arguments)),
+                to,
+                at,
+                {},
+                false};
+    }
+    RequireRoutine(method.function, method.signature.declaration, at);
     code::PluginCall call(LabelOf(*to.model, method), method.function, std::move(arguments),
                           Kind::None);
     return {
@@ -82,6 +89,15 @@ Checked ConvertIn(Checked value, Type to, const Method& method) {
 
 Checked ConvertOut(Checked value, Type to, const Method& method) {
     const Position at = value.at;
+    if (method.host.function != nullptr) {
+        std::vector<code::Argument> arguments;
+        arguments.push_back({std::move(value.code), Kind::Instance, false});
+        return {std::make_unique<code::HostMemberCall>(method.host.function, std::move(arguments)),
+                to,
+                at,
+                {},
+                false};
+    }
     RequireRoutine(method.function, method.signature.declaration, at);
     code::PluginCall call(LabelOf(*value.type.model, method), method.function, {}, to.kind);
     return {std::make_unique<code::InstanceCall>(std::move(value.code), std::move(call),

@@ -4,6 +4,9 @@
 #include <limits>
 #include <utility>
 
+#include "standin/language/array_members.hpp"
+#include "standin/language/code_units.hpp"
+#include "standin/language/suggestions.hpp"
 #include "standin/language/text.hpp"
 
 namespace standin::language {
@@ -30,10 +33,6 @@ Checked MakeCall(std::optional<Checked> receiver, code::PluginCall call, code::N
             at,
             {},
             false};
-}
-
-[[noreturn]] void FailWithoutMember(const ClassModel& model, const std::string& name, Position at) {
-    throw ProgramError(at, model.name() + " has no member " + Quoted(name));
 }
 
 }  // namespace
@@ -66,6 +65,15 @@ code::ExpressionPtr ExpressionChecker::CheckAs(const syntax::Expression& express
 }
 
 code::ExpressionPtr ExpressionChecker::CheckAsText(const syntax::Expression& expression) {
+    auto value = Check(expression);
+    if (FitOf(value, {Kind::Text}) == Fit::None) {
+        throw ProgramError(value.at, "\"Print\" takes a String, this is " + NameOf(value.type) +
+                                         (FindTextFunction(value.type.kind) ? "; use Str" : ""));
+    }
+    return ConvertTo(std::move(value), {Kind::Text}).code;
+}
+
+code::ExpressionPtr ExpressionChecker::CheckAsShown(const syntax::Expression& expression) {
     auto value = Check(expression);
     if (HasTextForm(value.type)) {
         return ConvertTo(std::move(value), {Kind::Text}).code;
@@ -128,11 +136,6 @@ Checked ExpressionChecker::CheckNode(const syntax::NilLiteral& /*literal*/, Posi
     return MakeConstant(Value::Adopt(Object{}), {Kind::Nil}, at);
 }
 
-const Variable* ExpressionChecker::FindVariable(const syntax::Expression& expression) const {
-    const auto* name = std::get_if<syntax::Name>(&expression.node);
-    return name == nullptr ? nullptr : scope_.Find(name->name);
-}
-
 Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
     using enum code::VariableKind;
     code::ExpressionPtr code;
@@ -146,6 +149,9 @@ Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
         case Reference:
             code = std::make_unique<code::Variable<Reference>>(variable.slot);
             break;
+        case Global:
+            code = std::make_unique<code::Variable<Global>>(variable.slot);
+            break;
     }
     return {std::move(code), variable.type, at, {}, !variable.isConstant};
 }
@@ -153,6 +159,18 @@ Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
 Checked ExpressionChecker::CheckNode(const syntax::Name& name, Position at) {
     if (const auto* variable = scope_.Find(name.name)) {
         return MakeVariable(*variable, at);
+    }
+    if (IsOwnMember(name.name)) {
+        return CheckMember(OwnReceiver(at), name.name, at);
+    }
+    if (const auto* variable = FindDeclared(callables_.variables, name.name, std::nullopt)) {
+        return MakeVariable(variable->variable, at);
+    }
+    if (const auto* constant = FindDeclared(callables_.constants, name.name, std::nullopt)) {
+        return CheckConstant(constant->value, at);
+    }
+    if (const auto* constant = types_.constants().Find(name.name)) {
+        return CheckConstant(*constant, at);
     }
     return CheckNamedCall(name.name, {}, at);
 }
@@ -168,13 +186,30 @@ Checked ExpressionChecker::CheckNode(const syntax::Member& member, Position at) 
         return MakeConstant(Value::Of(static_cast<std::uint32_t>(*encoding)), {Kind::TextEncoding},
                             at);
     }
+    if (const auto* unit = FindUnit(*member.object)) {
+        if (auto value = TryUnitValue(*unit, member.name, at)) {
+            return std::move(*value);
+        }
+    }
     return CheckMember(CheckReceiver(*member.object), member.name, at);
 }
 
 ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expression& expression) {
-    if (const auto* name = std::get_if<syntax::Name>(&expression.node)) {
-        const auto* model = types_.FindClass(name->name);
-        if (model != nullptr && scope_.Find(name->name) == nullptr) {
+    const auto* name = std::get_if<syntax::Name>(&expression.node);
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    if (name != nullptr && scope_.Find(name->name) == nullptr) {
+        if (const auto* model = types_.FindClass(name->name)) {
+            return {std::nullopt, model};
+        }
+        if (callables_.units.contains(name->name)) {
+            throw ProgramError(expression.at, "the module " + Quoted(name->name) +
+                                                  " has no such member that is seen here");
+        }
+    }
+    // An Enum may bear the name of its module before it.
+    if (member != nullptr && FindUnit(*member->object) != nullptr) {
+        const auto* model = types_.FindClass(member->name);
+        if (model != nullptr && model->origin() == ClassModel::Origin::Enumeration) {
             return {std::nullopt, model};
         }
     }
@@ -189,6 +224,14 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
 
 /// A name after a dot without arguments: a property first, else a method.
 Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& name, Position at) {
+    if (receiver.model != nullptr && !receiver.value) {
+        const auto& items = receiver.model->items;
+        const auto item = std::ranges::find_if(
+            items, [&name](const auto& candidate) { return SameName(candidate.name, name); });
+        if (item != items.end()) {
+            return MakeConstant(Value::Of(item->value), {Kind::Enumeration, receiver.model}, at);
+        }
+    }
     if (receiver.model == nullptr) {
         return CheckValueMember(std::move(*receiver.value), name, {}, at);
     }
@@ -209,6 +252,9 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
         return CheckValueMember(std::move(*receiver.value), name, std::move(arguments), at);
     }
     const auto& model = *receiver.model;
+    if (!arguments.empty() && IsArrayProperty(receiver, name)) {
+        return CheckElement(CheckMember(std::move(receiver), name, at), std::move(arguments), at);
+    }
     if (receiver.value) {
         const auto methods = model.FindMethods(name);
         if (!methods.empty()) {
@@ -230,6 +276,11 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
     if (isProperty || !model.FindMethods(name).empty()) {
         throw ProgramError(at, Quoted(name) + " needs an object of " + model.name());
     }
+    if (receiver.value) {
+        if (auto result = TryExtension(*receiver.value, name, arguments, at)) {
+            return std::move(*result);
+        }
+    }
     FailWithoutMember(model, name, at);
 }
 
@@ -239,16 +290,38 @@ Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& na
         return std::move(*result);
     }
     const std::string type = NameOf(value.type);
+    if (auto result = TryExtension(value, name, arguments, at)) {
+        return std::move(*result);
+    }
+    const bool isArray = value.type.kind == Kind::Array;
     arguments.insert(arguments.begin(), std::move(value));
     if (auto result = TryBuiltIn(name, arguments, at)) {
         return std::move(*result);
     }
-    throw ProgramError(at, type + " has no member " + Quoted(name));
+    std::vector<std::string_view> names;
+    if (isArray) {
+        for (const auto& member : ArrayMembers()) {
+            names.push_back(member.declaration.substr(0, member.declaration.find('(')));
+        }
+    } else {
+        for (const auto& builtIn : callables_.builtIns) {
+            names.emplace_back(builtIn.signature.name);
+        }
+    }
+    throw ProgramError(at, type + " has no member " + Quoted(name) + SuggestionFor(name, names));
 }
 
 Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
                                         Position at) {
     RequireUsable(property.declaration, property.problem, at);
+    if (property.field) {
+        RequireAccess(property.isPrivate, *receiver.model, property.name, at);
+        return {std::make_unique<code::Field>(std::move(receiver.value->code), *property.field),
+                property.type,
+                at,
+                {},
+                false};
+    }
     if (property.host.function != nullptr) {
         return {MakeHostCall(property.host.function, std::move(receiver), {}),
                 property.type,
@@ -268,6 +341,16 @@ Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const
                                       bool isShared, Arguments arguments, Position at) {
     const auto& name = methods.front()->signature.name;
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    if (method.routine != nullptr) {
+        RequireAccess(method.isPrivate, *receiver.model, name, at);
+        auto filled = Fill(method.signature, std::move(arguments), at, *this);
+        filled.insert(filled.begin(), {std::move(receiver.value->code), Kind::Instance, false});
+        return {std::make_unique<code::RoutineCall>(*method.routine, std::move(filled), true),
+                method.signature.result,
+                at,
+                {},
+                false};
+    }
     if (method.host.function != nullptr) {
         auto filled = Fill(method.signature, std::move(arguments), at, *this);
         return {MakeHostCall(method.host.function, std::move(receiver), std::move(filled)),
@@ -318,37 +401,42 @@ Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
     if (IsArrayFunction(call)) {
         return CheckArrayCall(call, std::nullopt, at);
     }
+    if (const auto variable = FindVariable(*call.callee)) {
+        return CheckElement(MakeVariable(*variable, at), CheckArguments(call.arguments), at);
+    }
     if (const auto* member = std::get_if<syntax::Member>(&call.callee->node)) {
+        if (const auto* unit = FindUnit(*member->object)) {
+            auto arguments = CheckArguments(call.arguments);
+            if (auto result = TryRoutine(member->name, *unit, arguments, at)) {
+                return std::move(*result);
+            }
+            if (auto result = TryBuiltIn(*unit + "." + member->name, arguments, at)) {
+                return std::move(*result);
+            }
+        }
         auto receiver = CheckReceiver(*member->object);
+        if (receiver.value) {
+            if (auto sort = TrySortBy(*receiver.value, member->name, call.arguments, at)) {
+                return std::move(*sort);
+            }
+        }
         return CheckMemberCall(std::move(receiver), member->name, CheckArguments(call.arguments),
                                at);
     }
     const auto* name = std::get_if<syntax::Name>(&call.callee->node);
-    if (name == nullptr || scope_.Find(name->name) != nullptr) {
-        return CheckElement(Check(*call.callee), call.arguments, at);
+    if (name == nullptr) {
+        return CheckElement(Check(*call.callee), CheckArguments(call.arguments), at);
+    }
+    if (IsOwnMember(name->name)) {
+        return CheckMemberCall(OwnReceiver(at), name->name, CheckArguments(call.arguments), at);
     }
     return CheckNamedCall(name->name, CheckArguments(call.arguments), at);
 }
 
 Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arguments,
                                           Position at) {
-    Candidates candidates;
-    std::vector<const code::Routine*> routines;
-    for (const auto& routine : callables_.routines) {
-        if (SameName(routine.signature.name, name)) {
-            candidates.push_back(&routine.signature);
-            routines.push_back(routine.code);
-        }
-    }
-    if (!candidates.empty()) {
-        const auto index = RequireOverload(name, candidates, arguments, at);
-        const auto& signature = *candidates[index];
-        return {std::make_unique<code::RoutineCall>(
-                    *routines[index], Fill(signature, std::move(arguments), at, *this)),
-                signature.result,
-                at,
-                {},
-                false};
+    if (auto result = TryRoutine(name, std::nullopt, arguments, at)) {
+        return std::move(*result);
     }
     if (auto result = TryBuiltIn(name, arguments, at)) {
         return std::move(*result);
@@ -365,7 +453,7 @@ Checked ExpressionChecker::CheckNamedCall(const std::string& name, Arguments arg
         }
         throw ProgramError(at, Quoted(name) + " is a type, not a value");
     }
-    throw ProgramError(at, "there is nothing named " + Quoted(name));
+    FailWithoutName(name, at);
 }
 
 std::optional<Checked> ExpressionChecker::TryBuiltIn(const std::string& name, Arguments& arguments,
@@ -411,12 +499,24 @@ Checked ExpressionChecker::CheckNode(const syntax::Conditional& conditional, Pos
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::Cast& cast, Position at) {
-    return CastTo(Check(*cast.value), types_.Require(cast.type), at);
+    return CastTo(Check(*cast.value), RequireType(cast.type), at);
 }
 
 Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
     const bool isDowncast = value.type.kind == Kind::Instance && type.kind == Kind::Instance &&
                             type.model->IsA(*value.type.model);
+    const bool isEnumeration = (value.type.kind == Kind::Enumeration && IsInteger(type.kind)) ||
+                               (IsInteger(value.type.kind) && type.kind == Kind::Enumeration);
+    if (isEnumeration) {
+        const Kind from = IsInteger(value.type.kind) ? value.type.kind : Kind::Int64;
+        const Kind to = IsInteger(type.kind) ? type.kind : Kind::Int64;
+        return {
+            std::make_unique<code::UnaryOperation>(FindConversion(from, to), std::move(value.code)),
+            type,
+            at,
+            {},
+            false};
+    }
     if (!isDowncast) {
         auto converted = ConvertTo(std::move(value), type);
         converted.at = at;
@@ -433,7 +533,7 @@ Checked ExpressionChecker::CastTo(Checked value, Type type, Position at) {
 
 Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at) {
     auto value = Check(*test.value);
-    const auto type = types_.Require(test.type);
+    const auto type = RequireType(test.type);
     if (!IsHandle(value.type.kind) || type.kind != Kind::Instance) {
         throw ProgramError(at, "\"IsA\" stands between an object and a class");
     }
@@ -444,7 +544,7 @@ Checked ExpressionChecker::CheckNode(const syntax::ClassTest& test, Position at)
 // New --------------------------------------------------------------------------------------------
 
 Checked ExpressionChecker::CheckNode(const syntax::New& creation, Position at) {
-    const auto type = types_.Require(creation.type);
+    const auto type = RequireType(creation.type);
     if (type.kind != Kind::Instance) {
         throw ProgramError(at, NameOf(type) + " is not a class");
     }
@@ -453,6 +553,9 @@ Checked ExpressionChecker::CheckNode(const syntax::New& creation, Position at) {
 
 Checked ExpressionChecker::Construct(const ClassModel& model, Arguments arguments, Position at) {
     const Type type{Kind::Instance, &model};
+    if (model.origin() == ClassModel::Origin::Program) {
+        return ConstructOwn(model, std::move(arguments), at);
+    }
     const auto constructors = model.FindMethods(ConstructorName);
     if (constructors.empty()) {
         if (!arguments.empty()) {
@@ -483,48 +586,63 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
                                                    const syntax::Expression& value) {
     const auto* call = std::get_if<syntax::Call>(&target.node);
     const auto& named = call == nullptr ? target : *call->callee;
-    const auto* member = std::get_if<syntax::Member>(&named.node);
-    const bool isElement = call != nullptr && FindVariable(named) != nullptr;
-    if (isElement) {
-        return CheckElementSetter(*call, value, target.at);
-    }
-    if (member == nullptr) {
-        throw ProgramError(target.at, "this cannot be assigned to");
+    if (const auto variable = FindVariable(named); variable && call != nullptr) {
+        return CheckElementSetter(MakeVariable(*variable, named.at),
+                                  CheckArguments(call->arguments), value, target.at);
     }
     const Position at = named.at;
-    auto receiver = CheckReceiver(*member->object);
+    const auto* ownName = std::get_if<syntax::Name>(&named.node);
+    const auto* member = std::get_if<syntax::Member>(&named.node);
+    const bool isOwn = ownName != nullptr && IsOwnMember(ownName->name);
+    if (member == nullptr && !isOwn) {
+        if (ownName != nullptr) {
+            // The mistake in the name tells more.
+            CheckNode(*ownName, at);
+        }
+        throw ProgramError(target.at, "this cannot be assigned to");
+    }
+    const auto& name = isOwn ? ownName->name : member->name;
+    auto receiver = isOwn ? OwnReceiver(at) : CheckReceiver(*member->object);
     if (receiver.model == nullptr) {
-        throw ProgramError(at, Quoted(member->name) + " cannot be assigned to");
+        throw ProgramError(at, Quoted(name) + " cannot be assigned to");
     }
     const auto& model = *receiver.model;
+    if (call != nullptr && IsArrayProperty(receiver, name)) {
+        return CheckElementSetter(CheckMember(std::move(receiver), name, at),
+                                  CheckArguments(call->arguments), value, target.at);
+    }
     if (call == nullptr) {
-        const auto* property = receiver.value ? model.FindProperty(member->name) : nullptr;
+        const auto* property = receiver.value ? model.FindProperty(name) : nullptr;
         if (property != nullptr) {
             return WriteProperty(std::move(receiver), *property, false, Check(value), at);
         }
-        if (const auto* shared = model.FindSharedProperty(member->name)) {
+        if (const auto* shared = model.FindSharedProperty(name)) {
             return WriteProperty(std::move(receiver), *shared, true, Check(value), at);
         }
     }
     auto arguments = call == nullptr ? Arguments{} : CheckArguments(call->arguments);
-    const auto methods =
-        receiver.value ? model.FindMethods(member->name) : std::vector<const Method*>{};
+    const auto methods = receiver.value ? model.FindMethods(name) : std::vector<const Method*>{};
     if (!methods.empty()) {
         return CallMethodSetter(std::move(receiver), methods, false, std::move(arguments),
                                 Check(value), at);
     }
-    const auto shared = model.FindSharedMethods(member->name);
+    const auto shared = model.FindSharedMethods(name);
     if (!shared.empty()) {
         return CallMethodSetter(std::move(receiver), shared, true, std::move(arguments),
                                 Check(value), at);
     }
-    FailWithoutMember(model, member->name, at);
+    FailWithoutMember(model, name, at);
 }
 
 code::ExpressionPtr ExpressionChecker::WriteProperty(Receiver receiver, const Property& property,
                                                      bool isShared, Checked value, Position at) {
     RequireUsable(property.declaration, property.problem, at);
     auto converted = ConvertTo(std::move(value), property.type);
+    if (property.field) {
+        RequireAccess(property.isPrivate, *receiver.model, property.name, at);
+        return std::make_unique<code::SetField>(std::move(receiver.value->code), *property.field,
+                                                std::move(converted.code));
+    }
     const bool isReadable = property.getter != nullptr || property.host.function != nullptr;
     if (property.setter == nullptr && property.host.setter == nullptr && isReadable) {
         throw ProgramError(at, Quoted(property.declaration) + " is read-only");
@@ -550,7 +668,8 @@ code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
     const auto& name = methods.front()->signature.name;
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
     const auto& signature = method.signature;
-    const bool isReadable = method.function != nullptr || method.host.function != nullptr;
+    const bool isReadable =
+        method.function != nullptr || method.host.function != nullptr || method.routine != nullptr;
     if (method.setter == nullptr && method.host.setter == nullptr && isReadable) {
         throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
     }

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +11,8 @@
 #include "standin/language/builtins.hpp"
 #include "standin/language/class_model.hpp"
 #include "standin/language/conversions.hpp"
+#include "standin/language/errors.hpp"
+#include "standin/language/names.hpp"
 #include "standin/language/overloads.hpp"
 #include "standin/language/scope.hpp"
 #include "standin/language/syntax.hpp"
@@ -19,21 +22,59 @@ namespace standin::language {
 /// A routine of the program, known before any body is checked.
 struct DeclaredRoutine {
     Signature signature;
-    const code::Routine* code;
+    const code::Routine* code = nullptr;
+    /// The module that it belongs to; empty outside of modules.
+    std::string unit = {};
+    syntax::Visibility visibility = syntax::Visibility::Global;
 };
 
-/// What a program can call without a receiver.
+/// A variable of a module.
+struct UnitVariable {
+    std::string name;
+    Variable variable;
+    std::string unit;
+    syntax::Visibility visibility;
+};
+
+/// A constant of a module or class.
+struct UnitConstant {
+    std::string name;
+    syntax::ConstantValue value;
+    std::string unit;
+    syntax::Visibility visibility;
+};
+
+/// What a program can name without a receiver.
 struct Callables {
     std::vector<BuiltIn> builtIns;
-    std::vector<DeclaredRoutine> routines;
+    std::vector<DeclaredRoutine> routines = {};
+    std::vector<UnitVariable> variables = {};
+    std::vector<UnitConstant> constants = {};
+    /// The names of the modules and classes.
+    std::set<std::string, NameLess> units = {};
 };
+
+/// Where code stands: in which module or class; in a class its methods have an object.
+struct Surroundings {
+    std::string unit = {};
+    const ClassModel* self = nullptr;
+};
+
+/// How code calls the object that it belongs to.
+inline constexpr auto SelfName = "Self";
+inline constexpr auto MeName = "Me";
 
 /// Checks the expressions that see one scope. Every function throws ProgramError at the first
 /// mistake.
 class ExpressionChecker final : public DefaultSource {
 public:
-    ExpressionChecker(const TypeTable& types, const Callables& callables, const Scope& scope)
-        : types_(types), callables_(callables), scope_(scope) {}
+    ExpressionChecker(const TypeTable& types, const Callables& callables, const Scope& scope,
+                      const ErrorList& errors, Surroundings surroundings = {})
+        : types_(types),
+          callables_(callables),
+          scope_(scope),
+          errors_(errors),
+          surroundings_(std::move(surroundings)) {}
 
     /// An expression whose value is wanted.
     Checked Check(const syntax::Expression& expression);
@@ -41,13 +82,17 @@ public:
     code::ExpressionPtr CheckAs(const syntax::Expression& expression, Type type);
     /// An expression for what it does, which may answer nothing.
     Checked CheckCall(const syntax::Expression& expression);
-    /// A value as text, as Print shows it.
+    /// A value as text, as Print takes it.
     code::ExpressionPtr CheckAsText(const syntax::Expression& expression);
+    /// A value of any type that has a text form, as the prompt shows it.
+    code::ExpressionPtr CheckAsShown(const syntax::Expression& expression);
+    /// The type of a written name. Throws ProgramError when there is none.
+    Type RequireType(const syntax::TypeName& name) const;
     /// What assigns to a property or an assignable method. Variables are not handled here.
     code::ExpressionPtr CheckSetter(const syntax::Expression& target,
                                     const syntax::Expression& value);
-    /// The variable that an expression names, if it is one.
-    const Variable* FindVariable(const syntax::Expression& expression) const;
+    /// The variable that an expression names, if it is one: one of a module as well.
+    std::optional<Variable> FindVariable(const syntax::Expression& expression) const;
     static Checked MakeVariable(const Variable& variable, Position at);
     /// A binary operator on operands that are checked already.
     Checked Apply(syntax::BinaryOperator operation, Checked left, Checked right, Position at);
@@ -76,6 +121,7 @@ private:
     Checked CheckNode(const syntax::Cast& cast, Position at);
     Checked CheckNode(const syntax::ClassTest& test, Position at);
     Checked CheckNode(const syntax::Conditional& conditional, Position at);
+    Checked CheckNode(const syntax::AddressOf& address, Position at);
     Checked CheckNode(const syntax::Unary& unary, Position at);
     Checked CheckNode(const syntax::Binary& binary, Position at);
 
@@ -112,12 +158,17 @@ private:
                                          const std::vector<const Method*>& methods, bool isShared,
                                          Arguments arguments, Checked value, Position at);
     Checked Construct(const ClassModel& model, Arguments arguments, Position at);
+    /// The same for a class of the program.
+    Checked ConstructOwn(const ClassModel& model, Arguments arguments, Position at);
 
-    Checked CheckElement(Checked array, const syntax::Expressions& indices, Position at);
-    code::ExpressionPtr CheckIndex(const Checked& array, const syntax::Expressions& indices,
-                                   Position at);
-    code::ExpressionPtr CheckElementSetter(const syntax::Call& element,
+    static Checked CheckElement(Checked array, Arguments indices, Position at);
+    static std::vector<code::ExpressionPtr> CheckIndices(const Checked& array, Arguments indices,
+                                                         Position at);
+    code::ExpressionPtr CheckElementSetter(Checked array, Arguments indices,
                                            const syntax::Expression& value, Position at);
+    /// `array.Sort(AddressOf Routine)`, if it is that; the array is moved from then.
+    std::optional<Checked> TrySortBy(Checked& array, const std::string& name,
+                                     const syntax::Expressions& arguments, Position at);
     /// A method of an array, both moved from when it is there.
     std::optional<Checked> TryArrayMember(Checked& array, const std::string& name,
                                           Arguments& arguments, Position at);
@@ -141,9 +192,48 @@ private:
     std::optional<Checked> TryOperatorOf(const std::string& name, Checked& receiver,
                                          Checked& argument, bool isReceiverRight, Position at);
 
+    /// Whether code here sees something of a module; `isQualified` with the module's name before
+    /// it.
+    template <typename Declared>
+    bool IsVisible(const Declared& declared, bool isQualified) const {
+        return SameName(declared.unit, surroundings_.unit) ||
+               declared.visibility == syntax::Visibility::Global ||
+               (isQualified && declared.visibility == syntax::Visibility::Qualified);
+    }
+    /// The one of that name that is seen, one of the own module before all others. With a `unit`
+    /// only what is there.
+    template <typename Declared>
+    const Declared* FindDeclared(const std::vector<Declared>& list, std::string_view name,
+                                 std::optional<std::string_view> unit) const;
+    /// Whether an expression is the name of a module or class, and which.
+    const std::string* FindUnit(const syntax::Expression& expression) const;
+    /// Whether the object that the code belongs to has a member of that name.
+    bool IsOwnMember(const std::string& name) const;
+    /// The object that the code belongs to.
+    Receiver OwnReceiver(Position at) const;
+    /// A variable, constant or function of a module, of the program or of the host.
+    std::optional<Checked> TryUnitValue(const std::string& unit, const std::string& name,
+                                        Position at);
+    Checked CheckConstant(const syntax::ConstantValue& value, Position at);
+    /// The call of a routine of the program; nothing when none of that name is seen.
+    std::optional<Checked> TryRoutine(const std::string& name, std::optional<std::string> unit,
+                                      Arguments& arguments, Position at);
+    /// The call of a routine that extends the type of `receiver`, which is moved from then.
+    std::optional<Checked> TryExtension(Checked& receiver, const std::string& name,
+                                        Arguments& arguments, Position at);
+    /// Whether a member is an array, of which an element is meant where arguments follow.
+    bool IsArrayProperty(const Receiver& receiver, const std::string& name) const;
+    void RequireAccess(bool isPrivate, const ClassModel& model, const std::string& name,
+                       Position at) const;
+    [[noreturn]] void FailWithoutName(const std::string& name, Position at) const;
+    [[noreturn]] void FailWithoutMember(const ClassModel& model, const std::string& name,
+                                        Position at) const;
+
     const TypeTable& types_;
     const Callables& callables_;
     const Scope& scope_;
+    const ErrorList& errors_;
+    Surroundings surroundings_;
 };
 
 }  // namespace standin::language

@@ -92,6 +92,20 @@ ExpressionPtr MakeBinary(Position at, BinaryOperator operation, ExpressionPtr le
     return Make(at, height, syntax::Binary{operation, std::move(left), std::move(right)});
 }
 
+/// Throws when the last parameter so far cannot stand where it does.
+void RequirePlace(const std::vector<syntax::Parameter>& parameters) {
+    const auto& last = parameters.back();
+    if (last.isExtended && parameters.size() > 1) {
+        throw ProgramError(last.at, "\"Extends\" stands before the first parameter only");
+    }
+    if (parameters.size() > 1 && parameters[parameters.size() - 2].isParamArray) {
+        throw ProgramError(last.at, "nothing can follow a \"ParamArray\"");
+    }
+    if (last.isParamArray && (last.byRef || last.defaultValue || last.isOptional)) {
+        throw ProgramError(last.at, "a \"ParamArray\" is nothing else");
+    }
+}
+
 /// A literal, or a number with a sign.
 bool IsLiteral(const syntax::Expression& expression) {
     if (const auto* unary = std::get_if<syntax::Unary>(&expression.node)) {
@@ -207,6 +221,9 @@ ExpressionPtr ExpressionParser::ParsePrimary() {
             return ParseNew();
         case TokenKind::CType:
             return ParseCast();
+        case TokenKind::AddressOf:
+            cursor_.Take();
+            return Make(at, 0, syntax::AddressOf{cursor_.ExpectName().text});
         case TokenKind::If:
             return ParseConditional();
         case TokenKind::OpenParenthesis:
@@ -299,23 +316,28 @@ syntax::Signature ExpressionParser::ParseSignature() {
         if (!cursor_.IsAt(TokenKind::CloseParenthesis)) {
             do {
                 signature.parameters.push_back(ParseParameter());
+                RequirePlace(signature.parameters);
             } while (cursor_.TryTake(TokenKind::Comma));
         }
         cursor_.Expect(TokenKind::CloseParenthesis);
     }
     if (cursor_.TryTake(TokenKind::As)) {
         signature.result = ParseTypeName();
-        signature.result->isArray = TryTakeBrackets();
+        signature.result->dimensions = TakeBrackets();
     }
     return signature;
 }
 
-bool ExpressionParser::TryTakeBrackets() {
+std::size_t ExpressionParser::TakeBrackets() {
     if (!cursor_.TryTake(TokenKind::OpenParenthesis)) {
-        return false;
+        return 0;
+    }
+    std::size_t dimensions = 1;
+    while (cursor_.TryTake(TokenKind::Comma)) {
+        ++dimensions;
     }
     cursor_.Expect(TokenKind::CloseParenthesis);
-    return true;
+    return dimensions;
 }
 
 syntax::Parameter ExpressionParser::ParseParameter() {
@@ -323,18 +345,23 @@ syntax::Parameter ExpressionParser::ParseParameter() {
     // A parameter may itself be called like one of the words that can precede it.
     for (;;) {
         const bool isName = cursor_.Following().kind == TokenKind::As;
-        if (isName || !cursor_.IsAtAny({TokenKind::ByRef, TokenKind::ByVal, TokenKind::Optional})) {
+        if (isName || !cursor_.IsAtAny({TokenKind::ByRef, TokenKind::ByVal, TokenKind::Optional,
+                                        TokenKind::ParamArray, TokenKind::Extends})) {
             break;
         }
-        parameter.byRef = cursor_.Take().kind == TokenKind::ByRef || parameter.byRef;
+        const auto word = cursor_.Take().kind;
+        parameter.byRef = parameter.byRef || word == TokenKind::ByRef;
+        parameter.isOptional = parameter.isOptional || word == TokenKind::Optional;
+        parameter.isParamArray = parameter.isParamArray || word == TokenKind::ParamArray;
+        parameter.isExtended = parameter.isExtended || word == TokenKind::Extends;
     }
     const auto name = cursor_.ExpectWord();
     parameter.name = name.text;
     parameter.at = name.at;
-    const bool isArray = TryTakeBrackets();
+    const auto dimensions = TakeBrackets();
     cursor_.Expect(TokenKind::As);
     parameter.type = ParseTypeName();
-    parameter.type.isArray = isArray;
+    parameter.type.dimensions = parameter.isParamArray ? 1 : dimensions;
     if (cursor_.TryTake(TokenKind::Equal)) {
         parameter.defaultValue = ParseExpression();
         if (!IsLiteral(*parameter.defaultValue)) {
@@ -348,7 +375,8 @@ bool ExpressionParser::AtExpression() const {
     return cursor_.IsAtAny({TokenKind::Integer, TokenKind::Real, TokenKind::Text, TokenKind::True,
                             TokenKind::False, TokenKind::Nil, TokenKind::Name, TokenKind::New,
                             TokenKind::CType, TokenKind::If, TokenKind::OpenParenthesis,
-                            TokenKind::Plus, TokenKind::Minus, TokenKind::Not});
+                            TokenKind::AddressOf, TokenKind::Plus, TokenKind::Minus,
+                            TokenKind::Not});
 }
 
 }  // namespace standin::language

@@ -61,8 +61,9 @@ private:
     syntax::ExpressionPtr ParseConditional();
     syntax::ExpressionPtr ParseClassTest(syntax::ExpressionPtr value);
     syntax::Parameter ParseParameter();
-    /// Steps past the `()` that makes an array of what stands before it, if it is there.
-    bool TryTakeBrackets();
+    /// Steps past the `()` or `(,)` that makes an array of what stands before it, if it is there.
+    /// Returns the number of dimensions.
+    std::size_t TakeBrackets();
 
     TokenCursor& cursor_;
     std::size_t depth_ = 0;

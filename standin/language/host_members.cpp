@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <ctime>
+#include <initializer_list>
+#include <iterator>
 #include <span>
 #include <string>
 
+#include "standin/language/dictionary.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/operations.hpp"
 
@@ -95,17 +99,48 @@ std::span<std::byte> BytesAt(const Arguments& arguments, std::size_t size, const
     return bytes.subspan(static_cast<std::size_t>(offset), size);
 }
 
+/// Between the order of bytes in a number here and the one that the block is to have.
+void OrderBytes(std::span<std::byte> bytes, const Arguments& arguments, const Machine& machine) {
+    if (machine.host().IsBigEndian(arguments[0].object())) {
+        std::ranges::reverse(bytes);
+    }
+}
+
+Value IsLittleEndian(const Arguments& arguments, const Machine& machine) {
+    return Value::Of(!machine.host().IsBigEndian(arguments[0].object()));
+}
+
+Value SetLittleEndian(const Arguments& arguments, const Machine& machine) {
+    machine.host().SetBigEndian(arguments[0].object(), !arguments[1].IsTrue());
+    return {};
+}
+
+/// A text becomes a block of its bytes where one is wanted, and the other way round.
+Value BlockOfText(const Arguments& arguments, const Machine& machine) {
+    Host& host = machine.host();
+    return RequireMade(host.MakeMemoryBlock(host.Bytes(arguments[0].text())), "MemoryBlock",
+                       machine);
+}
+
+Value TextOfBlock(const Arguments& arguments, const Machine& machine) {
+    const auto bytes = machine.host().BlockBytes(arguments[0].object());
+    return machine.MakeText({reinterpret_cast<const char*>(bytes.data()), bytes.size()},
+                            HostTextEncoding::Unknown);
+}
+
 template <typename T>
 Value GetNumber(const Arguments& arguments, const Machine& machine) {
-    T number{};
-    std::memcpy(&number, BytesAt(arguments, sizeof number, machine).data(), sizeof number);
-    return Value::Of(number);
+    std::array<std::byte, sizeof(T)> bytes;
+    std::ranges::copy(BytesAt(arguments, sizeof(T), machine), bytes.begin());
+    OrderBytes(bytes, arguments, machine);
+    return Value::Of(std::bit_cast<T>(bytes));
 }
 
 template <typename T>
 Value SetNumber(const Arguments& arguments, const Machine& machine) {
-    const auto number = arguments[2].Get<T>();
-    std::memcpy(BytesAt(arguments, sizeof number, machine).data(), &number, sizeof number);
+    auto bytes = std::bit_cast<std::array<std::byte, sizeof(T)>>(arguments[2].Get<T>());
+    OrderBytes(bytes, arguments, machine);
+    std::ranges::copy(bytes, BytesAt(arguments, sizeof(T), machine).begin());
     return {};
 }
 
@@ -182,6 +217,7 @@ constexpr auto Properties = std::to_array<HostMember>({
     {"RuntimeException", "Message As String", GetMessage, SetMessage},
     {"RuntimeException", "ErrorNumber As Integer", GetErrorNumber, SetErrorNumber},
     {"MemoryBlock", "Size As Integer", GetSize, SetSize},
+    {"MemoryBlock", "LittleEndian As Boolean", IsLittleEndian, SetLittleEndian},
     {"Date", "TotalSeconds As Double", GetSeconds, SetSeconds},
     {"DateTime", "SecondsFrom1970 As Double", GetSeconds, nullptr},
     {"Variant", "Type As Integer", TypeCode, nullptr},
@@ -227,6 +263,8 @@ constexpr auto Methods = std::to_array<HostMember>({
      SetNumber<CurrencyAmount>},
     {"MemoryBlock", "StringValue(offset As Integer, size As Integer) As String", GetBytes,
      SetBytes},
+    {"MemoryBlock", "Operator_Convert(text As String)", BlockOfText, nullptr},
+    {"MemoryBlock", "Operator_Convert() As String", TextOfBlock, nullptr},
 });
 
 constexpr auto Constructors = std::to_array<HostMember>({
@@ -241,12 +279,15 @@ constexpr auto Factories = std::to_array<HostMember>({
     {"DateTime", "Constructor(secondsFrom1970 As Double)", MakeDateTime, nullptr},
 });
 
-std::vector<HostMember> Of(std::string_view className, std::span<const HostMember> members) {
+using Members = std::span<const HostMember>;
+
+std::vector<HostMember> Of(std::string_view className, std::initializer_list<Members> tables) {
     std::vector<HostMember> found;
-    for (const auto& member : members) {
-        if (SameName(member.className, className)) {
-            found.push_back(member);
-        }
+    for (const auto& members : tables) {
+        std::ranges::copy_if(members, std::back_inserter(found),
+                             [className](const HostMember& member) {
+                                 return SameName(member.className, className);
+                             });
     }
     return found;
 }
@@ -254,19 +295,19 @@ std::vector<HostMember> Of(std::string_view className, std::span<const HostMembe
 }  // namespace
 
 std::vector<HostMember> HostPropertiesOf(std::string_view className) {
-    return Of(className, Properties);
+    return Of(className, {Properties, DictionaryProperties()});
 }
 
 std::vector<HostMember> HostMethodsOf(std::string_view className) {
-    return Of(className, Methods);
+    return Of(className, {Methods, DictionaryMethods()});
 }
 
 std::vector<HostMember> HostConstructorsOf(std::string_view className) {
-    return Of(className, Constructors);
+    return Of(className, {Constructors});
 }
 
 std::vector<HostMember> HostFactoriesOf(std::string_view className) {
-    return Of(className, Factories);
+    return Of(className, {Factories, DictionaryFactories()});
 }
 
 }  // namespace standin::language

@@ -41,6 +41,7 @@ constexpr auto Punctuation = std::to_array<Spelling>({
 });
 
 constexpr auto ReservedWords = std::to_array<Spelling>({
+    {"AddressOf", TokenKind::AddressOf},
     {"And", TokenKind::And},
     {"As", TokenKind::As},
     {"ByRef", TokenKind::ByRef},
@@ -48,6 +49,7 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"Call", TokenKind::Call},
     {"Case", TokenKind::Case},
     {"Catch", TokenKind::Catch},
+    {"Class", TokenKind::Class},
     {"Const", TokenKind::Const},
     {"Continue", TokenKind::Continue},
     {"CType", TokenKind::CType},
@@ -58,7 +60,9 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"Else", TokenKind::Else},
     {"ElseIf", TokenKind::ElseIf},
     {"End", TokenKind::End},
+    {"Enum", TokenKind::Enum},
     {"Exit", TokenKind::Exit},
+    {"Extends", TokenKind::Extends},
     {"False", TokenKind::False},
     {"Finally", TokenKind::Finally},
     {"For", TokenKind::For},
@@ -69,17 +73,20 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"IsA", TokenKind::IsA},
     {"Loop", TokenKind::Loop},
     {"Mod", TokenKind::Mod},
+    {"Module", TokenKind::Module},
     {"New", TokenKind::New},
     {"Next", TokenKind::Next},
     {"Nil", TokenKind::Nil},
     {"Not", TokenKind::Not},
     {"Optional", TokenKind::Optional},
     {"Or", TokenKind::Or},
+    {"ParamArray", TokenKind::ParamArray},
     {"Print", TokenKind::Print},
     {"Raise", TokenKind::Raise},
     {"Redim", TokenKind::Redim},
     {"Return", TokenKind::Return},
     {"Select", TokenKind::Select},
+    {"Static", TokenKind::Static},
     {"Step", TokenKind::Step},
     {"Sub", TokenKind::Sub},
     {"Then", TokenKind::Then},
@@ -92,6 +99,18 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"While", TokenKind::While},
     {"Xor", TokenKind::Xor},
 });
+
+constexpr auto Directives = std::to_array<Spelling>({
+    {"#If", TokenKind::HashIf},
+    {"#ElseIf", TokenKind::HashElseIf},
+    {"#Else", TokenKind::HashElse},
+    {"#EndIf", TokenKind::HashEndIf},
+    {"#Pragma", TokenKind::HashPragma},
+    {"#Tag", TokenKind::HashTag},
+});
+
+/// Tags of a project's file whose contents are no code.
+constexpr std::string_view ForeignTags[] = {"Note", "ViewBehavior"};
 
 constexpr bool IsDigit(char character) {
     return character >= '0' && character <= '9';
@@ -127,11 +146,17 @@ constexpr std::optional<int> BaseOfPrefix(char letter) {
 
 class Lexer {
 public:
-    explicit Lexer(std::string_view text) : text_(text) {}
+    Lexer(std::string_view text, Position start) : text_(text), start_(start) {}
 
     std::vector<Token> Run() {
-        while (SkipBlanks()) {
-            Next();
+        while (offset_ < text_.size()) {
+            try {
+                if (SkipBlanks()) {
+                    Next();
+                }
+            } catch (const ProgramError& error) {
+                AddMistake(error);
+            }
         }
         Add(TokenKind::EndOfLine, 0);
         Add(TokenKind::EndOfText, 0);
@@ -145,9 +170,16 @@ private:
     }
 
     Token& Add(TokenKind kind, std::size_t size) {
-        tokens_.push_back({kind, offset_, std::string(text_.substr(offset_, size)), 0, 0.0});
+        tokens_.push_back(
+            {kind, start_ + offset_, std::string(text_.substr(offset_, size)), 0, 0.0});
         offset_ += size;
         return tokens_.back();
+    }
+
+    /// The rest of the line becomes one token.
+    void AddMistake(const ProgramError& error) {
+        tokens_.push_back({TokenKind::Mistake, start_ + error.position(), error.what(), 0, 0.0});
+        SkipLine();
     }
 
     /// Skips blanks, comments and continued line ends. False at the end of the text.
@@ -213,6 +245,8 @@ private:
             ReadPrefixedInteger();
         } else if (first == '"') {
             ReadText();
+        } else if (first == '#') {
+            ReadDirective();
         } else {
             ReadPunctuation();
         }
@@ -320,6 +354,55 @@ private:
         Add(TokenKind::Text, end + 1 - start).text = std::move(value);
     }
 
+    void ReadDirective() {
+        std::size_t size = 1;
+        while (IsNamePart(Peek(size))) {
+            ++size;
+        }
+        const auto word = Rest().substr(0, size);
+        const auto* found = std::ranges::find_if(
+            Directives, [word](const Spelling& row) { return SameName(row.text, word); });
+        if (found == Directives.end()) {
+            throw ProgramError(offset_, Quoted(word) + " is not supported here");
+        }
+        const bool takesLine =
+            found->kind == TokenKind::HashPragma || found->kind == TokenKind::HashTag;
+        Add(found->kind, size);
+        if (takesLine) {
+            const auto first = offset_;
+            SkipLine();
+            tokens_.back().text = text_.substr(first, offset_ - first);
+        } else if (found->kind == TokenKind::HashEndIf) {
+            SkipLine();
+        }
+        if (found->kind == TokenKind::HashTag) {
+            SkipForeignLines(tokens_.back().text);
+        }
+    }
+
+    /// Skips what stands between a tag and its end, where that is no code.
+    void SkipForeignLines(std::string_view tag) {
+        tag.remove_prefix(std::min(tag.find_first_not_of(" \t"), tag.size()));
+        for (const auto name : ForeignTags) {
+            if (!SameName(tag.substr(0, name.size()), name)) {
+                continue;
+            }
+            while (offset_ < text_.size() && !AtEndOfTag(name)) {
+                offset_ += std::max<std::size_t>(LineEndSize(), 1);
+            }
+            SkipLine();
+            return;
+        }
+    }
+
+    /// Whether `#tag End...` of that tag stands here.
+    bool AtEndOfTag(std::string_view name) const {
+        constexpr std::string_view Beginning = "#tag End";
+        const auto rest = Rest();
+        return SameName(rest.substr(0, Beginning.size()), Beginning) &&
+               SameName(rest.substr(std::min(Beginning.size(), rest.size()), name.size()), name);
+    }
+
     void ReadPunctuation() {
         for (const auto& [text, kind] : Punctuation) {
             if (Rest().starts_with(text)) {
@@ -339,6 +422,7 @@ private:
     }
 
     std::string_view text_;
+    Position start_;
     std::size_t offset_ = 0;
     std::vector<Token> tokens_;
 };
@@ -351,6 +435,12 @@ std::string Describe(TokenKind kind) {
             return "the end of the program";
         case TokenKind::EndOfLine:
             return "the end of the line";
+        case TokenKind::Mistake:
+            return "a mistake";
+        case TokenKind::HashPragma:
+            return "\"#Pragma\"";
+        case TokenKind::HashTag:
+            return "\"#tag\"";
         case TokenKind::Name:
             return "a name";
         case TokenKind::Integer:
@@ -366,6 +456,10 @@ std::string Describe(TokenKind kind) {
         word != ReservedWords.end()) {
         return Quoted(word->text);
     }
+    if (const auto* directive = std::ranges::find_if(Directives, hasKind);
+        directive != Directives.end()) {
+        return Quoted(directive->text);
+    }
     return Quoted(std::ranges::find_if(Punctuation, hasKind)->text);
 }
 
@@ -374,6 +468,8 @@ std::string Describe(const Token& token) {
         case TokenKind::EndOfText:
         case TokenKind::EndOfLine:
         case TokenKind::Text:
+        case TokenKind::HashPragma:
+        case TokenKind::HashTag:
             return Describe(token.kind);
         default:
             return Quoted(token.text);
@@ -381,11 +477,12 @@ std::string Describe(const Token& token) {
 }
 
 bool IsWord(const Token& token) {
-    return !token.text.empty() && token.kind != TokenKind::Text && IsNameStart(token.text.front());
+    return !token.text.empty() && token.kind != TokenKind::Text &&
+           token.kind != TokenKind::Mistake && IsNameStart(token.text.front());
 }
 
-std::vector<Token> Tokenize(std::string_view text) {
-    return Lexer(text).Run();
+std::vector<Token> Tokenize(std::string_view text, Position start) {
+    return Lexer(text, start).Run();
 }
 
 }  // namespace standin::language

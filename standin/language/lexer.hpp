@@ -14,6 +14,8 @@ namespace standin::language {
 enum class TokenKind : std::uint8_t {
     EndOfText,
     EndOfLine,
+    /// What the language does not have, up to the end of its line; `text` tells what is wrong.
+    Mistake,
     Name,
     Integer,
     Real,
@@ -39,7 +41,15 @@ enum class TokenKind : std::uint8_t {
     CloseParenthesis,
     Comma,
     Dot,
+    // Directives. `text` of a pragma and of a tag is the rest of the line.
+    HashIf,
+    HashElseIf,
+    HashElse,
+    HashEndIf,
+    HashPragma,
+    HashTag,
     // Reserved words.
+    AddressOf,
     And,
     As,
     ByRef,
@@ -47,6 +57,7 @@ enum class TokenKind : std::uint8_t {
     Call,
     Case,
     Catch,
+    Class,
     Const,
     Continue,
     CType,
@@ -57,7 +68,9 @@ enum class TokenKind : std::uint8_t {
     Else,
     ElseIf,
     End,
+    Enum,
     Exit,
+    Extends,
     False,
     Finally,
     For,
@@ -68,17 +81,20 @@ enum class TokenKind : std::uint8_t {
     IsA,
     Loop,
     Mod,
+    Module,
     New,
     Next,
     Nil,
     Not,
     Optional,
     Or,
+    ParamArray,
     Print,
     Raise,
     Redim,
     Return,
     Select,
+    Static,
     Step,
     Sub,
     Then,
@@ -109,8 +125,8 @@ std::string Describe(const Token& token);
 /// Whether a token has the shape of a name: a name or a reserved word.
 bool IsWord(const Token& token);
 
-/// The tokens of a text, the last one being EndOfText with an EndOfLine before it. Throws
-/// ProgramError for characters and literals that the language does not have.
-std::vector<Token> Tokenize(std::string_view text);
+/// The tokens of a text, the last one being EndOfText with an EndOfLine before it. `start` is the
+/// position of the text's first byte.
+std::vector<Token> Tokenize(std::string_view text, Position start = 0);
 
 }  // namespace standin::language

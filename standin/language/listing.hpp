@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "standin/language/class_model.hpp"
 #include "standin/runtime/host.hpp"
@@ -10,6 +11,8 @@ namespace standin::language {
 
 /// Every class that the plug-in registered with its members, one a line, in the plug-in's order.
 /// Members without a routine, and declarations that the language does not understand, are marked.
-std::string ListClasses(const Host& host, const TypeTable& types);
+/// With a name only that class, or the members of that name. Throws std::runtime_error when there
+/// is neither.
+std::string ListClasses(const Host& host, const TypeTable& types, std::string_view wanted = {});
 
 }  // namespace standin::language

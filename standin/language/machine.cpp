@@ -6,6 +6,10 @@
 namespace standin::language {
 
 void Machine::Step() {
+    if (interrupted_ != 0) {
+        interrupted_ = 0;
+        throw Interrupted();
+    }
     if (++steps_ > maximumSteps_) {
         throw ProgramError(
             position, "the program takes more than " + std::to_string(maximumSteps_) + " steps");

@@ -493,7 +493,9 @@ OrderFunction FindOrder(Kind left, Kind right) {
     if (left == Kind::Variant) {
         return OrderVariants;
     }
-    return left == Kind::Boolean || left == Kind::TextEncoding ? OrderWords : nullptr;
+    const bool isWord =
+        left == Kind::Boolean || left == Kind::TextEncoding || left == Kind::Enumeration;
+    return isWord ? OrderWords : nullptr;
 }
 
 bool Fulfils(std::partial_ordering order, BinaryOperator comparison) {

@@ -260,11 +260,13 @@ Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Check
             right = ConvertTo(std::move(right), variant);
         }
     }
-    const bool isOrdered = isEquality || left.type.kind == Kind::Variant ||
-                           left.type.kind == Kind::Text ||
+    const bool isOrdered = isEquality || left.type.kind == Kind::Enumeration ||
+                           left.type.kind == Kind::Variant || left.type.kind == Kind::Text ||
                            (IsNumber(left.type.kind) && IsNumber(right.type.kind));
     const auto order = FindOrder(left.type.kind, right.type.kind);
-    if (order == nullptr || !isOrdered) {
+    const bool areOtherEnumerations =
+        left.type.kind == Kind::Enumeration && left.type != right.type;
+    if (order == nullptr || !isOrdered || areOtherEnumerations) {
         FailOperator(operation, left, right, at);
     }
     return MakeBoolean(std::make_unique<code::Comparison>(order, operation, std::move(left.code),

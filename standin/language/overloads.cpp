@@ -4,6 +4,9 @@
 #include <optional>
 #include <utility>
 
+#include "standin/language/code_arrays.hpp"
+#include "standin/language/code_expressions.hpp"
+
 namespace standin::language {
 namespace {
 
@@ -15,20 +18,34 @@ struct FittingCandidate {
     Fits fits;
 };
 
+/// Whether an array stands where its elements could as well.
+bool IsWholeArray(const Signature& signature, const std::vector<Checked>& arguments) {
+    const auto& parameters = signature.parameters;
+    return !parameters.empty() && arguments.size() == parameters.size() &&
+           parameters.back().isParamArray && arguments.back().type == parameters.back().type;
+}
+
 /// How each argument fits; nothing when the candidate cannot take them.
 std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked>& arguments) {
     const auto& parameters = signature.parameters;
-    if (!signature.problem.empty() || arguments.size() > parameters.size()) {
+    const bool takesAll = !parameters.empty() && parameters.back().isParamArray;
+    if (!signature.problem.empty() || (arguments.size() > parameters.size() && !takesAll)) {
         return std::nullopt;
     }
     Fits fits;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        fits.push_back(FitOf(arguments[i], parameters[i]));
+        const auto& parameter = parameters[std::min(i, parameters.size() - 1)];
+        fits.push_back(parameter.isParamArray && !IsWholeArray(signature, arguments)
+                           ? FitOf(arguments[i], parameter.type.ElementType())
+                           : FitOf(arguments[i], parameter));
     }
+    const auto given = std::min(arguments.size(), parameters.size());
     const bool areMissingOptional =
-        std::all_of(parameters.begin() + static_cast<std::ptrdiff_t>(arguments.size()),
-                    parameters.end(), [](const Parameter& parameter) {
-                        return parameter.defaultValue != nullptr && !parameter.byRef;
+        std::all_of(parameters.begin() + static_cast<std::ptrdiff_t>(given), parameters.end(),
+                    [](const Parameter& parameter) {
+                        return (parameter.defaultValue != nullptr || parameter.isOptional ||
+                                parameter.isParamArray) &&
+                               !parameter.byRef;
                     });
     const bool doAllFit = std::ranges::find(fits, Fit::None) == fits.end();
     return areMissingOptional && doAllFit ? std::optional(fits) : std::nullopt;
@@ -65,7 +82,7 @@ std::string WantedType(const Parameter& parameter) {
     RequireUsable(signature.declaration, signature.problem, at);
     const auto& parameters = signature.parameters;
     for (std::size_t i = 0; i < std::min(arguments.size(), parameters.size()); ++i) {
-        if (FitOf(arguments[i], parameters[i]) == Fit::None) {
+        if (!parameters[i].isParamArray && FitOf(arguments[i], parameters[i]) == Fit::None) {
             throw ProgramError(arguments[i].at,
                                Quoted(signature.declaration) + " expects " +
                                    WantedType(parameters[i]) + " for " +
@@ -77,7 +94,9 @@ std::string WantedType(const Parameter& parameter) {
     throw ProgramError(at, Quoted(name) + " has " + std::to_string(arguments.size()) +
                                (arguments.size() == 1 ? " argument, but " : " arguments, but ") +
                                Quoted(signature.declaration) + " takes " +
-                               (arguments.size() > parameters.size() ? "fewer" : "more"));
+                               (arguments.size() > parameters.size()    ? "fewer"
+                                : arguments.size() == parameters.size() ? "others"
+                                                                        : "more"));
 }
 
 }  // namespace
@@ -138,11 +157,32 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
                                "; there is: " + ListOf(candidates, all));
 }
 
+/// The arguments from an index on as one array.
+static code::ExpressionPtr CollectFrom(std::size_t first, std::vector<Checked>& arguments,
+                                       Type element) {
+    std::vector<code::ExpressionPtr> items;
+    for (auto i = first; i < arguments.size(); ++i) {
+        items.push_back(ConvertTo(std::move(arguments[i]), element).code);
+    }
+    return std::make_unique<code::ArrayOfValues>(element, std::move(items));
+}
+
 std::vector<code::Argument> Fill(const Signature& signature, std::vector<Checked> arguments,
                                  Position at, DefaultSource& defaults) {
     std::vector<code::Argument> filled;
+    const bool isWholeArray = IsWholeArray(signature, arguments);
     for (std::size_t i = 0; i < signature.parameters.size(); ++i) {
         const auto& parameter = signature.parameters[i];
+        if (parameter.isParamArray && !isWholeArray) {
+            filled.push_back(
+                {CollectFrom(i, arguments, parameter.type.ElementType()), Kind::Array, false});
+            break;
+        }
+        if (i >= arguments.size() && parameter.defaultValue == nullptr) {
+            filled.push_back(
+                {std::make_unique<code::DefaultValue>(parameter.type), parameter.type.kind, false});
+            continue;
+        }
         auto argument = i < arguments.size() ? std::move(arguments[i])
                                              : defaults.CheckDefault(*parameter.defaultValue, at);
         if (!parameter.byRef) {

@@ -6,6 +6,12 @@
 
 namespace standin::language {
 
+void AddGlobals(const GlobalTypes& types, Machine& machine) {
+    for (auto slot = machine.globals.size(); slot < types.size(); ++slot) {
+        machine.globals.push_back(Value::DefaultOf(types[slot]));
+    }
+}
+
 void RunStatements(const code::Block& statements, Frame& frame) {
     try {
         statements.Execute(frame);
@@ -17,13 +23,21 @@ void RunStatements(const code::Block& statements, Frame& frame) {
 
 Program::Program(const Source& source, const TypeTable& types) : compiler_(types) {
     source.Validate();
-    main_ = compiler_.Compile(ParseProgram(source.text()));
+    ErrorList errors;
+    Constants constants(&types.constants());
+    if (source.files().size() > 1) {
+        main_ = compiler_.CompileProject(ParseProject(source, constants, errors), source, errors);
+    } else {
+        main_ = compiler_.Compile(ParseProgram(source.text(), constants, errors), errors);
+    }
 }
 
-void Program::Run(Host& host, const Machine::Output& print, std::uint64_t maximumSteps) const {
+int Program::Run(Host& host, const Machine::Output& print, std::uint64_t maximumSteps) const {
     Machine machine(host, print, maximumSteps);
+    AddGlobals(compiler_.globals(), machine);
     Frame frame(machine, compiler_.slotCount());
     RunStatements(main_, frame);
+    return static_cast<int>(frame.result.Get<std::int64_t>());
 }
 
 }  // namespace standin::language

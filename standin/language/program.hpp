@@ -8,6 +8,10 @@
 
 namespace standin::language {
 
+/// Gives the variables that live outside of frames the first values of their types. Those that
+/// have values keep them.
+void AddGlobals(const GlobalTypes& types, Machine& machine);
+
 /// Runs the statements of a main program. Throws what they throw, and ProgramError when memory
 /// ends.
 void RunStatements(const code::Block& statements, Frame& frame);
@@ -15,15 +19,16 @@ void RunStatements(const code::Block& statements, Frame& frame);
 /// A program that was found right and can run.
 class Program {
 public:
-    /// Parses and checks; throws ProgramError at the first mistake. The types must outlive the
+    /// Parses and checks; throws ProgramError for the errors in it. The types must outlive the
     /// program.
     Program(const Source& source, const TypeTable& types);
 
-    /// Runs the program from its first statement. Throws Thrown for an exception that nothing
+    /// Runs the program from its first statement and returns its exit status, which only the
+    /// application of a project tells; else it is 0. Throws Thrown for an exception that nothing
     /// caught, OutOfObjects, and ProgramError when it takes more steps or more memory than it may.
     /// Every reference is given back by then, but the exception's own.
-    void Run(Host& host, const Machine::Output& print,
-             std::uint64_t maximumSteps = UnlimitedSteps) const;
+    int Run(Host& host, const Machine::Output& print,
+            std::uint64_t maximumSteps = UnlimitedSteps) const;
 
 private:
     Compiler compiler_;

@@ -11,7 +11,9 @@ void Scope::EnterBlock() {
 void Scope::ShareAll() {
     for (const auto& level : levels_) {
         for (auto [name, variable] : level.variables) {
-            variable.kind = code::VariableKind::Main;
+            if (variable.kind == code::VariableKind::Local) {
+                variable.kind = code::VariableKind::Main;
+            }
             shared_.insert_or_assign(name, variable);
         }
     }
@@ -22,6 +24,35 @@ void Scope::LeaveBlock(code::Block& block) {
     block.endSlot = nextSlot_;
     nextSlot_ = block.firstSlot;
     levels_.pop_back();
+}
+
+void Scope::LeaveTo(std::size_t depth) {
+    while (levels_.size() > depth) {
+        nextSlot_ = levels_.back().firstSlot;
+        levels_.pop_back();
+    }
+}
+
+std::vector<std::string_view> Scope::Names() const {
+    std::vector<std::string_view> names;
+    for (const auto& level : levels_) {
+        for (const auto& [name, variable] : level.variables) {
+            names.push_back(name);
+        }
+    }
+    if (main_ != nullptr) {
+        for (const auto& [name, variable] : main_->shared_) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+void Scope::DeclareGlobal(const std::string& name, Type type, std::size_t slot, Position at) {
+    const Variable variable{type, slot, code::VariableKind::Global};
+    if (!levels_.back().variables.emplace(name, variable).second) {
+        throw ProgramError(at, Quoted(name) + " is declared already");
+    }
 }
 
 Variable Scope::Declare(const std::string& name, Type type, Position at, bool isConstant) {

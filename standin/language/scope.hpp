@@ -38,8 +38,15 @@ public:
 
     /// Adds a variable to the innermost block. Throws ProgramError when the block has that name.
     Variable Declare(const std::string& name, Type type, Position at, bool isConstant = false);
+    /// Adds a variable that lives outside of the frame.
+    void DeclareGlobal(const std::string& name, Type type, std::size_t slot, Position at);
     /// Adds a parameter; ByRef ones refer to the caller's variable.
     void DeclareParameter(const std::string& name, Type type, bool byRef, Position at);
+    /// How many blocks are around the place; `LeaveTo` ends those that are more.
+    std::size_t depth() const { return levels_.size(); }
+    void LeaveTo(std::size_t depth);
+    /// The names that can be seen.
+    std::vector<std::string_view> Names() const;
     /// The nearest variable of that name; null when there is none.
     const Variable* Find(std::string_view name) const;
 

@@ -1,6 +1,5 @@
 #include "standin/language/session.hpp"
 
-#include <optional>
 #include <utility>
 #include <variant>
 
@@ -14,31 +13,37 @@ using Fragment = std::variant<syntax::Program, syntax::ExpressionPtr>;
 
 /// The expression that makes up the whole program; null when there is more to it, or less.
 syntax::ExpressionPtr* LoneExpression(syntax::Program& program) {
-    if (!program.routines.empty() || program.main.size() != 1) {
+    const bool isLone = program.routines.empty() && program.units.empty() &&
+                        program.enumerations.empty() && program.main.size() == 1;
+    if (!isLone) {
         return nullptr;
     }
     auto* const call = std::get_if<syntax::CallStatement>(&program.main.front()->node);
-    return call == nullptr ? nullptr : &call->call;
+    return call == nullptr || call->dropsResult ? nullptr : &call->call;
 }
 
 /// Statements where they can be, else an expression. Of two mistakes the one that is further on
-/// tells more.
-Fragment ParseFragment(std::string_view text) {
-    std::optional<ProgramError> mistake;
-    try {
-        auto program = ParseProgram(text);
+/// tells more. Errors go to the list.
+Fragment ParseFragment(std::string_view text, Constants& constants, ErrorList& errors) {
+    auto program = ParseProgram(text, constants, errors);
+    if (errors.empty()) {
         auto* const expression = LoneExpression(program);
         return expression == nullptr ? Fragment(std::move(program)) : std::move(*expression);
-    } catch (const UnclosedError&) {
-        throw;
-    } catch (const ProgramError& error) {
-        mistake = error;
+    }
+    if (errors.IsUnfinished()) {
+        return program;
     }
     try {
-        return ParseExpression(text);
+        auto expression = ParseExpression(text);
+        errors = ErrorList();
+        return expression;
     } catch (const ProgramError& error) {
-        throw error.position() > mistake->position() ? error : *mistake;
+        if (error.position() > errors.First().position()) {
+            errors = ErrorList();
+            errors.Add(error);
+        }
     }
+    return program;
 }
 
 }  // namespace
@@ -49,23 +54,28 @@ Session::Session(Host& host, const TypeTable& types, Machine::Output print,
 
 bool Session::Run(const Source& fragment) {
     fragment.Validate();
-    std::optional<Fragment> parsed;
-    try {
-        parsed = ParseFragment(fragment.text());
-    } catch (const UnclosedError&) {
+    ErrorList errors;
+    Constants constants(&compiler_.constants());
+    auto parsed = ParseFragment(fragment.text(), constants, errors);
+    if (!errors.empty() &&
+        (errors.IsUnfinished() || errors.First().position() >= fragment.text().size())) {
         return false;
-    } catch (const ProgramError& error) {
-        if (error.position() >= fragment.text().size()) {
-            return false;
-        }
-        throw;
     }
     auto before = compiler_.Remember();
+    const auto typesBefore = compiler_.typeCount();
+    code::Block block;
     try {
-        auto* const program = std::get_if<syntax::Program>(&*parsed);
-        Execute(program != nullptr
-                    ? compiler_.Compile(std::move(*program))
-                    : compiler_.CompileShown(std::get<syntax::ExpressionPtr>(std::move(*parsed))));
+        auto* const program = std::get_if<syntax::Program>(&parsed);
+        block = program != nullptr
+                    ? compiler_.Compile(std::move(*program), errors)
+                    : compiler_.CompileShown(*std::get<syntax::ExpressionPtr>(parsed));
+    } catch (...) {
+        compiler_.ForgetTypes(typesBefore);
+        compiler_.Restore(std::move(before));
+        throw;
+    }
+    try {
+        Execute(block);
     } catch (...) {
         compiler_.Restore(std::move(before));
         frame_.slots.resize(compiler_.slotCount());
@@ -75,6 +85,7 @@ bool Session::Run(const Source& fragment) {
 }
 
 void Session::Execute(const code::Block& block) {
+    AddGlobals(compiler_.globals(), machine_);
     frame_.slots.resize(compiler_.slotCount());
     RunStatements(block, frame_);
 }

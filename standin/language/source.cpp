@@ -51,11 +51,32 @@ ShownCharacter ShowCharacter(std::string_view line, std::size_t offset) {
 
 }  // namespace
 
-Source::Source(std::string name, std::string text)
-    : name_(std::move(name)), text_(std::move(text)) {
-    if (text_.starts_with(ByteOrderMark)) {
-        text_.erase(0, ByteOrderMark.size());
+const std::vector<ProgramError>& ProgramError::further() const {
+    static const std::vector<ProgramError> None;
+    return further_ == nullptr ? None : *further_;
+}
+
+void ProgramError::SetFurther(std::vector<ProgramError> errors) {
+    further_ = std::make_shared<const std::vector<ProgramError>>(std::move(errors));
+}
+
+Source::Source(std::string name, std::string text) {
+    Add(std::move(name), std::move(text));
+}
+
+const Source::File& Source::Add(std::string name, std::string text) {
+    if (!files_.empty()) {
+        text_ += '\n';
     }
+    const bool hasMark = text.starts_with(ByteOrderMark);
+    const auto start = text_.size();
+    text_ += std::string_view(text).substr(hasMark ? ByteOrderMark.size() : 0);
+    return files_.emplace_back(std::move(name), start, text_.size());
+}
+
+const Source::File& Source::FileAt(Position position) const {
+    const auto behind = std::ranges::upper_bound(files_, position, {}, &File::start);
+    return behind == files_.begin() ? files_.front() : *(behind - 1);
 }
 
 void Source::Validate() const {
@@ -69,8 +90,9 @@ void Source::Validate() const {
 }
 
 Place Source::Locate(Position position) const {
-    const std::string_view text = text_;
-    position = std::min(position, text.size());
+    const auto& file = FileAt(position);
+    const auto text = std::string_view(text_).substr(file.start, file.end - file.start);
+    position = std::min(position - file.start, text.size());
     const std::size_t start = LineStart(text, position);
     const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
     Place place{CountLineEnds(text, start) + 1, 1, std::string(text.substr(start, end - start))};
@@ -81,7 +103,35 @@ Place Source::Locate(Position position) const {
     return place;
 }
 
+std::string Source::NameLine(Position position) const {
+    return FileAt(position).name + ":" + std::to_string(Locate(position).line);
+}
+
 std::string Source::Describe(const ProgramError& error) const {
+    std::string report = DescribeOne(error);
+    std::size_t shown = 1;
+    std::size_t more = 0;
+    auto lastLine = NameLine(error.position());
+    for (const auto& next : error.further()) {
+        auto line = NameLine(next.position());
+        if (line == lastLine) {
+            continue;
+        }
+        lastLine = std::move(line);
+        if (shown == MaximumShownErrors) {
+            ++more;
+            continue;
+        }
+        report += DescribeOne(next);
+        ++shown;
+    }
+    if (more > 0) {
+        report += "and " + std::to_string(more) + (more == 1 ? " more error\n" : " more errors\n");
+    }
+    return report;
+}
+
+std::string Source::DescribeOne(const ProgramError& error) const {
     const Place place = Locate(error.position());
     std::string line;
     std::string caret;
@@ -101,8 +151,9 @@ std::string Source::Describe(const ProgramError& error) const {
             caret += shown.bytes == "\t" ? '\t' : ' ';
         }
     }
-    return name_ + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) +
-           ": error: " + error.what() + "\n  " + line + "\n  " + caret + "^\n";
+    return FileAt(error.position()).name + ":" + std::to_string(place.line) + ":" +
+           std::to_string(place.column) + ": error: " + error.what() + "\n  " + line + "\n  " +
+           caret + "^\n";
 }
 
 }  // namespace standin::language

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace standin::language {
 
@@ -23,8 +25,13 @@ public:
     /// Where in the program's text the error is.
     Position position() const { return position_; }
 
+    /// The errors that were found behind this one, in the order of the text.
+    const std::vector<ProgramError>& further() const;
+    void SetFurther(std::vector<ProgramError> errors);
+
 private:
     Position position_;
+    std::shared_ptr<const std::vector<ProgramError>> further_;
 };
 
 /// The text ended inside a block; more text may make it right.
@@ -40,27 +47,50 @@ struct Place {
     std::string lineText;
 };
 
-/// A program's name (as messages show it) and its text.
+/// Errors that are shown of one program.
+inline constexpr std::size_t MaximumShownErrors = 20;
+
+/// The text of a program with the name that messages show. A project's files stand one behind the
+/// other, so that a position tells the file as well.
 class Source {
 public:
+    /// Where a file stands in the text.
+    struct File {
+        std::string name;
+        Position start;
+        Position end;
+    };
+
     /// Takes UTF-8 text; a byte-order mark at its beginning is dropped.
     Source(std::string name, std::string text);
 
-    const std::string& name() const { return name_; }
+    /// Adds another file of the program and returns where it stands.
+    const File& Add(std::string name, std::string text);
+
+    /// The name of the first file.
+    const std::string& name() const { return files_.front().name; }
     std::string_view text() const { return text_; }
+    const std::vector<File>& files() const { return files_; }
+    /// The file that holds a position.
+    const File& FileAt(Position position) const;
 
     /// Throws ProgramError when the text is too large or is not UTF-8.
     void Validate() const;
 
-    /// The line and column of a byte offset; the end of the text is a place too.
+    /// The line and column of a byte offset in its file; the end of the text is a place too.
     Place Locate(Position position) const;
+    /// File and line of a byte offset: `name:line`.
+    std::string NameLine(Position position) const;
 
     /// The full report of an error: name, line, column, message, the line and a caret below it.
+    /// Its further errors follow, the first of each line, up to `MaximumShownErrors` in all.
     std::string Describe(const ProgramError& error) const;
 
 private:
-    std::string name_;
+    std::string DescribeOne(const ProgramError& error) const;
+
     std::string text_;
+    std::vector<File> files_;
 };
 
 }  // namespace standin::language

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "standin/language/code_arrays.hpp"
+#include "standin/language/code_units.hpp"
 
 namespace standin::language {
 namespace {
@@ -29,10 +30,7 @@ void AppendAssign(code::Block& block, Position at, const Variable& variable,
 }
 
 code::ExpressionPtr MakeDefault(Type type) {
-    if (type.kind == Kind::Array) {
-        return std::make_unique<code::NewArray>(type.ElementType(), nullptr);
-    }
-    return std::make_unique<code::Constant>(Value::DefaultOf(type));
+    return std::make_unique<code::DefaultValue>(type);
 }
 
 std::string NameOf(LoopKind kind) {
@@ -44,11 +42,11 @@ std::string NameOf(LoopKind kind) {
 
 code::Block StatementChecker::CheckBody(const syntax::Block& body,
                                         const std::vector<Parameter>& parameters,
-                                        const std::vector<syntax::Parameter>& places) {
+                                        const std::vector<Position>& places) {
     return CheckBlock(body, [&] {
         for (std::size_t i = 0; i < parameters.size(); ++i) {
             const auto& parameter = parameters[i];
-            scope_.DeclareParameter(parameter.name, parameter.type, parameter.byRef, places[i].at);
+            scope_.DeclareParameter(parameter.name, parameter.type, parameter.byRef, places[i]);
         }
     });
 }
@@ -90,33 +88,71 @@ code::ExpressionPtr StatementChecker::CheckCondition(const syntax::ExpressionPtr
 }
 
 void StatementChecker::Add(code::Block& block, const syntax::Statement& statement) {
-    std::visit([&](const auto& node) { AddNode(block, node, statement.at); }, statement.node);
+    const auto depth = scope_.depth();
+    const auto loops = loops_.size();
+    const bool isRight = errors_.Try([&] {
+        std::visit([&](const auto& node) { AddNode(block, node, statement.at); }, statement.node);
+    });
+    if (!isRight) {
+        scope_.LeaveTo(depth);
+        loops_.resize(loops);
+    }
+}
+
+code::ExpressionPtr StatementChecker::TryCondition(const syntax::ExpressionPtr& condition) {
+    code::ExpressionPtr code;
+    errors_.Try([&] { code = CheckCondition(condition); });
+    return code;
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Dim& dim, Position at) {
     for (const auto& declarator : dim.declarators) {
-        const auto type = types_.Require(declarator.type);
-        // The value cannot see the variable yet.
-        auto value = CheckInitialValue(declarator, type);
-        const auto variable = scope_.Declare(declarator.name, type, declarator.at);
-        AppendAssign(block, at, variable, std::move(value));
+        const bool isRight = errors_.Try([&] {
+            if (dim.isStatic) {
+                DeclareStatic(block, declarator, at);
+                return;
+            }
+            const auto type = expressions_.RequireType(declarator.type);
+            // The value cannot see the variable yet.
+            auto value = CheckInitialValue(declarator, type);
+            const auto variable = scope_.Declare(declarator.name, type, declarator.at);
+            AppendAssign(block, at, variable, std::move(value));
+        });
+        if (!isRight) {
+            errors_.Doubt(declarator.name);
+        }
     }
+}
+
+void StatementChecker::DeclareStatic(code::Block& block, const syntax::Declarator& declarator,
+                                     Position at) {
+    const auto type = expressions_.RequireType(declarator.type);
+    auto value = CheckInitialValue(declarator, type);
+    const auto slot = globals_.size();
+    globals_.push_back(type);
+    globals_.push_back({Kind::Boolean});
+    scope_.DeclareGlobal(declarator.name, type, slot, declarator.at);
+    Append<code::InitialiseOnce>(block, at, slot, slot + 1, std::move(value));
 }
 
 code::ExpressionPtr StatementChecker::CheckInitialValue(const syntax::Declarator& declarator,
                                                         Type type) {
-    if (declarator.lastIndex) {
-        return std::make_unique<code::NewArray>(
-            type.ElementType(), expressions_.CheckAs(*declarator.lastIndex, {Kind::Int64}));
+    if (!declarator.lastIndices.empty()) {
+        std::vector<code::ExpressionPtr> lastIndices;
+        for (const auto& lastIndex : declarator.lastIndices) {
+            lastIndices.push_back(expressions_.CheckAs(*lastIndex, {Kind::Int64}));
+        }
+        return std::make_unique<code::NewArray>(type, std::move(lastIndices));
     }
     return declarator.initialiser ? expressions_.CheckAs(*declarator.initialiser, type)
                                   : MakeDefault(type);
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant, Position at) {
+    errors_.Doubt(constant.name);
     auto value = expressions_.Check(*constant.value);
     if (constant.type) {
-        value = ConvertTo(std::move(value), types_.Require(*constant.type));
+        value = ConvertTo(std::move(value), expressions_.RequireType(*constant.type));
     }
     const auto variable = scope_.Declare(constant.name, value.type, at, true);
     AppendAssign(block, at, variable, std::move(value.code));
@@ -124,8 +160,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Assignment& assignment,
                                Position at) {
-    const auto* variable = expressions_.FindVariable(*assignment.target);
-    if (variable == nullptr) {
+    const auto variable = expressions_.FindVariable(*assignment.target);
+    if (!variable) {
         Append<code::Perform>(block, at,
                               expressions_.CheckSetter(*assignment.target, *assignment.value));
         return;
@@ -139,11 +175,16 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Assignment& ass
 void StatementChecker::AddNode(code::Block& block, const syntax::CallStatement& statement,
                                Position at) {
     const bool isCall = !std::holds_alternative<syntax::New>(statement.call->node) &&
-                        expressions_.FindVariable(*statement.call) == nullptr;
+                        !expressions_.FindVariable(*statement.call);
     if (!isCall) {
         throw ProgramError(at, "this does nothing; a statement is a call or an assignment");
     }
-    Append<code::Perform>(block, at, expressions_.CheckCall(*statement.call).code);
+    auto call = expressions_.CheckCall(*statement.call);
+    if (call.type.kind != Kind::None && !statement.dropsResult) {
+        throw ProgramError(at, "this returns " + language::NameOf(call.type) +
+                                   ", which nothing takes; \"Call\" before it drops it");
+    }
+    Append<code::Perform>(block, at, std::move(call.code));
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Print& print, Position at) {
@@ -154,7 +195,7 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Print& print, P
 void StatementChecker::AddNode(code::Block& block, const syntax::If& statement, Position at) {
     std::vector<code::Branches::Branch> branches;
     for (const auto& branch : statement.branches) {
-        auto condition = CheckCondition(branch.condition);
+        auto condition = TryCondition(branch.condition);
         branches.push_back({std::move(condition), CheckBlock(branch.body)});
     }
     if (!statement.otherwise.empty()) {
@@ -234,10 +275,13 @@ void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Posi
 Variable StatementChecker::LoopVariable(const std::string& name,
                                         const std::optional<syntax::TypeName>& type, Position at) {
     if (type) {
-        return scope_.Declare(name, types_.Require(*type), at);
+        return scope_.Declare(name, expressions_.RequireType(*type), at);
     }
-    const auto* found = scope_.Find(name);
-    if (found == nullptr) {
+    const syntax::Expression named{at, 1, syntax::Name{name}};
+    const auto found = expressions_.FindVariable(named);
+    if (!found) {
+        // What it is instead tells more, where it is anything.
+        expressions_.Check(named);
         throw ProgramError(at, "there is no variable " + Quoted(name));
     }
     return *found;
@@ -268,15 +312,15 @@ void StatementChecker::AddNode(code::Block& block, const syntax::ForEach& loop, 
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::While& loop, Position at) {
-    auto condition = CheckCondition(loop.condition);
+    auto condition = TryCondition(loop.condition);
     Append<code::ConditionalLoop>(block, at, code::LoopTest{std::move(condition), true},
                                   CheckLoopBody(loop.body, LoopKind::While), code::LoopTest{});
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Do& loop, Position at) {
-    code::LoopTest before{CheckCondition(loop.before.condition), loop.before.wanted};
+    code::LoopTest before{TryCondition(loop.before.condition), loop.before.wanted};
     auto body = CheckLoopBody(loop.body, LoopKind::Do);
-    code::LoopTest after{CheckCondition(loop.after.condition), loop.after.wanted};
+    code::LoopTest after{TryCondition(loop.after.condition), loop.after.wanted};
     Append<code::ConditionalLoop>(block, at, std::move(before), std::move(body), std::move(after));
 }
 
@@ -310,8 +354,8 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Try& statement,
 }
 
 code::Try::Catch StatementChecker::CheckCatch(const syntax::Try::Catch& handler) {
-    const auto type =
-        types_.Require(handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
+    const auto type = expressions_.RequireType(
+        handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
     if (type.kind != Kind::Instance || !type.model->IsException()) {
         throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
     }

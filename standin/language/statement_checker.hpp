@@ -11,17 +11,26 @@
 
 namespace standin::language {
 
-/// Makes the body of one routine, or of the main program. Throws ProgramError at the first mistake.
+/// The variables that live outside of all frames, by their slots.
+using GlobalTypes = std::vector<Type>;
+
+/// Makes the body of one routine, or of the main program. A statement with an error is left out;
+/// the error goes to the list.
 class StatementChecker {
 public:
     /// `result` is what the routine returns; missing in the main program, which returns nothing.
     StatementChecker(const TypeTable& types, const Callables& callables, Scope& scope,
-                     std::optional<Type> result)
-        : types_(types), scope_(scope), expressions_(types, callables, scope), result_(result) {}
+                     GlobalTypes& globals, ErrorList& errors, std::optional<Type> result,
+                     const Surroundings& surroundings = {})
+        : scope_(scope),
+          globals_(globals),
+          errors_(errors),
+          expressions_(types, callables, scope, errors, surroundings),
+          result_(result) {}
 
     /// The whole body with its parameters, which take the first slots.
     code::Block CheckBody(const syntax::Block& body, const std::vector<Parameter>& parameters,
-                          const std::vector<syntax::Parameter>& places);
+                          const std::vector<Position>& places);
 
     /// Statements whose variables stay: a block that is entered and never left.
     code::Block CheckFragment(const syntax::Block& statements);
@@ -53,6 +62,9 @@ private:
     void AddNode(code::Block& block, const syntax::Raise& raise, Position at);
     void AddNode(code::Block& block, const syntax::Return& statement, Position at);
 
+    void DeclareStatic(code::Block& block, const syntax::Declarator& declarator, Position at);
+    /// What is right of a statement's parts, so that more than one error in it is found.
+    code::ExpressionPtr TryCondition(const syntax::ExpressionPtr& condition);
     code::ExpressionPtr CheckInitialValue(const syntax::Declarator& declarator, Type type);
     /// The variable of a loop: a new one where it has a type, else one that is there.
     Variable LoopVariable(const std::string& name, const std::optional<syntax::TypeName>& type,
@@ -61,8 +73,9 @@ private:
     code::Try::Catch CheckCatch(const syntax::Try::Catch& handler);
     code::StatementPtr MakeLeave(Flow flow, syntax::LoopKind kind, Position at) const;
 
-    const TypeTable& types_;
     Scope& scope_;
+    GlobalTypes& globals_;
+    ErrorList& errors_;
     ExpressionChecker expressions_;
     std::optional<Type> result_;
     /// The loops around the current statement, the innermost last.

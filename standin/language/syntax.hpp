@@ -24,8 +24,8 @@ using Block = std::vector<StatementPtr>;
 struct TypeName {
     std::string name;
     Position at = 0;
-    /// Whether an array of the type is meant.
-    bool isArray = false;
+    /// Of an array of the type; 0 when none is meant.
+    std::size_t dimensions = 0;
 };
 
 // Expressions ------------------------------------------------------------------------------------
@@ -99,6 +99,10 @@ struct Conditional {
     ExpressionPtr value;
     ExpressionPtr otherwise;
 };
+/// `AddressOf Routine`.
+struct AddressOf {
+    std::string name;
+};
 struct Unary {
     UnaryOperator operation;
     ExpressionPtr operand;
@@ -110,8 +114,9 @@ struct Binary {
 };
 
 struct Expression {
-    using Node = std::variant<IntegerLiteral, RealLiteral, TextLiteral, BooleanLiteral, NilLiteral,
-                              Name, Member, Call, New, Cast, ClassTest, Conditional, Unary, Binary>;
+    using Node =
+        std::variant<IntegerLiteral, RealLiteral, TextLiteral, BooleanLiteral, NilLiteral, Name,
+                     Member, Call, New, Cast, ClassTest, Conditional, AddressOf, Unary, Binary>;
     /// Where messages about the expression point: an operator, a member's name, the first token.
     Position at;
     /// Levels of expressions below this one, itself included.
@@ -126,8 +131,14 @@ struct Parameter {
     Position at = 0;
     TypeName type;
     bool byRef = false;
-    /// A literal, or null when the argument must be given.
+    /// A literal; null when there is none.
     ExpressionPtr defaultValue;
+    /// Whether the argument may be left out without a default: it is then its type's own.
+    bool isOptional = false;
+    /// Whether it takes all further arguments as an array.
+    bool isParamArray = false;
+    /// Whether it is the object that the routine is called on.
+    bool isExtended = false;
 };
 
 /// The head of a routine: of the program's own and, as a declaration, of a plug-in's.
@@ -139,9 +150,20 @@ struct Signature {
     std::optional<TypeName> result;
 };
 
+/// Who sees a member of a module or class.
+enum class Visibility : std::uint8_t {
+    /// Everybody, also without the module's name.
+    Global,
+    /// Everybody, with the name of the module or an object in front.
+    Qualified,
+    /// The module or class itself.
+    Private,
+};
+
 struct Routine {
     Signature signature;
     Block body;
+    Visibility visibility = Visibility::Global;
 };
 
 // Statements -------------------------------------------------------------------------------------
@@ -152,11 +174,13 @@ struct Declarator {
     TypeName type;
     /// The value, `New Class(...)` of an `As New` included; null for the type's default.
     ExpressionPtr initialiser;
-    /// The index of an array's last element; null for an empty one.
-    ExpressionPtr lastIndex = nullptr;
+    /// The index of an array's last element in each dimension; none for an empty one.
+    Expressions lastIndices = {};
 };
 struct Dim {
     std::vector<Declarator> declarators;
+    /// Whether the variables keep their values from one call to the next.
+    bool isStatic = false;
 };
 struct Const {
     std::string name;
@@ -170,6 +194,8 @@ struct Assignment {
 };
 struct CallStatement {
     ExpressionPtr call;
+    /// Whether `Call` stands before it: then a result may be dropped.
+    bool dropsResult = false;
 };
 struct Print {
     /// Null prints an empty line.
@@ -270,9 +296,51 @@ struct Statement {
     Node node;
 };
 
+// Modules and classes ----------------------------------------------------------------------------
+
+/// The value of a constant that is known before the program runs.
+using ConstantValue = std::variant<bool, std::int64_t, RealLiteral, std::string>;
+
+struct Constant {
+    std::string name;
+    Position at = 0;
+    ConstantValue value;
+    Visibility visibility = Visibility::Global;
+};
+
+struct Enumeration {
+    struct Item {
+        std::string name;
+        Position at = 0;
+        std::int64_t value = 0;
+    };
+    std::string name;
+    Position at = 0;
+    std::vector<Item> items;
+};
+
+/// A variable of a module, or a field of the objects of a class.
+struct Field {
+    Declarator declarator;
+    Visibility visibility = Visibility::Global;
+};
+
+/// A module or a class. The class of a console application is a module: there is one object of it.
+struct Unit {
+    bool isClass = false;
+    bool isApplication = false;
+    std::string name;
+    Position at = 0;
+    std::vector<Field> fields;
+    std::vector<Constant> constants;
+    std::vector<Routine> routines;
+};
+
 struct Program {
     Block main;
     std::vector<Routine> routines;
+    std::vector<Unit> units;
+    std::vector<Enumeration> enumerations;
 };
 
 }  // namespace standin::language::syntax

@@ -223,6 +223,8 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"ReplaceAll(text As String, find As String, substitute As String) As String",
      Replace<Times::Always>},
     {"Split(text As String, delimiter As String = \" \") As String()", Split},
+    {"ToArray(text As String, delimiter As String = \",\") As String()", Split},
+    {"FromArray(parts() As String, delimiter As String = \"\") As String", JoinParts, "String"},
     {"Join(parts() As String, delimiter As String = \" \") As String", JoinParts},
     {"CountFields(text As String, delimiter As String) As Integer", CountFields},
     {"NthField(text As String, delimiter As String, number As Integer) As String", NthField},

@@ -16,7 +16,9 @@ namespace standin::language {
 /// Stands on one token of a text and moves forward.
 class TokenCursor {
 public:
-    explicit TokenCursor(std::string_view text) : tokens_(Tokenize(text)) {}
+    /// `start` is the position of the text's first byte.
+    explicit TokenCursor(std::string_view text, Position start = 0)
+        : tokens_(Tokenize(text, start)) {}
 
     /// The token stood on; at the end it stays EndOfText.
     const Token& Current() const { return tokens_[index_]; }
@@ -76,6 +78,33 @@ public:
     /// The place stood on, to come back to with `Rewind`.
     std::size_t Mark() const { return index_; }
     void Rewind(std::size_t mark) { index_ = mark; }
+    const Token& TokenAt(std::size_t mark) const { return tokens_[mark]; }
+
+    /// The first token of the line stood on.
+    std::size_t StartOfLine() const { return StartOfLine(index_); }
+    std::size_t StartOfLine(std::size_t mark) const {
+        while (mark > 0 && tokens_[mark - 1].kind != TokenKind::EndOfLine) {
+            --mark;
+        }
+        return mark;
+    }
+    /// The last token of the line that holds `mark`, its end left out.
+    std::size_t EndOfLine(std::size_t mark) const {
+        while (tokens_[mark].kind != TokenKind::EndOfLine &&
+               tokens_[mark].kind != TokenKind::EndOfText) {
+            ++mark;
+        }
+        return mark == 0 ? 0 : mark - 1;
+    }
+    /// Steps past the rest of the line and its end.
+    void SkipLine() {
+        while (!IsAtAny({TokenKind::EndOfLine, TokenKind::EndOfText})) {
+            ++index_;
+        }
+        if (IsAt(TokenKind::EndOfLine)) {
+            ++index_;
+        }
+    }
 
     void SkipEmptyLines() {
         while (TryTake(TokenKind::EndOfLine)) {
@@ -84,6 +113,9 @@ public:
 
     /// Throws ProgramError at the token stood on: what was expected there, and what is.
     [[noreturn]] void Fail(const std::string& expected) const {
+        if (IsAt(TokenKind::Mistake)) {
+            throw ProgramError(At(), Current().text);
+        }
         throw ProgramError(At(), "expected " + expected + ", found " + Describe(Current()));
     }
 

@@ -16,11 +16,16 @@ struct KindName {
 };
 
 /// Where a kind has several names the first is the one that messages show.
-constexpr auto KindNames = std::to_array<KindName>({
+constexpr auto NamesOfKinds = std::to_array<KindName>({
     {"Boolean", Kind::Boolean},
     {"Integer", IntegerKind},
-    {"Int32", Kind::Int32},
     {"UInteger", UIntegerKind},
+    {"Int8", Kind::Int8},
+    {"Byte", Kind::UInt8},
+    {"UInt8", Kind::UInt8},
+    {"Int16", Kind::Int16},
+    {"UInt16", Kind::UInt16},
+    {"Int32", Kind::Int32},
     {"UInt32", Kind::UInt32},
     {"Int64", Kind::Int64},
     {"UInt64", Kind::UInt64},
@@ -38,6 +43,13 @@ struct Widening {
 };
 
 constexpr auto Widenings = std::to_array<Widening>({
+    {Kind::Int8, Kind::Int16},
+    {Kind::Int8, Kind::Int32},
+    {Kind::UInt8, Kind::Int16},
+    {Kind::UInt8, Kind::UInt16},
+    {Kind::UInt8, Kind::Int32},
+    {Kind::Int16, Kind::Int32},
+    {Kind::UInt16, Kind::Int32},
     {Kind::Int32, Kind::Int64},
     {Kind::Int32, Kind::Currency},
     {Kind::Int32, Kind::Double},
@@ -48,6 +60,11 @@ constexpr auto Widenings = std::to_array<Widening>({
     {Kind::Single, Kind::Double},
 });
 
+/// Integers of less than 32 bits are computed with as Int32.
+Kind Promoted(Kind kind) {
+    return kind >= Kind::Int8 && kind <= Kind::UInt16 ? Kind::Int32 : kind;
+}
+
 }  // namespace
 
 std::string NameOf(Type type) {
@@ -57,22 +74,31 @@ std::string NameOf(Type type) {
         case Kind::Nil:
             return "Nil";
         case Kind::Instance:
+        case Kind::Enumeration:
             return type.model->name();
         case Kind::Array:
-            return NameOf(type.ElementType()) + "()";
+            return NameOf(type.ElementType()) + "(" + std::string(type.dimensions - 1, ',') + ")";
         default:
-            return std::string(std::ranges::find(KindNames, type.kind, &KindName::kind)->name);
+            return std::string(std::ranges::find(NamesOfKinds, type.kind, &KindName::kind)->name);
     }
 }
 
 std::optional<Kind> FindKind(std::string_view name) {
     const auto* found = std::ranges::find_if(
-        KindNames, [name](const KindName& row) { return SameName(row.name, name); });
-    return found == KindNames.end() ? std::nullopt : std::optional(found->kind);
+        NamesOfKinds, [name](const KindName& row) { return SameName(row.name, name); });
+    return found == NamesOfKinds.end() ? std::nullopt : std::optional(found->kind);
+}
+
+std::vector<std::string_view> KindNames() {
+    std::vector<std::string_view> names;
+    for (const auto& row : NamesOfKinds) {
+        names.push_back(row.name);
+    }
+    return names;
 }
 
 bool IsInteger(Kind kind) {
-    return kind >= Kind::Int32 && kind <= Kind::UInt64;
+    return kind >= Kind::Int8 && kind <= Kind::UInt64;
 }
 
 bool IsReal(Kind kind) {
@@ -84,7 +110,8 @@ bool IsNumber(Kind kind) {
 }
 
 bool IsSigned(Kind integer) {
-    return integer == Kind::Int32 || integer == Kind::Int64;
+    return integer == Kind::Int8 || integer == Kind::Int16 || integer == Kind::Int32 ||
+           integer == Kind::Int64;
 }
 
 bool IsHandle(Kind kind) {
@@ -97,6 +124,8 @@ bool Widens(Kind from, Kind to) {
 }
 
 Kind CommonKind(Kind left, Kind right) {
+    left = Promoted(left);
+    right = Promoted(right);
     if (left == right || Widens(right, left)) {
         return left;
     }

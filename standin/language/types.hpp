@@ -1,6 +1,7 @@
 // Static types of the language.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
@@ -8,6 +9,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "interface/host_interface.hpp"
 
@@ -24,6 +26,10 @@ enum class Kind : std::uint8_t {
     /// Of the literal Nil, before it meets a type.
     Nil,
     Boolean,
+    Int8,
+    UInt8,
+    Int16,
+    UInt16,
     Int32,
     UInt32,
     Int64,
@@ -35,6 +41,8 @@ enum class Kind : std::uint8_t {
     Text,
     /// A text encoding, as `Encodings` hands them out.
     TextEncoding,
+    /// One of the named values of an `Enum`, held as its whole number.
+    Enumeration,
     /// An object of a class.
     Instance,
     /// A value of any type in an object of the host; an object is a Variant of itself.
@@ -49,15 +57,19 @@ inline constexpr Kind IntegerKind =
 inline constexpr Kind UIntegerKind =
     sizeof(host_interface::UInteger) == 4 ? Kind::UInt32 : Kind::UInt64;
 
-/// A kind; for objects, and arrays of them, their class.
+/// A kind; for objects and named values, and arrays of them, their class.
 struct Type {
     Kind kind = Kind::None;
     const ClassModel* model = nullptr;
     /// What an array holds; None for every other kind.
     Kind element = Kind::None;
+    /// Of an array; 0 for every other kind.
+    std::size_t dimensions = 0;
 
     /// The array of a type that is no array itself.
-    static Type ArrayOf(Type element) { return {Kind::Array, element.model, element.kind}; }
+    static Type ArrayOf(Type element, std::size_t dimensions = 1) {
+        return {Kind::Array, element.model, element.kind, dimensions};
+    }
     /// What an array holds.
     Type ElementType() const { return {element, model}; }
 
@@ -74,6 +86,9 @@ inline constexpr int CurrencyScale = 10'000;
 std::string NameOf(Type type);
 /// The built-in type of that name, letter case ignored.
 std::optional<Kind> FindKind(std::string_view name);
+
+/// The names of the built-in types.
+std::vector<std::string_view> KindNames();
 
 bool IsInteger(Kind kind);
 bool IsReal(Kind kind);
@@ -93,6 +108,14 @@ Kind CommonKind(Kind left, Kind right);
 template <typename Action>
 decltype(auto) WithNumberType(Kind kind, Action&& action) {
     switch (kind) {
+        case Kind::Int8:
+            return std::forward<Action>(action)(std::type_identity<std::int8_t>{});
+        case Kind::UInt8:
+            return std::forward<Action>(action)(std::type_identity<std::uint8_t>{});
+        case Kind::Int16:
+            return std::forward<Action>(action)(std::type_identity<std::int16_t>{});
+        case Kind::UInt16:
+            return std::forward<Action>(action)(std::type_identity<std::uint16_t>{});
         case Kind::Int32:
             return std::forward<Action>(action)(std::type_identity<std::int32_t>{});
         case Kind::UInt32:

@@ -15,7 +15,10 @@ Value Value::DefaultOf(Type type) {
         case Kind::TextEncoding:
             return Of(static_cast<std::uint32_t>(HostTextEncoding::Unknown));
         case Kind::Array:
-            return Adopt(new Array{type.ElementType()});
+            return Adopt(
+                new Array{.element = type.ElementType(),
+                          .lastIndices = std::vector<std::int64_t>(
+                              type.dimensions > 1 ? type.dimensions : 0, std::int64_t{-1})});
         default:
             return Of(0);
     }

@@ -137,8 +137,11 @@ private:
 /// none can hold itself.
 struct Array {
     Type element;
+    /// The elements, those with the same first indices beside each other.
     std::vector<Value, BudgetAllocator<Value>> items = {};
     std::size_t references = 1;
+    /// The last index of each dimension, of which there are several; else empty.
+    std::vector<std::int64_t> lastIndices = {};
 };
 
 }  // namespace standin::language

@@ -358,4 +358,15 @@ ClassEntry& ClassTable::Add(std::string_view name) {
     return entry;
 }
 
+const ClassEntry& ClassTable::ProgramClass(const std::string& name) {
+    ClassEntry& entry = ofPrograms_[name];
+    if (entry.name.empty()) {
+        const auto* root = Find("Object");
+        entry.name = name;
+        entry.super = root;
+        entry.objectSize = root == nullptr ? ObjectHeader : root->objectSize;
+    }
+    return entry;
+}
+
 }  // namespace standin

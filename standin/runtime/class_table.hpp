@@ -58,6 +58,8 @@ public:
     /// The class that a reference stands for; null for anything else.
     const ClassEntry* FromReference(host_interface::ClassReference reference) const;
     static host_interface::ClassReference ReferenceOf(const ClassEntry& entry);
+    /// The class of a program, made where there is none of that name yet. `Find` does not see it.
+    const ClassEntry& ProgramClass(const std::string& name);
     /// The plug-in's classes in the order of registration.
     const std::vector<const ClassInfo*>& Registered() const { return registered_; }
 
@@ -67,6 +69,7 @@ private:
     std::deque<ClassEntry> entries_;
     std::map<std::string, ClassEntry*, NameLess> byName_;
     std::vector<const ClassInfo*> registered_;
+    std::map<std::string, ClassEntry, NameLess> ofPrograms_;
 };
 
 }  // namespace standin

@@ -217,6 +217,19 @@ Object Host::MakeObject(const ClassInfo& type) {
     return state_->objects.Make(static_cast<const ClassEntry&>(type));
 }
 
+const ClassInfo& Host::ProgramClass(const std::string& name) {
+    return state_->classes.ProgramClass(name);
+}
+
+Object Host::MakeObject(const ClassInfo& type, std::unique_ptr<HeldData> data) {
+    return state_->objects.Make(static_cast<const ClassEntry&>(type), HeldPayload{std::move(data)});
+}
+
+HeldData* Host::Held(Object object) {
+    auto* const payload = state_->objects.PayloadOf<HeldPayload>(object, HostUser);
+    return payload == nullptr ? nullptr : payload->data.get();
+}
+
 const ClassInfo& Host::ClassOf(Object object) {
     if (const ObjectEntry* entry = state_->objects.Find(object, HostUser)) {
         return *entry->type;
@@ -328,6 +341,17 @@ void Host::ResizeBlock(Object block, std::size_t size) {
     VisibleMemory resized(size);
     std::copy_n(payload->bytes.data(), std::min(size, payload->bytes.size()), resized.data());
     payload->bytes = std::move(resized);
+}
+
+bool Host::IsBigEndian(Object block) {
+    const auto* payload = state_->objects.PayloadOf<BlockPayload>(block, HostUser);
+    return payload != nullptr && payload->isBigEndian;
+}
+
+void Host::SetBigEndian(Object block, bool isBigEndian) {
+    if (auto* payload = state_->objects.PayloadOf<BlockPayload>(block, HostUser)) {
+        payload->isBigEndian = isBigEndian;
+    }
 }
 
 Object Host::MakeDate(double totalSeconds) {

@@ -229,6 +229,15 @@ struct ClassInfo {
 /// the alternative; text is a string of the host, of which the Variant keeps a reference.
 using VariantValue = std::variant<std::monostate, std::int64_t, std::uint64_t, double, String>;
 
+/// What an object of a program's own class holds.
+class HeldData {
+public:
+    HeldData() = default;
+    virtual ~HeldData() = default;
+    HeldData(const HeldData&) = delete;
+    HeldData& operator=(const HeldData&) = delete;
+};
+
 /// Numbers of the ledger, for `--ledger` and for tests.
 struct LedgerCounts {
     std::uint64_t stringsMade = 0;
@@ -270,6 +279,9 @@ public:
     /// The classes that the plug-in registered, in the order of registration.
     std::vector<const ClassInfo*> RegisteredClasses() const;
 
+    /// The class of a program of that name: an object of it holds what the program gives it.
+    const ClassInfo& ProgramClass(const std::string& name);
+
     // Strings --------------------------------------------------------------------------------
     /// A new string; empty text gives null, the legal empty string. Null also when an allocation
     /// failure was asked for.
@@ -292,6 +304,10 @@ public:
     /// A new object with zero-filled instance data; no constructor runs. Null when an allocation
     /// failure was asked for.
     Object MakeObject(const ClassInfo& type);
+    /// A new object of a program's class. Null when an allocation failure was asked for.
+    Object MakeObject(const ClassInfo& type, std::unique_ptr<HeldData> data);
+    /// What such an object holds; null for every other object.
+    HeldData* Held(Object object);
     const ClassInfo& ClassOf(Object object);
     void Lock(Object object);
     /// Drops a reference; the last one runs the destructors, from the class up to its ancestors.
@@ -327,6 +343,9 @@ public:
     std::span<std::byte> BlockBytes(Object block);
     /// Gives a memory block another size; bytes that are new are zero. Throws std::bad_alloc.
     void ResizeBlock(Object block, std::size_t size);
+    /// Whether a program wants the numbers of a memory block with the most significant byte first.
+    bool IsBigEndian(Object block);
+    void SetBigEndian(Object block, bool isBigEndian);
     /// A "Date" with that "TotalSeconds".
     Object MakeDate(double totalSeconds);
     /// A "DateTime" with that "SecondsFrom1970".

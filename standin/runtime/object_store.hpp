@@ -31,6 +31,8 @@ struct VariantPayload {
 struct BlockPayload {
     VisibleMemory bytes;
     bool hasData = true;
+    /// Whether a program reads its numbers with the most significant byte first.
+    bool isBigEndian = false;
 };
 
 /// What the host keeps in a Date (total seconds) or a DateTime (seconds from 1970).
@@ -38,8 +40,13 @@ struct DatePayload {
     double seconds = 0.0;
 };
 
-using ObjectPayload =
-    std::variant<std::monostate, ExceptionPayload, VariantPayload, BlockPayload, DatePayload>;
+/// What an object of a program's class holds.
+struct HeldPayload {
+    std::unique_ptr<HeldData> data;
+};
+
+using ObjectPayload = std::variant<std::monostate, ExceptionPayload, VariantPayload, BlockPayload,
+                                   DatePayload, HeldPayload>;
 
 /// What the host knows of one object. The plug-in sees `memory`.
 struct ObjectEntry {

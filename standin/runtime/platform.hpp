@@ -2,6 +2,7 @@
 // nothing else here knows on which system it runs.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -29,5 +30,8 @@ void* LoadLibraryFile(const std::string& path);
 host_interface::Routine FindExport(void* library, const char* name);
 
 void UnloadLibrary(void* library);
+
+/// Bytes that the process has on its heap; 0 where nobody counts them.
+std::size_t MemoryUsed();
 
 }  // namespace standin::platform

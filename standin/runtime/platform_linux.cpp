@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <dlfcn.h>
+#include <malloc.h>
 
 #include "standin/runtime/platform.hpp"
 
@@ -250,6 +251,10 @@ host_interface::Routine FindExport(void* library, const char* name) {
 
 void UnloadLibrary(void* library) {
     dlclose(library);
+}
+
+std::size_t MemoryUsed() {
+    return mallinfo2().uordblks;
 }
 
 }  // namespace standin::platform

@@ -137,4 +137,16 @@ void UnloadLibrary(void* library) {
     FreeLibrary(static_cast<HMODULE>(library));
 }
 
+std::size_t MemoryUsed() {
+    const HANDLE heap = GetProcessHeap();
+    std::size_t used = 0;
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heap);
+    while (HeapWalk(heap, &entry) != 0) {
+        used += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
+    }
+    HeapUnlock(heap);
+    return used;
+}
+
 }  // namespace standin::platform

@@ -7,6 +7,7 @@ add_unit_tests(language_tests
     language_parser_tests.cpp
     language_plugin_tests.cpp
     language_run_tests.cpp
+    language_unit_tests.cpp
     language_variant_tests.cpp
   LIBRARIES standin_language sample_plugin_objects)
 

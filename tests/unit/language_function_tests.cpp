@@ -48,10 +48,11 @@ TEST_CASE("replacing text") {
 TEST_CASE("fields of text") {
     SampleHost host;
     CHECK(
-        host.Run("Dim p() As String = Split(\"a,b,,c\", \",\")\nPrint p.Count\nPrint p(1) + p(3)\n"
-                 "Print Join(p, \"+\")\nPrint p.Join") == "4\nbc\na+b++c\na b  c\n");
-    CHECK(host.Run("Print Split(\"\", \",\").Count\nPrint Split(\"ä1\", \"\").Count\n"
-                   "Print Split(\"a b\").Count\nPrint Split(\"a,\", \",\").Count") ==
+        host.Run(
+            "Dim p() As String = Split(\"a,b,,c\", \",\")\nPrint Str(p.Count)\nPrint p(1) + p(3)\n"
+            "Print Join(p, \"+\")\nPrint p.Join") == "4\nbc\na+b++c\na b  c\n");
+    CHECK(host.Run("Print Str(Split(\"\", \",\").Count)\nPrint Str(Split(\"ä1\", \"\").Count)\n"
+                   "Print Str(Split(\"a b\").Count)\nPrint Str(Split(\"a,\", \",\").Count)") ==
           "0\n2\n2\n2\n");
     CHECK(host.Run("Dim none() As String\nPrint Join(none, \",\") + \"|\"") == "|\n");
     CHECK(host.Show("CountFields(\"a;b;c\", \";\")") == "3");
@@ -78,10 +79,12 @@ TEST_CASE("real functions") {
     CHECK(host.Show("Sin(0) + Cos(0) + Tan(0) + Asin(0) + Acos(1) + Atan(0) + Atan2(0, 1)") == "1");
     CHECK(host.Show("Exp(0) + Log(1) + Sign(-3) + Ceiling(0.5)") == "1");
     CHECK(host.Run("For i As Integer = 1 To 100\nDim r As Double = Rnd\n"
-                   "If r < 0 Or r >= 1 Then Print r\nNext\nPrint Rnd <> Rnd") == "True\n");
-    CHECK(host.Run("Dim start As Double = Microseconds\nPrint Microseconds >= start") == "True\n");
+                   "If r < 0 Or r >= 1 Then Print Str(r)\nNext\nPrint Str(Rnd <> Rnd)") ==
+          "True\n");
+    CHECK(host.Run("Dim start As Double = Microseconds\nPrint Str(Microseconds >= start)") ==
+          "True\n");
     CHECK(host.Run("Dim t As Integer = Ticks\nDim m As Double = Microseconds / 1000000 * 60\n"
-                   "Print Abs(m - t) < 60 Or m > 2147483647") == "True\n");
+                   "Print Str(Abs(m - t) < 60 Or m > 2147483647)") == "True\n");
     CHECK(host.Run("Function Max(a As Integer, b As Integer) As Integer\nReturn -1\nEnd Function\n"
-                   "Print Max(1, 2)") == "-1\n");
+                   "Print Str(Max(1, 2))") == "-1\n");
 }

@@ -33,10 +33,10 @@ Token Only(std::string_view text) {
 
 /// The mistake in a text: its offset and the message.
 std::string MistakeIn(std::string_view text) {
-    try {
-        Tokenize(text);
-    } catch (const ProgramError& error) {
-        return std::to_string(error.position()) + ": " + error.what();
+    for (const auto& token : Tokenize(text)) {
+        if (token.kind == TokenKind::Mistake) {
+            return std::to_string(token.at) + ": " + token.text;
+        }
     }
     return "none";
 }

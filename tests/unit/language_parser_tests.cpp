@@ -27,6 +27,20 @@ std::string MistakeIn(const std::string& text) {
     return "none";
 }
 
+/// What is wrong with a program, all of it.
+std::string MistakesIn(const std::string& text) {
+    try {
+        ParseProgram(text);
+    } catch (const ProgramError& error) {
+        std::string mistakes = error.what();
+        for (const auto& further : error.further()) {
+            mistakes += std::string("; ") + further.what();
+        }
+        return mistakes;
+    }
+    return "none";
+}
+
 /// An expression with parentheses around everything that belongs together.
 std::string Shape(const syntax::Expression& expression) {
     static constexpr std::string_view Signs[] = {"^",  "*",  "/",   "\\", "Mod", "+",
@@ -119,7 +133,7 @@ TEST_CASE("mistakes are told where they are") {
     CHECK(MistakeIn("Dim a") == "1:6: expected \"As\", found the end of the line");
     CHECK(MistakeIn("Dim a As 5") == "1:10: expected the name of a type, found \"5\"");
     CHECK(MistakeIn("\n  While a\nPrint 1") == "2:3: this \"While\" is never closed");
-    CHECK(MistakeIn("For i = 1 To 2\nPrint i\nEnd") == "3:1: expected a statement, found \"End\"");
+    CHECK(MistakeIn("For i = 1 To 2\nPrint i\nEnd") == "1:1: this \"For\" is never closed");
     CHECK(MistakeIn("For i = 1\nNext") ==
           "1:10: expected \"To\" or \"DownTo\", found the end of "
           "the line");
@@ -169,7 +183,7 @@ TEST_CASE("depth is bounded") {
           std::string::npos);
     CHECK(MistakeIn("Print a" + repeated(".b", 100000)).find("more than 500 levels") !=
           std::string::npos);
-    CHECK(MistakeIn(repeated("If a Then\n", 100000)).find("nested more than 100 levels deep") !=
+    CHECK(MistakesIn(repeated("If a Then\n", 100000)).find("nested more than 100 levels deep") !=
           std::string::npos);
     CHECK(MistakeIn(repeated("If a Then ", 100000)).find("nested more than 100 levels deep") !=
           std::string::npos);

@@ -22,7 +22,7 @@ TEST_CASE("every type is passed and comes back") {
     CHECK(host.Show("Sample.ASingle") == "0.1");
     CHECK(host.Show("Sample.ADouble") == "0.1");
     CHECK(host.Show("Sample.ACurrency") == "-1.25");
-    CHECK(host.Show("Sample.NoString + \"|\"") == "|");
+    CHECK(host.Run("Print Sample.NoString + \"|\"") == "|\n");
     CHECK(host.Show("Sample.NoSample Is Nil") == "True");
 }
 
@@ -39,8 +39,8 @@ TEST_CASE("variables are changed by reference") {
                    "Dim s As Single = 0.5, d As Double = 0.25, t As String = \"t\", o As Sample\n"
                    "Dim x As New Sample\nx.Change(b, i, u, s, d, t, o)\n"
                    "x.Change b, i, u, s, d, t, o\n"
-                   "Print b\nPrint i\nPrint u\nPrint s\nPrint d\nPrint t\nPrint o.Value") ==
-          "False\n3\n0\n2\n1\nt!!\n1\n");
+                   "Print Str(b)\nPrint Str(i)\nPrint Str(u)\nPrint Str(s)\nPrint Str(d)\nPrint "
+                   "t\nPrint Str(o.Value)") == "False\n3\n0\n2\n1\nt!!\n1\n");
     CHECK(host.Run("Sub Inner(x As Sample, ByRef t As String)\nPrint x.Swap(\"a\", t)\nEnd Sub\n"
                    "Dim x As New Sample, t As String = \"b\"\nInner(x, t)\nPrint t") ==
           "a\ndropped\n");
@@ -74,11 +74,12 @@ TEST_CASE("missing arguments come from the declaration") {
 
 TEST_CASE("properties") {
     SampleHost host;
-    CHECK(host.Run("Dim s As New Sample\ns.value = 5\nPrint s.VALUE\nPrint s.IsOdd\n"
-                   "Print s.ValuePlusTen\ns.ValuePlusTen = 12\nPrint s.Value\nPrint s.IsOdd") ==
-          "5\nTrue\n15\n2\nFalse\n");
-    CHECK(host.Run("Sample.Counter = 3\nPrint Sample.counter\nDim s As New Sample\n"
-                   "s.Counter = 4\nPrint s.Counter\nPrint Sample.Instances") == "3\n4\n1\n");
+    CHECK(host.Run("Dim s As New Sample\ns.value = 5\nPrint Str(s.VALUE)\nPrint Str(s.IsOdd)\n"
+                   "Print Str(s.ValuePlusTen)\ns.ValuePlusTen = 12\nPrint Str(s.Value)\nPrint "
+                   "Str(s.IsOdd)") == "5\nTrue\n15\n2\nFalse\n");
+    CHECK(host.Run("Sample.Counter = 3\nPrint Str(Sample.counter)\nDim s As New Sample\n"
+                   "s.Counter = 4\nPrint Str(s.Counter)\nPrint Str(Sample.Instances)") ==
+          "3\n4\n1\n");
     CHECK(host.Run("Dim s As New Sample\ns.IsOdd = True") ==
           "2:3: \"IsOdd as Boolean\" is read-only");
     CHECK(host.Run("Dim s As New Sample\nPrint s.Later") ==
@@ -99,8 +100,9 @@ TEST_CASE("properties") {
 
 TEST_CASE("methods that can be assigned to") {
     SampleHost host;
-    CHECK(host.Run("Dim s As New Sample\ns.Cell(3) = 10\nPrint s.Value\nPrint s.Cell(1)") ==
-          "7\n71\n");
+    CHECK(
+        host.Run("Dim s As New Sample\ns.Cell(3) = 10\nPrint Str(s.Value)\nPrint Str(s.Cell(1))") ==
+        "7\n71\n");
     CHECK(host.Run("Dim s As New Sample\ns.Fixed(3) = 10") ==
           "2:3: \"Fixed(index as Integer) as Integer\" cannot be assigned to");
     CHECK(host.Run("Dim s As New Sample\ns.Missing(3) = Nil") ==
@@ -133,7 +135,7 @@ TEST_CASE("overloads") {
     CHECK(host.Show("Sample.Which(\"1\")") == "4");
     CHECK(host.Show("Sample.Which(New Sample)") == "5");
     CHECK(host.Show("Sample.Which(Nil)") == "5");
-    CHECK(host.Run("Dim s As Single\nPrint Sample.Which(s)") == "3\n");
+    CHECK(host.Run("Dim s As Single\nPrint Str(Sample.Which(s))") == "3\n");
     // Both Int64 and Double hold every UInt32.
     CHECK(host.Run("Dim u As UInt32\nPrint Sample.Which(u)") ==
           "2:14: \"Which\" with (UInteger) fits several equally well: \"Which(value as Int64) as "
@@ -151,7 +153,7 @@ TEST_CASE("overloads") {
     CHECK(host.Show("Sample.Wide(\"1\")") == "9");
     CHECK(host.Show("Sample.Wide(1.5)") == "8");
     CHECK(host.Show("Sample.OfUInt32(5)") == "10");
-    CHECK(host.Run("Dim d As Double = 5\nPrint Sample.OfUInt32(d)") == "10\n");
+    CHECK(host.Run("Dim d As Double = 5\nPrint Str(Sample.OfUInt32(d))") == "10\n");
     CHECK(host.Show("Sample.OfUInt32(\"5\")") ==
           "1:23: \"OfUInt32(value as UInt32) as Integer\" expects UInteger for \"value\", this is "
           "a value of type String");
@@ -160,12 +162,16 @@ TEST_CASE("overloads") {
 TEST_CASE("objects are made") {
     SampleHost host;
     CHECK(
-        host.Run("Print Sample.Instances\nIf True Then\nDim a As New Sample(5), b As New Sample(a)"
-                 "\nPrint b.Value\nPrint Sample.Instances\nPrint a Is b\nPrint a = b\nEnd If\n"
-                 "Print Sample.Instances") == "0\n5\n2\nFalse\nTrue\n0\n");
-    CHECK(host.Run("Dim a, b As New Sample\nPrint a Is b\nPrint Sample.Instances") == "False\n2\n");
-    CHECK(host.Run("Dim s As New Sample(21474836480)\nPrint s.Value") == "5\n");
-    CHECK(host.Run("Dim s As Sample = New Sample(\"12\")\nPrint (New Sample(s)).Value") == "12\n");
+        host.Run(
+            "Print Str(Sample.Instances)\nIf True Then\nDim a As New Sample(5), b As New Sample(a)"
+            "\nPrint Str(b.Value)\nPrint Str(Sample.Instances)\nPrint Str(a Is b)\nPrint Str(a = "
+            "b)\nEnd If\n"
+            "Print Str(Sample.Instances)") == "0\n5\n2\nFalse\nTrue\n0\n");
+    CHECK(host.Run("Dim a, b As New Sample\nPrint Str(a Is b)\nPrint Str(Sample.Instances)") ==
+          "False\n2\n");
+    CHECK(host.Run("Dim s As New Sample(21474836480)\nPrint Str(s.Value)") == "5\n");
+    CHECK(host.Run("Dim s As Sample = New Sample(\"12\")\nPrint Str((New Sample(s)).Value)") ==
+          "12\n");
     CHECK(host.Run("Dim s As New Sample(1.5)")
               .starts_with("1:14: \"New Sample\" with (Double) fits several equally well: "));
     CHECK(host.Run("Dim s As New Sample(True)")
@@ -178,14 +184,16 @@ TEST_CASE("objects are made") {
 TEST_CASE("text converts in and out") {
     SampleHost host;
     CHECK(host.Run("Dim s As Sample = \"12\"\nPrint s\nDim t As String = s\nPrint t\ns = \"13\"\n"
-                   "Print s.Value") == "Sample 12\nSample 12\n13\n");
+                   "Print Str(s.Value)") == "Sample 12\nSample 12\n13\n");
     CHECK(
-        host.Run("Dim s As Sample = \"12\"\nDim old As Sample = s\ns = \"13\"\nPrint old.Value") ==
+        host.Run(
+            "Dim s As Sample = \"12\"\nDim old As Sample = s\ns = \"13\"\nPrint Str(old.Value)") ==
         "12\n");
     CHECK(host.Run("Dim s As Sample\nPrint s") == "Sample -1\n");
-    CHECK(host.Run("Function F() As Sample\nReturn \"7\"\nEnd Function\nPrint F().Value") == "7\n");
+    CHECK(host.Run("Function F() As Sample\nReturn \"7\"\nEnd Function\nPrint Str(F().Value)") ==
+          "7\n");
     CHECK(host.Run("Dim s As Sample = 5") == "1:19: expected Sample, this is Integer");
-    CHECK(host.Run("Dim s As New Sample\nPrint Len(s)") == "8\n");
+    CHECK(host.Run("Dim s As New Sample\nPrint Str(Len(s))") == "8\n");
     CHECK(host.Run("Dim s As Sample = \"bad\"") ==
           "Unhandled SampleException: bad text (line 1)\n");
 }
@@ -196,20 +204,23 @@ TEST_CASE("operators of classes") {
     const auto show = [&](const std::string& expression) {
         return host.Run(make + "Print " + expression);
     };
-    CHECK(show("(a + b).Value") == "13\n");
-    CHECK(show("(a + 5).Value") == "15\n");
-    CHECK(show("(a + \"5\").Value") == "15\n");
-    CHECK(show("(\"5\" + a).Value") == "15\n");
-    CHECK(show("(\"5\" - a).Value") == "-5\n");
-    CHECK(show("(-a).Value") == "-10\n");
-    CHECK(show("a > b") == "True\n");
-    CHECK(show("a = \"10\"") == "True\n");
-    CHECK(show("\"3\" < a") == "True\n");
-    CHECK(show("a = Nil") == "False\n");
-    CHECK(show("Nil < a") == "True\n");
-    CHECK(show("a Is Nil") == "False\n");
+    const auto value = [&](const std::string& expression) {
+        return show("Str(" + expression + ")");
+    };
+    CHECK(value("(a + b).Value") == "13\n");
+    CHECK(value("(a + 5).Value") == "15\n");
+    CHECK(value("(a + \"5\").Value") == "15\n");
+    CHECK(value("(\"5\" + a).Value") == "15\n");
+    CHECK(value("(\"5\" - a).Value") == "-5\n");
+    CHECK(value("(-a).Value") == "-10\n");
+    CHECK(value("a > b") == "True\n");
+    CHECK(value("a = \"10\"") == "True\n");
+    CHECK(value("\"3\" < a") == "True\n");
+    CHECK(value("a = Nil") == "False\n");
+    CHECK(value("Nil < a") == "True\n");
+    CHECK(value("a Is Nil") == "False\n");
     // The right operand's operator takes the left one as its argument.
-    CHECK(show("(a - b).Value") == "7\n");
+    CHECK(value("(a - b).Value") == "7\n");
     CHECK(show("a / b") == "2:9: \"/\" cannot stand between Sample and Sample");
     CHECK(show("5 + a") ==
           "2:9: \"+\" cannot stand between Integer and Sample; there is "
@@ -228,14 +239,14 @@ TEST_CASE("operands are evaluated from left to right") {
                    "Call F(\"1\") + F(\"2\")")
               .starts_with("5:"));
     CHECK(host.Run("Function F(text As String) As Sample\nPrint text\nReturn text\nEnd Function\n"
-                   "Print (F(\"1\") - F(\"2\")).Value") == "1\n2\n-1\n");
+                   "Print Str((F(\"1\") - F(\"2\")).Value)") == "1\n2\n-1\n");
 }
 
 TEST_CASE("Nil receivers read, but do not write") {
     SampleHost host;
     const std::string make = "Dim s As Sample\n";
-    CHECK(host.Run(make + "Print s.Value") == "-1\n");
-    CHECK(host.Run(make + "Print (s + s).Value\nPrint (-s).Value") == "-2\n1\n");
+    CHECK(host.Run(make + "Print Str(s.Value)") == "-1\n");
+    CHECK(host.Run(make + "Print Str((s + s).Value)\nPrint Str((-s).Value)") == "-2\n1\n");
     CHECK(host.Run(make + "Print s.Greet(\"me\", 0)") == "!-1.500000\n");
     const std::string refused =
         "Unhandled NilObjectException: An object that is Nil was used. "
@@ -250,16 +261,17 @@ TEST_CASE("a raised exception reaches the program, what came with it is released
     CHECK(host.Run("Dim s As New Sample\nTry\nCall s.Fail(\"why\")\nPrint \"no\"\n"
                    "Catch e As SampleException\nPrint e.Message\nEnd Try\n"
                    "Dim r As Sample = s\nTry\nr = s.Fail(\"again\")\nCatch e As RuntimeException\n"
-                   "Print r Is s\nEnd Try\ns.Fail \"last\"") ==
+                   "Print Str(r Is s)\nEnd Try\nCall s.Fail(\"last\")") ==
           "why\nTrue\nUnhandled SampleException: last (line 14)\n");
 }
 
 TEST_CASE("references are given back when blocks end") {
     SampleHost host;
-    CHECK(host.Run("For i As Integer = 1 To 3\nDim s As New Sample\nPrint Sample.Instances\nNext\n"
-                   "Print Sample.Instances") == "1\n1\n1\n0\n");
-    CHECK(host.Run("Sub S()\nDim a As New Sample\nPrint Sample.Instances\nEnd Sub\nS\n"
-                   "Print Sample.Instances") == "1\n0\n");
+    CHECK(host.Run(
+              "For i As Integer = 1 To 3\nDim s As New Sample\nPrint Str(Sample.Instances)\nNext\n"
+              "Print Str(Sample.Instances)") == "1\n1\n1\n0\n");
+    CHECK(host.Run("Sub S()\nDim a As New Sample\nPrint Str(Sample.Instances)\nEnd Sub\nS\n"
+                   "Print Str(Sample.Instances)") == "1\n0\n");
 }
 
 TEST_CASE("the host may lack classes") {

@@ -34,16 +34,17 @@ TEST_CASE("integers have their width and wrap") {
     CHECK(host.Show("CType(-1, UInt32)") == "4294967295");
     CHECK(host.Show("CType(-1, UInt64)") == "18446744073709551615");
     CHECK(host.Show("CType(18446744073709551615, Int64)") == "-1");
-    CHECK(host.Run("Dim u As UInt32 = 1\nu = u - 2\nPrint u\nPrint u + 1") == "4294967295\n0\n");
-    CHECK(host.Run("Dim u As UInt64 = 1\nPrint u - 2") == "18446744073709551615\n");
-    CHECK(host.Run("Dim u As UInt32 = 1, i As Int32 = -2\nPrint u + i") == "-1\n");
+    CHECK(host.Run("Dim u As UInt32 = 1\nu = u - 2\nPrint Str(u)\nPrint Str(u + 1)") ==
+          "4294967295\n0\n");
+    CHECK(host.Run("Dim u As UInt64 = 1\nPrint Str(u - 2)") == "18446744073709551615\n");
+    CHECK(host.Run("Dim u As UInt32 = 1, i As Int32 = -2\nPrint Str(u + i)") == "-1\n");
 }
 
 TEST_CASE("a divisor of 0 raises") {
     SampleHost host;
-    CHECK(host.Run("Dim z As Integer\nPrint 1 \\ z") ==
+    CHECK(host.Run("Dim z As Integer\nPrint Str(1 \\ z)") ==
           "Unhandled RuntimeException: Division by zero. (line 2)\n");
-    CHECK(host.Run("Dim z As UInt64\nPrint 1 Mod z") ==
+    CHECK(host.Run("Dim z As UInt64\nPrint Str(1 Mod z)") ==
           "Unhandled RuntimeException: Division by zero. (line 2)\n");
     CHECK(host.Show("1 / 0") == "inf");
     CHECK(host.Show("-1 / 0") == "-inf");
@@ -64,7 +65,7 @@ TEST_CASE("real numbers") {
     CHECK(host.Show("100000.0") == "1e+05");
     CHECK(host.Show("CType(0.1, Single)") == "0.1");
     CHECK(host.Show("CType(0.1, Single) + 0") == "0.10000000149011612");
-    CHECK(host.Run("Dim i As Integer = 2.9\nPrint i\ni = -2.9\nPrint i") == "2\n-2\n");
+    CHECK(host.Run("Dim i As Integer = 2.9\nPrint Str(i)\ni = -2.9\nPrint Str(i)") == "2\n-2\n");
     CHECK(host.Show("CType(1e300, Int64)") == "9223372036854775807");
     CHECK(host.Show("CType(-1e300, Int64)") == "-9223372036854775808");
     CHECK(host.Show("CType(1e300, UInt64)") == "18446744073709551615");
@@ -73,21 +74,25 @@ TEST_CASE("real numbers") {
 
 TEST_CASE("currency counts in ten-thousandths") {
     SampleHost host;
-    CHECK(host.Run("Dim c As Currency = 12.34567\nPrint c\nPrint c + 1\nPrint -c\nPrint c * 2") ==
-          "12.3457\n13.3457\n-12.3457\n24.6914\n");
-    CHECK(host.Run("Dim c As Currency = 5\nPrint c\nDim i As Integer = c\nPrint i\nPrint c = 5") ==
-          "5\n5\nTrue\n");
-    CHECK(host.Run("Dim c As Currency = -0.5\nPrint c") == "-0.5\n");
-    CHECK(host.Run("Dim c As Currency = 922337203685477.5807\nPrint c\nPrint c - 0.0001\n"
-                   "c = -922337203685477.5808\nPrint c\nc = 0.00005\nPrint c\nc = 0.00016\n"
-                   "Print c\nc = -0.00016\nPrint c\nc = 1.25e2\nPrint c") ==
-          "922337203685477.5807\n922337203685477.5806\n-922337203685477.5808\n0\n0.0002\n"
-          "-0.0002\n125\n");
-    CHECK(host.Run("Dim c As Currency = 922337203685477.5807, d As Currency = 0.0001\nPrint c * 1\n"
-                   "Print c * d\nPrint -c * d\nd = 1.0001\nPrint d * d\nc = 30000000.0005\n"
-                   "Print c * c\nc = 0.5\nd = 0.0001\nPrint c * d\nd = 0.0003\nPrint c * d") ==
-          "922337203685477.5807\n92233720368.5478\n-92233720368.5478\n1.0002\n"
-          "900000000030000\n0\n0.0002\n");
+    CHECK(host.Run("Dim c As Currency = 12.34567\nPrint Str(c)\nPrint Str(c + 1)\nPrint "
+                   "Str(-c)\nPrint Str(c * 2)") == "12.3457\n13.3457\n-12.3457\n24.6914\n");
+    CHECK(host.Run("Dim c As Currency = 5\nPrint Str(c)\nDim i As Integer = c\nPrint Str(i)\nPrint "
+                   "Str(c = 5)") == "5\n5\nTrue\n");
+    CHECK(host.Run("Dim c As Currency = -0.5\nPrint Str(c)") == "-0.5\n");
+    CHECK(
+        host.Run("Dim c As Currency = 922337203685477.5807\nPrint Str(c)\nPrint Str(c - 0.0001)\n"
+                 "c = -922337203685477.5808\nPrint Str(c)\nc = 0.00005\nPrint Str(c)\nc = 0.00016\n"
+                 "Print Str(c)\nc = -0.00016\nPrint Str(c)\nc = 1.25e2\nPrint Str(c)") ==
+        "922337203685477.5807\n922337203685477.5806\n-922337203685477.5808\n0\n0.0002\n"
+        "-0.0002\n125\n");
+    CHECK(
+        host.Run(
+            "Dim c As Currency = 922337203685477.5807, d As Currency = 0.0001\nPrint Str(c * 1)\n"
+            "Print Str(c * d)\nPrint Str(-c * d)\nd = 1.0001\nPrint Str(d * d)\nc = 30000000.0005\n"
+            "Print Str(c * c)\nc = 0.5\nd = 0.0001\nPrint Str(c * d)\nd = 0.0003\nPrint Str(c * "
+            "d)") ==
+        "922337203685477.5807\n92233720368.5478\n-92233720368.5478\n1.0002\n"
+        "900000000030000\n0\n0.0002\n");
 }
 
 TEST_CASE("comparisons") {
@@ -99,7 +104,8 @@ TEST_CASE("comparisons") {
     CHECK(host.Show("\"abc\" < \"abd\"") == "True");
     CHECK(host.Show("\"ab\" < \"abc\"") == "True");
     CHECK(host.Show("True <> False") == "True");
-    CHECK(host.Run("Dim n As Double = 0 / 0\nPrint n = n\nPrint n <> n\nPrint n < n") ==
+    CHECK(host.Run(
+              "Dim n As Double = 0 / 0\nPrint Str(n = n)\nPrint Str(n <> n)\nPrint Str(n < n)") ==
           "False\nTrue\nFalse\n");
     CHECK(host.Show("True < False") == "1:12: \"<\" cannot stand between Boolean and Boolean");
     CHECK(host.Show("1 = \"1\"") == "1:9: \"=\" cannot stand between Integer and String");
@@ -111,28 +117,30 @@ TEST_CASE("And and Or leave out what cannot matter") {
     const std::string side =
         "Function Side(b As Boolean) As Boolean\nPrint \"side\"\nReturn b\n"
         "End Function\n";
-    CHECK(host.Run(side + "Print False And Side(True)") == "False\n");
-    CHECK(host.Run(side + "Print True Or Side(True)") == "True\n");
-    CHECK(host.Run(side + "Print True And Side(False)") == "side\nFalse\n");
-    CHECK(host.Run(side + "Print True Xor Side(True)") == "side\nFalse\n");
+    CHECK(host.Run(side + "Print Str(False And Side(True))") == "False\n");
+    CHECK(host.Run(side + "Print Str(True Or Side(True))") == "True\n");
+    CHECK(host.Run(side + "Print Str(True And Side(False))") == "side\nFalse\n");
+    CHECK(host.Run(side + "Print Str(True Xor Side(True))") == "side\nFalse\n");
 }
 
 TEST_CASE("variables") {
     SampleHost host;
     CHECK(host.Run("dim A, b as integer = 3, C As String\nvar d As Boolean\n"
-                   "PRINT a\nPrint B\nPrint c + \"|\"\nPrint D") == "3\n3\n|\nFalse\n");
+                   "PRINT Str(a)\nPrint Str(B)\nPrint c + \"|\"\nPrint Str(D)") ==
+          "3\n3\n|\nFalse\n");
     CHECK(host.Run("Dim a As Integer\nDim A As Integer") == "2:5: \"A\" is declared already");
     CHECK(host.Run("If True Then\nDim a As Integer = 1\nEnd If\nPrint a") ==
           "4:7: there is nothing named \"a\"");
-    CHECK(host.Run("Dim a As Integer = 1\nIf True Then\nDim a As Integer = 2\nPrint a\nEnd If\n"
-                   "Print a") == "2\n1\n");
-    CHECK(host.Run("For i As Integer = 1 To 2\nDim n As Integer\nn = n + i\nPrint n\nNext") ==
+    CHECK(
+        host.Run("Dim a As Integer = 1\nIf True Then\nDim a As Integer = 2\nPrint Str(a)\nEnd If\n"
+                 "Print Str(a)") == "2\n1\n");
+    CHECK(host.Run("For i As Integer = 1 To 2\nDim n As Integer\nn = n + i\nPrint Str(n)\nNext") ==
           "1\n2\n");
-    CHECK(host.Run("Const N = 5\nPrint N\nN = 6") == "3:1: a constant cannot be assigned to");
+    CHECK(host.Run("Const N = 5\nPrint Str(N)\nN = 6") == "3:1: a constant cannot be assigned to");
     CHECK(host.Run("Dim a As Integer = \"1\"") ==
           "1:20: expected Integer, this is String; use Val");
     CHECK(host.Run("Dim a As String = 1") == "1:19: expected String, this is Integer; use Str");
-    CHECK(host.Run("a = 1") == "1:1: this cannot be assigned to");
+    CHECK(host.Run("a = 1") == "1:1: there is nothing named \"a\"");
     CHECK(host.Run("Dim a As Integer\na") ==
           "2:1: this does nothing; a statement is a call or an assignment");
 }
@@ -156,8 +164,10 @@ TEST_CASE("Select Case") {
         "Print \"some\"\nCase Is > 5\nPrint \"many\"\nCase Else\nPrint \"none\"\nEnd Select\n"
         "End Sub\n";
     CHECK(host.Run(text + "Tell 2\nTell 4\nTell 6\nTell 0") == "few\nsome\nmany\nnone\n");
-    CHECK(host.Run("Select Case \"b\"\nCase \"A\"\nPrint 1\nCase \"B\"\nPrint 2\nEnd Select") ==
-          "2\n");
+    CHECK(
+        host.Run(
+            "Select Case \"b\"\nCase \"A\"\nPrint Str(1)\nCase \"B\"\nPrint Str(2)\nEnd Select") ==
+        "2\n");
 }
 
 TEST_CASE("counting loops") {
@@ -175,22 +185,22 @@ TEST_CASE("counting loops") {
     CHECK(count("UInt32 = 2 DownTo 0") == "2 1 0 \n");
     CHECK(count("Int64 = 2147483647 To 2147483648") == "2147483647 2147483648 \n");
     CHECK(count("Integer = 2147483646 To 2147483647") == "2147483646 2147483647 \n");
-    CHECK(host.Run("Dim i As Integer\nFor i = 1 To 3\nNext\nPrint i") == "4\n");
-    CHECK(host.Run("Dim e As Integer = 3\nFor i As Integer = 1 To e\ne = 2\nPrint i\nNext") ==
+    CHECK(host.Run("Dim i As Integer\nFor i = 1 To 3\nNext\nPrint Str(i)") == "4\n");
+    CHECK(host.Run("Dim e As Integer = 3\nFor i As Integer = 1 To e\ne = 2\nPrint Str(i)\nNext") ==
           "1\n2\n");
     CHECK(host.Run("For i As String = 1 To 2\nNext") ==
           "1:19: expected String, this is Integer; use Str");
     CHECK(host.Run("For i As Boolean = True To False\nNext") ==
           "1:5: a loop counts in a variable of a number type");
     CHECK(host.Run("For c As Currency = 1 To 2\nNext") == "1:1: a loop cannot count in Currency");
-    CHECK(host.Run("For j = 1 To 2\nNext") == "1:5: there is no variable \"j\"");
+    CHECK(host.Run("For j = 1 To 2\nNext") == "1:5: there is nothing named \"j\"");
 }
 
 TEST_CASE("conditional loops") {
     SampleHost host;
-    CHECK(host.Run("Dim i As Integer\nWhile i < 2\ni = i + 1\nPrint i\nWend") == "1\n2\n");
-    CHECK(host.Run("Dim i As Integer\nDo Until i = 2\ni = i + 1\nLoop\nPrint i") == "2\n");
-    CHECK(host.Run("Dim i As Integer\nDo\ni = i + 1\nLoop Until i >= 1\nPrint i") == "1\n");
+    CHECK(host.Run("Dim i As Integer\nWhile i < 2\ni = i + 1\nPrint Str(i)\nWend") == "1\n2\n");
+    CHECK(host.Run("Dim i As Integer\nDo Until i = 2\ni = i + 1\nLoop\nPrint Str(i)") == "2\n");
+    CHECK(host.Run("Dim i As Integer\nDo\ni = i + 1\nLoop Until i >= 1\nPrint Str(i)") == "1\n");
 }
 
 TEST_CASE("Exit and Continue reach the loop that is meant") {
@@ -213,27 +223,27 @@ TEST_CASE("Exit and Continue reach the loop that is meant") {
 
 TEST_CASE("routines") {
     SampleHost host;
-    CHECK(host.Run("Print Twice(4)\nFunction Twice(n As Integer) As Integer\nReturn n * 2\n"
+    CHECK(host.Run("Print Str(Twice(4))\nFunction Twice(n As Integer) As Integer\nReturn n * 2\n"
                    "End Function") == "8\n");
     CHECK(host.Run("Function Fib(n As Integer) As Integer\nIf n < 2 Then Return n\n"
-                   "Return Fib(n - 1) + Fib(n - 2)\nEnd Function\nPrint Fib(15)") == "610\n");
+                   "Return Fib(n - 1) + Fib(n - 2)\nEnd Function\nPrint Str(Fib(15))") == "610\n");
     CHECK(host.Run("Sub Swap(ByRef a As String, ByRef b As String)\nDim t As String = a\na = b\n"
                    "b = t\nEnd Sub\nDim x As String = \"1\", y As String = \"2\"\nSwap(x, y)\n"
                    "Swap x, y\nSwap x, y\nPrint x + y") == "21\n");
     CHECK(
         host.Run("Sub Inner(ByRef n As Integer)\nn = n + 1\nEnd Sub\nSub Outer(ByRef n As Integer)"
-                 "\nInner(n)\nn = n * 10\nEnd Sub\nDim v As Integer = 1\nOuter(v)\nPrint v") ==
+                 "\nInner(n)\nn = n * 10\nEnd Sub\nDim v As Integer = 1\nOuter(v)\nPrint Str(v)") ==
         "20\n");
     CHECK(host.Run("Function F(a As Integer = 1, b As String = \"x\") As String\n"
                    "Return Str(a) + b\nEnd Function\nPrint F\nPrint F(2)\nPrint F(2, \"y\")") ==
           "1x\n2x\n2y\n");
-    CHECK(host.Run("Function F() As Integer\nEnd Function\nPrint F()") == "0\n");
-    CHECK(host.Run("Function F() As Sample\nEnd Function\nPrint F() Is Nil") == "True\n");
+    CHECK(host.Run("Function F() As Integer\nEnd Function\nPrint Str(F())") == "0\n");
+    CHECK(host.Run("Function F() As Sample\nEnd Function\nPrint Str(F() Is Nil)") == "True\n");
     CHECK(host.Run("Function F(n As Integer) As String\nReturn \"i\"\nEnd Function\n"
                    "Function F(n As String) As String\nReturn \"s\"\nEnd Function\n"
                    "Print F(1) + F(\"1\")") == "is\n");
     CHECK(host.Run("Dim total As Integer = 5\nSub Add(n As Integer)\ntotal = total + n\nEnd Sub\n"
-                   "Add 3\nPrint total") == "8\n");
+                   "Add 3\nPrint Str(total)") == "8\n");
     CHECK(host.Run("Sub S(n As Integer = \"x\")\nEnd Sub") ==
           "1:22: expected Integer, this is String; use Val");
     CHECK(host.Run("Sub S(n As Integer)\nEnd Sub\nPrint S(1)") == "3:7: this returns no value");
@@ -255,19 +265,19 @@ TEST_CASE("routines") {
 TEST_CASE("endless recursion ends in an exception") {
     SampleHost host;
     CHECK(host.Run("Function F(n As Integer) As Integer\nReturn F(n + 1)\nEnd Function\n"
-                   "Try\nPrint F(1)\nCatch e As RuntimeException\nPrint e.Message\nEnd Try\n"
+                   "Try\nPrint Str(F(1))\nCatch e As RuntimeException\nPrint e.Message\nEnd Try\n"
                    "Print \"on\"") == "Routines call each other too deeply.\non\n");
     // The depth is counted back when an exception passes.
     CHECK(host.Run("Function F(n As Integer) As Integer\nIf n = 0 Then Raise New RuntimeException\n"
                    "Return F(n - 1)\nEnd Function\nFor i As Integer = 1 To 10\nTry\n"
-                   "Print F(500)\nCatch\nEnd Try\nNext\nPrint \"on\"") == "on\n");
+                   "Print Str(F(500))\nCatch\nEnd Try\nNext\nPrint \"on\"") == "on\n");
     // A call inside an expression of the greatest height still fits the stack.
     std::string sum = "F(n + 1)";
     for (int i = 0; i < 480; ++i) {
         sum += " + 1";
     }
     CHECK(host.Run("Function F(n As Integer) As Integer\nReturn " + sum +
-                   "\nEnd Function\nTry\nPrint F(1)\nCatch\nPrint \"caught\"\nEnd Try") ==
+                   "\nEnd Function\nTry\nPrint Str(F(1))\nCatch\nPrint \"caught\"\nEnd Try") ==
           "caught\n");
 }
 
@@ -277,8 +287,8 @@ TEST_CASE("exceptions") {
                    "Catch e As NilObjectException\nPrint \"wrong\"\n"
                    "Catch e As OutOfBoundsException\nPrint e.Message + Str(e.ErrorNumber)\n"
                    "Finally\nPrint \"finally\"\nEnd Try") == "far7\nfinally\n");
-    CHECK(host.Run("Try\nRaise New SampleException\nCatch e\nPrint e IsA SampleException\n"
-                   "Print e IsA RuntimeException\nPrint e IsA Sample\nEnd Try") ==
+    CHECK(host.Run("Try\nRaise New SampleException\nCatch e\nPrint Str(e IsA SampleException)\n"
+                   "Print Str(e IsA RuntimeException)\nPrint Str(e IsA Sample)\nEnd Try") ==
           "True\nTrue\nFalse\n");
     CHECK(host.Run("Try\nTry\nRaise New SampleException(\"a\")\nFinally\nPrint \"inner\"\nEnd Try\n"
                    "Catch\nPrint \"outer\"\nEnd Try") == "inner\nouter\n");
@@ -292,11 +302,11 @@ TEST_CASE("exceptions") {
         host.Run("Dim e As New RuntimeException\ne.Message = \"m\"\ne.ErrorNumber = 3\nRaise e") ==
         "Unhandled RuntimeException: m (line 4)\n");
     CHECK(host.Run("Function F() As Integer\nTry\nReturn 1\nFinally\nPrint \"f\"\nEnd Try\n"
-                   "End Function\nPrint F()") == "f\n1\n");
-    CHECK(host.Run("For i As Integer = 1 To 3\nTry\nIf i = 2 Then Exit For\nFinally\nPrint i\n"
+                   "End Function\nPrint Str(F())") == "f\n1\n");
+    CHECK(host.Run("For i As Integer = 1 To 3\nTry\nIf i = 2 Then Exit For\nFinally\nPrint Str(i)\n"
                    "End Try\nNext") == "1\n2\n");
     CHECK(host.Run("Function F() As Integer\nTry\nRaise New SampleException\nFinally\nReturn 2\n"
-                   "End Try\nEnd Function\nPrint F()") == "2\n");
+                   "End Try\nEnd Function\nPrint Str(F())") == "2\n");
     CHECK(host.Run("Sub S()\nRaise New SampleException(\"deep\")\nEnd Sub\n\nS()") ==
           "Unhandled SampleException: deep (line 2)\n");
     CHECK(host.Run("Dim e As RuntimeException = New SampleException(\"x\")\n"
@@ -368,8 +378,10 @@ TEST_CASE("encodings") {
     CHECK(host.Show("LenB(DefineEncoding(\"ab\", GetTextEncoding(&h1234)))") == "2");
     CHECK(host.Show("Encodings.Klingon") == "1:17: there is no encoding \"Klingon\"");
     CHECK(host.Show("Encodings.UTF8") == "1:17: TextEncoding cannot be printed");
-    CHECK(host.Run("Dim e As TextEncoding\nPrint e = Nil\ne = Encodings.ASCII\nPrint e = Nil") ==
-          "True\nFalse\n");
+    CHECK(
+        host.Run(
+            "Dim e As TextEncoding\nPrint Str(e = Nil)\ne = Encodings.ASCII\nPrint Str(e = Nil)") ==
+        "True\nFalse\n");
 }
 
 TEST_CASE("a failing allocation is an exception of the program") {
@@ -386,5 +398,5 @@ TEST_CASE("a failing allocation is an exception of the program") {
 TEST_CASE("a million statements take little time") {
     SampleHost host;
     CHECK(host.Run("Dim s As Integer\nFor i As Integer = 1 To 1000000\ns = s + i Mod 7\nNext\n"
-                   "Print s") == "2999998\n");
+                   "Print Str(s)") == "2999998\n");
 }

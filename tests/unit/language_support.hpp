@@ -11,6 +11,7 @@
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
 #include "standin/language/program.hpp"
+#include "standin/language/session.hpp"
 #include "standin/language/source.hpp"
 #include "standin/runtime/host.hpp"
 
@@ -38,12 +39,39 @@ public:
 
     /// What a program prints, a line each; an exception that it does not catch, and the line that
     /// raised it, come last. An error in the program comes instead, with its line and column.
-    std::string Run(const std::string& text) {
+    std::string Run(const std::string& text) { return RunAs<Whole>(text); }
+
+    /// What one expression shows at a prompt, without the end of the line. Columns count as if
+    /// "Print " stood before it.
+    std::string Show(const std::string& expression) {
+        auto output = RunAs<Shown>("     (" + expression + ")");
+        if (output.ends_with('\n')) {
+            output.pop_back();
+        }
+        return output;
+    }
+
+private:
+    /// The two ways to run a text.
+    struct Whole {
+        static void Run(const standin::language::Source& source, SampleHost& sample,
+                        const standin::language::Machine::Output& print) {
+            standin::language::Program(source, *sample.types_).Run(sample.host_, print);
+        }
+    };
+    struct Shown {
+        static void Run(const standin::language::Source& source, SampleHost& sample,
+                        const standin::language::Machine::Output& print) {
+            standin::language::Session(sample.host_, *sample.types_, print).Run(source);
+        }
+    };
+
+    template <typename Way>
+    std::string RunAs(const std::string& text) {
         const standin::language::Source source("test", text);
         std::string output;
         try {
-            const standin::language::Program program(source, *types_);
-            program.Run(host_, [&output](std::string_view line) {
+            Way::Run(source, *this, [&output](std::string_view line) {
                 output += line;
                 output += '\n';
             });
@@ -62,16 +90,6 @@ public:
         return output;
     }
 
-    /// What one expression prints, without the end of the line.
-    std::string Show(const std::string& expression) {
-        auto output = Run("Print " + expression);
-        if (output.ends_with('\n')) {
-            output.pop_back();
-        }
-        return output;
-    }
-
-private:
     standin::Host host_;
     std::unique_ptr<standin::language::TypeTable> types_;
 };

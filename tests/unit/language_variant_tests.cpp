@@ -10,47 +10,50 @@ using language_tests::SampleHost;
 TEST_CASE("every value goes into a Variant and comes out") {
     SampleHost host;
     CHECK(host.Run("Dim v As Variant = 5\nDim i As Integer = v, d As Double = v, t As String = v\n"
-                   "Print i\nPrint d\nPrint t\nPrint v") == "5\n5\n5\n5\n");
-    CHECK(host.Run("Dim v As Variant = \"12\"\nDim i As Int64 = v\nPrint i + 1\nPrint v") ==
+                   "Print Str(i)\nPrint Str(d)\nPrint t\nPrint v") == "5\n5\n5\n5\n");
+    CHECK(host.Run("Dim v As Variant = \"12\"\nDim i As Int64 = v\nPrint Str(i + 1)\nPrint v") ==
           "13\n12\n");
     CHECK(host.Run("Dim u As UInt64 = 18446744073709551615\nDim v As Variant = u\nu = 0\nu = v\n"
-                   "Print u") == "18446744073709551615\n");
-    CHECK(host.Run("Dim u As UInt32 = 4294967295\nDim v As Variant = u\nu = 0\nu = v\nPrint u") ==
+                   "Print Str(u)") == "18446744073709551615\n");
+    CHECK(host.Run(
+              "Dim u As UInt32 = 4294967295\nDim v As Variant = u\nu = 0\nu = v\nPrint Str(u)") ==
           "4294967295\n");
-    CHECK(host.Run("Dim c As Currency = 1.25\nDim v As Variant = c\nc = 0\nc = v\nPrint c") ==
+    CHECK(host.Run("Dim c As Currency = 1.25\nDim v As Variant = c\nc = 0\nc = v\nPrint Str(c)") ==
           "1.25\n");
-    CHECK(host.Run("Dim s As Single = 0.5\nDim v As Variant = s\ns = v\nPrint s") == "0.5\n");
-    CHECK(host.Run("Dim v As Variant = True\nDim b As Boolean = v\nPrint b\nv = False\nb = v\n"
-                   "Print b\nv = \"true\"\nb = v\nPrint b") == "True\nFalse\nTrue\n");
-    CHECK(host.Run("Dim v As Variant\nDim i As Integer = v\nPrint i\nPrint v = Nil\nv = 0\n"
-                   "Print v = Nil") == "0\nTrue\nFalse\n");
+    CHECK(host.Run("Dim s As Single = 0.5\nDim v As Variant = s\ns = v\nPrint Str(s)") == "0.5\n");
+    CHECK(host.Run("Dim v As Variant = True\nDim b As Boolean = v\nPrint Str(b)\nv = False\nb = v\n"
+                   "Print Str(b)\nv = \"true\"\nb = v\nPrint Str(b)") == "True\nFalse\nTrue\n");
+    CHECK(
+        host.Run("Dim v As Variant\nDim i As Integer = v\nPrint Str(i)\nPrint Str(v = Nil)\nv = 0\n"
+                 "Print Str(v = Nil)") == "0\nTrue\nFalse\n");
 }
 
 TEST_CASE("objects are Variants of themselves") {
     SampleHost host;
-    CHECK(host.Run("Dim s As New Sample(3)\nDim v As Variant = s\nPrint v Is s\n"
-                   "Dim t As Sample = v\nPrint t.Value\nDim e As SampleException = v") ==
+    CHECK(host.Run("Dim s As New Sample(3)\nDim v As Variant = s\nPrint Str(v Is s)\n"
+                   "Dim t As Sample = v\nPrint Str(t.Value)\nDim e As SampleException = v") ==
           "True\n3\nUnhandled IllegalCastException: A Sample is not a SampleException. (line 6)\n");
     CHECK(host.Run("Dim v As Variant = 5\nDim s As Sample = v")
               .starts_with("Unhandled IllegalCastException: "));
-    CHECK(host.Run("Dim v As Variant\nDim s As Sample = v\nPrint s Is Nil") == "True\n");
+    CHECK(host.Run("Dim v As Variant\nDim s As Sample = v\nPrint Str(s Is Nil)") == "True\n");
 }
 
 TEST_CASE("VarType tells what a Variant holds") {
     SampleHost host;
     CHECK(
-        host.Run("Print VarType(Nil)\nPrint VarType(1)\nPrint VarType(3000000000)\n"
-                 "Print VarType(1.5)\nPrint VarType(\"x\")\nPrint VarType(True)\n"
-                 "Print VarType(New Sample)\nDim c As Currency, s As Single\nPrint VarType(c)\n"
-                 "Print VarType(s)\nPrint VarType(New Date(0))\nPrint VarType(New DateTime(0))") ==
-        "0\n2\n3\n5\n8\n11\n9\n6\n4\n7\n38\n");
+        host.Run("Print Str(VarType(Nil))\nPrint Str(VarType(1))\nPrint Str(VarType(3000000000))\n"
+                 "Print Str(VarType(1.5))\nPrint Str(VarType(\"x\"))\nPrint Str(VarType(True))\n"
+                 "Print Str(VarType(New Sample))\nDim c As Currency, s As Single\nPrint "
+                 "Str(VarType(c))\n"
+                 "Print Str(VarType(s))\nPrint Str(VarType(New Date(0)))\nPrint Str(VarType(New "
+                 "DateTime(0)))") == "0\n2\n3\n5\n8\n11\n9\n6\n4\n7\n38\n");
 }
 
 TEST_CASE("a plug-in takes, changes and returns Variants") {
     SampleHost host;
     CHECK(host.Run("Dim s As New Sample\nPrint s.Echo(12)\nPrint s.Echo(\"text\")\n"
-                   "Print s.Echo(Nil) = Nil\nPrint s.Echo(s) Is s\nDim v As Variant = 1\n"
-                   "s.Replace(v)\nDim t As Sample = v\nPrint t.Value") ==
+                   "Print Str(s.Echo(Nil) = Nil)\nPrint Str(s.Echo(s) Is s)\nDim v As Variant = 1\n"
+                   "s.Replace(v)\nDim t As Sample = v\nPrint Str(t.Value)") ==
           "12\ntext\nTrue\nTrue\n7\n");
 }
 
@@ -66,23 +69,26 @@ TEST_CASE("what cannot be done with Variants is told") {
 
 TEST_CASE("memory blocks") {
     SampleHost host;
+    CHECK(host.Run(
+              "Dim m As New MemoryBlock(8), s As New Sample\nPrint Str(m.Size)\nm.Byte(1) = 258\n"
+              "Print Str(m.Byte(1))\nPrint Str(m.UInt32Value(0))\nm.Int64Value(0) = -1\n"
+              "Print Str(m.UInt64Value(0))\nm.DoubleValue(0) = 0.5\nPrint Str(m.DoubleValue(0))\n"
+              "Print Str(LenB(m.StringValue(2, 3)))\nPrint Str(s.BlockSize(m))\nPrint "
+              "Str(s.BlockSize(Nil))") == "8\n2\n512\n18446744073709551615\n0.5\n3\n8\n-1\n");
+    CHECK(host.Run("Print Str((New MemoryBlock(0)).Size)") == "0\n");
+    CHECK(host.Run(
+              "Dim m As New MemoryBlock(4)\nm.UInt32Value(0) = &h04030201\nm.Size = 5\n"
+              "Print Str(m.Size)\nPrint Str(m.Byte(4))\nm.Size = 2\nPrint Str(m.UInt16Value(0))\n"
+              "m.Size = 4\nPrint Str(m.UInt32Value(0))") == "5\n0\n513\n513\n");
     CHECK(
-        host.Run("Dim m As New MemoryBlock(8), s As New Sample\nPrint m.Size\nm.Byte(1) = 258\n"
-                 "Print m.Byte(1)\nPrint m.UInt32Value(0)\nm.Int64Value(0) = -1\n"
-                 "Print m.UInt64Value(0)\nm.DoubleValue(0) = 0.5\nPrint m.DoubleValue(0)\n"
-                 "Print LenB(m.StringValue(2, 3))\nPrint s.BlockSize(m)\nPrint s.BlockSize(Nil)") ==
-        "8\n2\n512\n18446744073709551615\n0.5\n3\n8\n-1\n");
-    CHECK(host.Run("Print (New MemoryBlock(0)).Size") == "0\n");
-    CHECK(host.Run("Dim m As New MemoryBlock(4)\nm.UInt32Value(0) = &h04030201\nm.Size = 5\n"
-                   "Print m.Size\nPrint m.Byte(4)\nm.Size = 2\nPrint m.UInt16Value(0)\n"
-                   "m.Size = 4\nPrint m.UInt32Value(0)") == "5\n0\n513\n513\n");
-    CHECK(host.Run("Dim m As New MemoryBlock(8)\nm.Int8Value(0) = 255\nPrint m.Int8Value(0)\n"
-                   "m.Int16Value(0) = 65534\nPrint m.Int16Value(0)\nm.SingleValue(4) = 1.5\n"
-                   "Print m.SingleValue(4)\nm.CurrencyValue(0) = 1.25\nPrint m.Int32Value(0)") ==
-          "-1\n-2\n1.5\n12500\n");
+        host.Run(
+            "Dim m As New MemoryBlock(8)\nm.Int8Value(0) = 255\nPrint Str(m.Int8Value(0))\n"
+            "m.Int16Value(0) = 65534\nPrint Str(m.Int16Value(0))\nm.SingleValue(4) = 1.5\n"
+            "Print Str(m.SingleValue(4))\nm.CurrencyValue(0) = 1.25\nPrint Str(m.Int32Value(0))") ==
+        "-1\n-2\n1.5\n12500\n");
     CHECK(host.Run("Dim m As New MemoryBlock(4)\nm.UInt32Value(0) = &hFFFFFFFF\n"
                    "m.StringValue(1, 2) = \"abc\"\nPrint Hex(m.UInt32Value(0))\n"
-                   "m.StringValue(0, 4) = \"A\"\nPrint m.UInt32Value(0)") == "FF6261FF\n65\n");
+                   "m.StringValue(0, 4) = \"A\"\nPrint Str(m.UInt32Value(0))") == "FF6261FF\n65\n");
     const std::string beyond =
         "Unhandled OutOfBoundsException: The MemoryBlock ends before that. "
         "(line 2)\n";
@@ -90,43 +96,51 @@ TEST_CASE("memory blocks") {
           "Unhandled OutOfMemoryException: There is no memory for so large a MemoryBlock. "
           "(line 3)\n");
     const std::string make = "Dim m As New MemoryBlock(4)\n";
-    CHECK(host.Run(make + "Print m.Byte(4)") == beyond);
-    CHECK(host.Run(make + "Print m.Byte(-1)") == beyond);
-    CHECK(host.Run(make + "Print m.UInt32Value(1)") == beyond);
+    CHECK(host.Run(make + "Print Str(m.Byte(4))") == beyond);
+    CHECK(host.Run(make + "Print Str(m.Byte(-1))") == beyond);
+    CHECK(host.Run(make + "Print Str(m.UInt32Value(1))") == beyond);
     CHECK(host.Run(make + "m.Int64Value(0) = 1") == beyond);
     CHECK(host.Run(make + "Print m.StringValue(2, -1)") == beyond);
     CHECK(host.Run("\nDim m As New MemoryBlock(-1)") ==
           "Unhandled OutOfBoundsException: A MemoryBlock has no negative size. (line 2)\n");
-    CHECK(host.Run("\nDim m As MemoryBlock\nPrint m.Size") ==
+    CHECK(host.Run("\nDim m As MemoryBlock\nPrint Str(m.Size)") ==
           "Unhandled NilObjectException: An object that is Nil was used. (line 3)\n");
 }
 
 TEST_CASE("dates know their seconds") {
     SampleHost host;
-    CHECK(host.Run("Dim d As New Date(3600.5)\nPrint d.TotalSeconds\nDim t As New DateTime(60)\n"
-                   "Print t.SecondsFrom1970") == "3600.5\n60\n");
-    CHECK(host.Run("Dim d As New Date(1)\nd.TotalSeconds = 2.5\nPrint d.TotalSeconds") == "2.5\n");
-    CHECK(host.Run("Dim d As New Date\nPrint d.TotalSeconds > 3800000000") == "True\n");
+    CHECK(
+        host.Run("Dim d As New Date(3600.5)\nPrint Str(d.TotalSeconds)\nDim t As New DateTime(60)\n"
+                 "Print Str(t.SecondsFrom1970)") == "3600.5\n60\n");
+    CHECK(host.Run("Dim d As New Date(1)\nd.TotalSeconds = 2.5\nPrint Str(d.TotalSeconds)") ==
+          "2.5\n");
+    CHECK(host.Run("Dim d As New Date\nPrint Str(d.TotalSeconds > 3800000000)") == "True\n");
     CHECK(host.Run("Dim t As New DateTime(0)\nt.SecondsFrom1970 = 1") ==
           "2:3: \"SecondsFrom1970 As Double\" is read-only");
 }
 
 TEST_CASE("a Variant has its value in every type") {
     SampleHost host;
-    CHECK(host.Run("Dim v As Variant = \"12.5\"\nPrint v.IntegerValue\nPrint v.Int32Value\n"
-                   "Print v.Int64Value\nPrint v.UInt32Value\nPrint v.UInt64Value\n"
-                   "Print v.SingleValue\nPrint v.DoubleValue\nPrint v.CurrencyValue\n"
-                   "Print v.StringValue\nPrint v.BooleanValue\nPrint v.Type\nPrint v.IsNull") ==
-          "12\n12\n12\n12\n12\n12.5\n12.5\n12.5\n12.5\nTrue\n8\nFalse\n");
-    CHECK(host.Run("Dim v As Variant\nPrint v.IntegerValue\nPrint v.StringValue\nPrint v.Type\n"
-                   "Print v.IsNull\nPrint v.ObjectValue Is Nil") == "0\n\n0\nTrue\nTrue\n");
-    CHECK(host.Run("Dim s As New Sample, v As Variant = s\nPrint v.ObjectValue Is s\n"
-                   "v = New Date(7)\nPrint v.DateValue.TotalSeconds\nv = New DateTime(8)\n"
-                   "Print v.DateTimeValue.SecondsFrom1970\nPrint v.Type") == "True\n7\n8\n38\n");
+    CHECK(host.Run(
+              "Dim v As Variant = \"12.5\"\nPrint Str(v.IntegerValue)\nPrint Str(v.Int32Value)\n"
+              "Print Str(v.Int64Value)\nPrint Str(v.UInt32Value)\nPrint Str(v.UInt64Value)\n"
+              "Print Str(v.SingleValue)\nPrint Str(v.DoubleValue)\nPrint Str(v.CurrencyValue)\n"
+              "Print v.StringValue\nPrint Str(v.BooleanValue)\nPrint Str(v.Type)\nPrint "
+              "Str(v.IsNull)") == "12\n12\n12\n12\n12\n12.5\n12.5\n12.5\n12.5\nTrue\n8\nFalse\n");
+    CHECK(
+        host.Run(
+            "Dim v As Variant\nPrint Str(v.IntegerValue)\nPrint v.StringValue\nPrint Str(v.Type)\n"
+            "Print Str(v.IsNull)\nPrint Str(v.ObjectValue Is Nil)") == "0\n\n0\nTrue\nTrue\n");
+    CHECK(host.Run("Dim s As New Sample, v As Variant = s\nPrint Str(v.ObjectValue Is s)\n"
+                   "v = New Date(7)\nPrint Str(v.DateValue.TotalSeconds)\nv = New DateTime(8)\n"
+                   "Print Str(v.DateTimeValue.SecondsFrom1970)\nPrint Str(v.Type)") ==
+          "True\n7\n8\n38\n");
     CHECK(host.Run("Dim v As Variant = 5\nDim o As Object = v.ObjectValue") ==
           "Unhandled IllegalCastException: A Variant is not a Object. (line 2)\n");
-    CHECK(host.Run("Dim v As Variant = 5\nPrint v IsA Object\nv = New Sample\nPrint v IsA Object\n"
-                   "Print v IsA Sample\nPrint v IsA Date\nv = Nil\nPrint v IsA Object") ==
+    CHECK(host.Run(
+              "Dim v As Variant = 5\nPrint Str(v IsA Object)\nv = New Sample\nPrint Str(v IsA "
+              "Object)\n"
+              "Print Str(v IsA Sample)\nPrint Str(v IsA Date)\nv = Nil\nPrint Str(v IsA Object)") ==
           "False\nTrue\nTrue\nFalse\nFalse\n");
     CHECK(host.Run("Dim v As Variant\nv.IntegerValue = 5") ==
           "2:3: \"IntegerValue As Integer\" is read-only");
@@ -134,41 +148,44 @@ TEST_CASE("a Variant has its value in every type") {
 
 TEST_CASE("a Variant can be given any type code") {
     SampleHost host;
-    CHECK(host.Run("Dim v As Variant = VariantOfType(16, 255)\nPrint VarType(v)\nPrint v") ==
+    CHECK(host.Run("Dim v As Variant = VariantOfType(16, 255)\nPrint Str(VarType(v))\nPrint v") ==
           "16\n255\n");
-    CHECK(host.Run("Dim v As Variant = VariantOfType(37, \"text\")\nPrint v.Type\nPrint v") ==
+    CHECK(host.Run("Dim v As Variant = VariantOfType(37, \"text\")\nPrint Str(v.Type)\nPrint v") ==
           "37\ntext\n");
-    CHECK(
-        host.Run("Print VarType(VariantOfType(4098, Nil))\nPrint VarType(VariantOfType(-1, 1))") ==
-        "4098\n-1\n");
+    CHECK(host.Run("Print Str(VarType(VariantOfType(4098, Nil)))\nPrint "
+                   "Str(VarType(VariantOfType(-1, 1)))") == "4098\n-1\n");
 }
 
 TEST_CASE("a class that the host lacks takes only its own members away") {
     SampleHost host({.missing = {"Date"}});
-    CHECK(host.Run("Dim v As Variant = 5\nPrint v.IntegerValue\nPrint v.DateValue Is Nil") ==
-          "3:9: cannot use \"DateValue As Date\": there is no type \"Date\"");
+    CHECK(host.Run(
+              "Dim v As Variant = 5\nPrint Str(v.IntegerValue)\nPrint Str(v.DateValue Is Nil)") ==
+          "3:13: cannot use \"DateValue As Date\": there is no type \"Date\"");
 }
 
 TEST_CASE("Variants are compared by what they hold") {
     SampleHost host;
-    CHECK(
-        host.Run("Dim v As Variant = 5, w As Variant = 5.0\nPrint v = 5\nPrint v = w\nPrint v < 6\n"
-                 "Print 6 <= v\nPrint v <> \"5\"\nPrint v = \"6\"") ==
-        "True\nTrue\nTrue\nFalse\nFalse\nFalse\n");
-    CHECK(
-        host.Run("Dim v As Variant = \"abc\"\nPrint v = \"ABC\"\nPrint v < \"abd\"\nPrint v = 0") ==
-        "True\nTrue\nTrue\n");
+    CHECK(host.Run("Dim v As Variant = 5, w As Variant = 5.0\nPrint Str(v = 5)\nPrint Str(v = "
+                   "w)\nPrint Str(v < 6)\n"
+                   "Print Str(6 <= v)\nPrint Str(v <> \"5\")\nPrint Str(v = \"6\")") ==
+          "True\nTrue\nTrue\nFalse\nFalse\nFalse\n");
+    CHECK(host.Run("Dim v As Variant = \"abc\"\nPrint Str(v = \"ABC\")\nPrint Str(v < "
+                   "\"abd\")\nPrint Str(v = 0)") == "True\nTrue\nTrue\n");
     CHECK(host.Run("Dim v As Variant = 9007199254740993, u As UInt64 = 18446744073709551615\n"
-                   "Print v = 9007199254740992\nPrint v < u\nv = -1\nPrint v < u\nPrint v = u") ==
-          "False\nTrue\nTrue\nFalse\n");
-    CHECK(host.Run("Dim c As Currency = 1.5, v As Variant = c\nPrint v = c\nPrint v = 1.5\n"
-                   "Print v > 1\nPrint v = 15000") == "True\nTrue\nTrue\nFalse\n");
-    CHECK(host.Run("Dim v As Variant, w As Variant = 0\nPrint v = w\nPrint v <> w\nPrint v < w\n"
-                   "w = Nil\nPrint v = w") == "False\nTrue\nFalse\nTrue\n");
-    CHECK(host.Run("Dim s As New MemoryBlock(1), v As Variant = s, w As Variant = s\nPrint v = w\n"
-                   "Print v = s\nw = New MemoryBlock(1)\nPrint v = w\nPrint v = 5") ==
+                   "Print Str(v = 9007199254740992)\nPrint Str(v < u)\nv = -1\nPrint Str(v < "
+                   "u)\nPrint Str(v = u)") == "False\nTrue\nTrue\nFalse\n");
+    CHECK(
+        host.Run("Dim c As Currency = 1.5, v As Variant = c\nPrint Str(v = c)\nPrint Str(v = 1.5)\n"
+                 "Print Str(v > 1)\nPrint Str(v = 15000)") == "True\nTrue\nTrue\nFalse\n");
+    CHECK(host.Run("Dim v As Variant, w As Variant = 0\nPrint Str(v = w)\nPrint Str(v <> w)\nPrint "
+                   "Str(v < w)\n"
+                   "w = Nil\nPrint Str(v = w)") == "False\nTrue\nFalse\nTrue\n");
+    CHECK(host.Run(
+              "Dim s As New MemoryBlock(1), v As Variant = s, w As Variant = s\nPrint Str(v = w)\n"
+              "Print Str(v = s)\nw = New MemoryBlock(1)\nPrint Str(v = w)\nPrint Str(v = 5)") ==
           "True\nTrue\nFalse\nFalse\n");
-    CHECK(host.Run("Dim a() As Variant = Array(1, \"x\", Nil)\nPrint a.IndexOf(\"X\")\n"
-                   "Print a.IndexOf(Nil)\nPrint a.IndexOf(1.0)\nPrint a.IndexOf(True)") ==
+    CHECK(host.Run(
+              "Dim a() As Variant = Array(1, \"x\", Nil)\nPrint Str(a.IndexOf(\"X\"))\n"
+              "Print Str(a.IndexOf(Nil))\nPrint Str(a.IndexOf(1.0))\nPrint Str(a.IndexOf(True))") ==
           "1\n2\n0\n0\n");
 }

@@ -6,7 +6,7 @@ Next
 squares(0) += 100
 squares.RemoveAt(1)
 For Each n As Integer In squares
-  Print n
+  Print Str(n)
 Next
 Print "last index " + Str(Ubound(squares)) + ", first 16 at " + Str(squares.IndexOf(16))
 
@@ -46,7 +46,7 @@ Try
 Catch e As OutOfBoundsException
   Print e.Message
 End Try
-Print numbers.Count
+Print Str(numbers.Count)
 
 Function Total(list() As BigNumberVQZ) As BigNumberVQZ
   Dim sum As New BigNumberVQZ

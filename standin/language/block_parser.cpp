@@ -1,0 +1,240 @@
+// The statements that hold others, and the routines.
+#include <utility>
+
+#include "standin/language/names.hpp"
+#include "standin/language/statement_parser.hpp"
+
+namespace standin::language {
+
+using syntax::BinaryOperator;
+using syntax::LoopKind;
+
+syntax::Statement::Node StatementParser::ParseIf() {
+    const Position at = cursor_.Take().at;
+    syntax::If result;
+    auto condition = expressions_.ParseExpression();
+    cursor_.Expect(TokenKind::Then);
+    if (!cursor_.IsAt(TokenKind::EndOfLine)) {
+        return ParseSingleLineIf(std::move(condition));
+    }
+    const auto ends = {TokenKind::ElseIf, TokenKind::Else, TokenKind::End};
+    result.branches.push_back({std::move(condition), ParseBlock(ends, TokenKind::If, at)});
+    while (cursor_.TryTake(TokenKind::ElseIf)) {
+        condition = expressions_.ParseExpression();
+        cursor_.Expect(TokenKind::Then);
+        result.branches.push_back({std::move(condition), ParseBlock(ends, TokenKind::If, at)});
+    }
+    if (cursor_.TryTake(TokenKind::Else)) {
+        result.otherwise = ParseBlock({TokenKind::End}, TokenKind::If, at);
+    }
+    ExpectEnd(TokenKind::If);
+    return result;
+}
+
+syntax::Statement::Node StatementParser::ParseSingleLineIf(syntax::ExpressionPtr condition) {
+    const NestingGuard guard(depth_, cursor_.At());
+    syntax::If result;
+    result.branches.push_back({std::move(condition), {}});
+    result.branches.front().body.push_back(ParseUnended());
+    if (cursor_.TryTake(TokenKind::Else)) {
+        result.otherwise.push_back(ParseUnended());
+    }
+    return result;
+}
+
+void StatementParser::ExpectEnd(TokenKind what) {
+    cursor_.Expect(TokenKind::End);
+    cursor_.Expect(what);
+}
+
+syntax::Statement::Node StatementParser::ParseSelect() {
+    const Position at = cursor_.Take().at;
+    cursor_.Expect(TokenKind::Case);
+    syntax::Select select;
+    select.subject = expressions_.ParseExpression();
+    cursor_.ExpectEndOfLine();
+    SkipToCode();
+    const auto ends = {TokenKind::Case, TokenKind::Else, TokenKind::End};
+    while (cursor_.IsAt(TokenKind::Case) && cursor_.Following().kind != TokenKind::Else) {
+        cursor_.Take();
+        auto tests = ParseCaseTests();
+        select.branches.push_back({std::move(tests), ParseBlock(ends, TokenKind::Select, at)});
+    }
+    cursor_.TryTake(TokenKind::Case);
+    if (cursor_.TryTake(TokenKind::Else)) {
+        select.otherwise = ParseBlock({TokenKind::End}, TokenKind::Select, at);
+    }
+    ExpectEnd(TokenKind::Select);
+    return select;
+}
+
+std::vector<syntax::Select::Test> StatementParser::ParseCaseTests() {
+    std::vector<syntax::Select::Test> tests;
+    do {
+        syntax::Select::Test test{BinaryOperator::Equal, nullptr, nullptr};
+        if (cursor_.TryTake(TokenKind::Is)) {
+            test.comparison = ParseComparison();
+        }
+        test.value = expressions_.ParseExpression();
+        if (cursor_.TryTake(TokenKind::To)) {
+            test.last = expressions_.ParseExpression();
+        }
+        tests.push_back(std::move(test));
+    } while (cursor_.TryTake(TokenKind::Comma));
+    return tests;
+}
+
+BinaryOperator StatementParser::ParseComparison() {
+    switch (cursor_.Take().kind) {
+        case TokenKind::Equal:
+            return BinaryOperator::Equal;
+        case TokenKind::NotEqual:
+            return BinaryOperator::NotEqual;
+        case TokenKind::Less:
+            return BinaryOperator::Less;
+        case TokenKind::LessEqual:
+            return BinaryOperator::LessEqual;
+        case TokenKind::Greater:
+            return BinaryOperator::Greater;
+        case TokenKind::GreaterEqual:
+            return BinaryOperator::GreaterEqual;
+        default:
+            cursor_.Fail("a comparison after \"Is\"");
+    }
+}
+
+syntax::Statement::Node StatementParser::ParseFor() {
+    const Position at = cursor_.Take().at;
+    if (cursor_.TryTake(TokenKind::Each)) {
+        return ParseForEach(at);
+    }
+    const auto variable = cursor_.ExpectName();
+    syntax::For loop{variable.text, variable.at, {}, {}, {}, {}, false, {}};
+    if (cursor_.TryTake(TokenKind::As)) {
+        loop.type = expressions_.ParseTypeName();
+    }
+    cursor_.Expect(TokenKind::Equal);
+    loop.first = expressions_.ParseExpression();
+    if (!cursor_.IsAtAny({TokenKind::To, TokenKind::DownTo})) {
+        cursor_.Fail(R"("To" or "DownTo")");
+    }
+    loop.isDownward = cursor_.Take().kind == TokenKind::DownTo;
+    loop.last = expressions_.ParseExpression();
+    if (cursor_.TryTake(TokenKind::Step)) {
+        loop.step = expressions_.ParseExpression();
+    }
+    loop.body = ParseForBody(loop.variable, at);
+    return loop;
+}
+
+syntax::Statement::Node StatementParser::ParseForEach(Position at) {
+    const auto variable = cursor_.ExpectName();
+    syntax::ForEach loop{variable.text, variable.at, {}, {}, {}};
+    if (cursor_.TryTake(TokenKind::As)) {
+        loop.type = expressions_.ParseTypeName();
+    }
+    cursor_.Expect(TokenKind::In);
+    loop.array = expressions_.ParseExpression();
+    loop.body = ParseForBody(loop.variable, at);
+    return loop;
+}
+
+syntax::Block StatementParser::ParseForBody(const std::string& variable, Position at) {
+    auto body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
+    cursor_.Take();
+    if (cursor_.IsAt(TokenKind::Name)) {
+        const auto name = cursor_.Take();
+        if (!SameName(name.text, variable)) {
+            throw ProgramError(name.at, "\"Next\" names " + Quoted(name.text) +
+                                            ", but the loop counts " + Quoted(variable));
+        }
+    }
+    return body;
+}
+
+syntax::Statement::Node StatementParser::ParseWhile() {
+    const Position at = cursor_.Take().at;
+    auto condition = expressions_.ParseExpression();
+    auto body = ParseBlock({TokenKind::Wend}, TokenKind::While, at);
+    cursor_.Take();
+    return syntax::While{std::move(condition), std::move(body)};
+}
+
+syntax::Statement::Node StatementParser::ParseDo() {
+    const Position at = cursor_.Take().at;
+    syntax::Do loop;
+    loop.before = ParseLoopTest();
+    loop.body = ParseBlock({TokenKind::Loop}, TokenKind::Do, at);
+    cursor_.Take();
+    loop.after = ParseLoopTest();
+    return loop;
+}
+
+syntax::Do::Test StatementParser::ParseLoopTest() {
+    const bool isWhile = cursor_.IsAt(TokenKind::While);
+    if (!cursor_.IsAtAny({TokenKind::While, TokenKind::Until})) {
+        return {};
+    }
+    cursor_.Take();
+    return {expressions_.ParseExpression(), isWhile};
+}
+
+LoopKind StatementParser::ParseLoopKind() {
+    if (cursor_.TryTake(TokenKind::For)) {
+        return LoopKind::For;
+    }
+    if (cursor_.TryTake(TokenKind::While)) {
+        return LoopKind::While;
+    }
+    return cursor_.TryTake(TokenKind::Do) ? LoopKind::Do : LoopKind::Any;
+}
+
+syntax::Statement::Node StatementParser::ParseTry() {
+    const Position at = cursor_.Take().at;
+    const auto ends = {TokenKind::Catch, TokenKind::Finally, TokenKind::End};
+    syntax::Try result;
+    result.body = ParseBlock(ends, TokenKind::Try, at);
+    while (cursor_.IsAt(TokenKind::Catch)) {
+        syntax::Try::Catch handler{{}, cursor_.Take().at, {}, {}};
+        if (cursor_.IsAt(TokenKind::Name)) {
+            handler.at = cursor_.At();
+            handler.name = cursor_.Take().text;
+            if (cursor_.TryTake(TokenKind::As)) {
+                handler.type = expressions_.ParseTypeName();
+            }
+        }
+        handler.body = ParseBlock(ends, TokenKind::Try, at);
+        result.catches.push_back(std::move(handler));
+    }
+    const bool hasFinally = cursor_.TryTake(TokenKind::Finally);
+    if (hasFinally) {
+        result.finally = ParseBlock({TokenKind::End}, TokenKind::Try, at);
+    }
+    if (result.catches.empty() && !hasFinally) {
+        cursor_.Fail(R"("Catch" or "Finally")");
+    }
+    ExpectEnd(TokenKind::Try);
+    return result;
+}
+
+syntax::Routine StatementParser::ParseRoutine() {
+    const auto head = cursor_.Take();
+    if (!cursor_.IsAt(TokenKind::Name)) {
+        cursor_.Fail("a name");
+    }
+    const auto outside = constants_;
+    syntax::Routine routine{expressions_.ParseSignature(), {}};
+    const bool isFunction = head.kind == TokenKind::Function;
+    if (isFunction != routine.signature.result.has_value()) {
+        throw ProgramError(cursor_.At(), isFunction ? "a Function needs \"As\" and its type"
+                                                    : "a Sub returns nothing");
+    }
+    cursor_.ExpectEndOfLine();
+    routine.body = ParseBlock({TokenKind::End}, head.kind, head.at);
+    ExpectEnd(head.kind);
+    cursor_.ExpectEndOfLine();
+    constants_ = outside;
+    return routine;
+}
+
+}  // namespace standin::language

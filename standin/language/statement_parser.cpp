@@ -1,0 +1,347 @@
+#include "standin/language/statement_parser.hpp"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "standin/language/names.hpp"
+
+namespace standin::language {
+namespace {
+
+using syntax::BinaryOperator;
+
+/// Words of the host's language that begin what there is not here, and how messages call that.
+struct Unsupported {
+    std::string_view word;
+    std::string_view name;
+};
+
+constexpr auto UnsupportedWords = std::to_array<Unsupported>({
+    {"AddHandler", "Event handlers are"},
+    {"RemoveHandler", "Event handlers are"},
+    {"RaiseEvent", "Events are"},
+    {"Event", "Events are"},
+    {"Declare", "Declares are"},
+    {"Soft", "Declares are"},
+    {"Delegate", "Delegates are"},
+    {"GoTo", "\"GoTo\" is"},
+    {"Implements", "Interfaces are"},
+    {"Interface", "Interfaces are"},
+    {"Namespace", "Namespaces are"},
+    {"Property", "Computed properties are"},
+    {"Shared", "Shared members are"},
+    {"Structure", "Structures are"},
+    {"Using", "\"Using\" is"},
+});
+
+/// Words that begin the last line of a block.
+constexpr auto Closers = {TokenKind::End, TokenKind::Next, TokenKind::Wend, TokenKind::Loop};
+/// Words that begin another part of a block.
+constexpr auto Dividers = {TokenKind::ElseIf, TokenKind::Else, TokenKind::Case, TokenKind::Catch,
+                           TokenKind::Finally};
+/// Words that begin a block.
+constexpr auto Openers = {TokenKind::If,       TokenKind::Select, TokenKind::For,
+                          TokenKind::While,    TokenKind::Do,     TokenKind::Try,
+                          TokenKind::Function, TokenKind::Sub,    TokenKind::Class,
+                          TokenKind::Module,   TokenKind::Enum};
+
+const Unsupported* FindUnsupported(const Token& token) {
+    const auto* found = std::ranges::find_if(UnsupportedWords, [&token](const Unsupported& row) {
+        return token.kind == TokenKind::Name && SameName(row.word, token.text);
+    });
+    return found == UnsupportedWords.end() ? nullptr : found;
+}
+
+bool IsOneOf(TokenKind kind, std::initializer_list<TokenKind> kinds) {
+    return std::ranges::find(kinds, kind) != kinds.end();
+}
+
+std::optional<BinaryOperator> CompoundOperator(TokenKind kind) {
+    switch (kind) {
+        case TokenKind::PlusEqual:
+            return BinaryOperator::Add;
+        case TokenKind::MinusEqual:
+            return BinaryOperator::Subtract;
+        case TokenKind::StarEqual:
+            return BinaryOperator::Multiply;
+        case TokenKind::SlashEqual:
+            return BinaryOperator::Divide;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+void StatementParser::ParseInto(syntax::Block& block) {
+    const auto start = cursor_.Mark();
+    const bool isRight = errors_.Try([&] {
+        auto statement = ParseUnended();
+        cursor_.ExpectEndOfLine();
+        block.push_back(std::move(statement));
+    });
+    if (!isRight) {
+        Recover(start);
+    }
+}
+
+void StatementParser::Recover(std::size_t start) {
+    // What the line declares is not known now.
+    for (auto mark = start; mark <= cursor_.EndOfLine(start); ++mark) {
+        if (cursor_.TokenAt(mark).kind == TokenKind::Name) {
+            errors_.Doubt(cursor_.TokenAt(mark).text);
+        }
+    }
+    const auto line =
+        cursor_.StartOfLine(cursor_.IsAt(TokenKind::EndOfText) ? start : cursor_.Mark());
+    const auto word = cursor_.TokenAt(line).kind;
+    const bool isInside = OpensBlock(start) && (line <= start || IsOneOf(word, Dividers));
+    cursor_.SkipLine();
+    if (isInside) {
+        SkipBlock();
+    } else if (FindUnsupported(cursor_.TokenAt(start)) != nullptr) {
+        SkipUnsupported(start);
+    }
+}
+
+bool StatementParser::OpensBlock(std::size_t start) const {
+    const auto kind = cursor_.TokenAt(start).kind;
+    if (kind == TokenKind::If) {
+        return cursor_.TokenAt(cursor_.EndOfLine(start)).kind == TokenKind::Then;
+    }
+    return IsOneOf(kind, Openers);
+}
+
+void StatementParser::SkipBlock() {
+    for (std::size_t depth = 0; !cursor_.IsAt(TokenKind::EndOfText); cursor_.SkipLine()) {
+        if (IsOneOf(cursor_.Kind(), Closers)) {
+            if (depth == 0) {
+                cursor_.SkipLine();
+                return;
+            }
+            --depth;
+        } else if (OpensBlock(cursor_.Mark())) {
+            ++depth;
+        }
+    }
+}
+
+void StatementParser::SkipUnsupported(std::size_t start) {
+    const auto& word = cursor_.TokenAt(start).text;
+    const auto behind = cursor_.Mark();
+    for (; !cursor_.IsAt(TokenKind::EndOfText); cursor_.SkipLine()) {
+        if (cursor_.IsAt(TokenKind::End) && SameName(cursor_.Following().text, word)) {
+            cursor_.SkipLine();
+            return;
+        }
+    }
+    cursor_.Rewind(behind);
+}
+
+void StatementParser::RefuseUnsupported() const {
+    const auto* found = FindUnsupported(cursor_.Current());
+    if (found != nullptr && IsWord(cursor_.Following())) {
+        throw ProgramError(cursor_.At(), std::string(found->name) + " not supported here");
+    }
+}
+
+syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends, TokenKind opener,
+                                          Position openerAt) {
+    const NestingGuard guard(depth_, cursor_.At());
+    syntax::Block block;
+    for (SkipToCode(); !cursor_.IsAtAny(ends); SkipToCode()) {
+        if (cursor_.IsAt(TokenKind::EndOfText)) {
+            throw UnclosedError(openerAt, "this " + Describe(opener) + " is never closed");
+        }
+        ParseInto(block);
+    }
+    return block;
+}
+
+syntax::Statement::Node StatementParser::ParseNode() {
+    switch (cursor_.Kind()) {
+        case TokenKind::Dim:
+        case TokenKind::Var:
+        case TokenKind::Static:
+            return ParseDim();
+        case TokenKind::Const:
+            return ParseConst();
+        case TokenKind::If:
+            return ParseIf();
+        case TokenKind::Select:
+            return ParseSelect();
+        case TokenKind::For:
+            return ParseFor();
+        case TokenKind::While:
+            return ParseWhile();
+        case TokenKind::Do:
+            return ParseDo();
+        case TokenKind::Exit:
+            cursor_.Take();
+            return syntax::Exit{ParseLoopKind()};
+        case TokenKind::Continue:
+            cursor_.Take();
+            return syntax::Continue{ParseLoopKind()};
+        case TokenKind::Try:
+            return ParseTry();
+        case TokenKind::Raise:
+            cursor_.Take();
+            return syntax::Raise{expressions_.ParseExpression()};
+        case TokenKind::Return:
+            cursor_.Take();
+            return syntax::Return{ParseOptionalExpression()};
+        case TokenKind::Print:
+            cursor_.Take();
+            return syntax::Print{ParseOptionalExpression()};
+        case TokenKind::Redim:
+            return ParseRedim();
+        case TokenKind::Call:
+            cursor_.Take();
+            return syntax::CallStatement{expressions_.ParsePostfix(), true};
+        case TokenKind::Function:
+        case TokenKind::Sub:
+        case TokenKind::Module:
+        case TokenKind::Class:
+        case TokenKind::Enum:
+            throw ProgramError(cursor_.At(), "a " + Describe(cursor_.Kind()) +
+                                                 " cannot stand inside another block");
+        default:
+            return ParseAssignmentOrCall();
+    }
+}
+
+syntax::StatementPtr StatementParser::ParseUnended() {
+    const Position at = cursor_.At();
+    auto node = ParseNode();
+    return std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)});
+}
+
+syntax::ExpressionPtr StatementParser::ParseOptionalExpression() {
+    return expressions_.AtExpression() ? expressions_.ParseExpression() : nullptr;
+}
+
+syntax::Statement::Node StatementParser::ParseAssignmentOrCall() {
+    RefuseUnsupported();
+    if (!cursor_.IsAtAny({TokenKind::Name, TokenKind::OpenParenthesis, TokenKind::CType})) {
+        cursor_.Fail("a statement");
+    }
+    const auto start = cursor_.Mark();
+    auto target = expressions_.ParsePostfix();
+    if (cursor_.TryTake(TokenKind::Equal)) {
+        return syntax::Assignment{std::move(target), expressions_.ParseExpression()};
+    }
+    if (const auto operation = CompoundOperator(cursor_.Kind())) {
+        return ParseCompound(*operation, start, std::move(target));
+    }
+    // The arguments of a call that stands alone need no parentheses.
+    const bool hasArguments = std::holds_alternative<syntax::Call>(target->node);
+    if (!hasArguments && expressions_.AtExpression()) {
+        const Position at = target->at;
+        const auto height = target->height;
+        syntax::Call call{std::move(target), expressions_.ParseExpressions()};
+        target = std::make_unique<syntax::Expression>(
+            syntax::Expression{at, height + 1, std::move(call)});
+    }
+    return syntax::CallStatement{std::move(target)};
+}
+
+syntax::Statement::Node StatementParser::ParseCompound(BinaryOperator operation, std::size_t start,
+                                                       syntax::ExpressionPtr target) {
+    const Position at = cursor_.At();
+    cursor_.Rewind(start);
+    auto left = expressions_.ParsePostfix();
+    cursor_.Take();
+    auto right = expressions_.ParseExpression();
+    const auto height = std::max(left->height, right->height);
+    syntax::Binary binary{operation, std::move(left), std::move(right)};
+    return syntax::Assignment{std::move(target),
+                              std::make_unique<syntax::Expression>(
+                                  syntax::Expression{at, height + 1, std::move(binary)})};
+}
+
+syntax::Statement::Node StatementParser::ParseRedim() {
+    const Position at = cursor_.Take().at;
+    auto sized = expressions_.ParsePostfix();
+    auto* const call = std::get_if<syntax::Call>(&sized->node);
+    if (call == nullptr) {
+        throw ProgramError(at, "\"Redim\" takes an array with its last index in parentheses");
+    }
+    syntax::Member resize{std::move(call->callee), "ResizeTo"};
+    call->callee = std::make_unique<syntax::Expression>(
+        syntax::Expression{at, sized->height, std::move(resize)});
+    ++sized->height;
+    return syntax::CallStatement{std::move(sized)};
+}
+
+syntax::Statement::Node StatementParser::ParseDim() {
+    syntax::Dim dim;
+    dim.isStatic = cursor_.Take().kind == TokenKind::Static;
+    do {
+        ParseDeclarators(dim.declarators);
+    } while (cursor_.TryTake(TokenKind::Comma));
+    return dim;
+}
+
+void StatementParser::ParseDeclarators(std::vector<syntax::Declarator>& declarators) {
+    std::vector<syntax::Declarator> started;
+    do {
+        started.push_back(ParseDeclaredName());
+    } while (cursor_.TryTake(TokenKind::Comma));
+    cursor_.Expect(TokenKind::As);
+    const auto typeStart = cursor_.Mark();
+    for (auto& declarator : started) {
+        cursor_.Rewind(typeStart);
+        ParseDeclaredType(declarator);
+        declarators.push_back(std::move(declarator));
+    }
+}
+
+syntax::Declarator StatementParser::ParseDeclaredName() {
+    const auto name = cursor_.ExpectName();
+    syntax::Declarator declarator{name.text, name.at, {}, nullptr};
+    if (cursor_.TryTake(TokenKind::OpenParenthesis)) {
+        declarator.type.dimensions = 1;
+        if (expressions_.AtExpression()) {
+            declarator.lastIndices = expressions_.ParseExpressions();
+            declarator.type.dimensions = declarator.lastIndices.size();
+        }
+        while (declarator.lastIndices.empty() && cursor_.TryTake(TokenKind::Comma)) {
+            ++declarator.type.dimensions;
+        }
+        cursor_.Expect(TokenKind::CloseParenthesis);
+    }
+    return declarator;
+}
+
+void StatementParser::ParseDeclaredType(syntax::Declarator& declarator) {
+    const auto dimensions = declarator.type.dimensions;
+    if (cursor_.IsAt(TokenKind::New) && dimensions == 0) {
+        declarator.initialiser = expressions_.ParseNew();
+        declarator.type = std::get<syntax::New>(declarator.initialiser->node).type;
+        return;
+    }
+    declarator.type = expressions_.ParseTypeName();
+    declarator.type.dimensions = dimensions;
+    if (declarator.lastIndices.empty() && cursor_.TryTake(TokenKind::Equal)) {
+        declarator.initialiser = expressions_.ParseExpression();
+    }
+}
+
+syntax::Const StatementParser::ParseConst() {
+    cursor_.Take();
+    syntax::Const constant;
+    constant.name = cursor_.ExpectName().text;
+    if (cursor_.TryTake(TokenKind::As)) {
+        constant.type = expressions_.ParseTypeName();
+    }
+    cursor_.Expect(TokenKind::Equal);
+    constant.value = expressions_.ParseExpression();
+    try {
+        constants_.Set(constant.name, Evaluate(*constant.value, constants_));
+    } catch (const ProgramError&) {  // NOLINT(bugprone-empty-catch): only #If must know it
+    }
+    return constant;
+}
+
+}  // namespace standin::language

@@ -1,0 +1,64 @@
+// The grammar around statements: programs, modules and classes, in a script or in a project's file.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "standin/language/statement_parser.hpp"
+
+namespace standin::language {
+
+/// Parses one text into a program. Errors go to the list.
+class UnitParser {
+public:
+    /// `constants` gets those that modules declare. `start` is the position of the text's first
+    /// byte.
+    UnitParser(std::string_view text, Position start, Constants& constants, ErrorList& errors)
+        : cursor_(text, start),
+          constants_(constants),
+          errors_(errors),
+          statements_(cursor_, constants, errors) {}
+
+    /// Statements, routines, modules and classes in any order.
+    void ParseScript(syntax::Program& program);
+    /// The one module or class of a project's file.
+    void ParseProjectFile(syntax::Program& program);
+    /// Makes the constants of the text's modules known, which other texts may need before it is
+    /// parsed. Mistakes are left for the parsing.
+    void CollectConstants();
+
+private:
+    /// What can stand before a member.
+    struct Modifiers {
+        syntax::Visibility visibility = syntax::Visibility::Global;
+    };
+
+    void ParseTopLevel(syntax::Program& program);
+    void ParseUnit(syntax::Program& program);
+    void ParseBase(syntax::Unit& unit);
+    void ParseMember(syntax::Unit& unit, syntax::Program& program);
+    /// `#tag ...` with what it says of the member that follows.
+    void ParseTag(syntax::Unit& unit, syntax::Program& program);
+    void ParseTaggedConstant(syntax::Unit& unit);
+    void ParseEnumeration(syntax::Program& program);
+    void ParseEnumerationItems(syntax::Enumeration& enumeration, TokenKind end);
+    void AddConstant(syntax::Unit& unit, syntax::Constant constant);
+    Modifiers TakeModifiers(Modifiers modifiers);
+    /// Runs an action that parses something; after an error in it goes behind that.
+    template <typename Action>
+    void TryParse(Action action) {
+        const auto start = cursor_.Mark();
+        if (!errors_.Try(action)) {
+            statements_.Recover(start);
+        }
+    }
+
+    TokenCursor cursor_;
+    Constants& constants_;
+    ErrorList& errors_;
+    StatementParser statements_;
+    /// What the tag before a member says of it.
+    Modifiers tagged_;
+};
+
+}  // namespace standin::language

@@ -1,0 +1,247 @@
+// Modules, classes, constants and projects, and how all errors of a program are told.
+#include <map>
+#include <optional>
+#include <string>
+
+#include "standin/language/project.hpp"
+#include "tests/unit/language_support.hpp"
+
+using language_tests::SampleHost;
+using standin::language::AddProjectFiles;
+using standin::language::MaximumShownErrors;
+using standin::language::Program;
+using standin::language::ProgramError;
+using standin::language::Source;
+
+namespace {
+
+/// All errors of a text, as the command shows them.
+std::string ErrorsIn(SampleHost& sample, const std::string& text) {
+    const Source source("p", text);
+    try {
+        const Program program(source, sample.types());
+    } catch (const ProgramError& error) {
+        return source.Describe(error);
+    }
+    return "none";
+}
+
+/// What a project of these files prints, with its exit status; or the first line of its errors.
+std::string RunProject(SampleHost& sample, const std::map<std::string, std::string>& files) {
+    Source source("folder/P.xojo_project", files.at("folder/P.xojo_project"));
+    std::string output;
+    try {
+        AddProjectFiles(source, [&files](const std::string& name) -> std::optional<std::string> {
+            const auto found = files.find(name);
+            return found == files.end() ? std::nullopt : std::optional(found->second);
+        });
+        const Program program(source, sample.types());
+        const int status = program.Run(sample.host(), [&output](std::string_view line) {
+            output += std::string(line) + "\n";
+        });
+        return output + std::to_string(status);
+    } catch (const ProgramError& error) {
+        const auto report = source.Describe(error);
+        return report.substr(0, report.find('\n'));
+    }
+}
+
+constexpr auto Head = "Type=Console\nClass=App;App.xojo_code;&h1;&h0;false\n";
+
+}  // namespace
+
+TEST_CASE("modules hold variables, constants and routines") {
+    SampleHost host;
+    const std::string module =
+        "Module M\nConst kOne = 1\nDim n As Integer = 5\nPrivate hidden As Integer\n"
+        "Protected Function Inner() As Integer\nReturn n + hidden\nEnd Function\n"
+        "Sub Grow()\nn = n + kOne\nhidden = 100\nEnd Sub\nEnd Module\n";
+    CHECK(host.Run(module + "Grow\nM.Grow\nPrint Str(n) + \" \" + Str(M.n)\nPrint Str(M.Inner)\n"
+                            "Print Str(kOne + M.kOne)") == "7 7\n107\n2\n");
+    CHECK(host.Run(module + "Print Str(Inner)").starts_with("13:11: there is nothing named"));
+    CHECK(host.Run(module + "Print Str(M.hidden)").find("no such member") != std::string::npos);
+    CHECK(host.Run("Dim s As Sample\nModule A\nDim x As New Sample(3)\nEnd Module\n"
+                   "Print Str(A.x.Value)") == "3\n");
+}
+
+TEST_CASE("classes hold fields, methods and constructors") {
+    SampleHost host;
+    const std::string point =
+        "Class Point\nDim x, y As Integer\nDim tags(1) As String\nPrivate secret As Integer = 9\n"
+        "Sub Constructor(x As Integer, y As Integer = 2)\nSelf.x = x\nSelf.y = y\nEnd Sub\n"
+        "Function Sum() As Integer\nReturn x + y + secret\nEnd Function\n"
+        "Sub Move(by As Integer)\nx = x + by\ntags(0) = \"moved\"\nEnd Sub\nEnd Class\n";
+    CHECK(host.Run(point + "Dim p As New Point(1)\np.Move(4)\nPrint Str(p.Sum)\np.y = 20\n"
+                           "p.tags(1) = \"!\"\nPrint p.tags(0) + p.tags(1) + Str(p.y)") ==
+          "16\nmoved!20\n");
+    CHECK(host.Run(point + "Dim p As New Point(1)\nPrint Str(p.secret)").find("is not seen here") !=
+          std::string::npos);
+    CHECK(host.Run(point + "Dim p As Point\nPrint Str(p.x)")
+              .starts_with("Unhandled NilObjectException"));
+    CHECK(host.Run(point + "Dim v As Variant = New Point(3)\nPrint Str(Point(v).x)\n"
+                           "Print Str(v IsA Point)") == "3\nTrue\n");
+    // Objects that hold each other are let go of at the end, also very many in a row.
+    CHECK(host.Run("Class N\nDim n As N\nDim s As Sample\nEnd Class\nDim a As New N, b As New N\n"
+                   "a.n = b\nb.n = a\na.s = New Sample(1)\nFor i As Integer = 1 To 20000\n"
+                   "Dim c As New N\nc.n = b.n\nb.n = c\nNext\nPrint \"done\"") == "done\n");
+    CHECK(host.Run("Class A\nInherits B\nEnd Class").find("are not supported here") !=
+          std::string::npos);
+}
+
+TEST_CASE("enumerations, constants of the host and static variables") {
+    SampleHost host;
+    CHECK(host.Run("Enum E\nA\nB = 7\nC\nEnd Enum\nDim x As E = E.C\nPrint Str(Integer(x))\n"
+                   "Print Str(x = E.B)\nx = E(7)\nPrint Str(x = E.B)") == "8\nFalse\nTrue\n");
+    CHECK(host.Run("Enum E\nA\nEnd Enum\nDim i As Integer = E.A")
+              .find("expected Integer, this is E") != std::string::npos);
+    CHECK(host.Run("#If XojoVersion > 2013 And TargetConsole And Not TargetDesktop Then\n"
+                   "Print \"new\"\n#Else\nthis is ( no program\n#EndIf") == "new\n");
+    CHECK(host.Run("Const kOn = False\n#If kOn\nPrint 5 \"\n#ElseIf 2 > 1\nPrint \"b\"\n#Else\n"
+                   "Print \"c\"\n#EndIf\nPrint \"end\"") == "b\nend\n");
+    CHECK(host.Run("#If True\nPrint \"x\"") == "1:1: this \"#If\" is never closed");
+    CHECK(host.Run("#EndIf") == "1:1: there is no \"#If\" before this");
+    CHECK(host.Run("#If nonsense\n#EndIf") == "1:5: there is no constant \"nonsense\"");
+    CHECK(host.Run("Sub F()\nStatic n As Integer = 5\nn = n + 1\nPrint Str(n)\nEnd Sub\nF\nF") ==
+          "6\n7\n");
+}
+
+TEST_CASE("parameters of every sort") {
+    SampleHost host;
+    CHECK(host.Run("Function T(Extends s As String, n As Integer) As String\nReturn s + Str(n)\n"
+                   "End Function\nPrint \"a\".T(1).T(2)") == "a12\n");
+    CHECK(
+        host.Run(
+            "Function T(ParamArray n() As Double) As Double\nReturn n.Count\nEnd Function\n"
+            "Dim a() As Double = Array(1.0, 2.0)\nPrint Str(T()) + Str(T(1, 2, 3)) + Str(T(a))") ==
+        "032\n");
+    CHECK(host.Run("Sub T(a As Integer, Optional b As String, Optional o As Sample)\n"
+                   "Print Str(a) + b + Str(o Is Nil)\nEnd Sub\nT(1)\nT 2, \"x\"") ==
+          "1True\n2xTrue\n");
+}
+
+TEST_CASE("arrays of several dimensions, and a routine that sorts") {
+    SampleHost host;
+    CHECK(host.Run("Dim a(1, 2) As Integer\na(1, 2) = 5\na(0, 1) = 3\nRedim a(2, 4)\n"
+                   "Print Str(a(1, 2)) + Str(a(0, 1)) + Str(a(2, 4))\n"
+                   "Print Str(Ubound(a, 1)) + Str(a.LastIndex(2))") == "530\n24\n");
+    CHECK(host.Run("Dim a(1, 2) As Integer\nPrint Str(a(1, 3))")
+              .starts_with("Unhandled OutOfBoundsException: The index 3 of dimension 2"));
+    CHECK(host.Run("Dim a(1, 2) As Integer\nPrint Str(a(1))") ==
+          "2:11: this array takes 2 indices");
+    CHECK(host.Run("Dim a(99999, 99999) As Integer").starts_with("Unhandled OutOfMemoryException"));
+    CHECK(host.Run("Function C(a As String, b As String) As Integer\nReturn a.Length - b.Length\n"
+                   "End Function\nDim a() As String = Array(\"ccc\", \"a\", \"bb\", \"d\")\n"
+                   "a.Sort(AddressOf C)\nPrint Join(a, \" \")") == "a d bb ccc\n");
+    CHECK(host.Run("Dim a() As Integer\na.Sort(AddressOf Nothing)")
+              .starts_with("2:8: there is no Function \"Nothing\""));
+}
+
+TEST_CASE("small integers wrap at their width and are computed with as Int32") {
+    SampleHost host;
+    CHECK(
+        host.Run("Dim b As Byte = 255, i As Int8 = 127, u As UInt16 = 65535\nb = b + 1\ni = i + 1\n"
+                 "u = u + 1\nPrint Str(b) + Str(i) + Str(u)") == "0-1280\n");
+    CHECK(host.Run("Dim a As Byte = 200, b As Byte = 100\nPrint Str(a + b)") == "300\n");
+}
+
+TEST_CASE("dictionaries") {
+    SampleHost host;
+    CHECK(host.Run("Dim d As New Dictionary\nd.Value(\"A\") = 1\nd.Value(2) = New Sample(3)\n"
+                   "d.Value(\"a\") = 5\nPrint d.Value(\"A\") + \" \" + Str(d.Count)\n"
+                   "Print Str(d.HasKey(2.0)) + d.Lookup(\"z\", \"none\")\nd.Remove(2)\n"
+                   "For Each k As String In d.Keys\nPrint k\nNext") == "5 2\nTruenone\nA\n");
+    CHECK(host.Run("Dim d As New Dictionary\nd.Value(1) = d\nPrint d.Value(2)")
+              .starts_with("Unhandled KeyNotFoundException"));
+}
+
+TEST_CASE("memory blocks take text and both orders of bytes") {
+    SampleHost host;
+    CHECK(host.Run(
+              "Dim m As MemoryBlock = \"AB\"\nPrint Str(m.UInt16Value(0))\n"
+              "m.LittleEndian = False\nPrint Str(m.UInt16Value(0))\nm.UInt16Value(0) = &h4344\n"
+              "Dim s As String = m\nPrint s + Str(m.LittleEndian)") == "16961\n16706\nCDFalse\n");
+}
+
+TEST_CASE("numbers take the form of a pattern") {
+    SampleHost host;
+    CHECK(host.Run(
+              "Print Format(1234567.891, \"#,##0.00\") + \" \" + Format(-0.5, \"0.0##\") + \" \" + "
+              "Format(0.25, \"0%\") + \" \" + Format(12345, \"0.00E+00\")") ==
+          "1,234,567.89 -0.5 25% 1.23e+04\n");
+    CHECK(host.Run(
+              "Print Format(-2, \"0;(0);zero\") + Format(0, \"0;(0);zero\") + Format(7, \"000\") + "
+              "Format(0.5, \"#.##\") + Format(9.99, \"0.0E+0\")") == "(2)zero007.51.0e+1\n");
+}
+
+TEST_CASE("all errors are told, the first of each line") {
+    SampleHost host;
+    const auto errors = ErrorsIn(host,
+                                 "Print 5\nDim s As New Sample(1)\nPrint s.Vlaue\ns.PlusOne(\n"
+                                 "For i As Integer = 1 To lenth\nPrint Str(j)\nNext\n");
+    CHECK(errors.find("p:1:7: error: \"Print\" takes a String, this is Integer; use Str") == 0);
+    CHECK(errors.find("p:3:9: error: Sample has no member \"Vlaue\"; did you mean \"Value\"?") !=
+          std::string::npos);
+    CHECK(errors.find("p:4:") != std::string::npos);
+    CHECK(errors.find("p:5:25: error: there is nothing named \"lenth\"") != std::string::npos);
+}
+
+TEST_CASE("an error in a declaration is told once") {
+    SampleHost host;
+    CHECK(ErrorsIn(host, "Dim x As Integer = \nPrint Str(x)\nx = 5\n") ==
+          "p:1:20: error: expected an expression, found the end of the line\n"
+          "  Dim x As Integer = \n                     ^\n");
+    CHECK(host.Run("Dim x As Nowhere\nx.Foo\nPrint x") == "1:10: there is no type \"Nowhere\"");
+}
+
+TEST_CASE("more errors than anybody reads are counted") {
+    SampleHost host;
+    std::string text;
+    for (std::size_t i = 0; i < MaximumShownErrors + 3; ++i) {
+        text += "Print 5\n";
+    }
+    CHECK(ErrorsIn(host, text).ends_with("and 3 more errors\n"));
+}
+
+TEST_CASE("what is not supported says so by its name, once") {
+    SampleHost host;
+    CHECK(host.Run("Interface I\nSub F()\nSub G()\nEnd Interface") ==
+          "1:1: Interfaces are not supported here");
+    CHECK(host.Run("Declare Function F Lib \"x\" () As Integer") ==
+          "1:1: Declares are not supported here");
+    CHECK(host.Run("Dim f As FolderItem") == "1:10: the type \"FolderItem\" is not supported here");
+    CHECK(host.Run("Class A\nSub Destructor()\nEnd Sub\nEnd Class") ==
+          "2:5: Destructors are not supported here");
+}
+
+TEST_CASE("a result that nothing takes needs Call") {
+    SampleHost host;
+    CHECK(host.Run("Function F() As Integer\nPrint \"f\"\nEnd Function\nF()")
+              .starts_with("4:1: this returns Integer"));
+    CHECK(host.Run("Function F() As Integer\nPrint \"f\"\nEnd Function\nCall F()") == "f\n");
+}
+
+TEST_CASE("projects run from the application's Run") {
+    SampleHost host;
+    const std::string app =
+        "#tag Class\nProtected Class App\nInherits ConsoleApplication\n\t#tag Event\n"
+        "\t\tFunction Run(args() as String) As Integer\n\t\t  Print args(0)\n\t\t  Return Fine\n"
+        "\t\tEnd Function\n\t#tag EndEvent\n\t#tag Method, Flags = &h21\n"
+        "\t\tPrivate Function Fine() As Integer\n\t\t  Return kResult\n\t\tEnd Function\n"
+        "\t#tag EndMethod\n\t#tag Constant, Name = kResult, Type = Double, Dynamic = False, "
+        "Default = \\\"-7\\x20+ 10\", Scope = Private\n\t#tag EndConstant\n\t#tag Note, Name = n\n"
+        "\t\tany \"text\n\t#tag EndNote\n\t#tag ViewBehavior\n\t\t\"\n\t#tag EndViewBehavior\n"
+        "End Class\n#tag EndClass\n";
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}}) ==
+          "folder/P.xojo_project\n3");
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}})
+              .starts_with(
+                  "folder/P.xojo_project:2:1: error: cannot read the file folder/App.xojo_code"));
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
+                            {"folder/App.xojo_code", "#tag Window\nBegin Window W\n"}}) ==
+          "folder/App.xojo_code:1:1: error: Windows are not supported here");
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
+                            {"folder/App.xojo_code", "Class App\nEnd Class\n"}})
+              .find("inherits from ConsoleApplication") != std::string::npos);
+    CHECK(RunProject(host, {{"folder/P.xojo_project", "Class=A;A;&h1;&h0;false"}})
+              .find("begins with its type") != std::string::npos);
+}
