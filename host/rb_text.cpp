@@ -11,7 +11,7 @@
 namespace vqz {
 namespace {
 
-/// Hosts from here on hand out string data by "PluginGetStringData".
+/// The first host version that lends string data through "PluginGetStringData".
 constexpr double FirstVersionWithStringData = 2012.0;
 
 constexpr const char EmptyText[] = "";

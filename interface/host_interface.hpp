@@ -72,7 +72,7 @@ struct ObjectRecord;
 using Object = ObjectRecord*;
 
 struct ClassReferenceRecord;
-/// The host's reference of a class, as "pluginObjectType" answers it. Not counted.
+/// The host's reference to a class, as "pluginObjectType" returns it. It is not counted.
 using ClassReference = ClassReferenceRecord*;
 
 /// A Boolean in a 4-byte slot of which only the low byte counts when a plug-in reads it.
@@ -151,7 +151,7 @@ struct MethodDefinitionVersion9 {
     std::uint32_t flags;
 };
 
-/// The second word belongs to the host: it is where a registered event is found again.
+/// The host writes the second word: it identifies the event once it is registered.
 struct EventDefinition {
     const char* declaration;
     const void* reference;
@@ -212,9 +212,9 @@ struct ClassDefinition {
 
 // ---------------------------------------------------------------------------------------------
 // C types of the host functions, by the name under which the host hands them out. What such a
-// function returns carries one reference that the caller releases; what it is given does not
-// change hands. Booleans come back as words: whether the whole word or only its low byte counts
-// is a fact of each function that the caller has to know.
+// function returns carries one reference that the caller releases; the caller keeps the references
+// of the arguments. Booleans are returned as words: whether the whole word or only its low byte
+// counts differs from function to function, and the caller has to know it.
 
 /// The lookup that the host passes to the library's entry: a host function's address, or null.
 using Resolver = void* (*)(const char* name);
