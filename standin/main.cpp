@@ -52,7 +52,7 @@ void ReportUnhandled(Host& host, const Source& source, const language::Thrown& t
                std::to_string(source.Locate(thrown.position()).line) + "\n");
 }
 
-/// From now on allocations fail and memory ends where the command says so.
+/// From now on allocations fail, and memory is limited, as the command line says.
 void SetLimits(Host& host, const CommandLine& line) {
     if (line.failingString) {
         host.FailAllocation(Allocation::String, *line.failingString, false);
@@ -91,7 +91,7 @@ Status RunProgram(Host& host, const Source& source, const language::TypeTable& t
     return Status::Good;
 }
 
-/// Tells what was leaked or released too often. Answers whether nothing was.
+/// Reports what was leaked or released too often. Returns whether nothing was.
 bool ReportLedger(const Host& host, bool showsCounts) {
     if (showsCounts) {
         const auto counts = host.Counts();

@@ -286,7 +286,7 @@ const ClassEntry* ClassTable::Register(ClassDefinition& record,
     ClassEntry& entry = known != nullptr ? *byName_.find(record.name)->second : Add(record.name);
     if (known == nullptr) {
         registered_.push_back(&entry);
-        // Another offset in every class, so that none can be mistaken for a constant.
+        // A different offset in every class, so that no plug-in takes it for a constant.
         const std::size_t superSize = super == nullptr ? ObjectHeader : super->objectSize;
         entry.dataOffset =
             static_cast<std::uint32_t>(superSize + DataAlignment * (1 + registered_.size()));

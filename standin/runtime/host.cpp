@@ -19,10 +19,10 @@
 namespace standin {
 namespace {
 
-/// Who is named when the language, not the plug-in, uses a handle wrongly.
+/// The name that a report shows when the language, not the plug-in, uses a handle wrongly.
 constexpr const char* HostUser = "stand-in host";
 
-/// By how much the stack of a host that keeps four bytes of alignment only is off: by each in turn.
+/// The offsets, taken in turn, of the stack of a host that keeps four bytes of alignment only.
 /// An address sanitizer keeps its notes in units of eight bytes, and needs that much alignment.
 #if STANDIN_ADDRESS_SANITIZER
 constexpr std::array<std::uint32_t, 1> StackOffsets = {8};

@@ -31,7 +31,7 @@ public:
     /// Makes the bytes worthless: overwritten, and reported by an address sanitizer when touched.
     void Poison();
     /// Whether poisoned bytes were written to since. An address sanitizer reports that by itself,
-    /// and then this answers no.
+    /// and then this returns false.
     bool PoisonBroken() const;
 
 private:
