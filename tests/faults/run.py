@@ -1,4 +1,4 @@
-"""Puts deliberate faults into the plug-in, one at a time, and tells which ones the tests notice.
+"""Puts deliberate faults into the plug-in, one at a time, and reports which ones the tests notice.
 
 usage: run.py [--check | --listed | --drawn] [option...] [TEXT...]
 

@@ -1,5 +1,5 @@
-// The strings of the stand-in host as a plug-in sees them, and what it is told when a plug-in
-// handles them wrongly.
+// The strings of the stand-in host as a plug-in sees them, and the reports when a plug-in handles
+// them wrongly.
 #include <cstring>
 #include <string>
 #include <string_view>

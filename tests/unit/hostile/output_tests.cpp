@@ -1,5 +1,5 @@
-// What a member has written when memory runs out in its midst: outputs are set before the step that
-// fails or not at all, and a value is the old one, or the 0 that it is made first.
+// What a member has written when memory runs out in the middle of it: outputs are set before the
+// step that fails or not at all, and a value is the old one, or the 0 that it is made first.
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -1,5 +1,5 @@
-// How often the library asks its host for a function, a class or a method: once for what is there,
-// again at each call for what is missing.
+// How often the library looks up a function, a class or a method of its host: once for what is
+// there, again at each call for what is missing.
 #include <cstdint>
 #include <functional>
 #include <string>

@@ -1,5 +1,5 @@
-// What holds for the tables that the library registers, whichever members they have; which these
-// are, the golden tables say.
+// What holds for the tables that the library registers, whichever members they have. The golden
+// tables list the members.
 #include <map>
 #include <optional>
 #include <set>
