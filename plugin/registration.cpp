@@ -14,7 +14,7 @@ namespace {
 
 using namespace host_interface;
 
-/// Hosts of this interface version and later read the long table entries.
+/// The first interface version whose hosts read the long table entries.
 constexpr std::uint32_t FirstVersionWithAttributes = 10;
 /// Instance data comes in multiples of this many bytes.
 constexpr std::uint32_t DataSizeUnit = 16;
