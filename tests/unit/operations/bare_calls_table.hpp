@@ -8,7 +8,6 @@
 #include <type_traits>
 
 #include "number/kernels/specialisations.hpp"
-
 #include "tests/unit/operations/bare_calls.hpp"
 
 namespace operation_tests {
