@@ -37,7 +37,7 @@ CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
 NOTHING = "nothing"
 CRASH = ["The library crashes while it starts."]
 
-# What a missing function does to the account: which balance, and its sign for each call not made.
+# What a missing function does to the ledger: which balance, and its sign for each call not made.
 BALANCES = {
     "REALLockString": ("references of strings", -1),
     "REALUnlockString": ("references of strings", 1),
@@ -126,7 +126,7 @@ def program_of(lines: list[str]) -> str:
 
 @dataclasses.dataclass
 class Outcome:
-    """What became of a run: what each step showed, and what the host says."""
+    """The result of a run: what each step showed, and what the host reported."""
 
     status: int
     shown: dict[str, str]

@@ -61,7 +61,7 @@ using PointCounts = std::array<std::array<int, 2>, AllSources.size()>;
 
 /// How a process that calls one routine ends, as its status.
 enum Ending { Returned = 40, Left = 41 };
-/// Tells it which routine: the numbers of class and member, and how memory is to fail.
+/// The environment variable that says which routine: numbers of class and member, and what fails.
 constexpr const char* RoutineVariable = "HOSTILE_TESTS_ROUTINE";
 
 /// Members without a guard: what is thrown inside leaves them.

@@ -91,7 +91,7 @@ TEST_CASE("Reading text sets its outputs before it stores the value") {
 }
 
 TEST_CASE("Reading text clears its outputs before it reads") {
-    // The text has to be copied there, since no NUL stands behind it.
+    // The text has to be copied there, since no NUL follows it.
     LoadedPlugin plugin(standin::HostOptions{.unterminatedStrings = true});
     const LibraryMemory memory(plugin.library().entry());
     for (NumberClass& number : plugin.classes()) {

@@ -31,7 +31,7 @@ int OverflowLines(Report report) {
     return 0;
 }
 
-/// Words behind a NaN are nobody's business.
+/// The mantissa and exponent of a NaN have no meaning.
 template <typename AnyNumber>
 AnyNumber Comparable(const AnyNumber& number) {
     return number.IsNan() ? AnyNumber{.flags = number.flags} : number;
