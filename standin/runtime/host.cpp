@@ -32,7 +32,7 @@ constexpr std::array<std::uint32_t, 3> StackOffsets = {4, 8, 12};
 
 Host* TheHost = nullptr;
 
-/// What is left in the account of a host with spare references.
+/// A line for each count that is not 0, for a host with spare references.
 void AppendBalances(std::vector<std::string>& lines, const LedgerCounts& counts) {
     const auto append = [&](const char* what, std::int64_t count) {
         if (count != 0) {
