@@ -209,7 +209,8 @@ endfunction()
 
 # add_host_tests([sample])
 #
-# A program with all members on hosts of every age without each function, or on so many of them.
+# A program with all members on hosts of every age, each without one function in turn; with `sample` on
+# that many of these hosts only.
 function(add_host_tests)
   set(options)
   if(ARGC GREATER 0)
