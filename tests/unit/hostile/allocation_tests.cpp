@@ -173,7 +173,7 @@ public:
         LibraryMemory::StopFailing();
     }
 
-    /// Fails all allocations that the members which `choose` takes lead to.
+    /// Fails, one after the other, the allocations of the members that `choose` selects.
     template <typename Choose>
     void Run(Choose choose) {
         for (NumberClass& number : plugin_.classes()) {

@@ -130,7 +130,7 @@ private:
                });
     }
 
-    /// Of what is slow to report every eighth is enough; 256 bits leave nothing out.
+    /// Of failures that are slow to report every eighth is enough; at 256 bits none is left out.
     bool IsLeftOut() { return slowReports_++ % 8 != 0; }
 
     static Arguments<AnyNumber> ArgumentsOf(const Tuple& tuple) {

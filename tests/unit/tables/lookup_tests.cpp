@@ -31,7 +31,7 @@ using tests::WatchedPlugin;
 
 namespace functions = host_interface::functions;
 
-/// The class names that the library asked the host's classes of, each ended by a blank.
+/// The names of the classes that the library looked up in the host, each followed by a blank.
 std::string classesAsked;
 bool knowsClasses = true;
 
