@@ -14,7 +14,7 @@ import sys
 from dataclasses import dataclass, field
 from pathlib import Path
 
-# The rows that tell what the host does for an operation; what comes after the first is the plug-in's
+# The rows that measure what the host does for an operation; what comes after the first is the plug-in's
 # part of it.
 HOST_ROWS = {
     "object": ("host: object", "host: destructor"),

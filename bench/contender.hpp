@@ -50,10 +50,10 @@ public:
         });
     }
 
-    /// Serves the driver on the standard streams until the input ends. First it tells what it
+    /// Serves the driver on the standard streams until the input ends. First it lists what it
     /// offers, a line "BITS OPERATION" each, and an empty line. Then a line "COUNT BITS OPERATION"
-    /// is answered with the nanoseconds that COUNT runs took. The status of the process: 0, or 2
-    /// for a line that it does not understand.
+    /// is answered with the nanoseconds that COUNT runs took. Returns the status of the process: 0,
+    /// or 2 for a line that it does not understand.
     int Serve() const;
 
 private:

@@ -130,7 +130,7 @@ private:
 
     /// What the host does for each number that it gets: it makes the object and drops it. Dropping
     /// calls the destructor of the class, which is the plug-in's part and on offer by itself. And
-    /// what it does for texts: it makes and drops one, or lends one and tells its encoding.
+    /// what it does for texts: it makes and drops one, or lends one and returns its encoding.
     void OfferHostPart() {
         const auto offer = [this](const char* name, auto once) {
             contender_.OfferRepeated(bits_, name, once);

@@ -19,7 +19,7 @@ if(Ttmath_FOUND AND NOT TARGET ttmath)
   target_include_directories(ttmath SYSTEM INTERFACE "${TTMATH_INCLUDE_DIR}")
   # ttmath would leave the words of a new number unset; clearing them keeps every byte that raw access
   # can show defined. Its words have 32 bits on every processor, as raw access and the sizes of the
-  # numbers want it.
+  # numbers require.
   target_compile_definitions(ttmath
     INTERFACE TTMATH_PLATFORM32 TTMATH_NOASM TTMATH_BIG_DEFAULT_CLEAR)
   if(NOT BIGNUMBERVQZ_COVERAGE)

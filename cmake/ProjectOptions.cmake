@@ -45,8 +45,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     -Wno-zero-as-null-pointer-constant)
 endif()
 
-# The same commit gives the same bytes wherever it is built: no path of the machine gets in. Only who
-# counts what runs has to find the sources again.
+# The same commit gives the same bytes wherever it is built: no path of the machine gets in. Only
+# the coverage build keeps paths, to find the sources again.
 if(NOT BIGNUMBERVQZ_COVERAGE)
   target_compile_options(project_options INTERFACE
     "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."

@@ -7,8 +7,8 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 # The words with which a test starts Python with the packages of scripts/checks-requirements.txt.
 set(python_for_checks "${PROJECT_SOURCE_DIR}/scripts/python" checks)
 
-# Seconds after which a test counts as hanging: far more than any takes on a machine that is busy with
-# something else, since a limit ends what never would, and measures nothing.
+# Seconds after which a test counts as hanging: far more than any takes on a busy machine, since the
+# limit is there to end tests that hang, not to measure.
 set(test_time_limit 7200)
 
 # add_project_test(NAME kind/name [ALONE] [TARGETS target...] [AREAS area...] COMMAND word...)
@@ -147,7 +147,7 @@ endfunction()
 
 # add_help_tests()
 #
-# What the help tells compared with what the library registers, the help made a second time, what
+# What the help says compared with what the library registers, the help made a second time, what
 # its making refuses, and the page that is delivered in a browser.
 function(add_help_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests/help")
@@ -210,7 +210,8 @@ endfunction()
 
 # add_host_tests([sample])
 #
-# A program with all members on hosts of every age without each function, or on so many of them.
+# A program with all members on hosts of every age, each without one function in turn; with `sample` on
+# that many of these hosts only.
 function(add_host_tests)
   set(options)
   if(ARGC GREATER 0)

@@ -22,7 +22,7 @@ EXCEPTIONS = [
 
 
 class Kind(enum.Enum):
-    """What an example is there to show."""
+    """What an example is meant to show."""
 
     PRINTS = enum.auto()
     RAISES = enum.auto()  # an exception that nobody catches
@@ -31,7 +31,7 @@ class Kind(enum.Enum):
 
 
 class ExampleError(Exception):
-    """An example does something else than it is there to show."""
+    """An example does not do what it is meant to show."""
 
 
 @dataclasses.dataclass

@@ -10,7 +10,7 @@
 
 namespace vqz {
 
-/// The bytes of a host string or of a MemoryBlock. Holds a reference of it, so that the bytes stay
+/// The bytes of a host string or of a MemoryBlock. Holds a reference to it, so that the bytes stay
 /// valid. An empty view has null data and length 0.
 class ByteView {
 public:

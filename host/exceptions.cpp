@@ -35,7 +35,7 @@ bool IsAnyOf(const std::exception& exception) {
 
 /// The first match counts. The second test for std::underflow_error never matches, since the first
 /// one comes before it: so a failed cast is reported as a plain "C++ Exception", which is what
-/// programs know.
+/// existing programs expect.
 ExceptionMapping MapException(const std::exception& exception) {
     if (IsAnyOf<std::bad_alloc>(exception)) {
         return {"Failed to allocate memory", "OutOfMemoryException"};
@@ -112,8 +112,8 @@ void HandleStdException(const std::exception& exception) {
     const char* what = exception.what();
     const std::size_t whatLength = what == nullptr ? 0 : std::strlen(what);
 
-    // Memory may be what is missing: a usual message needs none, and a longer one that gets none
-    // is cut instead of lost.
+    // There may be no memory left: a message of usual length needs none, and a longer one is then
+    // cut off instead of lost.
     char usualMessage[512];
     const std::size_t size = std::strlen(mapping.messageHead) + whatLength + sizeof ": ";
     const Buffer longMessage = AllocateBuffer(size > sizeof usualMessage ? size : 0);

@@ -15,7 +15,7 @@ namespace vqz {
 /// The plug-in's own exception class, for number operations that failed.
 inline constexpr const char* NumberErrorClass = "BigNumberErrorExceptionVQZ";
 
-/// What follows the operation's name in the message that has nothing else.
+/// What follows the operation's name in a message that shows no numbers.
 inline constexpr const char* OperationFailed = " operation failed.";
 
 /// Raises a new instance of the host exception class of that name, with a UTF-8 message; null gives

@@ -12,8 +12,8 @@ namespace vqz {
 ObjectReference NewMemoryBlock64(std::int64_t size);
 
 /// A new MemoryBlock with a copy of the bytes. Null, and nothing raised, for null data or a size
-/// below 1. When the host makes no block, or one without data, or when a std::bad_alloc comes in
-/// between, it raises "OutOfMemoryException" and returns null. It needs no guard around it.
+/// below 1. When the host makes no block, or one without data, or when std::bad_alloc is thrown on
+/// the way, it raises "OutOfMemoryException" and returns null. It needs no guard around it.
 ObjectReference REALBuildMemoryblock(const void* data, std::int64_t size);
 
 }  // namespace vqz

@@ -12,7 +12,7 @@ namespace vqz {
 namespace {
 
 #if HOST_INTERFACE_32_BIT
-/// Hosts from here on hand out string data by "PluginGetStringData".
+/// The first host version that lends string data through "PluginGetStringData".
 constexpr double FirstVersionWithStringData = 2012.0;
 #endif
 

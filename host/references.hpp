@@ -1,4 +1,4 @@
-// Smart pointers for host strings and objects, which the host counts the references of.
+// Smart pointers for host strings and objects, whose references the host counts.
 #pragma once
 
 #include <utility>
@@ -23,7 +23,7 @@ public:
     HostReference& operator=(const HostReference&) = delete;
     ~HostReference() { Reset(); }
 
-    /// Adds a reference to a handle that somebody else owns.
+    /// Adds a reference of its own to a handle that another owner keeps.
     static HostReference Share(Handle handle) {
         if (handle != nullptr) {
             LockFunction(handle);

@@ -37,7 +37,7 @@ constexpr BooleanWord AsBooleanWord(bool value) {
 
 /// What the exception of a failed call says. `Name` has the operation's name only; `OneNumber` and
 /// `TwoNumbers` also show the numbers it failed with. `Other` is an exception of another class, or
-/// one that a routine raises to which this one delegates.
+/// one that is raised by a routine to which this one delegates.
 enum class Failure { None, Name, OneNumber, TwoNumbers, Other };
 
 /// A routine for a class table, and what the help says of it. A name that it does not have is null.
@@ -74,7 +74,8 @@ enum class EntryLine {
 };
 
 /// Runs `computation` as the routine called `LogName`. Every call from the host goes through here.
-/// So does a routine that leaves its work to another one, for the log line and guard of that one.
+/// A routine that delegates to another one also calls it through here, to get that one's log line
+/// and guard.
 template <FixedString LogName, Unguarded Why = Unguarded::No, EntryLine Line = EntryLine::Name,
           typename Computation, typename... Arguments>
 auto Run(Computation computation, Arguments... arguments) {

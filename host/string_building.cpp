@@ -11,9 +11,9 @@
 namespace vqz {
 namespace {
 
-/// Hosts from here on build strings with an encoding in one step.
+/// The first host version that builds a string with its encoding in one step.
 constexpr double FirstVersionBuildingWithEncoding = 2012.0;
-/// Hosts from here on take UTF-32.
+/// The first host version that accepts UTF-32.
 constexpr double FirstVersionTakingUtf32 = 2013.0;
 
 /// Fewer code points than this are converted on the stack.
@@ -28,7 +28,7 @@ bool IsAscii(const char* bytes, std::size_t count) {
                         [](char byte) { return static_cast<unsigned char>(byte) > 0x7F; });
 }
 
-/// Builds with the given encoding, unchanged, in the way the host's age asks for.
+/// Builds a string of the given encoding, without conversion, with what this host version offers.
 StringReference BuildAsGiven(const char* bytes, std::int32_t count, HostTextEncoding encoding) {
     if (HostVersion >= FirstVersionBuildingWithEncoding) {
         return StringReference(host::REALBuildStringWithEncoding(bytes, count, Code(encoding)));
@@ -44,7 +44,7 @@ StringReference ConvertedToUtf8(const StringReference& wide) {
     return StringReference(host::REALConvertString(wide.Get(), Code(HostTextEncoding::Utf8)));
 }
 
-/// Native UTF-32 on a host that does not take it: as UTF-16.
+/// Native UTF-32 for a host that does not accept it: it is converted to UTF-16 first.
 StringReference BuildFromUtf32ByUtf16(const char* bytes, std::int32_t byteCount) {
     const std::size_t count = static_cast<std::size_t>(byteCount) / sizeof(std::uint32_t);
 

@@ -1,4 +1,4 @@
-// Host strings from bytes, with the guard: a C++ exception in between becomes a host exception, and
+// Host strings from bytes, with the guard: a C++ exception on the way becomes a host exception, and
 // the result is null. The code that raises exceptions uses the unguarded host/string_building.hpp.
 #pragma once
 

@@ -10,7 +10,7 @@
 namespace vqz {
 
 /// The UTF-8 text of a host string, always followed by a NUL, whatever the host stores there. Holds
-/// a reference of the host string. May throw std::bad_alloc.
+/// a reference to the host string. May throw std::bad_alloc.
 class TerminatedText {
 public:
     explicit TerminatedText(host_interface::String text) : text_(text) {

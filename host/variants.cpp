@@ -23,8 +23,8 @@ class VariantReader<T(Object)> : private HostFunctionSlot<T(Object)> {
 public:
     using Slot::Slot;
 
-    /// What the host function returns; without one, the property that `propertyReader` reads. A
-    /// property that cannot be read leaves T().
+    /// What the host function returns; without one, the property that `propertyReader` reads. The
+    /// reader's result is not tested: what it wrote counts, T() if it wrote nothing.
     template <typename PropertyReader>
     T Read(Object variant, const char* property, PropertyReader& propertyReader) {
         if (const auto function = Slot::Resolve()) {

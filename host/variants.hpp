@@ -1,5 +1,8 @@
 // Reading Variants and the dates they hold. The host's own readers are preferred; a host without
 // one is asked for the Variant's property instead.
+//
+// The property readers of the host return whether they succeeded. For a Variant that is not tested:
+// what the reader wrote counts. For a date it is: after a failure nothing that was written counts.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +16,11 @@ namespace vqz {
 inline constexpr std::int32_t VariantTypeUInt32 = 102;
 inline constexpr std::int32_t VariantTypeUInt64 = 103;
 
-/// The Variant's type: a code of the host, or one of the two above. 0 when it cannot be told.
+/// The Variant's type: a code of the host, or one of the two above. 0 when the host writes
+/// none.
 std::int32_t VariantType(host_interface::Object variant);
 
-/// What the Variant holds, converted by the host; 0 when it cannot be read.
+/// What the Variant holds, converted by the host; 0 when the host writes nothing.
 double VariantToDouble(host_interface::Object variant);
 float VariantToSingle(host_interface::Object variant);
 std::int32_t VariantToInt32(host_interface::Object variant);
@@ -25,7 +29,7 @@ std::uint32_t VariantToUInt32(host_interface::Object variant);
 std::uint64_t VariantToUInt64(host_interface::Object variant);
 host_interface::Currency VariantToCurrency(host_interface::Object variant);
 
-/// The Variant's text; null for a null Variant and when it cannot be read.
+/// The Variant's text; null for a null Variant and when the host writes none.
 StringReference VariantToString(host_interface::Object variant);
 
 /// Whether the object is of the class of that name or of one below it; false for null.

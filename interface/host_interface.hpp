@@ -94,7 +94,7 @@ struct ObjectRecord;
 using Object = ObjectRecord*;
 
 struct ClassReferenceRecord;
-/// The host's reference of a class, as "pluginObjectType" returns it. Not counted.
+/// The host's reference to a class, as "pluginObjectType" returns it. It is not counted.
 using ClassReference = ClassReferenceRecord*;
 
 /// A Boolean in a 4-byte slot of which only the low byte counts when a plug-in reads it.
@@ -184,7 +184,7 @@ struct MethodDefinitionVersion9 {
 };
 #endif
 
-/// The second word belongs to the host: it is where a registered event is found again.
+/// The host writes the second word: it identifies the event once it is registered.
 struct EventDefinition {
     const char* declaration;
     const void* reference;

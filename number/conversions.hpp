@@ -1,5 +1,6 @@
-// Numbers from host values and back. The template arguments of the routines here are the name in
-// the debug log and, for those that can fail, the name that a failure is reported under.
+// Conversions from host values to numbers and back. The template arguments of the routines here are
+// the name in the debug log and, for those that can fail, the name that a failure is reported
+// under.
 #pragma once
 
 #include <concepts>
@@ -17,7 +18,8 @@
 
 namespace vqz {
 
-/// A Currency of the host: the amount times 10,000. A type of its own, to tell it from an Int64.
+/// A Currency of the host: the amount times 10,000. A separate type, so that overloads
+/// distinguish it from an Int64.
 enum class CurrencyAmount : std::int64_t {};
 
 /// The factor between a Currency and its amount, 10,000.
@@ -133,8 +135,8 @@ NamedRoutine NumberWithText() {
 // ---------------------------------------------------------------------------------------------
 // To host values
 
-/// Converts with the fraction cut; false when the value does not fit. A negative value must give a
-/// result with the sign bit: -0.4 does not fit, and no negative value fits without a sign.
+/// Converts with the fraction cut off; false when the value does not fit. A negative value must
+/// give a result with the sign bit: -0.4 does not fit, and no negative value fits without a sign.
 template <std::integral Host, typename Value>
 bool NumberTo(const Value& value, Host& result) {
     constexpr ttmath::uint Size = TTMATH_BITS(8 * sizeof(Host));
@@ -145,8 +147,8 @@ bool NumberTo(const Value& value, Host& result) {
     return fits;
 }
 
-/// Converts to a Double, cut to its precision; false when the value is too large or too small for
-/// one.
+/// Converts to a Double, truncated to its precision; false when the value is too large or too small
+/// for one.
 template <std::same_as<double> Host, typename Value>
 bool NumberTo(const Value& value, Host& result) {
     return value.ToDouble(result) == 0;

@@ -1,5 +1,5 @@
-// The yes-or-no questions that programs ask of numbers. Their template arguments name the routine
-// in the debug log.
+// The predicates of numbers: routines that return a Boolean. Their template arguments name the
+// routine in the debug log.
 #pragma once
 
 #include "host/routine.hpp"
@@ -7,14 +7,14 @@
 
 namespace vqz {
 
-/// The getter of a Boolean property: whether `test` holds of the value.
+/// The getter of a Boolean property: whether `test` holds for the value.
 template <typename Value, FixedString LogName, typename Test>
 NamedRoutine TestValue(Test) {
     return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>(
         [](Object self, Integer) { return AsBooleanWord(Test{}(ReadNumber<Value>(self))); });
 }
 
-/// A method that returns whether `test` holds of two numbers.
+/// A method that returns whether `test` holds for two numbers.
 template <typename Value, FixedString LogName, typename Test>
 NamedRoutine TestTwoNumbers(Test) {
     return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([](Object self, Object other) {

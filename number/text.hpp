@@ -1,5 +1,5 @@
-// Numbers to host text and back. The template arguments of the routines here are the name in the
-// debug log and the name that a failure is reported under.
+// Conversions from numbers to host text and back. The template arguments of the routines here are
+// the name in the debug log and the name that a failure is reported under.
 #pragma once
 
 #include <algorithm>

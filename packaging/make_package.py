@@ -3,8 +3,8 @@
 usage: make_package.py --target NAME --library DLL --link-map FILE --ttmath FILE --help-page HTML
                        --project FOLDER PACKAGE
 
-NAME is the target in scripts/presets.txt that the library is built for; the list tells the folder that
-takes it. The link map tells which libraries the DLL contains; for each the package carries its terms, and a
+NAME is the target in scripts/presets.txt that the library is built for; the list names the folder that
+takes it. The link map lists the libraries that the DLL contains; for each the package carries its terms, and a
 library whose terms are not known fails the build. The same input gives the same bytes.
 """
 
@@ -17,7 +17,7 @@ import zipfile
 NAME = "BigNumberVQZ"
 
 # What the linker may take from the compiler's folders: names of libraries, the Debian package that
-# tells their terms, and the file of the package that carries them.
+# states their terms, and the file of the package that carries them.
 RUNTIMES = (
     (r"lib(gcc|gcc_eh|stdc\+\+)\.a", "g++-mingw-w64-i686-win32", "GCC runtime.txt"),
     (r"lib(mingw32|mingwex|moldname|msvcrt|kernel32)\.a", "mingw-w64-i686-dev", "MinGW-w64.txt"),
@@ -25,7 +25,7 @@ RUNTIMES = (
 
 
 def library_folder(presets: str, target: str) -> str:
-    """The folder of the package for the library of that target, as the list of presets tells it."""
+    """The folder of the package for the library of that target, as the list of presets names it."""
     for line in presets.splitlines():
         fields = [field.strip() for field in line.split("|")]
         if fields[0] == target and fields[6] != "-":

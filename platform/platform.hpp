@@ -36,7 +36,7 @@ void SeedRuntimeRandom() noexcept;
 /// Whether two texts are equal without regard to ASCII letter case.
 bool EqualIgnoringCase(const char* left, const char* right) noexcept;
 
-/// Tells the loader not to call the library's load callback for threads.
+/// Asks the loader not to call the library's load callback for threads.
 void DisableThreadCallbacks(void* module) noexcept;
 
 }  // namespace vqz::platform

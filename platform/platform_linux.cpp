@@ -47,7 +47,7 @@ bool EqualIgnoringCase(const char* left, const char* right) noexcept {
 }
 
 void DisableThreadCallbacks(void*) noexcept {
-    // Shared objects are not told of threads in the first place.
+    // A shared object has no such callback.
 }
 
 }  // namespace vqz::platform

@@ -14,13 +14,13 @@
 namespace vqz {
 namespace {
 
-/// Hosts from here on know the type UInteger.
+/// The first host version that knows the type UInteger.
 constexpr double FirstVersionWithUInteger = 2015.0;
 /// The first release of 64-bit hosts: none is older, whatever it tells.
 constexpr double First64BitVersion = 2015.03;
 
-/// Points to a text that a search of the library file finds the version by. It is never read;
-/// volatile keeps the compiler from dropping it.
+/// Points to a text by which the version is found in the library file. It is never read; volatile
+/// keeps the compiler from dropping it.
 const char* volatile VersionMarker = nullptr;
 
 template <typename Function>

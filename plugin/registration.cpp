@@ -15,7 +15,7 @@ namespace {
 using namespace host_interface;
 
 #if HOST_INTERFACE_32_BIT
-/// Hosts of this interface version and later read the long table entries.
+/// The first interface version whose hosts read the long table entries.
 constexpr std::uint32_t FirstVersionWithAttributes = 10;
 #endif
 /// Instance data comes in multiples of this many bytes.

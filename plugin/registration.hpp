@@ -1,7 +1,7 @@
 // Registers class records with the host, in the form that a host of its release reads.
 //
-// Some of this no class of the plug-in needs now: their tables have no events and no constants, and
-// no flag of theirs is unclassified. It is here so that a class with these registers like any
+// The plug-in's classes do not need all of this now: their tables have no events and no constants,
+// and none of their flags is unclassified. It is here so that a class with these registers like any
 // other.
 #pragma once
 

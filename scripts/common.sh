@@ -60,7 +60,7 @@ show_progress() {
 }
 
 # with_progress TITLE COMMAND...: runs a command whose output is worth no more than a glance, unless it
-# fails. The answer is the command's.
+# fails. Returns the command's status.
 with_progress() {
     local log status=0
     log="$(mktemp)"

@@ -30,9 +30,9 @@ struct CommandLine {
     /// The program: a file's name, `-` for standard input, or the text itself.
     std::optional<std::string> file;
     std::optional<std::string> text;
-    /// A file that tells about the members, for the prompt.
+    /// A file that documents the members, for the prompt.
     std::optional<std::string> documentation;
-    /// Whether the prompt shows where a line is expected; nobody needs that who is no person.
+    /// Whether the prompt marks where a line is expected, which only a person needs.
     bool showsPrompts = false;
     bool showsDebugLog = false;
     bool showsLedger = false;

@@ -13,8 +13,8 @@ namespace standin {
 class Documentation {
 public:
     Documentation() = default;
-    /// Reads a file's text: behind each line `== Name` stands what there is to say about that
-    /// member. What is said in several places is shown in their order.
+    /// Reads a file's text: after each line `== Name` follows the text about that member. If
+    /// a name has several texts, they are shown in their order.
     explicit Documentation(std::string_view text);
 
     /// The text of a member, in any letter case; empty when there is none.

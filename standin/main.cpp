@@ -52,7 +52,7 @@ void ReportUnhandled(Host& host, const Source& source, const language::Thrown& t
                "\n  at " + source.NameLine(thrown.position()) + "\n");
 }
 
-/// From now on allocations fail and memory ends where the command says so.
+/// From now on allocations fail, and memory is limited, as the command line says.
 void SetLimits(Host& host, const CommandLine& line) {
     if (line.failingString) {
         host.FailAllocation(Allocation::String, *line.failingString, false);
@@ -88,7 +88,7 @@ Status RunProgram(Host& host, Source& source, const language::TypeTable& types,
     }
 }
 
-/// Tells what was leaked or released too often. Answers whether nothing was.
+/// Reports what was leaked or released too often. Returns whether nothing was.
 bool ReportLedger(const Host& host, bool showsCounts) {
     if (showsCounts) {
         const auto counts = host.Counts();

@@ -29,7 +29,7 @@ void WriteLine(std::string_view line);
 void OnInterrupt(void (*action)());
 
 /// From now on a crash of the process (a wrong memory access, an illegal instruction, an abort)
-/// writes what was kept back, then a message with what `currentCall` answers (it may be null), and
+/// writes what was kept back, then a message with what `currentCall` returns (it may be null), and
 /// ends the process with `status`. `currentCall` may do nothing but read memory.
 void ReportCrashes(const char* (*currentCall)(), int status);
 

@@ -48,7 +48,7 @@ Documentation ReadDocumentation(const std::optional<std::string>& file) {
     return Documentation(*text);
 }
 
-/// Answers a line that begins with a question mark, which is left out of `question`.
+/// Prints help for a line that begins with a question mark, which is left out of `question`.
 void Answer(const Documentation& documentation, std::string_view question) {
     const auto words = Trim(question);
     // Whose member it is does not matter: the classes have the same ones.
@@ -71,7 +71,7 @@ void Answer(const Documentation& documentation, std::string_view question) {
                 (similar.empty() ? ".\n" : "; there are:\n" + similar));
 }
 
-/// Runs a fragment and tells what went wrong with it. Answers false when more lines must follow.
+/// Runs a fragment and reports what went wrong with it. Returns false when more lines must follow.
 bool RunFragment(Host& host, language::Session& session, const Source& fragment) {
     try {
         return session.Run(fragment);

@@ -10,8 +10,8 @@
 
 namespace standin {
 
-/// Reads lines from standard input until it ends or one says Quit. Mistakes and exceptions are told
-/// and do not end it. Throws UsageError when the documentation cannot be read.
+/// Reads lines from standard input until it ends or one says Quit. Mistakes and exceptions are
+/// reported and do not end it. Throws UsageError when the documentation cannot be read.
 void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line);
 
 }  // namespace standin

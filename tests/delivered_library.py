@@ -42,7 +42,7 @@ class Library:
         expect_equal("version markers", self.content.count(MARKER), 1)
 
     def check_paths(self) -> None:
-        """Nothing tells where the library was built."""
+        """Nothing in it shows where the library was built."""
         home = pathlib.Path.home() / ".cache"
         for place in {self.source, self.path.parent, home} | self.folders:
             expect(place.is_absolute(), f"{place} is no place in the file system")
@@ -90,7 +90,7 @@ class WindowsLibrary(Library):
             expect(not both, f"{section.Name} is both writable and executable")
 
     def check_version(self) -> None:
-        """What Windows shows as the version is what the marker and ./run --version tell."""
+        """What Windows shows as the version is what the marker and ./run --version say."""
         number = re.search(rb"Plugin version: (\S+)", MARKER)[1]
         copyright_line = re.search(rb"^Copyright.*$", (self.source / "LICENSE").read_bytes(), re.M)
         expected = {

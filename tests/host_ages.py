@@ -1,6 +1,6 @@
 """The host versions at which the library begins to behave otherwise, and their neighbours, for tests
 that try hosts of every age: each release that the library asks about, the last one before it, a host
-that tells no version, and the stand-in host's own version."""
+without a version function, and the stand-in host's own version."""
 
 CURRENT = "current"
 AGES = ("none", "2010.028", "2010.029", "2011.99", "2012.0", "2013.0", "2013.03", "2013.04", "2014.99",

@@ -4,8 +4,8 @@ usage: lint.py format SOURCE_FOLDER
        lint.py cppcheck SOURCE_FOLDER
        lint.py tidy SOURCE_FOLDER BUILD_FOLDER
 
-`format` holds every C++ file against .clang-format. `cppcheck` runs that over all but the tests: what
-it is wrong about is marked in the source, with the reason. `tidy` runs clang-tidy over what the build
+`format` holds every C++ file against .clang-format. `cppcheck` runs that over all but the tests: its
+false alarms are marked in the source, with the reason. `tidy` runs clang-tidy over what the build
 compiles, most thoroughly over what gets into the library; a file that was found clean is not looked
 at again until something changes that it may depend on.
 """

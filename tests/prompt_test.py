@@ -1,4 +1,4 @@
-"""The interactive prompt: what it answers to lines from a file, and to keys on a terminal.
+"""The interactive prompt: what it prints for lines from a file, and for keys on a terminal.
 
 usage: prompt_test.py SOURCE_FOLDER -- COMMAND...
 

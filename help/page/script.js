@@ -228,7 +228,7 @@ form.addEventListener("submit", (event) => {
   }
 });
 results.addEventListener("click", (event) => {
-  // The address may already be the one of the link; then nothing but this click tells.
+  // The address may already be that of the link: then no hashchange follows.
   if (event.target.closest("a")?.hash === location.hash) {
     showTarget();
   }

@@ -12,8 +12,8 @@
 namespace vqz::kernels {
 
 /// By how many bits the smaller of two numbers is to be moved: the magnitude of the difference of
-/// their exponents as ttmath computes it, which wraps. What is more than W words comes out as one
-/// bit more than these.
+/// their exponents as ttmath computes it, which wraps. For more than the bits of W words it
+/// returns one bit more than these.
 template <ttmath::uint E, ttmath::uint W>
 Word ExponentDistance(const ttmath::Int<E>& greater, const ttmath::Int<E>& smaller) {
     constexpr Word TooFar = W * WordBits + 1;
@@ -33,7 +33,7 @@ struct Remains {
     bool othersZero;
 };
 
-/// What is moved out of a mantissa by `bits` bits, from 1 to all of them.
+/// What a right shift of a mantissa by `bits` bits, from 1 to all of them, moves out.
 template <int W>
 [[gnu::always_inline]] inline Remains RemainsOfShift(const ttmath::UInt<W>& mantissa, Word bits) {
     const Word first = bits - 1;

@@ -6,7 +6,7 @@
 
 namespace vqz::kernels {
 
-/// The columns that one step computes at most; sums are written for whole steps.
+/// The most columns that one step computes; sums are written for whole steps.
 inline constexpr int ColumnStep = 16;
 static_assert(ColumnStep <= LimbPadding);
 
@@ -22,7 +22,7 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
     const int end = leftCount < beyond ? leftCount : beyond;
     const Limb* run = right + (k - begin);
     for (int i = begin; i < end; ++i, --run) {
-        // Runs overlap from turn to turn.
+        // The runs of two iterations overlap.
         Lanes::Forget(run);
         const auto factor = Lanes::Broadcast(left + i * Stride);
 #pragma GCC unroll 4

@@ -32,15 +32,15 @@ public:
     const Word* words() const { return words_ + Slack; }
 
 private:
-    /// Words below the quotient, that whole groups of limbs reach into. The guard word is the last
-    /// one.
+    /// Words below the quotient, because limbs are joined by whole groups. The guard word is the
+    /// last one.
     static constexpr int Slack = GroupCount(LimbCount(W)) * GroupWords - W;
     static_assert(Slack > 0);
 
     bool topBit_ = false;
     Word words_[Slack + W];
 
-    /// The schoolbook's division by one digit.
+    /// Schoolbook division by a divisor of one digit.
     void DivideByWord(const Word* dividend, Word divisor) {
         Word remainder = dividend[W - 1];
         topBit_ = remainder >= divisor;
@@ -53,7 +53,7 @@ private:
         words_[Slack] = DivideWords(remainder, 0, divisor, remainder);
     }
 
-    /// Returns whether the words are decided.
+    /// Returns whether the words are certain to be those of the exact quotient.
     bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
         topBit_ =
             vectorKernels->Of<W>().divide(dividend, divisor, divisorCount, std::end(words_)) != 0;
@@ -61,7 +61,7 @@ private:
         constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
         const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
-        // Exact words are made 1 too small, for the correction to make up for it.
+        // Exact words are made 1 too small, so that the correction has something to correct.
         if (isDecided) {
             SubtractOne();
         }
@@ -76,7 +76,7 @@ private:
         return guard <= ~error;
     }
 
-    /// Adds 1 if the quotient is 1 too small, which the remainder tells: it is less than twice
+    /// Adds 1 if the quotient is 1 too small, which the remainder shows: it is less than twice
     /// the divisor, so that W + 1 words of it suffice.
     void CorrectExactly(const Word* dividend, const Word* divisor) {
         using Product = MantissaProduct<W>;
@@ -120,7 +120,8 @@ private:
 #endif
 };
 
-/// The quotient of two normalised mantissas. Of one more than W words the last bit is a half.
+/// The quotient of two normalised mantissas. When it has one bit more than W words, its lowest bit
+/// is not kept: it counts as half of the last bit that is.
 template <int W>
 ScaledWords<W> DivideNormalised(const Word* dividend, const Word* divisor) {
     const MantissaQuotient<W> quotient(dividend, divisor);

@@ -1,4 +1,4 @@
-// An integer that grows, and knows how many of its words are in use.
+// An integer that grows, and keeps count of the words in use.
 #pragma once
 
 #include "number/kernels/specialisations.hpp"
@@ -10,7 +10,8 @@ namespace vqz::kernels {
 template <ttmath::uint W>
 class GrowingInteger {
 public:
-    /// Makes it integer * factor + summand, unless that gets too large. Returns whether it did.
+    /// Makes it integer * factor + summand, unless that gets too large: then it
+    /// returns false.
     bool Append(Word factor, Word summand) {
         if (words_ == W && MultiplyAdd(factor, summand, [](Word&, Word) {}) != 0) {
             return false;

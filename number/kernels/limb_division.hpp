@@ -1,7 +1,7 @@
 // How the quotient of two long mantissas is computed with vectors of any width. `Lanes` is
 // a traits class of the vector width.
 //
-// It is the schoolbook's division with limbs as digits, turned around twice.
+// It is schoolbook division with limbs as digits, rearranged in two ways.
 //
 // First, both numbers are multiplied by an inverse of the divisor's first word, which makes the
 // divisor 1 - d for a small fraction d: then a digit of the quotient is what is left of the
@@ -27,8 +27,8 @@
 // is ever negative: a digit is never too great. It may be too small, since the next digit, which
 // may be greater than a limb, makes up for it.
 //
-// Digit k takes column k and what the next two columns carry into it, of which it leaves the limbs.
-// Let all digits be below b * 2^28. In units of column k there is left then
+// Digit k is column k and what the next two columns carry into it; of these two their low 28 bits
+// remain. Let all digits be below b * 2^28. In units of column k, what is left then is
 //
 //  - less than 1 of the next column and less than 2^-28 of the one behind it,
 //  - of the later columns, each below 2^63, together less than 2^-20,
@@ -59,7 +59,7 @@ public:
     /// See SizedVectorKernels::divide.
     static Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
                        Word* quotientEnd) {
-        // For the greatest first word, 2^63 / t is the same.
+        // For the greatest first word t, t + 1 would not fit; 2^63 / t, rounded down, is the same.
         const Word top = divisor[W - 1];
         Word rest = 0;
         const Word inverse = DivideWords(TopBit, 0, top + (~top != 0 ? 1 : 0), rest);
@@ -105,7 +105,7 @@ private:
             for (int i = limbs_.count(); i > 0; --i) {
                 sum = Pair::Add(Pair::ShiftRight<LimbBits>(sum),
                                 Pair::Multiply(Pair::LoadLow(limbs + i - 1), multiplier));
-                // What is missing to a limb of ones.
+                // The complement: all bits of a limb that the sum does not have.
                 Pair::StoreLow(limbs + i, Pair::Missing(sum, mask));
             }
             // For 0 < d < 2^-30.

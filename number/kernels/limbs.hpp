@@ -3,8 +3,8 @@
 // A word has 32 bits, and the product of two words fills a 64-bit lane of a vector register to its
 // last bit: adding products would need a carry after each. So a mantissa is cut into limbs of 28
 // bits, each alone in a lane of 64 bits. Products of two limbs have 56 bits, and 2^8 of them can be
-// added in a lane before it overflows. The schoolbook's column sums then need no carry at all;
-// carries are made once, when the sums become words again.
+// added in a lane before it overflows. The column sums of schoolbook multiplication then need no
+// carry at all; carries are made once, when the sums become words again.
 //
 // Limbs begin at the mantissa's top bit, the highest limb first: a mantissa is a fraction between 0
 // and 1, and limb i weighs 2^(-28 (i + 1)). Words stay in ttmath's order, the lowest first.
@@ -25,7 +25,7 @@
 namespace vqz::kernels {
 inline namespace BIGNUMBER_INSTRUCTION_SET {
 
-/// A limb as the multiplication wants it: in the low 28 bits of a lane.
+/// A limb in the form that the multiplication takes: in the low 28 bits of a lane.
 using Limb = std::uint64_t;
 
 inline constexpr int LimbBits = 28;
@@ -50,8 +50,8 @@ inline constexpr int GroupCount(int limbs) {
 /// The zero limbs that column sums may read before and behind a factor: one vector step of columns.
 inline constexpr int LimbPadding = 16;
 
-/// Up to `Words` words as limbs, with the padding that column sums want of a factor. They may begin
-/// with `Lead` zero bits, which makes the fraction so much smaller.
+/// Up to `Words` words as limbs, with the padding that column sums need around a factor. They may
+/// begin with `Lead` zero bits, which divides the fraction by 2^Lead.
 template <int Words, int Padding = LimbPadding, int Lead = 0>
 class LimbBuffer {
 public:

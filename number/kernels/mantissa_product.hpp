@@ -12,10 +12,11 @@
 
 namespace vqz::kernels {
 
-/// Mantissas of up to this many words are multiplied by code without loops.
+/// Mantissas of up to this many words are multiplied by unrolled code.
 inline constexpr int MaxUnrolledWords = 8;
 
-/// The product of two mantissas of W words, seen as fractions: its words begin at the top.
+/// The product of two mantissas of W words, seen as fractions: a shorter product fills the highest
+/// of its 2 * W words.
 template <int W>
 class MantissaProduct {
 public:
@@ -23,8 +24,8 @@ public:
     enum class Precision { Full, Leading };
 
     /// Full: all 2 * W words. Leading, for normalised mantissas: the upper W words and the bit of
-    /// the guard word that rounds them. What lies below that bit may be too small then, but it is
-    /// not 0, and neither are the exact bits.
+    /// the guard word that rounds them. What lies below that bit may then be too small. It is
+    /// not 0, and the exact value of these bits is not 0 either.
     MantissaProduct(const Word* left, const Word* right, Precision precision) {
         const int leftCount = WithoutLowZeros(left, W);
         const int rightCount = WithoutLowZeros(right, W);
@@ -49,14 +50,14 @@ public:
     const Word* lower() const { return words_ + Slack; }
 
 private:
-    /// Words below the product, that whole groups may reach into.
+    /// Words below the product, because limbs are joined by whole groups.
     static constexpr int Slack = GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
 
     Word words_[Slack + 2 * W];
 
     Word* end() { return std::end(words_); }
 
-    /// The schoolbook, row by row.
+    /// Schoolbook multiplication, row by row.
     void MultiplyWords(const Word* left, int leftCount, const Word* right, int rightCount) {
         Word* product = end() - (leftCount + rightCount);
         std::fill(words_, product + leftCount, 0);
@@ -69,7 +70,7 @@ private:
         }
     }
 
-    /// The schoolbook, column by column of words, which are summed up in three words. For the
+    /// Schoolbook multiplication, column by column of words, each summed up in three words. For the
     /// leading words, columns 0 to W - 3 are left out: at most k + 1 products below 2^64 in column
     /// k, together less than W * 2^(64 + 32 (W - 3)), are less than W units of the guard word W
     /// - 1.
@@ -95,7 +96,7 @@ private:
         product[2 * W - 1] = sum.Next();
     }
 
-    /// Kept out of line, the sum would live in memory.
+    /// If this were a call, the compiler would keep the sum in memory.
     template <int K>
     [[gnu::always_inline]] static void AddWordColumn(const Word* left, const Word* right,
                                                      ColumnSum& sum) {
@@ -106,8 +107,8 @@ private:
         (std::make_integer_sequence<int, std::min(K, W - 1) - First + 1>{});
     }
 
-    /// The schoolbook, column by column; for the leading words, without the columns that can hardly
-    /// matter.
+    /// Schoolbook multiplication, column by column; for the leading words, without the columns that
+    /// can hardly matter.
     ///
     /// Column k weighs 2^(-28 (k + 2)) and sums up at most n products below 2^56, where n is the
     /// number of limbs of a factor: it is less than n * 2^(-28 k). A unit of the guard word is

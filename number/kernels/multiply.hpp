@@ -62,14 +62,15 @@ Word Multiply(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& other, bool round)
     const ScaledWords<W> product =
         areNormalised ? MultiplyNormalised<W>(me.mantissa.table, other.mantissa.table)
                       : MultiplyExactly(me.mantissa, other.mantissa);
-    // For mantissas that are not normalised this may wrap; ttmath adds it as it is then.
+    // For mantissas that are not normalised this may wrap around; ttmath adds the wrapped value,
+    // too.
     const Word gained = W * WordBits - product.shift;
     Word carry = AddToExponent<E>(me.exponent, gained);
     carry += AddToExponent<E>(me.exponent, other.exponent);
     return Finish(me, product, round, me.IsSign() != other.IsSign(), carry);
 }
 
-/// me = me * factor; what the mantissa has no room for is cut off. Returns a carry when the
+/// me = me * factor; bits beyond the mantissa's end are cut off. Returns a carry when the
 /// exponent overflows, and for a NaN.
 template <ttmath::uint E, ttmath::uint W>
 Word MultiplyByWord(ttmath::Big<E, W>& me, Word factor) {

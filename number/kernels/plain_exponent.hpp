@@ -1,4 +1,4 @@
-// Exponents as integers of the machine.
+// Exponents as machine integers.
 #pragma once
 
 #include <optional>

@@ -16,8 +16,8 @@ namespace vqz::kernels {
 /// computed.
 template <ttmath::uint E, ttmath::uint W>
 std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Word power) {
-    // A plain exponent, raised by less than a mantissa's bits to be that of an odd number, times at
-    // most as many: the product stays below 2^31.
+    // The odd factor's exponent is a plain exponent plus less than a mantissa's bits. Times a power
+    // of at most a mantissa's bits it stays below 2^31.
     constexpr auto bits = std::int64_t{WordBits} * W;
     static_assert((PlainExponentLimit + bits) * bits < std::int64_t{1} << 31);
     const auto exponent = PlainExponent(number);
@@ -50,7 +50,7 @@ std::optional<ttmath::Big<E, W>> ExactPower(const ttmath::Big<E, W>& number, Wor
     return value;
 }
 
-/// number = number^power. Returns whether that got too large, or 2 for 0^0.
+/// number = number^power. Returns 1 when that gets too large, 2 for 0^0.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     if (const auto exact = ExactPower(number, power)) {
@@ -60,7 +60,7 @@ Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     return number.Pow(ttmath::UInt<1>(power));
 }
 
-/// number = number^[|power|], as Big::PowUInt; `power` is used up.
+/// number = number^[|power|], as Big::PowUInt; `power` is changed.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
     if (number.IsNan() || power.IsNan()) {
@@ -85,7 +85,7 @@ Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
             return 0;
         }
     }
-    // Squares, of which those are multiplied that the bits of the power tell.
+    // Binary exponentiation: each set bit of the power multiplies by the square for its place.
     ttmath::Big<E, W> square = number;
     ttmath::Big<E, W> one;
     one.SetOne();

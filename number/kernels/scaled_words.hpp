@@ -1,4 +1,4 @@
-// An exact result before it is a number again: its leading words and what lies below them.
+// An exact result before it is rounded to a number: its leading words and what lies below them.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace vqz::kernels {
 
-/// What an exact result holds below its leading words, measured by the half of their last bit.
+/// What an exact result holds below its leading words, compared with half of their last bit.
 enum class Tail : std::uint8_t { BelowHalf, Half, AboveHalf };
 
 /// A non-negative integer of 2 * W words, shifted left until its top bit is set.
@@ -38,7 +38,7 @@ ScaledWords<W> Scale(ttmath::UInt<2 * W>& integer) {
     return result;
 }
 
-/// An exponent of two words as what it is.
+/// An exponent of two words as a machine integer.
 inline std::int64_t ToInteger(const ttmath::Int<2>& exponent) {
     return static_cast<std::int64_t>(Join(exponent.table[1], exponent.table[0]));
 }
@@ -75,8 +75,8 @@ Word SubtractFromExponent(ttmath::Int<E>& exponent, const ttmath::Int<E>& term) 
 }
 
 /// Makes `number`, whose exponent is set already, the number of these leading words: rounds half to
-/// even, sets the sign and standardises. `carry` is what the exponent has overflowed before.
-/// Returns whether it did, and then makes it a NaN.
+/// even, sets the sign and standardises. `carry` is not 0 if the exponent has overflowed
+/// before. If it has overflowed before or here, makes the number a NaN and returns 1, otherwise 0.
 template <ttmath::uint E, ttmath::uint W>
 Word Finish(ttmath::Big<E, W>& number, const ScaledWords<W>& result, bool round, bool negative,
             Word carry) {

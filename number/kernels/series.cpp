@@ -17,8 +17,8 @@ namespace {
 using ttmath::Big;
 using ttmath::uint;
 
-/// How a sum is ended: by the first term that does not change it, or looking at every fourth one
-/// only.
+/// When a sum ends: at the first term that does not change it; or, tested at every fourth term
+/// only, at the first four that do not change it together.
 enum class EndTest { EachTerm, EveryFourthTerm };
 
 /// Whether 2^position, added to or subtracted from the mantissa, leaves its top bit the top bit.
@@ -84,7 +84,7 @@ std::optional<uint> AddTail(Big<E, W>& sum, const Big<E, W>& term, const Big<E, 
 ///     bool MakeTerm()              computes `term`, unless a number gets too large
 ///     bool Advance()               prepares for the next one, likewise
 ///     TermRatio Ratio(index)       how a term follows from the one before
-///     const Number& multiplier()   likewise
+///     const Number& multiplier()   what multiplies each term in addition to the ratio
 template <typename Series, typename Number>
 uint Sum(Series& series, Number& sum) {
     Number oldSum = sum;
@@ -199,7 +199,7 @@ private:
     Number two_;
 };
 
-/// x^3 / 3 - x^5 / 5 + x^7 / 7 - ..., what is subtracted from x
+/// x^3 / 3 - x^5 / 5 + x^7 / 7 - ..., which is subtracted from x
 template <typename Number>
 class ArcTangentSeries {
 public:
@@ -235,8 +235,8 @@ private:
     uint carry_ = 0;
 };
 
-/// x^3 / 3! - x^5 / 5! + ..., what is subtracted from x, if `First` is 2; with `First` 1 it is
-/// x^2 / 2! - x^4 / 4! + ..., what is subtracted from 1.
+/// x^3 / 3! - x^5 / 5! + ..., which is subtracted from x, if `First` is 2; with `First` 1 it is
+/// x^2 / 2! - x^4 / 4! + ..., which is subtracted from 1.
 template <typename Number, uint First>
 class SineSeries {
 public:
@@ -279,8 +279,9 @@ private:
     uint carry_ = 0;
 };
 
-/// x^3 / (2 * 3) + (1 * 3) x^5 / (2 * 4 * 5) + ..., what is added to x. `Halved` is the series that
-/// has x for x^2 and is halved with each term: x / (2 * 3) / 2 + (1 * 3) x^2 / (2 * 4 * 5) / 4 +
+/// x^3 / (2 * 3) + (1 * 3) x^5 / (2 * 4 * 5) + ..., which is added to x. `Halved` is the series
+/// with x in place of x^2, in which each further term is halved once more: x / (2 * 3) / 2 + (1 *
+/// 3) x^2 / (2 * 4 * 5) / 4 +
 /// ...
 template <typename Number, bool Halved>
 class ArcSineSeries {
@@ -396,7 +397,7 @@ Number ArcTangent(const Number& x) {
     return result;
 }
 
-/// The sine of x from 0 to pi/2, from pi/4 on as the cosine of what is missing.
+/// The sine of x from 0 to pi/2; from pi/4 on it is computed as the cosine of pi/2 - x.
 template <typename Number>
 Number Sine(const Number& x) {
     Number quarter;

@@ -4,7 +4,7 @@
 // and each partial sum is rounded to W words. Once a term is far below the sum, the sum keeps its
 // exponent, so that adding a term means adding an integer to the sum's mantissa: the term divided
 // by the unit of the mantissa's last bit and rounded. For this the term need not be known to W
-// words, only so well that the nearest integer is beyond doubt.
+// words, only precisely enough to make the nearest integer certain.
 //
 // Here terms are fixed-point numbers, counted in that unit: limbs of 28 bits, of which the lowest
 // three lie below the unit. Each term is the one before times a factor below 1/2, the series'
@@ -27,7 +27,7 @@
 // - The lowest limb is left out when a term is rounded: less than 2^-55.
 //
 // Together less than 2^-26, the TieMargin: a term that is nearer to the middle between two integers
-// ends the attempt, and the series is summed on plainly.
+// ends the attempt, and the rest of the series is summed term by term as ttmath does.
 #pragma once
 
 #include <array>
@@ -82,7 +82,7 @@ struct TailStart {
     bool subtract;
     bool alternate;
     /// Whether the sum ends with four terms that change nothing together, not with a single one.
-    /// Four terms end with an index that 4 divides.
+    /// Such a group ends at an index that is a multiple of 4.
     bool wholeGroups;
     /// The index of the next term; with whole groups it is the first of one.
     Word next;

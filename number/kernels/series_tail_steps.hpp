@@ -1,5 +1,5 @@
-// How the tail of a series is computed with vectors of any width; series_tail.hpp tells what is
-// computed. `Lanes` is a traits class of the vector width.
+// How the tail of a series is computed with vectors of any width; series_tail.hpp explains what
+// is computed. `Lanes` is a traits class of the vector width.
 #pragma once
 
 #include "number/kernels/column_sums.hpp"
@@ -79,7 +79,8 @@ private:
 
     static constexpr int Bits = WordBits * W;
     static constexpr int GuardLimbs = 3;
-    /// Factors are made four vectors at a time: each division waits for itself only.
+    /// Four vectors of factors are made at a time, so that their divisions do not wait for each
+    /// other.
     static constexpr int FactorVectors = 4;
     static constexpr int FactorCount = FactorVectors * Lanes::Count;
 
@@ -200,9 +201,9 @@ private:
         }
     }
 
-    /// Makes the last limbs of the term of as many columns, and two more limbs of their carries.
-    /// What exceeds 28 bits of a column is handed on, twice: the first time up to 36 bits, the
-    /// second time up to 8. Limbs are below 2^28 + 2^8 then, which is good enough.
+    /// Turns columns into as many last limbs of the term, and their carries into two more limbs.
+    /// What exceeds 28 bits of a column is handed on to the column above, twice: the first time up
+    /// to 36 bits, the second time up to 8. Limbs are below 2^28 + 2^8 then, which is good enough.
     void Carry(const DoubleWord* sums, int columns) {
         const Limb maskLimb = LimbMask;
         const Vector mask = Lanes::Broadcast(&maskLimb);

@@ -16,7 +16,7 @@ static_assert(std::is_same_v<ttmath::uint, vqz::kernels::Word>,
               "the kernels are made for ttmath with words of 32 bits: define TTMATH_PLATFORM32");
 
 // Each member that has a kernel, as it is declared here and defined in the file named beside it.
-// number/kernels/README.md tells which other members get to it.
+// number/kernels/README.md lists the members of the classes that use it.
 
 // arithmetic.cpp
 #define BIGNUMBER_KERNEL_ADD(E, W) \

@@ -42,7 +42,8 @@ constexpr auto LargestPowers = [] {
     return powers;
 }();
 
-/// Writes the digits of a block, the last first, and ends where they end. `Base` 0 is any base.
+/// Writes the digits of a block backwards, so that they end before `end`. With `Base` 0 the base is
+/// that of the argument.
 template <uint Base>
 void WriteBlock(char* end, uint block, uint base, int digits) {
     const uint divisor = Base != 0 ? Base : base;
@@ -111,7 +112,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
         text = '0';
         return;
     }
-    // The plain member reserves as much, and nothing after it asks for memory.
+    // The plain member reserves as much, so nothing after this allocates memory.
     const double bits = static_cast<double>(word) * WordBits + bit + 1;
     text.reserve(static_cast<std::size_t>(bits * digitsPerBit) + 3);
     if (negative) {
@@ -120,7 +121,7 @@ void WriteInteger(std::string& text, const UInt<W>& integer, uint base, bool neg
     AppendDigits(text, integer, word + 1, base);
 }
 
-/// Goes over the digits of a text.
+/// Reads the digits of a text one by one.
 class DigitReader {
 public:
     DigitReader(const char* source, const ttmath::Conv& conv) : place_(source), conv_(conv) {}
@@ -153,9 +154,9 @@ private:
     }
 };
 
-/// ToString asks for log10(x) only to round it down or up. For x = 2^n it is enough to know between
+/// ToString needs log10(x) only to round it down or up. For x = 2^n it is enough to know between
 /// which two integers the logarithm lies: this sets `number` to the half between them, or to 0 if n
-/// is 0. Returns false, and leaves `number` alone, if the integers cannot be told with certainty.
+/// is 0. Returns false, and leaves `number` alone, if the two integers are not certain.
 template <uint E, uint W>
 bool SetHalfNearDecimalLogarithm(Big<E, W>& number, const Big<E, W>& x) {
     // log10(2) * 2^32. It is off by less than 1/2, so that the product with at most 2^20 is off by
@@ -241,7 +242,7 @@ uint ReadIntegerPart(Big<E, W>& number, const char*& source, const ttmath::Conv&
     return carry == 0 ? 0 : 1;
 }
 
-/// Reads the digits behind the point and adds what they count, as
+/// Reads the digits behind the point and adds the value of that fraction, as
 /// Big::FromString_ReadPartAfterComma: digits are left out once there are more than a mantissa
 /// holds.
 template <uint E, uint W>

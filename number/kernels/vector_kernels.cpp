@@ -1,5 +1,5 @@
 // The kernels that work on vectors. This file is compiled once for each instruction set, which
-// tells what `Lanes` and the namespace are.
+// determines `Lanes` and the namespace.
 #include "number/kernels/vector_kernels.hpp"
 
 #include BIGNUMBER_LANES

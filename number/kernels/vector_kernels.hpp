@@ -1,5 +1,5 @@
-// The kernels that work on vectors, the one place where long mantissas spend their time. Each
-// instruction set has its own copy of them; which one is taken is settled when the library is
+// The kernels that work on vectors, where computations with long mantissas spend most of their
+// time. Each instruction set has its own copy of them; which one runs is chosen when the library is
 // loaded.
 #pragma once
 
@@ -12,7 +12,8 @@
 
 namespace vqz::kernels {
 
-/// Up to this many products of words, the schoolbook with words is faster than with limbs.
+/// Up to this many products of words, schoolbook multiplication is faster with words than with
+/// limbs.
 inline constexpr int MaxWordProducts = 160;
 
 /// The kernels for mantissas of one size of W words.
@@ -35,7 +36,7 @@ struct SizedVectorKernels {
     /// nothing. Returns the index of the last term; or 0, and leaves the sum as it is, if a term
     /// cannot be rounded with certainty or MaxTerms are not enough. The next term is below 2^-40 of
     /// the sum, each further one at most half of the one before, and the sum's top bit does not
-    /// change on the way. series_tail.hpp tells how it is done.
+    /// change on the way. series_tail.hpp explains how.
     Word (*addTail)(Word* sum, const TailStart& start);
 };
 
@@ -55,8 +56,8 @@ struct VectorKernels {
     }
 };
 
-/// Those of the best instruction set that processor and system have. (Before static initialisation
-/// has come to it, they are those of the set that every processor has.)
+/// Those of the best instruction set that processor and system have. (Until static initialisation
+/// reaches it, it points to those of the basic set, which every processor has.)
 extern const VectorKernels* vectorKernels;
 
 }  // namespace vqz::kernels

@@ -6,7 +6,7 @@
 
 namespace vqz::kernels {
 
-/// result = left + right, of W words, which may all be the same. Returns the carry.
+/// result = left + right, each of W words; all three may be the same words. Returns the carry.
 template <int W>
 bool AddWords(const Word* left, const Word* right, Word* result) {
     static_assert(W % ChainWords == 0);
@@ -17,7 +17,7 @@ bool AddWords(const Word* left, const Word* right, Word* result) {
     return carry != 0;
 }
 
-/// result = left - right, of W words, which may all be the same. Returns the borrow.
+/// result = left - right, each of W words; all three may be the same words. Returns the borrow.
 template <int W>
 bool SubtractWords(const Word* left, const Word* right, Word* result) {
     static_assert(W % ChainWords == 0);

@@ -16,8 +16,8 @@
 
 namespace vqz {
 
-/// A new object with the result of `operation` on a copy of the number; null and the report with
-/// the number when it returns a carry.
+/// A new object with the result of `operation` on a copy of the number. When that returns a carry,
+/// it raises the exception that shows the number, and returns null.
 template <typename Value, FixedString LogName, typename Operation>
 NamedRoutine OneNumberOrCarry(Operation) {
     return MakeRoutine<LogName, Failure::OneNumber>([](Object number) -> Object {
@@ -30,8 +30,8 @@ NamedRoutine OneNumberOrCarry(Operation) {
     });
 }
 
-/// A new object with the result of `operation` on copies of two numbers; null and the report with
-/// both numbers when it returns a carry.
+/// A new object with the result of `operation` on copies of two numbers. When that returns a carry,
+/// it raises the exception that shows both numbers, and returns null.
 template <typename Value, FixedString Name, typename Operation>
 Object ComputeWithTwoNumbers(Object self, Object other, Operation operation) {
     Value result = ReadNumber<Value>(self);
@@ -64,8 +64,8 @@ NamedRoutine TwoNumbersOrCarry(Operation) {
     }
 }
 
-/// The integer part of a quotient. A failure reports the quotient as ttmath left it, not the
-/// receiver.
+/// The integer part of a quotient. The exception of a failure shows the quotient as ttmath left it,
+/// not the receiver.
 template <typename Value, FixedString LogName>
 NamedRoutine IntegerDivide() {
     return MakeRoutine<LogName, Failure::TwoNumbers>([](Object self, Object other) -> Object {
@@ -107,8 +107,8 @@ ttmath::uint MultiplyBy(Value& me, std::int64_t factor) {
     return me.Mul(NumberFrom<Value>(factor), true);
 }
 
-/// A product with a machine integer. A failure reports the product as ttmath left it, not the
-/// receiver.
+/// A product with a machine integer. The exception of a failure shows the product as ttmath left
+/// it, not the receiver.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
 NamedRoutine MultiplyByInteger() {
     return MakeRoutine<LogName, Failure::TwoNumbers, FailureName>(

@@ -10,8 +10,8 @@
 
 namespace vqz {
 
-/// A new object with the function's value; null and the report with the argument when the function
-/// sets an error code.
+/// A new object with the function's value. When the function sets an error code, it raises the
+/// exception that shows the argument, and returns null.
 template <typename Value, FixedString Name, typename Function>
 NamedRoutine FunctionOfOne(Function) {
     return MakeRoutine<Name, Failure::OneNumber>([](Object argument) -> Object {
@@ -25,8 +25,8 @@ NamedRoutine FunctionOfOne(Function) {
     });
 }
 
-/// A new object with the function's value; null and the report of the name alone when the function
-/// sets an error code.
+/// A new object with the function's value. When the function sets an error code, it raises the
+/// exception that shows the name alone, and returns null.
 template <typename Value, FixedString FailureName, typename Function, typename... Arguments>
 Object ComputeOrReportName(Function function, Arguments... arguments) {
     ttmath::ErrorCode error = ttmath::err_ok;

@@ -1,4 +1,4 @@
-// The two types of number values, and the values that everything starts from.
+// The two types of number values, and their initial values.
 #pragma once
 
 #include <concepts>
@@ -31,8 +31,8 @@ struct NumberClass<BiggerNumberValue> {
     static host_interface::ClassDefinition Record;
 };
 
-/// A NaN with all other bits 0, the value that computations start from. (The build also has ttmath
-/// clear new numbers, so that raw access never shows a byte that nobody wrote.)
+/// A NaN with all other bits 0, the value that computations start from. (The build also makes
+/// ttmath clear new numbers, so that raw access never shows an uninitialised byte.)
 template <typename Value>
 Value NanValue() {
     Value value;

@@ -25,7 +25,7 @@ public:
     constexpr explicit HostFunctionSlot(const char* name, const char* fallbackName = nullptr)
         : name_(name), fallbackName_(fallbackName) {}
 
-    /// The host function's result, or null when the host lacks it.
+    /// The host function's result; null, 0 or nothing when the host lacks it.
     Result operator()(Arguments... arguments) {
         const Function function = Resolve();
         return function == nullptr ? Result() : function(arguments...);

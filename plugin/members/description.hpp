@@ -1,4 +1,4 @@
-// The types of the rows of members: what the host gets of a member, and what the help says of it.
+// The types of the rows of members: what the host gets, and what the help says about the member.
 //
 // The texts of the help are in the rows, but not in the library: the rows that the library is made
 // of drop them at compile time.
@@ -95,7 +95,8 @@ struct MemberHelp {
     OptionalText<Texts> units = {};
     /// The range of the result.
     OptionalText<Texts> range = {};
-    /// After "Fails for": with what. Goes with a routine that can fail, and only with one.
+    /// What follows "Fails for" in the help. A routine that can fail needs it; no other may have
+    /// it.
     OptionalText<Texts> fails = {};
     /// A program of a few lines that prints something. The help shows what it prints.
     RequiredText<Texts> example;

@@ -27,7 +27,7 @@ std::size_t NumberLength(std::string_view text) {
     if (text.size() <= std::size_t{hasSign} || !IsDigit(text[std::size_t{hasSign}])) {
         return 0;
     }
-    // A full stop behind it is the sentence's own.
+    // A full stop after the number belongs to the sentence.
     const std::string_view number = text.substr(0, text.find_first_not_of("0123456789.e+-"));
     return number.find_last_of("0123456789") + 1;
 }

@@ -1,5 +1,5 @@
-// Which routines of a plug-in were called, and what came of it: the ground on which a check stands
-// that tests leave nothing out.
+// Which routines of a plug-in were called, and how each call ended: the data for the check that the
+// tests leave nothing out.
 #pragma once
 
 #include <cstdint>
@@ -44,7 +44,7 @@ public:
     /// A call that came back.
     void NoteCall(Routine routine, std::span<const CallArgument> arguments, ReturnKind kind,
                   const ReturnValue& value);
-    /// The addresses that were noted are no routines any more.
+    /// The plug-in is unloaded: the recorded addresses are no routines any more.
     void ForgetRoutines();
 
 private:

@@ -48,8 +48,8 @@ extern "C" void StandinCallTrampoline(CallFrame* frame) asm("standin_call_trampo
 }  // namespace standin
 
 // Below the saved registers stand the frame's address and, aligned to 16 bytes and then moved by
-// the asked offset, the argument words. EBX and EDI hold marks that the routine has to preserve;
-// the expected stack pointer is kept beside the frame's address.
+// the requested offset, the argument words. EBX and EDI hold marks that the routine has to
+// preserve; the expected stack pointer is kept beside the frame's address.
 asm(R"(
     .text
     .p2align 4

@@ -305,7 +305,7 @@ const ClassEntry* ClassTable::Register(host_interface::ClassDefinition* definiti
     ClassEntry& entry = known != nullptr ? *byName_.find(name)->second : Add(name);
     if (known == nullptr) {
         registered_.push_back(&entry);
-        // Another offset in every class, so that none can be mistaken for a constant.
+        // A different offset in every class, so that no plug-in takes it for a constant.
         const std::size_t superSize = super == nullptr ? ObjectHeader : super->objectSize;
         entry.dataOffset = superSize + DataAlignment * (1 + registered_.size());
     }

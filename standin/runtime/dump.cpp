@@ -105,7 +105,7 @@ private:
         Line(line);
     }
 
-    /// What is said of a routine: nothing there, there, or the same as in an earlier entry.
+    /// What the dump says about a routine: absent, present, or the same as in an earlier entry.
     std::string Seen(Routine routine, const std::string& place) {
         if (routine == nullptr) {
             return "none";

@@ -19,10 +19,10 @@
 namespace standin {
 namespace {
 
-/// Who is named when the language, not the plug-in, uses a handle wrongly.
+/// The name that a report shows when the language, not the plug-in, uses a handle wrongly.
 constexpr const char* HostUser = "stand-in host";
 
-/// By how much the stack of a host that keeps four bytes of alignment only is off: by each in turn.
+/// The offsets, taken in turn, of the stack of a host that keeps four bytes of alignment only.
 /// An address sanitizer keeps its notes in units of eight bytes, and needs that much alignment.
 #if STANDIN_ADDRESS_SANITIZER
 constexpr std::array<std::uint32_t, 1> StackOffsets = {8};
@@ -32,7 +32,7 @@ constexpr std::array<std::uint32_t, 3> StackOffsets = {4, 8, 12};
 
 Host* TheHost = nullptr;
 
-/// What is left in the account of a host with spare references.
+/// A line for each count that is not 0, for a host with spare references.
 void AppendBalances(std::vector<std::string>& lines, const LedgerCounts& counts) {
     const auto append = [&](const char* what, std::int64_t count) {
         if (count != 0) {

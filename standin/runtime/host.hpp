@@ -37,7 +37,7 @@ using host_interface::Routine;
 using host_interface::String;
 using host_interface::UInteger;
 
-/// The release number of the host that is stood in for when nothing else is asked for.
+/// The version of the host that this one stands in for by default.
 inline constexpr double CurrentHostVersion = 2023.04;
 
 /// The first release with 64-bit programs.
@@ -51,7 +51,7 @@ struct HostOptions {
     /// What the host lacks: functions by the name that the resolver is asked for, global methods by
     /// declaration or name, and classes and properties of its own by name.
     std::set<std::string, std::less<>> missing = {};
-    /// What "REALinRuntime" answers.
+    /// What "REALinRuntime" returns.
     bool builtApplication = false;
     /// Whether "PluginNewInstance" runs the class's parameterless constructor.
     bool newInstanceRunsConstructor = false;
@@ -69,8 +69,8 @@ struct HostOptions {
     /// Without that, calls cost the host less, which is for measuring.
     bool remembersReleased = true;
     /// References that every new string and object has beyond its maker's, so that one which is
-    /// released too often lives on. They count in no ledger; `Leaks` then tells by how many
-    /// references the account is off.
+    /// released too often lives on. They count in no ledger; `Leaks` then reports by how
+    /// many references the counts are off.
     std::uint32_t spareReferences = 0;
 };
 
@@ -225,8 +225,9 @@ struct ClassInfo {
     const PropertyInfo& Property(std::string_view propertyName) const;
 };
 
-/// What a Variant of the host holds. Integers of unsigned type are told apart from signed ones by
-/// the alternative; text is a string of the host, of which the Variant keeps a reference.
+/// What a Variant of the host holds. The alternative of the variant type distinguishes
+/// unsigned integers from signed ones; text is a string of the host, of which the Variant keeps a
+/// reference.
 using VariantValue = std::variant<std::monostate, std::int64_t, std::uint64_t, double, String>;
 
 /// What an object of a program's own class holds.
@@ -252,7 +253,7 @@ struct LedgerCounts {
 };
 
 /// The host. Made before a plug-in is loaded, destroyed after it was unloaded.
-/// Every member that answers a handle gives one reference, which the caller releases.
+/// Every member that returns a handle gives one reference, which the caller releases.
 class Host {
 public:
     /// Throws std::invalid_argument for options that no host of this width has.
@@ -270,7 +271,7 @@ public:
     static void* Resolve(const char* name);
     /// How often each name was asked of the resolver.
     const std::map<std::string, int, std::less<>>& lookups() const;
-    /// The version that the plug-in told with "RegisterPluginVersion", if it did.
+    /// The version that the plug-in passed to "RegisterPluginVersion", if it did.
     std::optional<std::int32_t> pluginInterfaceVersion() const;
 
     // Classes --------------------------------------------------------------------------------
@@ -293,7 +294,7 @@ public:
     HostTextEncoding Encoding(String text);
     /// A new string with the same text in another encoding; null for null and on failure.
     String Convert(String text, HostTextEncoding encoding);
-    /// The text of a string as UTF-8 (a failed conversion answers the bytes as they are).
+    /// The text of a string as UTF-8 (a failed conversion returns the bytes as they are).
     std::string Utf8(String text);
     void Lock(String text);
     void Unlock(String text);
@@ -323,7 +324,7 @@ public:
     void SetErrorNumber(Object exception, Integer number);
 
     // Values in objects ----------------------------------------------------------------------
-    // All answer null on a failing allocation; the readers ask for an object of that kind.
+    // All return null on a failing allocation; the readers take an object of that kind only.
     /// A Variant of any type code, known or not. An unsigned integer makes one of the class
     /// "_VariantUInt32" or "_VariantUInt64" where the host has it. Nil and objects need none: a
     /// null handle is the Variant Nil, and an object is a Variant of itself.

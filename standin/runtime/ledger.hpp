@@ -28,10 +28,10 @@ public:
     std::byte* data() const { return data_; }
     std::size_t size() const { return size_; }
 
-    /// Makes the bytes worthless: overwritten, and reported by an address sanitizer when touched.
+    /// Overwrites the bytes, and makes an address sanitizer report any access to them.
     void Poison();
     /// Whether poisoned bytes were written to since. An address sanitizer reports that by itself,
-    /// and then this answers no.
+    /// and then this returns false.
     bool PoisonBroken() const;
 
 private:

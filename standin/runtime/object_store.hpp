@@ -97,7 +97,7 @@ public:
     void Count(LedgerCounts& counts) const;
     /// One line for each object that is still there.
     void AppendLeaks(std::vector<std::string>& lines) const;
-    /// What is there now counts no more.
+    /// From now on, what exists now is not counted.
     void ResetLedger();
 
 private:

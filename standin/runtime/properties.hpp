@@ -17,7 +17,7 @@ using PropertyValue =
     std::variant<std::int32_t, std::uint32_t, std::int64_t, std::uint64_t, float, double, String>;
 
 /// The value of the property of that name, letter case ignored; a string has a reference for the
-/// caller. Nothing when the object is null or has no readable property of that name.
+/// caller. No value when the object is null or has no readable property of that name.
 std::optional<PropertyValue> ReadProperty(Host& host, Object object, std::string_view name,
                                           const char* user);
 

@@ -14,7 +14,7 @@ namespace {
 
 using host_interface::StringData;
 
-/// What fills bytes and words of a string that a plug-in has no business with.
+/// Fills the bytes and words of a string that a plug-in must not use.
 constexpr std::byte NoiseByte{0xEE};
 /// The host's bytes in front of a text.
 constexpr std::size_t TextOffset = 1;
@@ -32,7 +32,7 @@ std::string Describe(const StringEntry& entry) {
     return Describe(entry.serial, TextOf(entry), entry.encoding);
 }
 
-/// The encoding in which the joined bytes of two texts are both texts joined, if there is one.
+/// The encoding in which the joined bytes of two texts are their joined text, if there is one.
 std::optional<HostTextEncoding> CommonEncoding(HostTextEncoding left, HostTextEncoding right) {
     if (left == right || (right == HostTextEncoding::Ascii && ExtendsAscii(left))) {
         return left;

@@ -9,7 +9,7 @@
 
 namespace standin {
 
-/// The name of an encoding for people, e.g. "UTF-8"; a code that nobody knows is shown as a number.
+/// The readable name of an encoding, e.g. "UTF-8"; an unknown code is shown as a number.
 std::string EncodingName(host_interface::HostTextEncoding encoding);
 
 /// The bytes of a text in another encoding. No value when either code is not a known encoding

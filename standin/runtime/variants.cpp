@@ -22,7 +22,7 @@ bool IsType(const VariantPayload& variant, VariantTypeCode code) {
     return variant.typeCode == static_cast<std::int32_t>(code);
 }
 
-/// The integer nearest to zero's side of a number, held within the range of the type.
+/// A number truncated to an integer and clamped to the range of the type.
 template <typename Integer>
 Integer Truncated(double value) {
     // Both limits are powers of two and therefore exact; the upper one is exclusive.

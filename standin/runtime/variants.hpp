@@ -1,4 +1,4 @@
-// What a Variant of the stand-in host answers when it is read as some type. A Variant is null
+// What a Variant of the stand-in host returns when it is read as some type. A Variant is null
 // (Nil), an object that is a Variant of itself, or an object of the class "Variant".
 #pragma once
 

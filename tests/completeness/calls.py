@@ -9,7 +9,7 @@ Every entry must have been called
   - to success;
   - without each of the handles that it takes, Nil and the empty text being legal, except a receiver
     that it is to write to;
-  - where it answers a handle and the host cannot make one, to Nil or an empty text;
+  - where it returns a handle and the host cannot make one, to Nil or an empty text;
   - in each of its failures, as failures.py lists them.
 
 An exception that is not in that list fails the check as well, so that the list stays complete.
@@ -29,7 +29,7 @@ from failures import FAILURES, NUMBER_ERROR
 CLASSES = ("BigNumberVQZ", "BiggerNumberVQZ")
 ERROR_CLASS = NUMBER_ERROR.rstrip(": ")
 
-# Test cases that only look for crashes and leaks prove nothing about what a call answers.
+# Test cases that only look for crashes and leaks prove nothing about what a call returns.
 WEAK_CASES = "--test-case-exclude=*crashes nothing*,*survives*,*never both"
 TEST_PROGRAMS = (
     ("table_tests", WEAK_CASES),
@@ -63,7 +63,7 @@ class Entry:
 
     @property
     def result(self) -> str:
-        """The type in lower case; empty when nothing is answered."""
+        """The type in lower case; empty when nothing is returned."""
         if self.part == "set":
             return ""
         return (re.search(r"\bas (\w+)$", self.declaration) or ["", ""])[1].lower()
@@ -131,7 +131,7 @@ class Record:
 
 
 def record_all(sources: pathlib.Path, binaries: pathlib.Path, command: list[str]) -> Record:
-    """Runs everything that asserts, and answers what it called."""
+    """Runs everything that asserts, and returns what it called."""
     runs = [[str(binaries / program), *words] for program, *words in TEST_PROGRAMS]
     for program in sorted(sources.glob("tests/programs/*/*.xojo_script")):
         runs.append([sys.executable, str(sources / "tests/run_program.py"), str(program), "--",

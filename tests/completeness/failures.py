@@ -13,26 +13,26 @@ NUMBER, NAN, NIL = "#", "NaN", "nil"
 
 
 def of_two(name: str) -> list[str]:
-    """The report of an operation of two numbers: both are to blame, or one is none or missing."""
+    """The messages of an operation of two numbers: of two numbers, or with a NaN or Nil among them."""
     operands = [(NUMBER, NUMBER), (NAN, NUMBER), (NUMBER, NAN), (NIL, NUMBER), (NUMBER, NIL)]
     return [f"{NUMBER_ERROR}{name} operation failed with numbers {first} and {second}."
             for first, second in operands]
 
 
 def of_result_and(name: str, *operands: str) -> list[str]:
-    """The report of an operation that shows what it came to, which is not a number."""
+    """The messages of an operation that shows its result, a NaN, in place of the receiver."""
     return [f"{NUMBER_ERROR}{name} operation failed with numbers {NAN} and {operand}."
             for operand in operands]
 
 
 def of_one(name: str, *operands: str) -> list[str]:
-    """The report of an operation of one number."""
+    """The messages of an operation of one number."""
     return [f"{NUMBER_ERROR}{name} operation failed with number {operand}."
             for operand in operands or (NUMBER, NAN, NIL)]
 
 
 def by_name(name: str) -> list[str]:
-    """The report of an operation that shows no number."""
+    """The message of an operation that shows no number."""
     return [f"{NUMBER_ERROR}{name} operation failed."]
 
 
@@ -61,7 +61,7 @@ FAILURES: dict[str, list[str]] = {
     "property DataFlags get": [NOT_INITIALIZED],
     "property DataFlags set": [NOT_INITIALIZED],
 
-    # Rounding to integers fails with what is no number only.
+    # Rounding to integers fails with NaN and Nil only.
     "method Ceil": of_one("Ceil", NAN, NIL),
     "method Floor": of_one("Floor", NAN, NIL),
     "method Round": of_one("Round", NAN, NIL),
@@ -76,7 +76,7 @@ FAILURES: dict[str, list[str]] = {
     "method BitAnd": of_two("BitwiseAnd"),
     "method BitOr": of_two("BitwiseOr"),
     "method BitXOr": of_two("BitwiseXor"),
-    # A base that there is none of matters to numbers only. More digits than a text can have are the
+    # An invalid base makes numbers fail, but not NaN and Nil. More digits than a text can have are the
     # one way to reach the guard without a failing allocation.
     "method GetStringValue": [*of_one("DoubleValue", NUMBER),
                               "RuntimeException: C++ Exception: basic_string::_M_create"],
@@ -84,7 +84,7 @@ FAILURES: dict[str, list[str]] = {
     "method StringValue set": of_one("StringValue", NUMBER, NAN),
     "method SetStringValue": of_one("SetStringValue", NUMBER, NAN),
 
-    # What it failed on is what the object held before: nothing in a new one.
+    # The message shows what the object held before: nothing in a new one.
     "method Constructor(value as String)": of_one("Constructor", NUMBER, NIL),
     "method Operator_Convert(value as String)": of_one("Constructor", NUMBER, NIL),
 

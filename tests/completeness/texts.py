@@ -35,7 +35,7 @@ EXCUSED = {
 
 
 class Use(enum.Enum):
-    """What becomes of a literal; the value says what a test has to expect."""
+    """What a literal is used for; the value says what a test has to expect."""
 
     LOG = "a line of the log with"
     HEAD = "a failure of"

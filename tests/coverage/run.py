@@ -23,7 +23,7 @@ BRANCHES_PERCENT = 95
 # say nothing new.
 LEFT_OUT = "unit/operation_tests/(2048|reference)|/hosts/|/library/|/lint/|/fuzz/|/completeness"
 # The compiler counts nothing for a line of a table that only calls what makes the row. Whether these
-# calls run, their functions tell.
+# calls run shows in the functions that they call.
 ROW_MAKER = r"\s+(\.\w+ = )?[A-Z]\w+<Value\b.*>\((\)\}?,|\[\]\(.*\) \{)?$"
 EXCLUDED = re.compile(r"GCOVR_EXCL_(?:LINE|START):? *(.*)")
 
@@ -50,7 +50,7 @@ def forget_old_objects() -> None:
 
 
 def report(words: list[str]) -> bool:
-    """Prints a report of gcovr; false when less is covered than it is told to ask for."""
+    """Prints a report of gcovr; false when less is covered than its options require."""
     command = ["gcovr", "--root", ROOT, "--exclude-throw-branches", "--exclude-unreachable-branches"]
     command += ["--exclude-lines-by-pattern", ROW_MAKER, "--print-summary", *words]
     command += [BUILD / part for part in ("number", "plugin", "tests")]

@@ -1,5 +1,5 @@
-// Operands that look for trouble: every shape of mantissa, exponent and flag byte that the raw
-// properties can write, and pairs whose product, quotient or sum lies where a decision is made.
+// Operands that are likely to show faults: every shape of mantissa, exponent and flag byte that the
+// raw properties can write, and pairs whose product, quotient or sum lies where a decision is made.
 #pragma once
 
 #include <algorithm>
@@ -122,7 +122,7 @@ public:
         return true;
     }
 
-    /// The exponential of a number is squared as often as its exponent tells, until it overflows.
+    /// The exponential of a number is squared as often as its exponent says, until it overflows.
     /// That of a number that is not normalised may be 1, and would be squared for years.
     static void MakeBearable(Number& number) {
         constexpr ttmath::sint squares = 100;

@@ -40,7 +40,7 @@ ttmath::uint WriteAndRead(Number& me, const Number&, std::string& text) {
     return failed * 2 + me.FromString(text, Base);
 }
 
-/// A word times a power of 2 near which integers of a machine may overflow, for an integer power.
+/// A word times a power of 2 near which machine integers may overflow, for an integer power.
 template <typename Number>
 void MakeHugePower(Number& me, Number& other) {
     Random random(std::uint64_t{other.mantissa.table[0]} << 32 | me.mantissa.table[0]);
@@ -66,8 +66,8 @@ void MakeIntegerPower(Number& me, Number& other) {
     other = ttmath::sint(word % 2500) - 400;
 }
 
-/// Reads a text that the operands tell: digits of any base, few or more than a mantissa holds, and
-/// now and then something else. How far it was read counts, too.
+/// Reads a text that the operands determine: digits of any base, few or more than a mantissa holds,
+/// and now and then something else. How far it was read counts, too.
 template <typename Number>
 ttmath::uint ReadText(Number& me, const Number& other, std::string& text) {
     constexpr std::string_view digits = "0123456789aBcDeF";
@@ -95,7 +95,8 @@ ttmath::uint WordFactor(const Number& other) {
     return other.mantissa.table[0] >> other.mantissa.table[1] % 32;
 }
 
-/// Writes the mantissa as a signed integer; the other operand tells the base, which may be none.
+/// Writes the mantissa as a signed integer; the other operand determines the base, which may be
+/// invalid.
 template <typename Number>
 ttmath::uint WriteInteger(Number& me, const Number& other, std::string& text) {
     constexpr auto words = sizeof(me.mantissa) / sizeof(ttmath::uint);

@@ -28,7 +28,7 @@ enum class Shape {
     Rounding,        ///< of one number with another, and a switch for rounding
     Function,        ///< shared, of one number
     FunctionOfPair,  ///< shared, of two numbers
-    WordFactor,      ///< of one number with an integer that the other one tells
+    WordFactor,      ///< of one number with an integer that the other one gives
     Text,            ///< a property that is read and written
 };
 
@@ -139,7 +139,7 @@ private:
         host_.Unlock(block);
     }
 
-    /// Returns 1 when the call failed, which every failure tells by an exception.
+    /// Returns 1 when the call failed: every failure raises an exception.
     ttmath::uint Call(const Member& member, Routine routine, Number& me, ttmath::uint factor,
                       std::string& text) {
         const Object partner = member.isPartner ? first_ : second_;

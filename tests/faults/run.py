@@ -1,4 +1,4 @@
-"""Puts deliberate faults into the plug-in, one at a time, and tells which ones the tests notice.
+"""Puts deliberate faults into the plug-in, one at a time, and reports which ones the tests notice.
 
 usage: run.py [--check | --listed | --drawn] [option...] [TEXT...]
 
@@ -41,7 +41,7 @@ from workshop import ALL, LAST, ROOT, Outcome, Verdict, Workshop
 SEED = 20
 COUNT = 150
 LEAST_SHARE = 0.95
-# Many do not compile, and some change nothing: so many are drawn for each one that has to count.
+# Many do not compile, and some change nothing: this many are drawn for each one that has to count.
 DRAWN_FOR_EACH = 20
 FOUND = ROOT / "build" / "faults" / "drawn.jsonl"
 

@@ -6,7 +6,7 @@ import dataclasses
 @dataclasses.dataclass(frozen=True)
 class Explained:
     """A line of a source file and what a mutant makes of it, both without the blanks around them,
-    and why no test can tell them apart."""
+    and why no test can distinguish them."""
 
     before: str
     after: str

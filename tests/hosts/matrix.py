@@ -5,7 +5,7 @@ usage: matrix.py [--sample SEED COUNT | --without FUNCTION... | --write] FOLDER 
 COMMAND starts the stand-in host with the library. The program is made of steps.txt, for both number
 classes, and of steps for the members that these leave out. On every host it must come to its end without
 a crash, a leak or a wrong use of the host; the functions to take away are those that the library asks
-for. FOLDER/missing-functions.txt tells what the program shows on a current host, and what it shows
+for. FOLDER/missing-functions.txt is what the program shows on a current host, and what it shows
 otherwise on a host that lacks a function; FOLDER/debug-log.txt which lines without a value the library
 logs while it runs. Both are compared; --write keeps them anew instead. With --sample only some of the
 hosts are tried, drawn with that seed; with --without only current ones that lack these functions.
@@ -37,7 +37,7 @@ CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
 NOTHING = "nothing"
 CRASH = ["The library crashes while it starts."]
 
-# What a missing function does to the account: which balance, and its sign for each call not made.
+# What a missing function does to the ledger: which balance, and its sign for each call not made.
 BALANCES = {
     "REALLockString": ("references of strings", -1),
     "REALUnlockString": ("references of strings", 1),
@@ -126,7 +126,7 @@ def program_of(lines: list[str]) -> str:
 
 @dataclasses.dataclass
 class Outcome:
-    """What became of a run: what each step showed, and what the host says."""
+    """The result of a run: what each step showed, and what the host reported."""
 
     status: int
     shown: dict[str, str]
@@ -200,7 +200,7 @@ class Hosts:
             options += ["--without", missing]
         if missing in BALANCES:
             options.append("--spare-references")
-        # A host that tells no version is an old one for the library.
+        # A host without a version function is an old one for the library.
         program = self.program("none" if missing == VERSION else age)
         result = output_check.run([*self.command, *options, str(program)],
                                   {"STANDIN_CALL_RECORD": str(self.record(age))})

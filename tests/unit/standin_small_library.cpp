@@ -1,5 +1,5 @@
-// A plug-in library as small as can be: its entry tells the debugger's output how it was called,
-// and registers one class.
+// A plug-in library as small as can be: its entry writes to the debugger's output how it was
+// called, and registers one class.
 #include "interface/host_interface.hpp"
 
 #if defined(_WIN32)

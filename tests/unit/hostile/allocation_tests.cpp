@@ -1,5 +1,5 @@
 // Every member while memory runs out: each single allocation of the library and of the host fails,
-// once and from then on, and the member raises or answers what is stated, loses nothing, changes
+// once and from then on, and the member raises or returns what is stated, loses nothing, changes
 // nothing and works again afterwards.
 #include <algorithm>
 #include <array>
@@ -46,7 +46,7 @@ using tests::TakeRaised;
 constexpr std::string_view OutOfMemory =
     "OutOfMemoryException: Failed to allocate memory: std::bad_alloc";
 
-/// What "VariantValue" answers for a text that could not be made.
+/// What "VariantValue" returns for a text that could not be made.
 constexpr std::string_view VariantOfNoText = "8 null";
 
 /// Where the allocations that fail are made.
@@ -61,7 +61,7 @@ using PointCounts = std::array<std::array<int, 2>, AllSources.size()>;
 
 /// How a process that calls one routine ends, as its status.
 enum Ending { Returned = 40, Left = 41 };
-/// Tells it which routine: the numbers of class and member, and how memory is to fail.
+/// The environment variable that says which routine: numbers of class and member, and what fails.
 constexpr const char* RoutineVariable = "HOSTILE_TESTS_ROUTINE";
 
 /// Members without a guard: what is thrown inside leaves them.
@@ -84,7 +84,7 @@ bool IsSlow(const Member& member) {
            member.name().find(".Operator_Power") != std::string::npos;
 }
 
-/// Whether a member tells the debug log more than its name.
+/// Whether a member writes more than its name to the debug log.
 bool LogsNumbers(const Member& member) {
     return member.name().find("Currency") != std::string::npos || member.Takes("variant");
 }
@@ -134,7 +134,7 @@ std::string_view ClassOf(std::string_view raised) {
     return raised.substr(0, raised.find(':'));
 }
 
-/// Whether nothing was answered.
+/// Whether nothing was returned.
 bool IsNeutral(const Answer& answer) {
     return !answer.given;
 }
@@ -173,7 +173,7 @@ public:
         LibraryMemory::StopFailing();
     }
 
-    /// Fails all allocations that the members which `choose` takes lead to.
+    /// Fails, one after the other, the allocations of the members that `choose` selects.
     template <typename Choose>
     void Run(Choose choose) {
         for (NumberClass& number : plugin_.classes()) {
@@ -288,7 +288,7 @@ private:
                     CHECK(outcome.raised == "OutOfBoundsException: Out of Bounds");
                     break;
                 }
-                // A text that cannot be made is missing in the message, or it was the answer.
+                // A text that cannot be made is missing in the message, or it was the result.
                 CHECK(ClassOf(outcome.raised) == ClassOf(usual.raised));
                 CHECK(outcome.raised.size() <= usual.raised.size());
                 CHECK((outcome.answer.shown == usual.answer.shown || IsNeutral(outcome.answer) ||
@@ -303,7 +303,7 @@ private:
         }
     }
 
-    /// The object that could not be made was the answer, or it was the exception.
+    /// The object that could not be made was the result, or it was the exception.
     static void CheckRaisedWithoutObject(const Member& member, bool persistent,
                                          const Outcome& usual, const Outcome& outcome) {
         if (!usual.raised.empty()) {

@@ -61,7 +61,7 @@ private:
     unsigned int mxcsrBefore_ = _mm_getcsr();
 };
 
-/// Calls one member by one recipe; what it answered, raised and left its object as.
+/// Calls one member by one recipe; shows what it returned and raised, and its object afterwards.
 std::string ResultOf(LoadedPlugin& plugin, NumberClass& number, const Member& member,
                      const tests::Recipe& recipe) {
     const OwnedSamples owned(plugin, number, recipe);

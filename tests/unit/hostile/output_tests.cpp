@@ -1,5 +1,5 @@
-// What a member has written when memory runs out in its midst: outputs are set before the step that
-// fails or not at all, and a value is the old one, or the 0 that it is made first.
+// What a member has written when memory runs out in the middle of it: outputs are set before the
+// step that fails or not at all, and a value is the old one, or the 0 that it is made first.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -91,7 +91,7 @@ TEST_CASE("Reading text sets its outputs before it stores the value") {
 }
 
 TEST_CASE("Reading text clears its outputs before it reads") {
-    // The text has to be copied there, since no NUL stands behind it.
+    // The text has to be copied there, since no NUL follows it.
     LoadedPlugin plugin(standin::HostOptions{.unterminatedStrings = true});
     const LibraryMemory memory(plugin.library().entry());
     for (NumberClass& number : plugin.classes()) {

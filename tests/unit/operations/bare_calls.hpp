@@ -15,7 +15,7 @@ namespace operation_tests {
 /// The machine word that a member takes after its numbers.
 enum class Extra { None, Round, Integer, UInt32 };
 
-/// What a member answers.
+/// What a member returns.
 enum class Answer { Number, Integer, Boolean };
 
 /// Which form of message a failure has.
@@ -55,7 +55,7 @@ struct Outcome {
     bool failed = false;
     /// The result, or what a failed computation left.
     AnyNumber number{};
-    /// The result of a member that answers an Integer or a Boolean.
+    /// The result of a member that returns an Integer or a Boolean.
     std::int32_t integer = 0;
 };
 

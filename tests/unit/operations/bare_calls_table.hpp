@@ -8,7 +8,6 @@
 #include <type_traits>
 
 #include "number/kernels/specialisations.hpp"
-
 #include "tests/unit/operations/bare_calls.hpp"
 
 namespace operation_tests {
@@ -57,7 +56,7 @@ struct BareCalls {
         return {.failed = carry != 0, .number = ToPlain(me)};
     }
 
-    /// Answers a new number and sets an error code.
+    /// Returns a new number and sets an error code.
     template <typename Call>
     static Outcome<Plain> WithErrorCode(const Arguments<Plain>& arguments) {
         ttmath::ErrorCode error = ttmath::err_ok;
@@ -76,7 +75,7 @@ struct BareCalls {
         return {.failed = error != ttmath::err_ok, .number = ToPlain(result)};
     }
 
-    /// Answers a machine integer.
+    /// Returns a machine integer.
     template <typename Call>
     static Outcome<Plain> ToInteger(const Arguments<Plain>& arguments) {
         const Value me = ToValue(arguments.numbers[0]);
@@ -140,7 +139,7 @@ struct BareCalls {
                 {},          {},      &InPlace<Call>};
     }
 
-    /// A member that answers a machine integer.
+    /// A member that returns a machine integer.
     template <typename Call>
     static Row Answering(Answer answer, const char* declaration, const char* name,
                          std::size_t arity, Call) {

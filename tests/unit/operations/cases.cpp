@@ -39,7 +39,7 @@ AnyNumber ConstantOf(std::string_view declaration) {
 
 // Special operands ------------------------------------------------------------------------------
 
-/// The few that tell most; for operations that are slow or take three numbers.
+/// The few that show most; for operations that are slow or take three numbers.
 template <typename AnyNumber>
 Numbers<AnyNumber> FewSpecials() {
     const auto one = Whole<AnyNumber>(1);

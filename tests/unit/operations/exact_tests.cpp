@@ -31,7 +31,7 @@ int OverflowLines(Report report) {
     return 0;
 }
 
-/// Words behind a NaN are nobody's business.
+/// The mantissa and exponent of a NaN have no meaning.
 template <typename AnyNumber>
 AnyNumber Comparable(const AnyNumber& number) {
     return number.IsNan() ? AnyNumber{.flags = number.flags} : number;
@@ -130,7 +130,7 @@ private:
                });
     }
 
-    /// Of what is slow to report every eighth is enough; 256 bits leave nothing out.
+    /// Of failures that are slow to report every eighth is enough; at 256 bits none is left out.
     bool IsLeftOut() { return slowReports_++ % 8 != 0; }
 
     static Arguments<AnyNumber> ArgumentsOf(const Tuple& tuple) {

@@ -38,7 +38,7 @@ AnyNumber Scaled(std::uint64_t magnitude, std::int64_t scale = 0) {
     return number;
 }
 
-/// An integer of the machine.
+/// The number of a machine integer.
 template <typename AnyNumber>
 AnyNumber Whole(std::int64_t value) {
     if (value == 0) {

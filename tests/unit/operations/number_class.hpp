@@ -123,7 +123,7 @@ public:
         return value;
     }
 
-    /// A member that answers a number.
+    /// A member that returns a number.
     Operand<AnyNumber> ReadAndRelease(std::uint32_t handle) {
         const tests::HeldObject object(reinterpret_cast<Object>(handle));
         if (!object) {
@@ -132,7 +132,7 @@ public:
         return Read(object.Get());
     }
 
-    /// Calls a routine with these words and answers the word that it returns.
+    /// Calls a routine with these words and returns the word that it returned.
     std::uint32_t Call(Routine routine, std::span<const std::uintptr_t> words,
                        standin::ReturnKind kind) {
         return host_.Call(routine, words, kind).low;

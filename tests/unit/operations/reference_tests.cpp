@@ -94,7 +94,7 @@ MeasuredRegion Measured(Members<AnyNumber>& members, const ReferenceFunction& fu
                             .worst = {}};
     const auto measure = [&](const ReferenceValue& value) {
         const auto units = members.UnitsOffAt(function.member, value);
-        // Nothing is less than any error.
+        // An empty optional compares less than any error.
         if (measured.largest < units) {
             measured.largest = units;
             measured.worst = value.expression;

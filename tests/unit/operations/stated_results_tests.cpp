@@ -335,7 +335,7 @@ TEST_CASE_TEMPLATE("a missing number is reported as nil, NaN as NaN", AnyNumber,
     test.Fails({"Log(value as $, base as $) as $",
                 {"2", "nan"},
                 "Log operation failed with numbers 2 and NaN."});
-    // What cannot fail hands the NaN on.
+    // Members that cannot fail return the NaN.
     for (const auto* declaration :
          {"Abs as $", "Frac as $", "SkipFraction as $", "Operator_Negate as $", "Negate as $",
           "Abs(value as $) as $", "Sgn(value as $) as $", "ATan(value as $) as $",

@@ -1,4 +1,4 @@
-// The bindings of host functions: what they ask the resolver for, and what they make of answers.
+// The bindings of host functions: which names they look up, and what they make of the results.
 #include <cstdint>
 #include <functional>
 #include <map>

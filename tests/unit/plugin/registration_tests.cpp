@@ -1,4 +1,5 @@
-// Fitting class records to the age of the host: flags, sizes and the short tables of old hosts.
+// Adapting class records to the version of the host: flags, sizes and the short tables of old
+// hosts.
 #include <array>
 #include <cstdint>
 #include <cstdio>

@@ -16,7 +16,7 @@ namespace {
 using host_interface::Routine;
 using Relocation = ElfW(Rel);
 
-/// What the dynamic section tells of a library; the loader has made addresses of the offsets.
+/// What the dynamic section says about a library; the loader has made addresses of the offsets.
 class Library {
 public:
     explicit Library(Routine inside) {

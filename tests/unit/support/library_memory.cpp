@@ -62,7 +62,7 @@ Plan& PlanOf(MemorySource source) {
     return state->plans.at(static_cast<std::size_t>(source));
 }
 
-/// What `allocate` answers, unless it has to fail.
+/// What `allocate` returns, unless it has to fail.
 template <typename Allocate>
 void* Allocated(MemorySource source, Allocate allocate) {
     void* const memory = PlanOf(source).FailsNow() ? nullptr : allocate();

@@ -1,4 +1,4 @@
-// The memory that a loaded library asks for: counted, and failing when a test wants it to.
+// The memory that a loaded library asks for: counted, and failing when a test asks for it.
 #pragma once
 
 #include <array>
@@ -16,7 +16,7 @@ enum class MemorySource { Language, Buffers };
 ///
 /// The delivered library takes everything of its language from "malloc", and its buffers from
 /// "GlobalAlloc". Natively the buffers come from "calloc". A library that shares its language's
-/// runtime with the test, as the sanitizers want it, is seen at its own calls of "operator new"
+/// runtime with the test, as the sanitizers require, is seen at its own calls of "operator new"
 /// only: what the runtime allocates for it neither fails nor counts.
 class LibraryMemory {
 public:

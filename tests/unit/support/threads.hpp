@@ -1,4 +1,4 @@
-// Threads, where the language's own are not to be had on every system.
+// Threads, because the standard library does not have them on every system.
 #pragma once
 
 #include <functional>

@@ -1,6 +1,5 @@
-// What is left when a member fails halfway: outputs are what was stated before the step that
-// failed, and nothing that a conversion or the host wrote before it failed gets out where it must
-// not.
+// What is left when a member fails halfway: outputs have the values of the step before the
+// failure, and what a conversion or the host wrote before failing shows only where it is meant to.
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -31,20 +30,20 @@ using tests::WatchedPlugin;
 
 namespace functions = host_interface::functions;
 
-/// A reader of a property that writes 65 and tells that it failed.
+/// A reader of a property that writes 65 and returns that it failed.
 template <typename Value>
 BooleanWord WriteAndFail(Object, const char*, Value* out) {
     *out = Value{65};
     return 0;
 }
 
-/// The same of text.
+/// The same for text.
 BooleanWord WriteTextAndFail(Object, const char*, String* out) {
     *out = standin::Host::Current().MakeString("65", HostTextEncoding::Utf8);
     return 0;
 }
 
-/// Tells the type Int32 and that it failed.
+/// Writes the type Int32 and returns that it failed.
 BooleanWord WriteTypeAndFail(Object, const char* name, std::int32_t* out) {
     *out = std::string_view(name) == "Type" ? 2 : 0;
     return 0;
@@ -57,7 +56,7 @@ BooleanWord FailToSet(Object, const char*, Value) {
 
 int disposed = 0;
 
-/// Fills the record and tells that it failed.
+/// Fills the record and returns that it failed.
 BooleanWord LendAndFail(String, std::uint32_t encoding, StringData* out) {
     *out = {.data = "65", .length = 2, .encoding = encoding, .hostPointer = nullptr, .hostWord = 0};
     return 0;

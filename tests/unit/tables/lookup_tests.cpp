@@ -1,5 +1,5 @@
-// How often the library asks its host for a function, a class or a method: once for what is there,
-// again at each call for what is missing.
+// How often the library looks up a function, a class or a method of its host: once for what is
+// there, again at each call for what is missing.
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -31,7 +31,7 @@ using tests::WatchedPlugin;
 
 namespace functions = host_interface::functions;
 
-/// The class names that the library asked the host's classes of, each ended by a blank.
+/// The names of the classes that the library looked up in the host, each followed by a blank.
 std::string classesAsked;
 bool knowsClasses = true;
 

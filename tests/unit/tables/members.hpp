@@ -24,11 +24,11 @@ struct Samples {
     bool flag = true;
 };
 
-/// What a call answered.
+/// What a call returned.
 struct Answer {
     /// Whether it is something that is not null, 0 or false.
     bool given = false;
-    /// The answer as text, equal for equal answers: a number and a memory block by their bytes, a
+    /// The result as text, equal for equal results: a number and a memory block by their bytes, a
     /// text by encoding and bytes; then what "byref" arguments were left as.
     std::string shown;
 };
@@ -42,16 +42,16 @@ public:
     bool hasSelf() const { return hasSelf_; }
     /// Whether it gives its object a value: a constructor or a setter.
     bool writesSelf() const { return writesSelf_; }
-    /// Whether it answers a number of its own class.
+    /// Whether it returns a number of its own class.
     bool givesNumber() const { return resultType_ == "number"; }
-    /// The type of its answer, "number" for its own class; empty when it answers nothing.
+    /// The type of its result, "number" for its own class; empty when it returns nothing.
     const std::string& resultType() const { return resultType_; }
     /// Whether it has an argument of that type; "self" is one, too.
     bool Takes(std::string_view type) const;
 
-    /// Calls the routine and drops what it answers.
+    /// Calls the routine and drops the reference that it returns.
     Answer CallForAnswer(const Samples& samples) const;
-    /// The same. True when it answered something that is not null, 0 or false.
+    /// The same. True when it returned something that is not null, 0 or false.
     bool Call(const Samples& samples) const { return CallForAnswer(samples).given; }
 
 private:

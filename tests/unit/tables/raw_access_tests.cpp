@@ -40,8 +40,8 @@ HeldObject BlockOf(LoadedPlugin& plugin, const std::string& bytes) {
     return HeldObject(plugin.host().MakeMemoryBlock(bytes));
 }
 
-/// What "RaiseParameterOutOfBounds" says of a block; also the exponent's is said to be given to the
-/// mantissa.
+/// The message of "RaiseParameterOutOfBounds" for a block; for the exponent's block, too, it names
+/// the mantissa.
 std::string WrongSize(std::size_t wanted, std::size_t given) {
     const std::string size = std::to_string(wanted);
     return std::string("OutOfBoundsException: The parameter MemoryBlock.Size to method ")

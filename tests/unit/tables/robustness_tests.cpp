@@ -65,7 +65,7 @@ bool IsQuick(const Member& member) {
     return member.hasSelf() || member.name().find(".NumberWith") != std::string::npos;
 }
 
-/// What members of the text, flag and arithmetic kind answer, one a line: the same on every host
+/// What members of the text, flag and arithmetic kind return, one a line: the same on every host
 /// whose differences do not matter to them.
 std::string SampleResults(LoadedPlugin& plugin) {
     std::string results;

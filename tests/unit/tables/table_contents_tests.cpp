@@ -1,5 +1,5 @@
-// What holds for the tables that the library registers, whichever members they have; which these
-// are, the golden tables say.
+// What holds for the tables that the library registers, whichever members they have. The golden
+// tables list the members.
 #include <map>
 #include <optional>
 #include <set>
@@ -222,7 +222,7 @@ TEST_CASE("The operators on the right are the very routines of their left forms"
             sharing.insert(number.Declaration(pair.first));
             sharing.insert(number.Declaration(pair.second));
         }
-        // Nobody else has a routine of another.
+        // No other entries share a routine.
         std::map<const void*, std::string> owners;
         for (const auto* table : {&number.info().methods, &number.info().sharedMethods}) {
             for (const standin::MethodInfo& method : *table) {

@@ -15,8 +15,8 @@ extern const VectorKernels Kernels;
 /// Those that run on every such processor.
 inline constexpr const VectorKernels& BasicVectorKernels = sse2::Kernels;
 
-/// The best ones that run here. The compiler's own look at cpuid and xgetbv tells of AVX2 whether
-/// the processor has the instructions and the system saves the registers.
+/// The best ones that run here. The compiler's built-in test reads cpuid and xgetbv: AVX2 counts
+/// only if the processor has the instructions and the system saves the registers.
 inline const VectorKernels& BestVectorKernels() {
     __builtin_cpu_init();
     return __builtin_cpu_supports("avx2") != 0 ? avx2::Kernels : sse2::Kernels;

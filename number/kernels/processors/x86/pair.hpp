@@ -83,7 +83,7 @@ struct Pair {
     static Vector JoinLow(Vector low, Vector high) { return _mm_unpacklo_epi64(low, high); }
 
     /// Hides from the compiler where a run of lanes begins. It would keep the vectors that this run
-    /// has in common with the last one, for which there are no registers.
+    /// shares with the last one, although there are not enough registers.
     static void Forget(const std::uint64_t*& run) { asm("" : "+r"(run)); }
 };
 

@@ -32,7 +32,7 @@ inline Word AddProduct(Word& target, Word left, Word right, Word carry) {
     return high;
 }
 
-/// A sum of products of words, and of what the sum before carries over.
+/// The sum of the products of words in a column, and of what the column before carries over.
 class ColumnSum {
 public:
     /// Adds left * right. The compiler would find the carry by a comparison.

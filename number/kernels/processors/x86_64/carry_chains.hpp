@@ -26,8 +26,8 @@ inline constexpr int ChainWords = 8;
                  : [left] "r"(left), [right] "r"(right), [result] "r"(result)                   \
                  : "rax", "cc", "memory")
 
-/// result = left + right + carry, of ChainWords words, which may all be the same. The carry, before
-/// and after it, is 0 or a word of ones.
+/// result = left + right + carry, each of ChainWords words; all three may be the same words. The
+/// carry, before and after it, is 0 or a word of ones.
 // The assembly writes there. NOLINTNEXTLINE(readability-non-const-parameter)
 inline void AddChain(const Word* left, const Word* right, Word* result, Word& carry) {
     BIGNUMBER_CHAIN("adcq");
