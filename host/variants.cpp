@@ -1,14 +1,18 @@
 #include "host/variants.hpp"
 
+#include <atomic>
 #include <optional>
+#include <utility>
 
 #include "host/debug_log.hpp"
 #include "plugin/bindings/host_functions.hpp"
+#include "plugin/bindings/relaxed.hpp"
 
 namespace vqz {
 namespace {
 
 using host_interface::ClassReference;
+using host_interface::Integer;
 using host_interface::Object;
 using host_interface::VariantTypeCode;
 
@@ -44,22 +48,51 @@ constinit VariantReader<functions::VariantToUInt32> UInt32Reader("VariantToUInt3
 constinit VariantReader<functions::VariantToUInt64> UInt64Reader("VariantToUInt64");
 constinit VariantReader<functions::VariantToString> StringReader("VariantToString");
 
+bool IsInstance(Object object, ClassReference classReference) {
+    return classReference != nullptr && host::RuntimeObjectIsa(object, classReference);
+}
+
 /// The host's global method that returns a Variant's type; kept once it is found.
 using VarTypeMethod = functions::VarType*;
-constinit VarTypeMethod VarType = nullptr;
+constinit Relaxed<VarTypeMethod> VarType = nullptr;
 
-std::int32_t HostVariantType(Object variant) {
-    if (VarType == nullptr) {
-        VarType = reinterpret_cast<VarTypeMethod>(
+Integer HostVariantType(Object variant) {
+    VarTypeMethod method = VarType;
+    if (method == nullptr) {
+        method = reinterpret_cast<VarTypeMethod>(
             host::REALLoadGlobalMethod("VarType(value As Variant) As Integer"));
+        VarType = method;
     }
-    if (VarType != nullptr) {
-        return static_cast<std::int32_t>(VarType(variant));
+    if (method != nullptr) {
+        return method(variant);
     }
-    host_interface::Integer type = 0;
+    Integer type = 0;
     host::REALGetPropValueInteger(variant, "Type", &type);
-    return static_cast<std::int32_t>(type);
+    return type;
 }
+
+/// A class of the host that is looked up once per process, at its first use, even when the host
+/// does not know it. Threads that look it up at the same time store the same reference.
+class KeptClass {
+public:
+    constexpr explicit KeptClass(const char* name) : name_(name) {}
+
+    bool Holds(Object object) {
+        if (!isKnown_.load(std::memory_order_acquire)) {
+            reference_ = host::pluginObjectType(name_);
+            isKnown_.store(true, std::memory_order_release);
+        }
+        return IsInstance(object, reference_);
+    }
+
+private:
+    const char* name_;
+    Relaxed<ClassReference> reference_ = nullptr;
+    std::atomic<bool> isKnown_ = false;
+};
+
+constinit KeptClass UInt32Class("_VariantUInt32");
+constinit KeptClass UInt64Class("_VariantUInt64");
 
 /// A property of a date; nothing when the host reports a failure, whatever it wrote before.
 std::optional<double> ReadSeconds(Object date, const char* property) {
@@ -68,24 +101,21 @@ std::optional<double> ReadSeconds(Object date, const char* property) {
                                                                   : std::nullopt;
 }
 
-bool IsInstance(Object object, ClassReference classReference) {
-    return classReference != nullptr && host::RuntimeObjectIsa(object, classReference);
-}
-
 }  // namespace
 
 std::int32_t VariantType(Object variant) {
-    const std::int32_t type = HostVariantType(variant);
-    // Each class is looked up once per process, even when the host does not know it.
-    if (type == static_cast<std::int32_t>(VariantTypeCode::Int32)) {
-        static const ClassReference UInt32Class = host::pluginObjectType("_VariantUInt32");
-        return IsInstance(variant, UInt32Class) ? VariantTypeUInt32 : type;
+    const Integer type = HostVariantType(variant);
+    if (!std::in_range<std::int32_t>(type)) {
+        return VariantTypeNone;
     }
-    if (type == static_cast<std::int32_t>(VariantTypeCode::Int64)) {
-        static const ClassReference UInt64Class = host::pluginObjectType("_VariantUInt64");
-        return IsInstance(variant, UInt64Class) ? VariantTypeUInt64 : type;
+    switch (static_cast<VariantTypeCode>(type)) {
+        case VariantTypeCode::Int32:
+            return UInt32Class.Holds(variant) ? VariantTypeUInt32 : static_cast<std::int32_t>(type);
+        case VariantTypeCode::Int64:
+            return UInt64Class.Holds(variant) ? VariantTypeUInt64 : static_cast<std::int32_t>(type);
+        default:
+            return static_cast<std::int32_t>(type);
     }
-    return type;
 }
 
 double VariantToDouble(Object variant) {

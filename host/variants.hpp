@@ -15,9 +15,10 @@ namespace vqz {
 /// Type codes of the plug-in's own, for what the host reports as Int32 and Int64.
 inline constexpr std::int32_t VariantTypeUInt32 = 102;
 inline constexpr std::int32_t VariantTypeUInt64 = 103;
+/// For what the host reports beyond 32 bits, where no code is.
+inline constexpr std::int32_t VariantTypeNone = -1;
 
-/// The Variant's type: a code of the host, or one of the two above. 0 when the host writes
-/// none.
+/// The Variant's type: a code of the host, or one of those above. 0 when the host writes none.
 std::int32_t VariantType(host_interface::Object variant);
 
 /// What the Variant holds, converted by the host; 0 when the host writes nothing.

@@ -339,21 +339,23 @@ NamedRoutine NumberWithVariant() {
     });
 }
 
+/// A machine integer as a number, made when the library is loaded: a constant made at its first use
+/// would have to be guarded against other threads.
+template <typename Value, auto Constant>
+inline const Value NumberConstant = NumberFrom<Value>(Constant);
+
 /// Whether `value` is between the smallest and the largest `Host`, both included.
 template <typename Host, typename Value>
 bool IsInRangeOf(const Value& value) {
-    static const auto smallest = NumberFrom<Value>(std::numeric_limits<Host>::min());
-    static const auto largest = NumberFrom<Value>(std::numeric_limits<Host>::max());
-    return smallest <= value && value <= largest;
+    return NumberConstant<Value, std::numeric_limits<Host>::min()> <= value &&
+           value <= NumberConstant<Value, std::numeric_limits<Host>::max()>;
 }
 
 /// The range in which "VariantValue" gives a UInt64: -1 to 0. Zero has become an Int32 before this
 /// test, so integers beyond Int64 become text; programs rely on that.
 template <typename Value>
 bool IsInRangeOfUInt64Variant(const Value& value) {
-    static const auto smallest = NumberFrom<Value>(-1);
-    static const auto largest = NumberFrom<Value>(0);
-    return smallest <= value && value <= largest;
+    return NumberConstant<Value, -1> <= value && value <= NumberConstant<Value, 0>;
 }
 
 /// The number as a Variant: an Int32 or Int64 when it is one, else its text.

@@ -20,8 +20,8 @@ void* AllocateZeroed(std::size_t byteCount) noexcept;
 /// Frees a buffer of `AllocateZeroed`; null is allowed.
 void FreeBuffer(void* buffer) noexcept;
 
-/// Hands one line to the debugger. Without a debugger facility the line goes to standard error;
-/// no line end is added.
+/// Hands one line to the debugger, without a line end. Without a debugger facility the line goes to
+/// standard error, with one.
 void WriteDebuggerLine(const char* line) noexcept;
 
 /// The system's random source. False when it reports a failure; `value` is then unspecified.

@@ -98,8 +98,9 @@ void REALPluginMain(host_interface::Resolver resolver) {
             HostVersion = hostVersion();
         }
     }
-    if constexpr (sizeof(void*) == 8) {
-        HostVersion = std::max(HostVersion, First64BitVersion);
+    // A version that is no number counts as none at all.
+    if (HOST_INTERFACE_32_BIT == 0 && !(HostVersion >= First64BitVersion)) {
+        HostVersion = First64BitVersion;
     }
     PluginInterfaceVersion = InterfaceVersionOf(HostVersion);
     if (resolver == nullptr) {

@@ -5,11 +5,13 @@
 
 #include <ttmath/ttmath.h>
 
+#include "number/kernels/kept_number.hpp"
+#include "number/kernels/sizes.hpp"
+
 #ifdef BIGNUMBER_KERNELS
 
 #include <type_traits>
 
-#include "number/kernels/sizes.hpp"
 #include "number/kernels/words.hpp"
 
 static_assert(std::is_same_v<ttmath::uint, vqz::kernels::Word>,
@@ -106,3 +108,21 @@ BIGNUMBER_MANTISSA_SIZES(BIGNUMBER_DECLARE_WRITING)
 }  // namespace ttmath
 
 #endif
+
+namespace ttmath {
+
+// ttmath keeps the logarithms of the bases in variables that all threads write without any order.
+// Here they are kept in a way that lets threads in. This holds with and without kernels.
+#define BIGNUMBER_KEEP_LOGARITHMS(E, W)                                                      \
+    template <>                                                                              \
+    inline uint Big<E, W>::ToString_LogBase(uint base, Big<E, W>& result) {                  \
+        static constinit vqz::kernels::KeptNumber<Big<E, W>> logarithms[15];                 \
+        return logarithms[base - 2].Get(                                                     \
+            result, [base](Big<E, W>& logarithm) { return logarithm.Ln(Big<E, W>(base)); }); \
+    }
+
+BIGNUMBER_TEXT_SIZES(BIGNUMBER_KEEP_LOGARITHMS)
+
+#undef BIGNUMBER_KEEP_LOGARITHMS
+
+}  // namespace ttmath

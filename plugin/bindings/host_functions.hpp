@@ -9,13 +9,14 @@
 #include <cstdint>
 
 #include "interface/host_interface.hpp"
+#include "plugin/bindings/relaxed.hpp"
 #include "plugin/bindings/startup_globals.hpp"
 
 namespace vqz {
 
 /// A host function and the address under which it was found. A found address is kept for good;
-/// a failed lookup is repeated at the next call. Two threads that resolve at the same time store
-/// the same address, so no lock is needed.
+/// a failed lookup is repeated at the next call. Threads that resolve at the same time store the
+/// same address, so no lock is needed.
 template <typename Function>
 class HostFunctionSlot;
 
@@ -36,20 +37,22 @@ protected:
 
     /// The host function's address, looked up when it is not yet known; null when it is missing.
     Function Resolve() {
-        if (address_ == nullptr) {
+        Function address = address_;
+        if (address == nullptr) {
             void* found = HostResolver(name_);
             if (found == nullptr && fallbackName_ != nullptr) {
                 found = HostResolver(fallbackName_);
             }
-            address_ = reinterpret_cast<Function>(found);
+            address = reinterpret_cast<Function>(found);
+            address_ = address;
         }
-        return address_;
+        return address;
     }
 
 private:
     const char* name_;
     const char* fallbackName_;
-    Function address_ = nullptr;
+    Relaxed<Function> address_ = nullptr;
 };
 
 /// How much of the word that a host function returns belongs to its Boolean result.

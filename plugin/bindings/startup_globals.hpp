@@ -1,9 +1,11 @@
-// Process-wide state that start-up fills in.
+// Process-wide state that start-up fills in. All but the switch of the debug log is only read after
+// that, by any thread.
 #pragma once
 
 #include <cstdint>
 
 #include "interface/host_interface.hpp"
+#include "plugin/bindings/relaxed.hpp"
 
 namespace vqz {
 
@@ -20,6 +22,6 @@ inline constexpr std::uint32_t UnregisteredInterfaceVersion = 15;
 inline constinit std::uint32_t PluginInterfaceVersion = UnregisteredInterfaceVersion;
 
 /// The debug-log switch.
-inline constinit bool DebugEnabled = false;
+inline constinit Relaxed<bool> DebugEnabled = false;
 
 }  // namespace vqz

@@ -19,9 +19,13 @@ add_unit_tests(plugin_tests
   LIBRARIES plugin_objects unit_test_support standin_runtime)
 
 # Tests make the plug-in's buffers fail: its calls of these two functions go through the test's own.
+# Their names as the linker knows them tell the type of size_t.
+set(type_of_size $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>,j,$<IF:$<BOOL:${WIN32}>,y,m>>)
 target_link_options(plugin_tests PRIVATE
-  "LINKER:--wrap=_ZN3vqz8platform14AllocateZeroedEj"
+  "LINKER:--wrap=_ZN3vqz8platform14AllocateZeroedE${type_of_size}"
   "LINKER:--wrap=_ZN3vqz8platform10FreeBufferEPv")
+target_compile_definitions(plugin_tests PRIVATE
+  ALLOCATE_ZEROED=_ZN3vqz8platform14AllocateZeroedE${type_of_size})
 
 # The built library in a host of its own, and its members in a form in which all can be called.
 add_library(table_test_support OBJECT

@@ -21,6 +21,7 @@
 
 namespace {
 
+using host_interface::Integer;
 using tests::CallRoutine;
 using tests::HeldObject;
 using tests::HeldString;
@@ -193,7 +194,7 @@ private:
                 FlipSign(slot);
                 break;
             default:
-                CHECK(number_.Call<std::int32_t>("Operator_Compare(other as $) as Integer", self,
+                CHECK(number_.Call<Integer>("Operator_Compare(other as $) as Integer", self,
                                                  other.object.Get()) ==
                       Order(slot.model, other.model));
         }
@@ -220,7 +221,7 @@ private:
     void FlipSign(Slot& slot) {
         constexpr std::int32_t Sign = 128;
         const Object self = slot.object.Get();
-        const auto flags = number_.Get<std::int32_t>("DataFlags", self);
+        const auto flags = number_.Get<Integer>("DataFlags", self);
         const std::string refused =
             slot.model.kind == Model::Kind::Empty ? "NilObjectException: Not initialized" : "";
         CHECK(TakeRaised(plugin_.host()) == refused);
@@ -381,7 +382,7 @@ TEST_CASE("A hundred thousand objects live at once, each with its own number") {
         int mistakes = 0;
         for (std::int32_t index = 0; index < Count; ++index) {
             const Object object = objects.at(static_cast<std::size_t>(index)).Get();
-            mistakes += number.Get<std::int32_t>("IntegerValue", object) == index ? 0 : 1;
+            mistakes += number.Get<Integer>("IntegerValue", object) == index ? 0 : 1;
         }
         CHECK(mistakes == 0);
     }

@@ -13,6 +13,7 @@
 
 namespace {
 
+using host_interface::Integer;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LibraryMemory;
@@ -45,7 +46,7 @@ Left ReadText(LoadedPlugin& plugin, NumberClass& number, std::string_view text, 
     if (n > 0) {
         LibraryMemory::Fail(MemorySource::Language, n, false);
     }
-    number.Call<void>(SetStringValue, object.Get(), source.Get(), std::int32_t{10}, &afterText,
+    number.Call<void>(SetStringValue, object.Get(), source.Get(), Integer{10}, &afterText,
                       &valueRead);
     Left left;
     left.failed = LibraryMemory::StopFailing() > 0;

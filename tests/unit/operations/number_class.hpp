@@ -124,7 +124,7 @@ public:
     }
 
     /// A member that returns a number.
-    Operand<AnyNumber> ReadAndRelease(std::uint32_t handle) {
+    Operand<AnyNumber> ReadAndRelease(std::uintptr_t handle) {
         const tests::HeldObject object(reinterpret_cast<Object>(handle));
         if (!object) {
             return {};
@@ -132,12 +132,12 @@ public:
         return Read(object.Get());
     }
 
-    /// Calls a routine with these words and returns the word that it returned.
-    std::uint32_t Call(Routine routine, std::span<const std::uintptr_t> words,
+    /// Calls a routine with these words and returns the word that it returns.
+    std::uintptr_t Call(Routine routine, std::span<const std::uintptr_t> words,
                        standin::ReturnKind kind) {
-        return host_.Call(routine, words, kind).low;
+        return host_.Call(routine, words, kind).Word();
     }
-    std::uint32_t Call(Routine routine, std::initializer_list<std::uintptr_t> words,
+    std::uintptr_t Call(Routine routine, std::initializer_list<std::uintptr_t> words,
                        standin::ReturnKind kind) {
         return Call(routine, std::span(words.begin(), words.size()), kind);
     }

@@ -14,17 +14,22 @@ std::size_t failingSize = NoSize;
 }  // namespace
 
 // The linker leads the calls of vqz::platform::AllocateZeroed and FreeBuffer to the functions named
-// __wrap_… and keeps the originals as __real_…
+// __wrap_… and keeps the originals as __real_… The build tells the name of the first one, which
+// depends on the type of its argument.
 // NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" {
-void* __real__ZN3vqz8platform14AllocateZeroedEj(std::size_t byteCount);
-void* __wrap__ZN3vqz8platform14AllocateZeroedEj(std::size_t byteCount);
+#define JOINED(prefix, name) prefix##name
+#define WITH_PREFIX(prefix, name) JOINED(prefix, name)
+#define REAL_ALLOCATE_ZEROED WITH_PREFIX(__real_, ALLOCATE_ZEROED)
+#define WRAPPED_ALLOCATE_ZEROED WITH_PREFIX(__wrap_, ALLOCATE_ZEROED)
+
+void* REAL_ALLOCATE_ZEROED(std::size_t byteCount);
+void* WRAPPED_ALLOCATE_ZEROED(std::size_t byteCount);
 void __real__ZN3vqz8platform10FreeBufferEPv(void* buffer);
 void __wrap__ZN3vqz8platform10FreeBufferEPv(void* buffer);
 
-void* __wrap__ZN3vqz8platform14AllocateZeroedEj(std::size_t byteCount) {
-    void* const buffer =
-        buffersFail ? nullptr : __real__ZN3vqz8platform14AllocateZeroedEj(byteCount);
+void* WRAPPED_ALLOCATE_ZEROED(std::size_t byteCount) {
+    void* const buffer = buffersFail ? nullptr : REAL_ALLOCATE_ZEROED(byteCount);
     livingBuffers += buffer == nullptr ? 0 : 1;
     return buffer;
 }

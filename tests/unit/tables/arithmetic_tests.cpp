@@ -9,6 +9,7 @@
 
 namespace {
 
+using host_interface::Integer;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LoadedPlugin;
@@ -322,7 +323,7 @@ TEST_CASE("Comparing answers -1, 0 or 1, with NaN and Nil as zero") {
     struct Row {
         const char* left;
         const char* right;
-        std::int32_t expected;
+        Integer expected;
     };
     constexpr Row Rows[] = {
         {"1", "2", -1},         {"2", "1", 1},     {"2", "2", 0},         {"-1", "1", -1},
@@ -341,7 +342,7 @@ TEST_CASE("Comparing answers -1, 0 or 1, with NaN and Nil as zero") {
             CAPTURE(row.right);
             const HeldObject left = Made(number, row.left);
             const HeldObject right = Made(number, row.right);
-            CHECK(number.Call<std::int32_t>("Operator_Compare(other as $) as Integer", left.Get(),
+            CHECK(number.Call<Integer>("Operator_Compare(other as $) as Integer", left.Get(),
                                             right.Get()) == row.expected);
         }
     }

@@ -14,6 +14,7 @@
 namespace {
 
 using host_interface::BooleanWord;
+using host_interface::Integer;
 using host_interface::StringData;
 using host_interface::VariantTypeCode;
 using tests::HeldObject;
@@ -44,7 +45,7 @@ BooleanWord WriteTextAndFail(Object, const char*, String* out) {
 }
 
 /// Writes the type Int32 and returns that it failed.
-BooleanWord WriteTypeAndFail(Object, const char* name, std::int32_t* out) {
+BooleanWord WriteTypeAndFail(Object, const char* name, Integer* out) {
     *out = std::string_view(name) == "Type" ? 2 : 0;
     return 0;
 }
@@ -66,7 +67,7 @@ void CountDisposed(StringData*) {
     ++disposed;
 }
 
-std::int32_t NegativeSize(Object) {
+Integer NegativeSize(Object) {
     return -1;
 }
 
@@ -88,7 +89,7 @@ TEST_CASE("A number that does not fit gives 0, whatever its low bits are") {
         for (const char* text : {"4294967301", "-4294967301", "2147483653", "-2147483653"}) {
             CAPTURE(text);
             const HeldObject value = number.Make(text);
-            CHECK(number.Get<std::int32_t>("IntegerValue", value.Get()) == 0);
+            CHECK(number.Get<Integer>("IntegerValue", value.Get()) == 0);
             raises("IntegerValue");
         }
         for (const char* text : {"18446744073709551621", "-18446744073709551621",
@@ -213,7 +214,7 @@ TEST_CASE("Bytes that the host lends while it tells of a failure are neither rea
             "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as "
             "Integer = 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = "
             "\".\") as String",
-            object.Get(), std::int32_t{10}, false, std::int32_t{15}, std::int32_t{-1}, true,
+            object.Get(), Integer{10}, false, Integer{15}, Integer{-1}, true,
             text.Get());
         CHECK(plugin.host().Bytes(shown.Get()) == "2.5");
     }

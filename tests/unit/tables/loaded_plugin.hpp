@@ -19,69 +19,45 @@
 namespace tests {
 
 using host_interface::HostTextEncoding;
+using host_interface::Integer;
 using host_interface::Object;
 using host_interface::Routine;
 using host_interface::String;
 
-/// The words of a call's arguments, in the form in which a host passes them.
-class ArgumentWords {
-public:
-    template <typename... Arguments>
-    explicit ArgumentWords(const Arguments&... arguments) {
-        (Add(arguments), ...);
+/// The arguments of a call. A Boolean gets garbage above its byte.
+template <typename Argument>
+void AddArgument(standin::CallArguments& call, const Argument& argument) {
+    if constexpr (std::is_same_v<Argument, bool>) {
+        constexpr std::uint64_t Garbage = 0xDEADBE00;
+        call.Add({standin::Passing::Boolean, Garbage | (argument ? 1U : 0U)});
+    } else {
+        call.Add(argument);
     }
-
-    template <typename Argument>
-    void Add(const Argument& argument) {
-        if constexpr (std::is_same_v<Argument, bool>) {
-            // Only the low byte of a Boolean counts.
-            constexpr std::uintptr_t Garbage = 0xDEADBE00;
-            words_.push_back(Garbage | (argument ? 1U : 0U));
-        } else if constexpr (std::is_same_v<Argument, std::nullptr_t>) {
-            words_.push_back(0);
-        } else if constexpr (std::is_pointer_v<Argument>) {
-            words_.push_back(reinterpret_cast<std::uintptr_t>(argument));
-        } else if constexpr (std::is_same_v<Argument, double>) {
-            Add(std::bit_cast<std::uint64_t>(argument));
-        } else if constexpr (std::is_same_v<Argument, float>) {
-            words_.push_back(std::bit_cast<std::uint32_t>(argument));
-        } else if constexpr (sizeof(Argument) > sizeof(std::uintptr_t)) {
-            words_.push_back(static_cast<std::uintptr_t>(argument));
-            words_.push_back(static_cast<std::uintptr_t>(argument >> 32));
-        } else {
-            words_.push_back(static_cast<std::uintptr_t>(argument));
-        }
-    }
-
-    const std::vector<std::uintptr_t>& words() const { return words_; }
-
-private:
-    std::vector<std::uintptr_t> words_;
-};
+}
 
 /// Calls a routine of the plug-in. The result is one of the host's types; handles come with the
 /// reference that the routine hands over.
 template <typename Result, typename... Arguments>
 Result CallRoutine(Routine routine, const Arguments&... arguments) {
     using standin::ReturnKind;
-    const ArgumentWords words(arguments...);
+    standin::CallArguments all;
+    (AddArgument(all, arguments), ...);
     const auto call = [&](ReturnKind kind) {
-        return standin::Host::Current().Call(routine, words.words(), kind);
+        return standin::Host::Current().Call(routine, all, kind);
     };
     if constexpr (std::is_void_v<Result>) {
         call(ReturnKind::None);
     } else if constexpr (std::is_same_v<Result, bool>) {
         return (call(ReturnKind::Word).low & 0xFFU) != 0;
     } else if constexpr (std::is_same_v<Result, HeldObject>) {
-        return HeldObject(std::bit_cast<Object>(call(ReturnKind::Word).low));
+        return HeldObject(std::bit_cast<Object>(call(ReturnKind::Word).Word()));
     } else if constexpr (std::is_same_v<Result, HeldString>) {
-        return HeldString(std::bit_cast<String>(call(ReturnKind::Word).low));
+        return HeldString(std::bit_cast<String>(call(ReturnKind::Word).Word()));
     } else if constexpr (std::is_same_v<Result, double>) {
         return call(ReturnKind::Double).real;
     } else if constexpr (std::is_same_v<Result, std::int64_t> ||
                          std::is_same_v<Result, std::uint64_t>) {
-        const standin::ReturnValue words64 = call(ReturnKind::TwoWords);
-        return static_cast<Result>((std::uint64_t{words64.high} << 32) | words64.low);
+        return static_cast<Result>(call(ReturnKind::TwoWords).Wide());
     } else {
         static_assert(std::is_same_v<Result, std::int32_t>);
         return static_cast<std::int32_t>(call(ReturnKind::Word).low);

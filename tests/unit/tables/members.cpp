@@ -27,7 +27,12 @@ std::string TypeAtEnd(std::string_view declaration) {
     return std::string(declaration.substr(declaration.rfind(' ') + 1));
 }
 
-/// Whether values of a type take two words.
+/// Whether a type is as wide as a pointer.
+bool IsPointerWide(std::string_view type) {
+    return type == "integer" || type == "uinteger";
+}
+
+/// Whether values of a type take two words of a 32-bit host.
 bool IsWide(std::string_view type) {
     return type == "int64" || type == "uint64" || type == "currency";
 }
@@ -78,9 +83,9 @@ bool Member::Takes(std::string_view type) const {
            std::ranges::find(argumentTypes_, type) != argumentTypes_.end();
 }
 
-ArgumentWords Member::Words(const Samples& samples, String& afterText,
-                            std::uint8_t& valueRead) const {
-    ArgumentWords words;
+standin::CallArguments Member::Arguments(const Samples& samples, String& afterText,
+                                         std::uint8_t& valueRead) const {
+    standin::CallArguments words;
     if (hasSelf_) {
         words.Add(samples.self);
     }
@@ -102,13 +107,14 @@ ArgumentWords Member::Words(const Samples& samples, String& afterText,
         } else if (type == "single") {
             words.Add(static_cast<float>(samples.real));
         } else if (type == "boolean") {
-            words.Add(samples.flag);
+            AddArgument(words, samples.flag);
         } else if (IsWide(type)) {
             words.Add(std::int64_t{samples.integer});
+        } else if (IsPointerWide(type)) {
+            words.Add(Integer{samples.integer});
         } else {
             INFO(type);
-            REQUIRE((type == "parameter" || type == "integer" || type == "int32" ||
-                     type == "uint32" || type == "uinteger"));
+            REQUIRE((type == "parameter" || type == "int32" || type == "uint32"));
             words.Add(type == "parameter" ? 0 : samples.integer);
         }
     }
@@ -124,26 +130,27 @@ Answer Member::Take(const standin::ReturnValue& result) const {
         return {result.real != 0.0, std::to_string(std::bit_cast<std::uint64_t>(result.real))};
     }
     if (resultType_ == "string") {
-        const HeldString text(std::bit_cast<String>(result.low));
+        const HeldString text(std::bit_cast<String>(result.Word()));
         return {static_cast<bool>(text), Described(text.Get())};
     }
     if (resultType_ == "number") {
-        const HeldObject number(std::bit_cast<Object>(result.low));
+        const HeldObject number(std::bit_cast<Object>(result.Word()));
         return {static_cast<bool>(number), number ? class_.ValueBytes(number.Get()) : "Nil"};
     }
     if (resultType_ == "variant") {
-        const HeldObject variant(std::bit_cast<Object>(result.low));
+        const HeldObject variant(std::bit_cast<Object>(result.Word()));
         return {static_cast<bool>(variant), DescribedVariant(variant.Get())};
     }
     if (resultType_ == "memoryblock") {
-        const HeldObject block(std::bit_cast<Object>(result.low));
+        const HeldObject block(std::bit_cast<Object>(result.Word()));
         const std::span<const std::byte> bytes = host.BlockBytes(block.Get());
         return {static_cast<bool>(block),
                 std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size())};
     }
-    const std::uint64_t word = IsWide(resultType_)
-                                   ? (std::uint64_t{result.high} << 32U | result.low)
-                                   : result.low & (resultType_ == "boolean" ? 0xFFU : 0xFFFFFFFFU);
+    const std::uint64_t word = IsWide(resultType_)          ? result.Wide()
+                               : resultType_ == "boolean"   ? result.low & 0xFFU
+                               : IsPointerWide(resultType_) ? result.Word()
+                                                            : result.low;
     return {word != 0, std::to_string(word)};
 }
 
@@ -152,13 +159,13 @@ Answer Member::CallForAnswer(const Samples& samples) const {
     // What "byref" arguments point at.
     String afterText = nullptr;
     std::uint8_t valueRead = 0;
-    const ArgumentWords words = Words(samples, afterText, valueRead);
+    const standin::CallArguments arguments = Arguments(samples, afterText, valueRead);
 
     const ReturnKind kind = resultType_.empty()       ? ReturnKind::None
                             : resultType_ == "double" ? ReturnKind::Double
                             : IsWide(resultType_)     ? ReturnKind::TwoWords
                                                       : ReturnKind::Word;
-    Answer answer = Take(standin::Host::Current().Call(routine_, words.words(), kind));
+    Answer answer = Take(standin::Host::Current().Call(routine_, arguments, kind));
     const HeldString after(afterText);
     if (Takes("byref string")) {
         answer.shown = Described(after.Get()) + (valueRead != 0 ? ", read" : ", not read");

@@ -57,7 +57,8 @@ public:
 private:
     friend std::vector<Member> MembersOf(const NumberClass& number);
 
-    ArgumentWords Words(const Samples& samples, String& afterText, std::uint8_t& valueRead) const;
+    standin::CallArguments Arguments(const Samples& samples, String& afterText,
+                                     std::uint8_t& valueRead) const;
     Answer Take(const standin::ReturnValue& result) const;
 
     NumberClass class_;

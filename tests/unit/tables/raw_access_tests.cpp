@@ -11,6 +11,7 @@
 
 namespace {
 
+using host_interface::Integer;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LoadedPlugin;
@@ -70,7 +71,7 @@ TEST_CASE("A number saved as bytes is restored bit for bit") {
             const HeldObject original = number.Make(text);
             const auto mantissa = number.Get<HeldObject>("DataMantissa", original.Get());
             const auto exponent = number.Get<HeldObject>("DataExponent", original.Get());
-            const auto flags = number.Get<std::int32_t>("DataFlags", original.Get());
+            const auto flags = number.Get<Integer>("DataFlags", original.Get());
             CHECK(BlockText(plugin, mantissa.Get()).size() == mantissaSize);
             CHECK(BlockText(plugin, exponent.Get()).size() == exponentSize);
             CHECK(BlockText(plugin, exponent.Get()) + BlockText(plugin, mantissa.Get()) +
@@ -112,20 +113,20 @@ TEST_CASE("The value is mantissa times two to the power of the exponent") {
 TEST_CASE("The flags are the low byte of what is set") {
     LoadedPlugin plugin;
     struct Row {
-        std::int32_t set;
-        std::int32_t read;
+        Integer set;
+        Integer read;
     };
     constexpr Row Rows[] = {{0, 0},    {32, 32},  {96, 96}, {128, 128}, {255, 255},   {256, 0},
                             {288, 32}, {-1, 255}, {31, 31}, {-256, 0},  {1024 + 7, 7}};
     for (NumberClass& number : plugin.classes()) {
-        CHECK(number.Get<std::int32_t>("DataFlags", number.Make("0").Get()) == 32);
-        CHECK(number.Get<std::int32_t>("DataFlags", number.Make("-1").Get()) == 128);
-        CHECK(number.Get<std::int32_t>("DataFlags", number.MakeNan().Get()) == 96);
+        CHECK(number.Get<Integer>("DataFlags", number.Make("0").Get()) == 32);
+        CHECK(number.Get<Integer>("DataFlags", number.Make("-1").Get()) == 128);
+        CHECK(number.Get<Integer>("DataFlags", number.MakeNan().Get()) == 96);
         const HeldObject object = number.Make("5");
         for (const Row& row : Rows) {
             CAPTURE(row.set);
             number.Set("DataFlags", object.Get(), row.set);
-            CHECK(number.Get<std::int32_t>("DataFlags", object.Get()) == row.read);
+            CHECK(number.Get<Integer>("DataFlags", object.Get()) == row.read);
             CHECK(number.Flags(object.Get()) == row.read);
         }
     }
@@ -177,7 +178,7 @@ TEST_CASE("An object without a value has no bytes to read or write") {
             };
             refused([&] { CHECK_FALSE(number.Get<HeldObject>("DataMantissa", object)); });
             refused([&] { CHECK_FALSE(number.Get<HeldObject>("DataExponent", object)); });
-            refused([&] { CHECK(number.Get<std::int32_t>("DataFlags", object) == 0); });
+            refused([&] { CHECK(number.Get<Integer>("DataFlags", object) == 0); });
             refused([&] { number.Set("DataMantissa", object, mantissa.Get()); });
             refused([&] { number.Set("DataExponent", object, exponent.Get()); });
             refused([&] { number.Set("DataFlags", object, 32); });

@@ -15,6 +15,7 @@
 
 namespace {
 
+using host_interface::Integer;
 using standin::Allocation;
 using tests::HeldObject;
 using tests::HeldString;
@@ -86,7 +87,7 @@ std::string SampleResults(LoadedPlugin& plugin) {
         const auto failed = number.Call<HeldObject>(
             "Divide(other as $, round as boolean = true) as $", left.Get(), nullptr, true);
         results += failed ? "a result\n" : TakeRaised(plugin.host()) + "\n";
-        results += std::to_string(number.Call<std::int32_t>(
+        results += std::to_string(number.Call<Integer>(
                        "Operator_Compare(other as $) as Integer", left.Get(), right.Get())) +
                    "\n";
     }

@@ -15,6 +15,7 @@ namespace {
 
 using namespace std::string_view_literals;
 using host_interface::HostTextEncoding;
+using host_interface::Integer;
 using tests::Address;
 using tests::CallRoutine;
 using tests::HeldObject;
@@ -39,14 +40,14 @@ constexpr const char* ToText = "Operator_Convert as String";
 /// A number's text is a NaN in this form, whatever made it one.
 constexpr const char* NanText = "NaN";
 
-constexpr std::int32_t BadBases[] = {0, 1, 17, -1, 18, 256, INT32_MIN, INT32_MAX};
+constexpr Integer BadBases[] = {0, 1, 17, -1, 18, 256, INT32_MIN, INT32_MAX};
 
 /// The options of `GetStringValue`, at first the defaults that the declaration gives.
 struct Format {
-    std::int32_t base = 10;
+    Integer base = 10;
     bool scientific = false;
-    std::int32_t scientificFrom = 15;
-    std::int32_t round = -1;
+    Integer scientificFrom = 15;
+    Integer round = -1;
     bool trimZeros = true;
     std::string_view comma = ".";
 };
@@ -68,7 +69,7 @@ struct Rest {
 };
 
 /// Calls `SetStringValue`. The bytes around the Boolean must stay as they are.
-Rest SetText(NumberClass& number, Object self, String text, std::int32_t base,
+Rest SetText(NumberClass& number, Object self, String text, Integer base,
              HeldString afterBefore = {}) {
     String after = afterBefore.Release();
     std::array<std::uint8_t, 3> valueRead = {0xEE, 0xFF, 0xEE};
@@ -202,7 +203,7 @@ TEST_CASE("A number is written in every base from 2 to 16") {
     for (NumberClass& number : plugin.classes()) {
         const HeldObject object = number.Make("200");
         const HeldObject negative = number.Make("-200.5");
-        for (std::int32_t base = 2; base <= 16; ++base) {
+        for (Integer base = 2; base <= 16; ++base) {
             CAPTURE(base);
             const char* expected = TwoHundred[base - 2];
             CHECK(Shown(number.Call<HeldString>(InBase, object.Get(), base)) == expected);
@@ -218,7 +219,7 @@ TEST_CASE("A base outside of 2 to 16 fails, answers no text and leaves the numbe
     for (NumberClass& number : plugin.classes()) {
         const HeldObject object = number.Make("255");
         const std::string bytes = number.ValueBytes(object.Get());
-        for (const std::int32_t base : BadBases) {
+        for (const Integer base : BadBases) {
             CAPTURE(base);
             CHECK_FALSE(number.Call<HeldString>(InBase, object.Get(), base));
             CHECK(TakeRaised(plugin.host()) == FailureOf("StringValue", "255"));
@@ -398,7 +399,7 @@ TEST_CASE("SetStringValue tells the rest of the text and whether there were digi
     LoadedPlugin plugin;
     struct Row {
         std::string_view text;
-        std::int32_t base;
+        Integer base;
         const char* value;
         std::string_view rest;
         bool valueRead;
@@ -472,7 +473,7 @@ TEST_CASE("A bad base fails to read text, and the value is replaced by a NaN all
     LoadedPlugin plugin;
     for (NumberClass& number : plugin.classes()) {
         const HeldString text = plugin.MakeString("12.5");
-        for (const std::int32_t base : BadBases) {
+        for (const Integer base : BadBases) {
             CAPTURE(base);
             const HeldObject object = number.Make("7");
             CallRoutine<void>(number.Method(InBase).setter, object.Get(), base, text.Get());
