@@ -61,12 +61,23 @@ struct Output {
 };
 
 namespace plain {
+
 template <unsigned E, unsigned W>
 Output<E, W> Compute(Call call, const Input<E, W>& input);
-}
+
+extern template Output<2, 8> Compute(Call, const Input<2, 8>&);
+extern template Output<16, 64> Compute(Call, const Input<16, 64>&);
+
+}  // namespace plain
+
 namespace with_kernels {
+
 template <unsigned E, unsigned W>
 Output<E, W> Compute(Call call, const Input<E, W>& input);
-}
+
+extern template Output<2, 8> Compute(Call, const Input<2, 8>&);
+extern template Output<16, 64> Compute(Call, const Input<16, 64>&);
+
+}  // namespace with_kernels
 
 }  // namespace kernel_tests

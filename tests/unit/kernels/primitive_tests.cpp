@@ -114,6 +114,7 @@ TEST_CASE("a pair of lanes") {
     CHECK(Stored(Pair::Missing(a, b)) == Lanes{4, 0x0000000100000000});
     CHECK(Stored(Pair::ShiftLeft<4>(a)) == Lanes{0xFFFFFFF000000030, 0x0000000FFFFFFFF0});
     CHECK(Stored(Pair::ShiftRight<4>(a)) == Lanes{0x0FFFFFFFF0000000, 0x080000000FFFFFFF});
+    CHECK(Stored(Pair::ShiftRight<0>(a)) == first);
     CHECK(Stored(Pair::ShiftLeftBy(a, 4)) == Stored(Pair::ShiftLeft<4>(a)));
     CHECK(Stored(Pair::Follow(a, b)) == Lanes{first[1], second[0]});
     CHECK(Stored(Pair::High(a)) == Lanes{first[1], first[1]});
