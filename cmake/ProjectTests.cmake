@@ -65,6 +65,9 @@ function(add_unit_tests target)
   add_project_test(NAME unit/${target} COMMAND ${target})
 endfunction()
 
+# How wide the host's Integer is.
+math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
+
 # The words with which a test starts the stand-in host: under Wine where that is needed.
 set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
   --library "$<TARGET_FILE:BigNumberVQZ>")
@@ -72,14 +75,18 @@ set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
 # add_program_tests(folder)
 #
 # One test for each program of the folder that has its expected output beside it;
-# tests/run_program.py says which files count.
+# tests/run_program.py says which files count, and which programs are for 32-bit hosts only.
 function(add_program_tests folder)
   file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script")
   foreach(program IN LISTS programs)
     cmake_path(GET program STEM LAST_ONLY stem)
+    file(STRINGS "${program}" at_32_bits_only REGEX "^' At 32 bits only")
+    if(at_32_bits_only AND bits EQUAL 64)
+      continue()
+    endif()
     add_project_test(NAME "${folder}/${stem}"
-      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" "${program}"
-        -- ${standin_command})
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" --bits ${bits}
+        "${program}" -- ${standin_command})
   endforeach()
 endfunction()
 
@@ -107,8 +114,22 @@ endfunction()
 # What the library registers on hosts of every age, compared with the tables that were kept.
 function(add_golden_tests folder)
   add_project_test(NAME golden/tables
-    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/golden_tables.py"
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/golden_tables.py" --bits ${bits}
       "${PROJECT_SOURCE_DIR}/${folder}" -- ${standin_command})
+endfunction()
+
+# add_results_test()
+#
+# The results of all members, compared with those of the 32-bit Windows library that were kept. A sanitized
+# library is too slow for it and computes the same.
+function(add_results_test)
+  if(BIGNUMBERVQZ_SANITIZE)
+    return()
+  endif()
+  add_project_test(NAME results
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/results.py"
+      "${PROJECT_SOURCE_DIR}/tests/golden/results.txt" --
+      ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:plugin_results>" "$<TARGET_FILE:BigNumberVQZ>")
 endfunction()
 
 # add_library_tests()
