@@ -182,7 +182,7 @@ class CommandsTest(unittest.TestCase):
 
     def test_a_preset_that_does_not_exist(self) -> None:
         result = self.run_command("scripts/build", "linux-x87")
-        self.assert_refused(result, "no preset linux-x87", "windows-x86 linux-x86 ")
+        self.assert_refused(result, "no preset linux-x87", "windows-x86 windows-x86_64 ")
 
     def offer_tests(self) -> None:
         """A checkout with two tests in each preset, the second of which needs nothing."""
@@ -256,7 +256,7 @@ class CommandsTest(unittest.TestCase):
             (["--without"], "--without needs a value"),
             (["--fail-string", "0"], '--fail-string takes a number from 1, not "0"'),
             (["--host-version", "new"], 'a number such as 2015.01, or none, not "new"'),
-            (["--target", "mars"], "there is no target mars; there are windows-x86 linux-x86"),
+            (["--target", "mars"], "there is no target mars; there are windows-x86 windows-x86_64"),
             (["one", "two"], "more than one program: one and two"),
             (["-e", "Print 1", "two"], "more than one program: -e and two"),
             (["-i", "one"], "-i takes no program"),
