@@ -65,6 +65,9 @@ function(add_unit_tests target)
   add_project_test(NAME unit/${target} COMMAND ${target})
 endfunction()
 
+# How wide the host's Integer is.
+math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
+
 # The words with which a test starts the stand-in host: under Wine where that is needed.
 set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
   --library "$<TARGET_FILE:BigNumberVQZ>")
@@ -72,15 +75,19 @@ set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
 # add_program_tests(folder)
 #
 # One test for each program of the folder that has its expected output beside it;
-# tests/run_program.py says which files count.
+# tests/run_program.py says which files count, and which programs are for 32-bit hosts only.
 function(add_program_tests folder)
   file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script"
     "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_project")
   foreach(program IN LISTS programs)
     cmake_path(GET program STEM LAST_ONLY stem)
+    file(STRINGS "${program}" at_32_bits_only REGEX "^' At 32 bits only")
+    if(at_32_bits_only AND bits EQUAL 64)
+      continue()
+    endif()
     add_project_test(NAME "${folder}/${stem}"
-      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" "${program}"
-        -- ${standin_command})
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" --bits ${bits}
+        "${program}" -- ${standin_command})
   endforeach()
 endfunction()
 
@@ -108,8 +115,22 @@ endfunction()
 # What the library registers on hosts of every age, compared with the tables that were kept.
 function(add_golden_tests folder)
   add_project_test(NAME golden/tables
-    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/golden_tables.py"
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/golden_tables.py" --bits ${bits}
       "${PROJECT_SOURCE_DIR}/${folder}" -- ${standin_command})
+endfunction()
+
+# add_results_test()
+#
+# The results of all members, compared with those of the 32-bit Windows library that were kept. A sanitized
+# library is too slow for it and computes the same.
+function(add_results_test)
+  if(BIGNUMBERVQZ_SANITIZE)
+    return()
+  endif()
+  add_project_test(NAME results
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/results.py"
+      "${PROJECT_SOURCE_DIR}/tests/golden/results.txt" --
+      ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:plugin_results>" "$<TARGET_FILE:BigNumberVQZ>")
 endfunction()
 
 # add_library_tests()
@@ -119,30 +140,46 @@ function(add_library_tests)
   set(checks exports imports format protections marker paths)
   if(WIN32)
     list(APPEND checks version)
+  else()
+    list(APPEND checks glibc)
+  endif()
+  set(processor x86)
+  if(bits EQUAL 64)
+    set(processor ${CMAKE_SYSTEM_PROCESSOR})
+  endif()
+  if(processor STREQUAL "aarch64")
+    list(APPEND checks branches)
   endif()
   foreach(check IN LISTS checks)
     add_project_test(NAME library/${check}
       COMMAND ${python_for_checks} "${PROJECT_SOURCE_DIR}/tests/delivered_library.py"
-        ${check} "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}" "${TTMATH_INCLUDE_DIR}")
+        ${check} ${processor} "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}"
+        "${TTMATH_INCLUDE_DIR}")
   endforeach()
+  add_project_test(NAME library/reproducible
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/reproducible_build.py"
+      "${PROJECT_SOURCE_DIR}" BigNumberVQZ "$<TARGET_FILE:BigNumberVQZ>" --
+      "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
+      "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"
+      "-DTTMATH_INCLUDE_DIR=${TTMATH_INCLUDE_DIR}"
+      "-DBIGNUMBER_KERNELS=${BIGNUMBER_KERNELS}"
+      -DBIGNUMBERVQZ_HELP=OFF)
 endfunction()
 
 # add_package_tests()
 #
-# The package opened as the host opens it, and made a second time.
+# What is in the package, and that it comes out the same a second time, by the preset that makes it; and by
+# each target, the tour with the library that the package has for it.
 function(add_package_tests)
   set(package "${BIGNUMBERVQZ_PACKAGE_FOLDER}/BigNumberVQZ.xojo_plugin")
-  add_project_test(NAME package/contents TARGETS xojo_plugin
-    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_test.py"
+  if(TARGET xojo_plugin)
+    add_project_test(NAME package/contents TARGETS xojo_plugin
+      COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_test.py"
+        "${package}" "${BIGNUMBERVQZ_PACKAGE_FOLDER}" "${PROJECT_SOURCE_DIR}" "${TTMATH_INCLUDE_DIR}")
+  endif()
+  add_project_test(NAME package/tour TARGETS xojo_plugin
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_tour.py"
       "${package}" "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}" -- ${standin_command})
-  add_project_test(NAME package/reproducible TARGETS xojo_plugin
-    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/reproducible_build.py"
-      "${PROJECT_SOURCE_DIR}" xojo_plugin "$<TARGET_FILE:BigNumberVQZ>" "${package}" --
-      "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
-      "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"
-      "-DTTMATH_INCLUDE_DIR=${TTMATH_INCLUDE_DIR}"
-      -DBIGNUMBERVQZ_HELP=OFF
-      "-DBIGNUMBERVQZ_HELP_PAGE=${PROJECT_BINARY_DIR}/help/index.html")
 endfunction()
 
 # add_help_tests()

@@ -32,6 +32,14 @@ preset_field() {
     fail "there is no preset $1; there are $(presets_for | tr '\n' ' ')"
 }
 
+# packaged_presets: the presets whose library goes into the package.
+packaged_presets() {
+    local preset
+    for preset in $(presets_for); do
+        [[ -z $(preset_field "$preset" package) ]] || printf '%s\n' "$preset"
+    done
+}
+
 # say TEXT: a word of progress. Standard output belongs to the program that is run.
 say() {
     printf '%s\n' "== $*" >&2

@@ -79,7 +79,8 @@ std::string Documentation::Matching(std::string_view question) const {
     const auto words = WordsOf(question);
     std::string found;
     for (const auto& [name, text] : texts_) {
-        const std::string all = name + " " + text;
+        std::string all = name;
+        all.append(" ").append(text);
         const auto there = WordsOf(all);
         const bool fits = std::ranges::all_of(words, [&there](std::string_view word) {
             return std::ranges::any_of(there, [word](std::string_view candidate) {

@@ -12,9 +12,11 @@ inline constexpr std::string_view OptionsText =
     R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
 
 Runs a program in the host's language against the plug-in library. PROGRAM is a .xojo_script file
-or a project, NAME.xojo_project; `-` reads the program from standard input; without any program examples/tour.xojo_script runs. The
-library is the Windows DLL, loaded by the stand-in host under Wine. What is missing is installed,
-fetched and built first.
+or a project, NAME.xojo_project; `-` reads the program from standard input; without any program
+examples/tour.xojo_script runs. The
+library is the DLL for 32-bit Windows, loaded by the stand-in host under Wine, unless --target names
+another one. What is missing is installed, fetched and built first; without --target also the package
+with the libraries of all targets.
 
   -e TEXT              the text of the program itself
   -i                   runs line by line what you type
@@ -28,20 +30,23 @@ fetched and built first.
   --help               this text
 
 Options of ./run alone:
-  --target NAME        the library of this target: windows-x86, or linux-x86, which needs no Wine
-  --native             the same as --target linux-x86
+  --target NAME        the library of this target: windows-x86, windows-x86_64, linux-x86_64,
+                       linux-arm64, or linux-x86, which is in no package
+  --native             the same as --target linux-x86_64, which needs neither Wine nor QEMU
   --version            the version of the plug-in
 
 What kind of host to be:
-  --host-version V     the host's version; `none` for a host that tells no version
+  --host-version V     the host's version; `none` for a host that tells no version. A 64-bit host is
+                       of 2015.03 or later
   --without FUNCTION   a host that lacks this function (repeatable)
   --built-application  a built application instead of the development environment
   --constructor-on-new new instances made by the plug-in run their empty constructor
   --unterminated-strings
                        the byte after a string's text is not 0
   --misaligned-stack   the plug-in is called with a stack aligned to 4 bytes only
+                       (32-bit hosts)
   --changed-control-word
-                       the plug-in is called with another x87 control word
+                       the plug-in is called with another x87 control word (32-bit hosts)
   --blocks-without-data
                        memory blocks have a size but no data
   --spare-references   what is released too often lives on, and the ledger tells by how many

@@ -182,7 +182,7 @@ class CommandsTest(unittest.TestCase):
 
     def test_a_preset_that_does_not_exist(self) -> None:
         result = self.run_command("scripts/build", "linux-x87")
-        self.assert_refused(result, "no preset linux-x87", "windows-x86 linux-x86 ")
+        self.assert_refused(result, "no preset linux-x87", "windows-x86 windows-x86_64 ")
 
     def offer_tests(self) -> None:
         """A checkout with two tests in each preset, the second of which needs nothing."""
@@ -231,11 +231,31 @@ class CommandsTest(unittest.TestCase):
         result = self.run_command("test")
         self.assertEqual(result.returncode, 0, result.stderr)
         built = [line for line in self.noted("built") if not line.endswith("build.ninja")]
-        presets = ["windows-x86", "linux-x86", "linux-x86-sanitize", "linux-x86-fuzz"]
+        presets = ["windows-x86", "windows-x86_64", "linux-x86_64", "linux-arm64", "linux-x86",
+                   "linux-x86-sanitize", "linux-x86_64-sanitize", "linux-x86-fuzz"]
         self.assertEqual([line.rpartition("/")[2] for line in built], presets)
         self.assertEqual(self.noted("configured"), presets)
-        self.assertEqual(self.noted("set-up"), ["build checks native windows", "checks wine"])
+        self.assertEqual(self.noted("set-up"), ["arm64 build checks native windows windows64", "arm64 checks wine wine64"])
         self.assertEqual(len(self.noted("tested")), 2)
+
+    def test_the_package_is_made_of_the_libraries_of_all_targets(self) -> None:
+        self.configure()
+        (self.project / "scripts/setup").write_text('#!/bin/bash\necho "$*" >>set-up\n')
+        result = self.run_command("scripts/package", "standin")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.noted("set-up"), ["arm64 build windows windows64 wine"])
+        self.assertEqual([line.partition("/build/")[2] for line in self.noted("built")],
+                         ["windows-x86_64 BigNumberVQZ", "linux-x86_64 BigNumberVQZ",
+                          "linux-arm64 BigNumberVQZ", "windows-x86 xojo_plugin standin"])
+
+    def test_a_test_of_the_package_makes_it(self) -> None:
+        self.offer_tests()
+        (self.project / "scripts/package").write_text('#!/bin/bash\necho made >>package\n')
+        cmake = (self.path / "cmake").read_text()
+        self.offer("cmake", cmake.replace("sums prover", "sums xojo_plugin"))
+        self.assertEqual(self.run_command("test", "-R", "linux-x86_64/unit").returncode, 0)
+        self.assertEqual(self.noted("package"), ["made"])
+        self.assertEqual([line.split("linux-x86_64 ")[1] for line in self.noted("built")], ["build.ninja", "sums"])
 
     def test_no_such_test_or_preset(self) -> None:
         self.offer_tests()
@@ -256,7 +276,7 @@ class CommandsTest(unittest.TestCase):
             (["--without"], "--without needs a value"),
             (["--fail-string", "0"], '--fail-string takes a number from 1, not "0"'),
             (["--host-version", "new"], 'a number such as 2015.01, or none, not "new"'),
-            (["--target", "mars"], "there is no target mars; there are windows-x86 linux-x86"),
+            (["--target", "mars"], "there is no target mars; there are windows-x86 windows-x86_64"),
             (["one", "two"], "more than one program: one and two"),
             (["-e", "Print 1", "two"], "more than one program: -e and two"),
             (["-i", "one"], "-i takes no program"),

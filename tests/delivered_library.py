@@ -1,8 +1,8 @@
 """Checks what the built library is from outside: its exports, imports, protections and bytes.
 
-usage: delivered_library.py CHECK LIBRARY SOURCE_FOLDER [FOLDER...]
+usage: delivered_library.py CHECK PROCESSOR LIBRARY SOURCE_FOLDER [FOLDER...]
 
-CHECK is one of the methods below with the name check_CHECK. FOLDER is one more that took part in the
+CHECK is one of the methods below with the name check_CHECK; PROCESSOR is x86, x86_64 or aarch64. FOLDER is one more that took part in the
 build.
 """
 
@@ -15,6 +15,9 @@ import sys
 import pefile
 
 ENTRY = "REALPluginMain"
+# The newest version of glibc that a Linux library may need, for the sake of Ubuntu 22.04: how GCC 12
+# unwinds stacks comes with it.
+NEWEST_GLIBC = (2, 35)
 MARKER = b"$$ Plugin version: 21.3 (2021) $$"
 
 
@@ -31,7 +34,8 @@ def expect(condition: object, problem: str) -> None:
 class Library:
     """A built library, the place that it was built from, and what holds of it everywhere."""
 
-    def __init__(self, path: str, source: str, folders: list[str]):
+    def __init__(self, processor: str, path: str, source: str, folders: list[str]):
+        self.processor = processor
         self.path = pathlib.Path(path)
         self.source = pathlib.Path(source)
         self.folders = {pathlib.Path(folder) for folder in folders}
@@ -68,10 +72,11 @@ class WindowsLibrary(Library):
         expect(not hasattr(self.headers, "DIRECTORY_ENTRY_DELAY_IMPORT"), "delayed imports")
 
     def check_format(self) -> None:
-        """The library is a whole one for 32-bit processes, without debug information."""
+        """The library is a whole one for processes of its kind, without debug information."""
         headers = self.headers
-        expect_equal("machine", headers.FILE_HEADER.Machine, 0x14C)
-        expect_equal("kind of headers", headers.OPTIONAL_HEADER.Magic, 0x10B)
+        machine, magic = {"x86": (0x14C, 0x10B), "x86_64": (0x8664, 0x20B)}[self.processor]
+        expect_equal("machine", headers.FILE_HEADER.Machine, machine)
+        expect_equal("kind of headers", headers.OPTIONAL_HEADER.Magic, magic)
         expect(headers.is_dll(), "the file is no library")
         expect(headers.verify_checksum(), "the checksum in the headers is another")
         expect_equal("what is wrong with the headers", headers.get_warnings(), [])
@@ -83,6 +88,8 @@ class WindowsLibrary(Library):
         options = self.headers.OPTIONAL_HEADER
         expect(options.IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, "DYNAMIC_BASE is not set")
         expect(options.IMAGE_DLLCHARACTERISTICS_NX_COMPAT, "NX_COMPAT is not set")
+        expect_equal("HIGH_ENTROPY_VA", bool(options.IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA),
+                     self.processor != "x86")
         expect(not self.headers.FILE_HEADER.IMAGE_FILE_RELOCS_STRIPPED, "relocations are stripped")
         expect(self.headers.DIRECTORY_ENTRY_BASERELOC, "there are no relocations")
         for section in self.headers.sections:
@@ -120,11 +127,19 @@ class WindowsLibrary(Library):
 
 
 class LinuxLibrary(Library):
-    """The same sources as a native library."""
+    """A shared object of Linux."""
+
+    LOADERS = {"x86": "ld-linux.so.2", "x86_64": "ld-linux-x86-64.so.2", "aarch64": "ld-linux-aarch64.so.1"}
 
     @functools.cached_property
     def headers(self) -> str:
-        return self.told_by("objdump", "-fp")
+        return self.told_by("readelf", "--wide", "--file-header", "--segments", "--dynamic", "--notes")
+
+    @functools.cached_property
+    def symbols(self) -> list[list[str]]:
+        """The fields of each line of the dynamic symbols: the binding is the fifth, then come visibility,
+        section and name."""
+        return [line.split() for line in self.told_by("readelf", "--wide", "--dyn-syms").splitlines()]
 
     def told_by(self, *command: str) -> str:
         """What a tool prints of the library."""
@@ -133,32 +148,66 @@ class LinuxLibrary(Library):
 
     def check_exports(self) -> None:
         """The entry is the one thing that the library offers."""
-        listing = self.told_by("nm", "--dynamic", "--defined-only", "--format=posix")
-        expect_equal("exports", [line.split()[0] for line in listing.splitlines()], [ENTRY])
+        defined = [line[-1] for line in self.symbols
+                   if len(line) == 8 and line[4] != "LOCAL" and line[6] not in ("UND", "Ndx")]
+        expect_equal("exports", defined, [ENTRY])
 
     def check_imports(self) -> None:
         """The library needs nothing but the C library."""
-        imports = set(re.findall(r"NEEDED +(\S+)", self.headers))
-        allowed = {"libc.so.6", "libm.so.6", "ld-linux.so.2"}
+        imports = set(re.findall(r"\(NEEDED\) .*\[(\S+)\]", self.headers))
+        allowed = {"libc.so.6", "libm.so.6", self.LOADERS[self.processor]}
+        expect("libc.so.6" in imports, "the library does not name the C library")
         expect(imports <= allowed, f"imports: {imports} beyond {allowed}")
+        expect("RPATH" not in self.headers and "RUNPATH" not in self.headers, "it tells where to look")
+
+    def check_glibc(self) -> None:
+        """The library loads with the C library of that version and with later ones."""
+        versions = re.findall(r"@GLIBC_([0-9.]+)", self.told_by("readelf", "--wide", "--dyn-syms"))
+        expect(versions, "no symbol of the C library")
+        newest = max(tuple(map(int, version.split("."))) for version in versions)
+        expect(newest <= NEWEST_GLIBC, f"it needs glibc {newest}, later than {NEWEST_GLIBC}")
 
     def check_format(self) -> None:
-        """The library is one for 32-bit processes."""
-        expect_equal("format", re.search(r"file format (\S+)", self.headers)[1], "elf32-i386")
+        """The library is a shared object for processes of its kind, without debug information."""
+        kinds = {"x86": ("ELF32", "Intel 80386"), "x86_64": ("ELF64", "Advanced Micro Devices X86-64"),
+                 "aarch64": ("ELF64", "AArch64")}
+        told = (re.search(r"Class: +(\S+)", self.headers)[1], re.search(r"Machine: +(.+)", self.headers)[1])
+        expect_equal("format", told, kinds[self.processor])
+        expect_equal("kind", re.search(r"Type: +(\S+)", self.headers)[1], "DYN")
+        sections = self.told_by("readelf", "--wide", "--sections")
+        expect(".dynsym" in sections, "the sections are not told")
+        expect(".debug" not in sections and ".symtab" not in sections, "there is debug information")
 
     def check_protections(self) -> None:
         """The data of the library cannot be executed, its code and linker tables not written."""
-        stack = re.search(r"STACK.*\n.*flags (\S+)", self.headers)
-        expect_equal("stack", stack[1], "rw-")
-        expect("flags rwx" not in self.headers, "a segment is both writable and executable")
-        expect("RELRO" in self.headers, "the linker's tables stay writable")
+        flags = dict(re.findall(r"^  (\S+) +(?:0x[0-9a-f]+ +){5}([RWE ]{3}) ", self.headers, re.M))
+        expect_equal("stack", flags.get("GNU_STACK", "").strip(), "RW")
+        expect("RWE" not in flags.values(), "a segment is both writable and executable")
+        expect("GNU_RELRO" in flags, "the linker's tables stay writable")
+        expect(re.search(r"\(FLAGS_1\).*\bNOW\b", self.headers), "functions are bound while it runs")
         expect("TEXTREL" not in self.headers, "the code itself is relocated")
+
+    def check_branches(self) -> None:
+        """On 64-bit ARM every object of our own has targets of branches marked and returns signed. The
+        library as a whole cannot say so: the runtimes that Debian has were built without."""
+        objects = [pathlib.Path(name) for name in re.findall(r"^LOAD (\S+\.o)$", self.link_map, re.M)]
+        own = [name for name in objects if not name.is_absolute()]
+        expect(own, "the link map names no object of our own")
+        for name in own:
+            notes = subprocess.run(["readelf", "--notes", self.path.parent / name],
+                                   capture_output=True, text=True, check=True).stdout
+            expect(re.search(r"AArch64 feature: BTI, PAC", notes), f"{name} has unprotected branches")
+
+    @functools.cached_property
+    def link_map(self) -> str:
+        """What the linker took, as it told when it made the library."""
+        return (self.path.parent / "plugin" / f"{self.path.stem}.map").read_text("utf-8")
 
 
 def main() -> None:
-    check, path, source, *folders = sys.argv[1:]
+    check, processor, path, source, *folders = sys.argv[1:]
     kind = WindowsLibrary if path.endswith(".dll") else LinuxLibrary
-    getattr(kind(path, source, folders), f"check_{check}")()
+    getattr(kind(processor, path, source, folders), f"check_{check}")()
 
 
 if __name__ == "__main__":

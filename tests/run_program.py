@@ -1,6 +1,6 @@
 """Runs a program in the host's language and compares what it does with the files beside it.
 
-usage: run_program.py PROGRAM -- COMMAND...
+usage: run_program.py [--bits 32|64] PROGRAM -- COMMAND...
 
 PROGRAM is a script, NAME.xojo_script, or a project, NAME.xojo_project.
 
@@ -19,10 +19,16 @@ A program that ends with status 0 and has neither .stderr nor .log leaves standa
 A file PROGRAM.VARIANT.options gives further runs. What they do otherwise than the plain ones lies in
 files with that variant in their name as well, such as PROGRAM.VARIANT.log.
 
+Integer is 32 or 64 bits wide, as the host is. What a 64-bit host is expected to do otherwise lies in a file
+with 64 behind its name, such as PROGRAM.expected.64 beside PROGRAM.expected. A line of options that begins
+with "32-bit:" is a run on 32-bit hosts only, as one by a host of before 2015.03, and so is a program with a
+comment line that begins "' At 32 bits only"; for --bits 64 such a program is refused.
+
 A program with a comment line that begins "' In both precisions" runs a second time with the other
 number class in the first one's place, in the program as well as in what is expected.
 """
 
+import argparse
 import dataclasses
 import pathlib
 import re
@@ -33,6 +39,8 @@ import tempfile
 import output_check
 
 SMALLER, BIGGER = "BigNumberVQZ", "BiggerNumberVQZ"
+AT_32_BITS_ONLY = re.compile(r"^' At 32 bits only\b", re.MULTILINE)
+RUN_AT_32_BITS = "32-bit:"
 IN_BOTH_PRECISIONS = re.compile(r"^' In both precisions\b", re.MULTILINE)
 LOGGED_ADDRESS = re.compile(r"(?m)^(VQZ Debug: \w+) (?:0x[0-9a-f]+|[0-9A-F]{8}|\(nil\)|0): ")
 SETTING = re.compile(r"\w+=.*", re.DOTALL)
@@ -74,9 +82,10 @@ class Expectation:
 
 
 class Companions:
-    """The files that belong to a program, or to a variant of its runs."""
+    """The files that belong to a program, or to a variant of its runs, on hosts of that many bits."""
 
-    def __init__(self, program: pathlib.Path):
+    def __init__(self, program: pathlib.Path, bits: int):
+        self.bits = bits
         self.folders = [program.parent, program.parent / "expected"]
         self.stem = program.stem
 
@@ -88,13 +97,21 @@ class Companions:
         return ["", *sorted(found)]
 
     def text(self, variant: str, suffix: str) -> str | None:
-        """The text of the file with that suffix, if there is one."""
-        paths = (folder / f"{self.stem}{variant}{suffix}" for folder in self.folders)
+        """The text of the file with that suffix, if there is one; the host's bits may have their own."""
+        suffixes = [f"{suffix}.64", suffix] if self.bits == 64 else [suffix]
+        paths = (folder / f"{self.stem}{variant}{name}" for name in suffixes for folder in self.folders)
         found = next((path for path in paths if path.exists()), None)
         return None if found is None else found.read_bytes().decode("utf-8")
 
     def options(self, variant: str) -> list[str]:
-        return (self.text(variant, ".options") or "\n").splitlines()
+        """The runs on hosts of these bits."""
+        runs = []
+        for line in (self.text(variant, ".options") or "\n").splitlines():
+            if not line.startswith(RUN_AT_32_BITS):
+                runs.append(line)
+            elif self.bits == 32:
+                runs.append(line.removeprefix(RUN_AT_32_BITS).strip())
+        return runs
 
     def expectation(self, variant: str) -> Expectation:
         """What the runs of a variant do; where it says nothing, they do what the plain ones do."""
@@ -133,16 +150,25 @@ def check_runs(command: list[str], program: pathlib.Path, options: list[str],
 
 
 def main() -> None:
-    program = pathlib.Path(sys.argv[1])
-    command = sys.argv[3:]
-    companions = Companions(program)
+    separator = sys.argv.index("--")
+    command = sys.argv[separator + 1:]
+    parser = argparse.ArgumentParser(usage=__doc__.split("usage: ")[1])
+    parser.add_argument("--bits", type=int, choices=(32, 64), default=32)
+    parser.add_argument("program", type=pathlib.Path)
+    given = parser.parse_args(sys.argv[1:separator])
+    program = given.program
+    companions = Companions(program, given.bits)
     text = program.read_bytes()
+    runs = {variant: companions.options(variant) for variant in companions.variants()}
+    if given.bits == 64 and (AT_32_BITS_ONLY.search(text.decode(**output_check.ENCODING))
+                             or not any(runs.values())):
+        sys.exit(f"{program.name} runs at 32 bits only; a comment line has to say so, beginning "
+                 "\"' At 32 bits only\"")
     in_both = IN_BOTH_PRECISIONS.search(text.decode(**output_check.ENCODING))
     with tempfile.TemporaryDirectory() as folder:
         bigger = pathlib.Path(folder) / program.name
         bigger.write_bytes(text.replace(SMALLER.encode(), BIGGER.encode()))
-        for variant in companions.variants():
-            options = companions.options(variant)
+        for variant, options in runs.items():
             expectation = companions.expectation(variant)
             check_runs(command, program, options, expectation)
             if in_both:

@@ -22,23 +22,23 @@ sys.exit(3 if fails else 0)
 """
 
 
-def outcome(files: dict[str, str]) -> subprocess.CompletedProcess:
+def outcome(files: dict[str, str], bits: int = 32) -> subprocess.CompletedProcess:
     """Runs the program p.xojo_script of these files, named by what follows its "p"."""
     with tempfile.TemporaryDirectory() as folder:
         for name, text in files.items():
             (pathlib.Path(folder) / f"p{name}").write_text(text, encoding="utf-8")
         program = pathlib.Path(folder) / "p.xojo_script"
-        command = [sys.executable, RUNNER, program, "--", sys.executable, "-c", ECHO]
+        command = [sys.executable, RUNNER, "--bits", str(bits), program, "--", sys.executable, "-c", ECHO]
         return subprocess.run(command, capture_output=True, text=True, check=False)
 
 
 class RunProgram(unittest.TestCase):
-    def assert_good(self, files: dict[str, str]):
-        result = outcome(files)
+    def assert_good(self, files: dict[str, str], bits: int = 32):
+        result = outcome(files, bits)
         self.assertEqual((result.returncode, result.stdout), (0, ""))
 
-    def assert_bad(self, files: dict[str, str], complaint: str):
-        result = outcome(files)
+    def assert_bad(self, files: dict[str, str], complaint: str, bits: int = 32):
+        result = outcome(files, bits)
         self.assertEqual(result.returncode, 1)
         self.assertIn(complaint, result.stdout + result.stderr)
 
@@ -82,6 +82,24 @@ class RunProgram(unittest.TestCase):
         self.assert_bad(files, "the status is 3")
         self.assert_good({**files, ".other.status": "3\n"})
         self.assert_bad({**files, ".other.status": "3\n", ".other.expected": "b\n"}, "+a")
+
+    def test_64_bit_hosts_have_expectations_of_their_own(self):
+        files = {".xojo_script": "a\n", ".expected": "b\n", ".expected.64": "a\n"}
+        self.assert_bad(files, "-b")
+        self.assert_good(files, 64)
+        self.assert_bad({".xojo_script": "a\n", ".expected": "a\n", ".expected.64": "b\n"}, "-b", 64)
+        variant = {".other.options": "--three\n", ".other.status.64": "3\n"}
+        self.assert_bad({**files, **variant, ".expected": "a\n"}, "the status is 3")
+        self.assert_good({**files, **variant}, 64)
+
+    def test_runs_and_programs_for_32_bits_only(self):
+        files = {".xojo_script": "a\n", ".expected": "a\n", ".options": "32-bit: --three\n\n"}
+        self.assert_bad(files, "the status is 3")
+        self.assert_good(files, 64)
+        self.assert_bad({**files, ".options": "32-bit: --three\n"}, "runs at 32 bits only", 64)
+        marked = "' At 32 bits only: old hosts.\n"
+        self.assert_good({".xojo_script": marked, ".expected": marked})
+        self.assert_bad({".xojo_script": marked, ".expected": marked}, "runs at 32 bits only", 64)
 
     def test_both_precisions_are_run_where_the_program_says_so(self):
         text = "' In both precisions.\nBigNumberVQZ\n"
