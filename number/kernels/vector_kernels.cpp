@@ -35,9 +35,12 @@ Word AddTail(Word* sum, const TailStart& start) {
 
 template <int W>
 constexpr SizedVectorKernels MakeKernels() {
-    SizedVectorKernels kernels{.multiply = nullptr, .divide = Divide<W>, .addTail = AddTail<W>};
-    if constexpr (W * W > MaxWordProducts) {
-        kernels.multiply = Multiply<W>;
+    SizedVectorKernels kernels{.multiply = nullptr, .divide = nullptr, .addTail = AddTail<W>};
+    if constexpr (!AreFactorsWide) {
+        kernels.divide = Divide<W>;
+        if constexpr (W * W > MaxRowProducts) {
+            kernels.multiply = Multiply<W>;
+        }
     }
     return kernels;
 }
