@@ -66,11 +66,15 @@ private:
     /// The product's factors from the given one on.
     StoredFactor* factors(int first) { return FactorsOf(words_ + Slack) + first; }
 
+    /// Clears the words below a factor. (The language's own algorithms would take a factor for an
+    /// integer at a multiple of its size.)
+    void ClearBelow(StoredFactor* factor) { std::fill(words_, reinterpret_cast<Word*>(factor), 0); }
+
     /// The schoolbook, row by row.
     void MultiplyRows(const StoredFactor* left, int leftCount, const StoredFactor* right,
                       int rightCount) {
         StoredFactor* product = factors(2 * Factors) - (leftCount + rightCount);
-        std::fill(FactorsOf(words_), product + leftCount, 0);
+        ClearBelow(product + leftCount);
         for (int j = 0; j < rightCount; ++j, ++product) {
             Factor carry = 0;
             for (int i = 0; i < leftCount; ++i) {
@@ -103,7 +107,7 @@ private:
     template <int First>
     void ComputeFullColumns(const StoredFactor* left, const StoredFactor* right) {
         StoredFactor* product = factors(0);
-        std::fill(FactorsOf(words_), product + First, 0);
+        ClearBelow(product + First);
         ColumnSum sum;
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
             ((AddFullColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
@@ -141,7 +145,7 @@ private:
                         int rightCount, int first) {
         const int columns = leftCount + rightCount - 1;
         StoredFactor* product = factors(2 * Factors - 1) - columns;
-        std::fill(FactorsOf(words_), product + first, 0);
+        ClearBelow(product + first);
         ColumnSum sum;
         for (int k = first; k < columns; ++k) {
             const int begin = std::max(0, k - rightCount + 1);

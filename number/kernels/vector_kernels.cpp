@@ -13,13 +13,14 @@ inline namespace BIGNUMBER_INSTRUCTION_SET {
 namespace {
 
 template <int W>
-void Multiply(const Word* leftEnd, int leftCount, const Word* rightEnd, int rightCount, int columns,
-              Word* productEnd) {
+[[maybe_unused]] void Multiply(const Word* leftEnd, int leftCount, const Word* rightEnd,
+                               int rightCount, int columns, Word* productEnd) {
     MultiplyLimbs<Lanes, W>({leftEnd, leftCount}, {rightEnd, rightCount}, columns, productEnd);
 }
 
 template <int W>
-Word Divide(const Word* dividend, const Word* divisor, int divisorCount, Word* quotientEnd) {
+[[maybe_unused]] Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
+                             Word* quotientEnd) {
     return LimbDivision<Lanes, W>::Divide(dividend, divisor, divisorCount, quotientEnd);
 }
 

@@ -2,6 +2,7 @@
 // of them has to get right first.
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include <doctest/doctest.h>
 
@@ -70,6 +71,33 @@ TEST_CASE("factors are multiplied and divided") {
     target = 5;
     CHECK(AddProduct(target, 6, 7, 8) == 0);
     CHECK(target == 55);
+}
+
+TEST_CASE("factors are divided whatever their halves are") {
+    constexpr int half = FactorBits / 2;
+    const std::array<Factor, 5> halves{0, 1, Factor{1} << (half - 1), (Factor{1} << half) - 2,
+                                       (Factor{1} << half) - 1};
+    std::vector<Factor> factors;
+    for (const Factor high : halves) {
+        for (const Factor low : halves) {
+            factors.push_back(high << half | low);
+        }
+    }
+    for (const Factor divisor : factors) {
+        for (const Factor high : factors) {
+            for (const Factor low : factors) {
+                if (high >= divisor) {
+                    continue;
+                }
+                Factor remainder = 0;
+                const Factor quotient = DivideFactors(high, low, divisor, remainder);
+                const bool isRight = DoubleFactor{quotient} * divisor + remainder ==
+                                     (DoubleFactor{high} << FactorBits | low);
+                CHECK(isRight);
+                CHECK(remainder < divisor);
+            }
+        }
+    }
 }
 
 TEST_CASE("a column sum carries into its third factor") {
