@@ -67,10 +67,10 @@ TEST_CASE("factors are multiplied and divided") {
     CHECK(remainder == 2);
     StoredFactor target = ones;
     CHECK(AddProduct(target, ones, ones, ones) == ones);
-    CHECK(target == ones);
+    CHECK(Factor{target} == ones);
     target = 5;
     CHECK(AddProduct(target, 6, 7, 8) == 0);
-    CHECK(target == 55);
+    CHECK(Factor{target} == 55);
 }
 
 TEST_CASE("factors are divided whatever their halves are") {
@@ -122,7 +122,7 @@ TEST_CASE("factors lie in rows of words anywhere, the lowest first") {
             words[offset + FactorWords + i - 1] = 0x9E3779B9U * static_cast<Word>(i);
             expected = expected << (WordBits - 1) << 1 | words[offset + FactorWords + i - 1];
         }
-        CHECK(FactorsOf(words + offset)[1] == expected);
+        CHECK(Factor{FactorsOf(words + offset)[1]} == expected);
         FactorsOf(words + offset)[2] = expected;
         CHECK(words[offset + 2 * FactorWords] == words[offset + FactorWords]);
     }

@@ -32,11 +32,11 @@ inline Factor DivideFactors(Factor high, Factor low, Factor divisor, Factor& rem
     Factor rest = static_cast<Factor>(dividend >> 64);
     const auto divide = [&rest, normal](Word word) {
         Factor digit = rest / High(normal);
-        Factor estimated = rest - digit * High(normal);
-        while (High(estimated) == 0 &&
-               (High(digit) != 0 || digit * Low(normal) > Join(Low(estimated), word))) {
+        Factor digitRest = rest - digit * High(normal);
+        while (High(digitRest) == 0 &&
+               (High(digit) != 0 || digit * Low(normal) > Join(Low(digitRest), word))) {
             --digit;
-            estimated += High(normal);
+            digitRest += High(normal);
         }
         // What wraps is left out on both sides.
         rest = Join(Low(rest), word) - digit * normal;
@@ -58,23 +58,31 @@ inline Factor AddProduct(StoredFactor& target, Factor left, Factor right, Factor
 /// A sum of products of factors, and of what the sum before carries over.
 class ColumnSum {
 public:
-    /// Adds left * right.
+    /// Adds left * right. The compiler would find the carry by comparisons.
     void AddProduct(Factor left, Factor right) {
-        const bool carry = __builtin_add_overflow(lower_, DoubleFactor{left} * right, &lower_);
-        above_ += carry ? 1U : 0U;
+        const DoubleFactor product = DoubleFactor{left} * right;
+        asm("adds %[low], %[low], %[productLow]\n\t"
+            "adcs %[middle], %[middle], %[productHigh]\n\t"
+            "adc %[high], %[high], xzr"
+            : [low] "+&r"(low_), [middle] "+&r"(middle_), [high] "+&r"(high_)
+            : [productLow] "r"(static_cast<Factor>(product)), [productHigh] "r"(static_cast<Factor>(
+                                                                  product >> 64))
+            : "cc");
     }
 
     /// Returns the lowest factor; the others are carried over to the next column.
     Factor Next() {
-        const auto lowest = static_cast<Factor>(lower_);
-        lower_ = (DoubleFactor{above_} << 64) | static_cast<Factor>(lower_ >> 64);
-        above_ = 0;
+        const Factor lowest = low_;
+        low_ = middle_;
+        middle_ = high_;
+        high_ = 0;
         return lowest;
     }
 
 private:
-    DoubleFactor lower_ = 0;
-    Factor above_ = 0;
+    Factor low_ = 0;
+    Factor middle_ = 0;
+    Factor high_ = 0;
 };
 
 }  // namespace vqz::kernels
