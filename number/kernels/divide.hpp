@@ -41,7 +41,7 @@ private:
     static_assert(Slack > 0);
 
     bool topBit_ = false;
-    Word words_[Slack + W];
+    alignas(Factor) Word words_[Slack + W];
 
     /// The schoolbook's division by one digit.
     void DivideByWord(const Word* dividend, Word divisor) {

@@ -59,7 +59,7 @@ private:
     static constexpr int Slack =
         AreFactorsWide ? 0 : GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
 
-    Word words_[Slack + 2 * W];
+    alignas(Factor) Word words_[Slack + 2 * W];
 
     Word* end() { return std::end(words_); }
 
