@@ -23,8 +23,14 @@ HOST_ROWS = {
     "nothing": (),
 }
 PRECISIONS = (2048, 256)
-# The contenders that are measured against stock.
+# What the names of 64-bit code end with; a table has code of one word size only.
+WIDE = ", 64 bits"
+WIDTHS = ("", WIDE)
+# The contenders that are measured against stock of the same word size.
 RATIOS = ("library", "SSE2", "plug-in")
+# The far marks: how far each row is from them is told.
+FAR = "mpfr" + WIDE
+FAR_PRODUCT = "mpn_mul_n" + WIDE
 # A contender of another checkout has the name of ours and this behind it.
 BEFORE = " before"
 # What a row may lose in speed: what it has is measured no better than that.
@@ -186,9 +192,13 @@ def shown(nanoseconds):
 
 
 def table(results, bits, names):
-    """The lines of one precision: microseconds of each contender, and the ratio to stock."""
-    ratios = [name for name in RATIOS if name in names and "stock" in names]
-    header = ["microseconds", *names, *(f"stock/{name}" for name in ratios)]
+    """The lines of one precision: microseconds of each contender, and the ratio to stock. All names
+    are of one word size."""
+    width = WIDE if names[0].removesuffix(BEFORE).endswith(WIDE) else ""
+    stock = "stock" + width
+    ratios = [name + width for name in RATIOS if name + width in names and stock in names]
+    header = ["microseconds", *(name.replace(WIDE, "") for name in names),
+              *(f"stock/{name.removesuffix(width)}" for name in ratios)]
     rows = [header]
     for operation in results.groups:
         cells = [operation]
@@ -197,11 +207,11 @@ def table(results, bits, names):
             spread = f" ±{measured.spread:.0%}" if measured else ""
             cells.append(shown(results.time(bits, operation, name)) + spread)
         for name in ratios:
-            ratio = results.ratio(bits, operation, name, "stock")
+            ratio = results.ratio(bits, operation, name, stock)
             cells.append(f"{ratio:.1f}" if ratio else "-")
         rows.append(cells)
     widths = [max(len(row[column]) for row in rows) for column in range(len(header))]
-    yield f"{bits} bits"
+    yield f"{bits} bits" + (", computed by 64-bit code" if width else "")
     for row in rows:
         first, *rest = (cell.ljust(width) if column == 0 else cell.rjust(width)
                         for column, (cell, width) in enumerate(zip(row, widths)))
@@ -211,32 +221,48 @@ def table(results, bits, names):
 def call_costs(results, contender, bare):
     """What the plug-in adds to the bare operation, for each shape of call."""
     for bits in PRECISIONS:
-        allowed = (results.time(2048, "multiply", "stock") or 0) * 0.05
+        stock = "stock" + (WIDE if contender.endswith(WIDE) else "")
+        allowed = (results.time(2048, "multiply", stock) or 0) * 0.05
         for operation, row in results.groups.items():
             if row["group"] != "call" and operation not in CHEAPEST_OF_THEIR_SHAPE:
                 continue
             whole, part = (results.time(bits, operation, name) for name in (contender, bare))
             if whole is not None and part is not None:
                 host = results.host_part(bits, operation, contender)
-                yield (f"call of {operation}, {bits} bits: {whole - part:.0f} ns"
+                yield (f"{contender}, call of {operation}, {bits} bits: {whole - part:.0f} ns"
                        f" (the host's part, {host:.0f} ns, and the arithmetic, {part:.0f} ns,"
                        f" taken off; 5 % of a stock 2048-bit multiply is {allowed:.0f} ns)")
 
 
 def summary(results, contender):
     """Smallest and median ratio to stock for each precision and group."""
+    stock = "stock" + (WIDE if contender.endswith(WIDE) else "")
     for bits in PRECISIONS:
         for group, label in (("basic", "basic operations"), ("function", "functions"),
                              ("text", "text")):
             ratios = {
                 operation: ratio for operation, row in results.groups.items()
                 if row["group"] == group
-                and (ratio := results.ratio(bits, operation, contender, "stock"))
+                and (ratio := results.ratio(bits, operation, contender, stock))
             }
             if ratios:
                 slowest = min(ratios, key=ratios.get)
                 yield (f"{contender}, {bits} bits, {label}: {ratios[slowest]:.1f} times stock"
                        f" at least ({slowest}), median {statistics.median(ratios.values()):.1f}")
+
+
+def beside_far_marks(results, contender):
+    """How each row compares with what other libraries need for it, the slowest first."""
+    for bits in PRECISIONS:
+        ratios = {
+            operation: ratio for operation, row in results.groups.items() if row["group"] != "call"
+            and (ratio := results.ratio(bits, operation, contender, FAR))
+        }
+        if ratios:
+            rows = ", ".join(f"{name} {ratio:.2f}" for name, ratio in sorted(ratios.items(), key=lambda row: row[1]))
+            yield f"{contender}, {bits} bits: times the speed of MPFR: {rows}"
+        if product := results.ratio(bits, "multiply", contender, FAR_PRODUCT):
+            yield f"{contender}, {bits} bits: multiply has {product:.2f} times the speed of mpn_mul_n"
 
 
 def speeds(results, names):
@@ -318,19 +344,25 @@ def main():
         contender.close()
 
     names = [contender.name for contender in contenders]
-    for bits in PRECISIONS:
-        print("\n".join(table(results, bits, names)), end="\n\n")
+    for width in WIDTHS:
+        own = [name for name in names if name.removesuffix(BEFORE).endswith(WIDE) == bool(width)]
+        for bits in PRECISIONS if own else ():
+            print("\n".join(table(results, bits, own)), end="\n\n")
     if arguments.json:
         rows = ",\n".join(map(json.dumps, results.as_json()))
         arguments.json.write_text(
             f'{{"machine": {json.dumps(platform.machine())}, "results": [\n{rows}\n]}}\n')
     # A plug-in on the stock library is a call of the stock library.
-    bare = "library" if "library" in names else "stock"
+    bare = "library" if any(name.startswith("library") for name in names) else "stock"
     if arguments.svg:
         draw(results, bare, arguments.svg)
-    print("\n".join(call_costs(results, "plug-in", bare)))
-    for name in reversed(RATIOS):
-        for line in summary(results, name):
+    for width in WIDTHS:
+        print("\n".join(call_costs(results, "plug-in" + width, bare + width)))
+        for name in reversed(RATIOS):
+            for line in summary(results, name + width):
+                print(line)
+    for name in ("library", "SSE2"):
+        for line in beside_far_marks(results, name + WIDE):
             print(line)
     if not report_speeds(results, names):
         sys.exit("something has become slower")

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
+#include BIGNUMBER_PROCESSOR_WORD_DIVISION
+#include "number/kernels/factor_division.hpp"
+#include "number/kernels/factors.hpp"
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/mantissa_product.hpp"
 #include "number/kernels/scaled_words.hpp"
@@ -21,7 +23,7 @@ public:
         const int divisorCount = WithoutLowZeros(divisor, W);
         if (divisorCount == 1) {
             DivideByWord(dividend, divisor[W - 1]);
-        } else if (!DivideByLimbs(dividend, divisor, divisorCount)) {
+        } else if (!DivideLong(dividend, divisor, divisorCount)) {
             CorrectExactly(dividend, divisor);
         }
     }
@@ -32,13 +34,14 @@ public:
     const Word* words() const { return words_ + Slack; }
 
 private:
-    /// Words below the quotient, because limbs are joined by whole groups. The guard word is the
-    /// last one.
-    static constexpr int Slack = GroupCount(LimbCount(W)) * GroupWords - W;
+    /// Words below the quotient: the guard factor, or what whole groups of limbs reach into, where
+    /// the guard word is the last one.
+    static constexpr int Slack =
+        AreFactorsWide ? FactorWords : GroupCount(LimbCount(W)) * GroupWords - W;
     static_assert(Slack > 0);
 
     bool topBit_ = false;
-    Word words_[Slack + W];
+    alignas(Factor) Word words_[Slack + W];
 
     /// Schoolbook division by a divisor of one digit.
     void DivideByWord(const Word* dividend, Word divisor) {
@@ -53,13 +56,14 @@ private:
         words_[Slack] = DivideWords(remainder, 0, divisor, remainder);
     }
 
-    /// Returns whether the words are certain to be those of the exact quotient.
-    bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
-        topBit_ =
-            vectorKernels->Of<W>().divide(dividend, divisor, divisorCount, std::end(words_)) != 0;
-        // The unit of the last limb, in units of the guard word.
-        constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
-        const bool isDecided = IsDecided(words_[Slack - 1], 2 * Unit);
+    /// Returns whether the words are decided.
+    bool DivideLong(const Word* dividend, const Word* divisor, int divisorCount) {
+        bool isDecided = false;
+        if constexpr (AreFactorsWide) {
+            isDecided = DivideByFactors(dividend, divisor, divisorCount);
+        } else {
+            isDecided = DivideByLimbs(dividend, divisor, divisorCount);
+        }
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
         // Exact words are made 1 too small, so that the correction has something to correct.
         if (isDecided) {
@@ -71,8 +75,24 @@ private:
 #endif
     }
 
-    /// Whether the words above the guard stay the same when up to `error` is added to it.
-    static bool IsDecided(Word guard, Word error) {
+    bool DivideByLimbs(const Word* dividend, const Word* divisor, int divisorCount) {
+        topBit_ =
+            vectorKernels->Of<W>().divide(dividend, divisor, divisorCount, std::end(words_)) != 0;
+        // The unit of the last limb, in units of the guard word.
+        constexpr Word Unit = Word{1} << ((W + 1) * WordBits - LimbCount(W) * LimbBits);
+        return IsDecided(words_[Slack - 1], 2 * Unit);
+    }
+
+    bool DivideByFactors(const Word* dividend, const Word* divisor, int divisorCount) {
+        using Division = FactorDivision<W>;
+        StoredFactor* fraction = FactorsOf(words_);
+        topBit_ = Division::Divide(dividend, divisor, divisorCount, fraction) != 0;
+        return IsDecided(Factor{*fraction}, Division::MaxError);
+    }
+
+    /// Whether what is above the guard stays the same when up to `error` is added to it.
+    template <typename Guard>
+    static bool IsDecided(Guard guard, Guard error) {
         return guard <= ~error;
     }
 

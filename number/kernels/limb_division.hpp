@@ -46,7 +46,7 @@
 #include <utility>
 
 #include BIGNUMBER_PROCESSOR_PAIR
-#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
+#include BIGNUMBER_PROCESSOR_WORD_DIVISION
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/limbs.hpp"
 

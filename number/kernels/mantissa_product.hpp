@@ -3,20 +3,17 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
-#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
+#include "number/kernels/factors.hpp"
 #include "number/kernels/limbs.hpp"
 #include "number/kernels/vector_kernels.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
 
-/// Mantissas of up to this many words are multiplied by unrolled code.
-inline constexpr int MaxUnrolledWords = 8;
-
-/// The product of two mantissas of W words, seen as fractions: a shorter product fills the highest
-/// of its 2 * W words.
+/// The product of two mantissas of W words, seen as fractions: its words begin at the top.
 template <int W>
 class MantissaProduct {
 public:
@@ -27,21 +24,27 @@ public:
     /// the guard word that rounds them. What lies below that bit may then be too small. It is
     /// not 0, and the exact value of these bits is not 0 either.
     MantissaProduct(const Word* left, const Word* right, Precision precision) {
-        const int leftCount = WithoutLowZeros(left, W);
-        const int rightCount = WithoutLowZeros(right, W);
-        if constexpr (W <= MaxUnrolledWords) {
-            if (leftCount == W && rightCount == W) {
-                MultiplyWordColumns(left, right, precision);
+        const int leftCount = FactorCount(WithoutLowZeros(left, W));
+        const int rightCount = FactorCount(WithoutLowZeros(right, W));
+        if constexpr (Factors <= MaxUnrolledFactors) {
+            if (leftCount == Factors && rightCount == Factors) {
+                MultiplyFullColumns(FactorsOf(left), FactorsOf(right), precision);
                 return;
             }
         }
-        if constexpr (W * W > MaxWordProducts) {
-            if (leftCount * rightCount > MaxWordProducts) {
-                MultiplyByLimbs(left + W, leftCount, right + W, rightCount, precision);
+        if constexpr (Factors * Factors > MaxRowProducts) {
+            if (leftCount * rightCount > MaxRowProducts) {
+                if constexpr (AreFactorsWide) {
+                    MultiplyColumns(FactorsOf(left + W) - leftCount, leftCount,
+                                    FactorsOf(right + W) - rightCount, rightCount, precision);
+                } else {
+                    MultiplyByLimbs(left + W, leftCount, right + W, rightCount, precision);
+                }
                 return;
             }
         }
-        MultiplyWords(left + W - leftCount, leftCount, right + W - rightCount, rightCount);
+        MultiplyRows(FactorsOf(left + W) - leftCount, leftCount, FactorsOf(right + W) - rightCount,
+                     rightCount);
     }
 
     /// The upper W words. The guard word lies before them.
@@ -50,19 +53,30 @@ public:
     const Word* lower() const { return words_ + Slack; }
 
 private:
-    /// Words below the product, because limbs are joined by whole groups.
-    static constexpr int Slack = GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
+    /// The factors of a mantissa.
+    static constexpr int Factors = W / FactorWords;
+    /// Words below the product, that whole groups of limbs may reach into.
+    static constexpr int Slack =
+        AreFactorsWide ? 0 : GroupCount(2 * LimbCount(W)) * GroupWords - 2 * W;
 
-    Word words_[Slack + 2 * W];
+    alignas(Factor) Word words_[Slack + 2 * W];
 
     Word* end() { return std::end(words_); }
 
-    /// Schoolbook multiplication, row by row.
-    void MultiplyWords(const Word* left, int leftCount, const Word* right, int rightCount) {
-        Word* product = end() - (leftCount + rightCount);
-        std::fill(words_, product + leftCount, 0);
+    /// The product's factors from the given one on.
+    StoredFactor* factors(int first) { return FactorsOf(words_ + Slack) + first; }
+
+    /// Clears the words below a factor. (The language's own algorithms would take a factor for an
+    /// integer at a multiple of its size.)
+    void ClearBelow(StoredFactor* factor) { std::fill(words_, reinterpret_cast<Word*>(factor), 0); }
+
+    /// The schoolbook, row by row.
+    void MultiplyRows(const StoredFactor* left, int leftCount, const StoredFactor* right,
+                      int rightCount) {
+        StoredFactor* product = factors(2 * Factors) - (leftCount + rightCount);
+        ClearBelow(product + leftCount);
         for (int j = 0; j < rightCount; ++j, ++product) {
-            Word carry = 0;
+            Factor carry = 0;
             for (int i = 0; i < leftCount; ++i) {
                 carry = AddProduct(product[i], left[i], right[j], carry);
             }
@@ -70,41 +84,80 @@ private:
         }
     }
 
-    /// Schoolbook multiplication, column by column of words, each summed up in three words. For the
-    /// leading words, columns 0 to W - 3 are left out: at most k + 1 products below 2^64 in column
-    /// k, together less than W * 2^(64 + 32 (W - 3)), are less than W units of the guard word W
-    /// - 1.
-    void MultiplyWordColumns(const Word* left, const Word* right, Precision precision) {
+    /// The lowest column of factors that is computed for the leading words. For factors of B bits,
+    /// columns 0 to n - 3 are left out: at most k + 1 products below 2^(2 B) in column k, together
+    /// less than n * 2^(2 B + B (n - 3)), are less than n units of the guard factor n - 1.
+    static constexpr int FirstLeadingColumn = Factors - 2;
+
+    /// Whether columns from FirstLeadingColumn on are enough.
+    bool AreLeadingColumnsEnough() { return IsDecided(Factor{*factors(Factors - 1)}, Factors); }
+
+    /// The schoolbook, column by column of factors, which are summed up in three factors.
+    void MultiplyFullColumns(const StoredFactor* left, const StoredFactor* right,
+                             Precision precision) {
         if (precision == Precision::Leading) {
-            ComputeWordColumns<W - 2>(left, right);
-            if (IsDecided(upper()[-1], W)) {
+            ComputeFullColumns<FirstLeadingColumn>(left, right);
+            if (AreLeadingColumnsEnough()) {
                 return;
             }
         }
-        ComputeWordColumns<0>(left, right);
+        ComputeFullColumns<0>(left, right);
     }
 
     template <int First>
-    void ComputeWordColumns(const Word* left, const Word* right) {
-        std::fill(words_, words_ + Slack + First, 0);
-        Word* product = words_ + Slack;
+    void ComputeFullColumns(const StoredFactor* left, const StoredFactor* right) {
+        StoredFactor* product = factors(0);
+        ClearBelow(product + First);
         ColumnSum sum;
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
-            ((AddWordColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
+            ((AddFullColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
         }
-        (std::make_integer_sequence<int, 2 * W - 1 - First>{});
-        product[2 * W - 1] = sum.Next();
+        (std::make_integer_sequence<int, 2 * Factors - 1 - First>{});
+        product[2 * Factors - 1] = sum.Next();
     }
 
     /// If this were a call, the compiler would keep the sum in memory.
     template <int K>
-    [[gnu::always_inline]] static void AddWordColumn(const Word* left, const Word* right,
-                                                     ColumnSum& sum) {
-        constexpr int First = std::max(0, K - W + 1);
+    [[gnu::always_inline]] static void AddFullColumn(const StoredFactor* left,
+                                                     const StoredFactor* right, ColumnSum& sum) {
+        constexpr int First = std::max(0, K - Factors + 1);
         [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
             (sum.AddProduct(left[First + I], right[K - First - I]), ...);
         }
-        (std::make_integer_sequence<int, std::min(K, W - 1) - First + 1>{});
+        (std::make_integer_sequence<int, std::min(K, Factors - 1) - First + 1>{});
+    }
+
+    /// The same for factors of any length, which end at the mantissas' tops.
+    void MultiplyColumns(const StoredFactor* left, int leftCount, const StoredFactor* right,
+                         int rightCount, Precision precision) {
+        const int below = 2 * Factors - leftCount - rightCount;
+        const int first = FirstLeadingColumn - below;
+        if (precision == Precision::Leading && first > 0) {
+            ComputeColumns(left, leftCount, right, rightCount, first);
+            if (AreLeadingColumnsEnough()) {
+                return;
+            }
+        }
+        ComputeColumns(left, leftCount, right, rightCount, 0);
+    }
+
+    void ComputeColumns(const StoredFactor* left, int leftCount, const StoredFactor* right,
+                        int rightCount, int first) {
+        const int columns = leftCount + rightCount - 1;
+        StoredFactor* product = factors(2 * Factors - 1) - columns;
+        ClearBelow(product + first);
+        ColumnSum sum;
+        for (int k = first; k < columns; ++k) {
+            const int begin = std::max(0, k - rightCount + 1);
+            const StoredFactor* const end = left + std::min(k + 1, leftCount);
+            const StoredFactor* other = right + (k - begin);
+#pragma GCC unroll 4
+            for (const StoredFactor* factor = left + begin; factor != end; ++factor, --other) {
+                sum.AddProduct(*factor, *other);
+            }
+            product[k] = sum.Next();
+        }
+        product[columns] = sum.Next();
     }
 
     /// Schoolbook multiplication, column by column; for the leading words, without the columns that
@@ -136,13 +189,14 @@ private:
     /// `error` units are added to it. The bit that rounds is its highest or, when the product has
     /// a leading 0 bit, the next. The bits below must not carry into these, nor be all 0: whether
     /// they are a half would be open then.
-    static bool IsDecided([[maybe_unused]] Word guard, [[maybe_unused]] int error) {
+    template <typename Guard>
+    static bool IsDecided([[maybe_unused]] Guard guard, [[maybe_unused]] int error) {
 #ifdef BIGNUMBER_KERNELS_FORCE_FALLBACKS
         return false;
 #else
-        constexpr Word Rest = (Word{1} << (WordBits - 2)) - 1;
-        const Word rest = guard & Rest;
-        return rest != 0 && rest <= Rest - static_cast<Word>(error);
+        constexpr Guard Rest = (Guard{1} << (std::numeric_limits<Guard>::digits - 2)) - 1;
+        const Guard rest = guard & Rest;
+        return rest != 0 && rest <= Rest - static_cast<Guard>(error);
 #endif
     }
 };

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
+#include BIGNUMBER_PROCESSOR_WORD_DIVISION
 #include "number/kernels/growing_integer.hpp"
 #include "number/kernels/plain_exponent.hpp"
 #include "number/kernels/power.hpp"

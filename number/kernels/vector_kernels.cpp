@@ -13,13 +13,14 @@ inline namespace BIGNUMBER_INSTRUCTION_SET {
 namespace {
 
 template <int W>
-void Multiply(const Word* leftEnd, int leftCount, const Word* rightEnd, int rightCount, int columns,
-              Word* productEnd) {
+[[maybe_unused]] void Multiply(const Word* leftEnd, int leftCount, const Word* rightEnd,
+                               int rightCount, int columns, Word* productEnd) {
     MultiplyLimbs<Lanes, W>({leftEnd, leftCount}, {rightEnd, rightCount}, columns, productEnd);
 }
 
 template <int W>
-Word Divide(const Word* dividend, const Word* divisor, int divisorCount, Word* quotientEnd) {
+[[maybe_unused]] Word Divide(const Word* dividend, const Word* divisor, int divisorCount,
+                             Word* quotientEnd) {
     return LimbDivision<Lanes, W>::Divide(dividend, divisor, divisorCount, quotientEnd);
 }
 
@@ -35,9 +36,12 @@ Word AddTail(Word* sum, const TailStart& start) {
 
 template <int W>
 constexpr SizedVectorKernels MakeKernels() {
-    SizedVectorKernels kernels{.multiply = nullptr, .divide = Divide<W>, .addTail = AddTail<W>};
-    if constexpr (W * W > MaxWordProducts) {
-        kernels.multiply = Multiply<W>;
+    SizedVectorKernels kernels{.multiply = nullptr, .divide = nullptr, .addTail = AddTail<W>};
+    if constexpr (!AreFactorsWide) {
+        kernels.divide = Divide<W>;
+        if constexpr (W * W > MaxRowProducts) {
+            kernels.multiply = Multiply<W>;
+        }
     }
     return kernels;
 }

@@ -6,22 +6,19 @@
 #include <algorithm>
 #include <array>
 
+#include "number/kernels/factors.hpp"
 #include "number/kernels/series_tail.hpp"
 #include "number/kernels/sizes.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
 
-/// Up to this many products of words, schoolbook multiplication is faster with words than with
-/// limbs.
-inline constexpr int MaxWordProducts = 160;
-
 /// The kernels for mantissas of one size of W words.
 struct SizedVectorKernels {
     /// Computes the highest `columns` columns of the product of two factors, the highest
     /// `leftCount` and `rightCount` of the W words before `leftEnd` and `rightEnd`. The words of
     /// their sum end before `productEnd`; there are as many as whole groups of limbs fill. It is
-    /// null for a size whose products are all made of words.
+    /// null for a size whose products are all made of factors.
     void (*multiply)(const Word* leftEnd, int leftCount, const Word* rightEnd, int rightCount,
                      int columns, Word* productEnd);
 

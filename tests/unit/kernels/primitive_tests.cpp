@@ -2,11 +2,13 @@
 // of them has to get right first.
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include <doctest/doctest.h>
 
 #include BIGNUMBER_PROCESSOR_PAIR
-#include BIGNUMBER_PROCESSOR_WORD_PRODUCTS
+#include BIGNUMBER_PROCESSOR_WORD_DIVISION
+#include "number/kernels/factors.hpp"
 #include "number/kernels/shift_words.hpp"
 #include "number/kernels/word_sums.hpp"
 
@@ -48,13 +50,7 @@ TEST_CASE("a carry goes from chain to chain") {
     CHECK(sum[ChainWords] == 1);
 }
 
-TEST_CASE("words are multiplied and divided") {
-    Word target = Ones;
-    CHECK(AddProduct(target, Ones, Ones, Ones) == Ones);
-    CHECK(target == Ones);
-    target = 5;
-    CHECK(AddProduct(target, 6, 7, 8) == 0);
-    CHECK(target == 55);
+TEST_CASE("words are divided") {
     Word remainder = 0;
     CHECK(DivideWords(Ones - 1, Ones, Ones, remainder) == Ones);
     CHECK(remainder == Ones - 1);
@@ -62,16 +58,76 @@ TEST_CASE("words are multiplied and divided") {
     CHECK(remainder == 2);
 }
 
-TEST_CASE("a column sum carries into its third word") {
+TEST_CASE("factors are multiplied and divided") {
+    constexpr Factor ones = ~Factor{0};
+    Factor remainder = 0;
+    CHECK(DivideFactors(ones - 1, ones, ones, remainder) == ones);
+    CHECK(remainder == ones - 1);
+    CHECK(DivideFactors(0, 100, 7, remainder) == 14);
+    CHECK(remainder == 2);
+    StoredFactor target = ones;
+    CHECK(AddProduct(target, ones, ones, ones) == ones);
+    CHECK(Factor{target} == ones);
+    target = 5;
+    CHECK(AddProduct(target, 6, 7, 8) == 0);
+    CHECK(Factor{target} == 55);
+}
+
+TEST_CASE("factors are divided whatever their halves are") {
+    constexpr int half = FactorBits / 2;
+    const std::array<Factor, 5> halves{0, 1, Factor{1} << (half - 1), (Factor{1} << half) - 2,
+                                       (Factor{1} << half) - 1};
+    std::vector<Factor> factors;
+    for (const Factor high : halves) {
+        for (const Factor low : halves) {
+            factors.push_back(high << half | low);
+        }
+    }
+    for (const Factor divisor : factors) {
+        for (const Factor high : factors) {
+            for (const Factor low : factors) {
+                if (high >= divisor) {
+                    continue;
+                }
+                Factor remainder = 0;
+                const Factor quotient = DivideFactors(high, low, divisor, remainder);
+                const bool isRight = DoubleFactor{quotient} * divisor + remainder ==
+                                     (DoubleFactor{high} << FactorBits | low);
+                CHECK(isRight);
+                CHECK(remainder < divisor);
+            }
+        }
+    }
+}
+
+TEST_CASE("a column sum carries into its third factor") {
+    constexpr Factor ones = ~Factor{0};
     ColumnSum sum;
     for (int i = 0; i < 3; ++i) {
-        sum.AddProduct(Ones, Ones);
+        sum.AddProduct(ones, ones);
     }
-    // 3 (2^64 - 2^33 + 1) for words of 32 bits.
+    // 3 (b^2 - 2 b + 1), where b is what a factor cannot hold.
     CHECK(sum.Next() == 3);
-    CHECK(sum.Next() == Ones - 5);
+    CHECK(sum.Next() == ones - 5);
     CHECK(sum.Next() == 2);
     CHECK(sum.Next() == 0);
+}
+
+TEST_CASE("factors lie in rows of words anywhere, the lowest first") {
+    constexpr int count = 3;
+    Word words[1 + count * FactorWords];
+    for (int offset = 0; offset < 2; ++offset) {
+        Factor expected = 0;
+        for (int i = FactorWords; i > 0; --i) {
+            words[offset + FactorWords + i - 1] = 0x9E3779B9U * static_cast<Word>(i);
+            expected = expected << (WordBits - 1) << 1 | words[offset + FactorWords + i - 1];
+        }
+        CHECK(Factor{FactorsOf(words + offset)[1]} == expected);
+        FactorsOf(words + offset)[2] = expected;
+        CHECK(words[offset + 2 * FactorWords] == words[offset + FactorWords]);
+    }
+    CHECK(FactorCount(FactorWords) == 1);
+    CHECK(FactorCount(FactorWords + 1) == 2);
 }
 
 TEST_CASE("words are shifted by every number of bits") {
