@@ -66,11 +66,15 @@ private:
     /// The product's factors from the given one on.
     StoredFactor* factors(int first) { return FactorsOf(words_ + Slack) + first; }
 
+    /// Clears what is below the given factor.
+    void ClearBelow(int factor) { std::fill(words_, words_ + Slack + factor * FactorWords, 0); }
+
     /// The schoolbook, row by row.
     void MultiplyRows(const StoredFactor* left, int leftCount, const StoredFactor* right,
                       int rightCount) {
-        StoredFactor* product = factors(2 * Factors) - (leftCount + rightCount);
-        std::fill(FactorsOf(words_), product + leftCount, 0);
+        const int below = 2 * Factors - (leftCount + rightCount);
+        ClearBelow(below + leftCount);
+        StoredFactor* product = factors(below);
         for (int j = 0; j < rightCount; ++j, ++product) {
             Factor carry = 0;
             for (int i = 0; i < leftCount; ++i) {
@@ -102,8 +106,8 @@ private:
 
     template <int First>
     void ComputeFullColumns(const StoredFactor* left, const StoredFactor* right) {
+        ClearBelow(First);
         StoredFactor* product = factors(0);
-        std::fill(FactorsOf(words_), product + First, 0);
         ColumnSum sum;
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
             ((AddFullColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
@@ -140,8 +144,9 @@ private:
     void ComputeColumns(const StoredFactor* left, int leftCount, const StoredFactor* right,
                         int rightCount, int first) {
         const int columns = leftCount + rightCount - 1;
-        StoredFactor* product = factors(2 * Factors - 1) - columns;
-        std::fill(FactorsOf(words_), product + first, 0);
+        const int below = 2 * Factors - 1 - columns;
+        ClearBelow(below + first);
+        StoredFactor* product = factors(below);
         ColumnSum sum;
         for (int k = first; k < columns; ++k) {
             const int begin = std::max(0, k - rightCount + 1);
