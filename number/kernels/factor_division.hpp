@@ -37,6 +37,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <utility>
 
@@ -50,7 +51,7 @@ template <int W>
 class FactorDivision {
     static constexpr int ByteBits = 8;
     static constexpr int LimbBits = FactorBits - ByteBits;
-    static constexpr int LimbBytes = LimbBits / ByteBits;
+    static constexpr std::ptrdiff_t LimbBytes = LimbBits / ByteBits;
 
     static constexpr int LimbCount(int words) {
         return (words * WordBits + LimbBits - 1) / LimbBits;
@@ -114,8 +115,8 @@ public:
     }
 
 private:
-    /// A mantissa times the inverse: 2^63 of its top factor are 1. There is a factor of zeros below
-    /// it.
+    /// A mantissa times the inverse, where 2^63 of the top factor make 1. There is a factor of
+    /// zeros below it.
     class Scaled {
     public:
         /// The product, of the highest `count` factors of the mantissa; the others are 0. With

@@ -66,15 +66,15 @@ private:
     /// The product's factors from the given one on.
     StoredFactor* factors(int first) { return FactorsOf(words_ + Slack) + first; }
 
-    /// Clears the words below a factor. (The language's own algorithms would take a factor for an
-    /// integer at a multiple of its size.)
-    void ClearBelow(StoredFactor* factor) { std::fill(words_, reinterpret_cast<Word*>(factor), 0); }
+    /// Clears what is below the given factor.
+    void ClearBelow(int factor) { std::fill(words_, words_ + Slack + factor * FactorWords, 0); }
 
     /// The schoolbook, row by row.
     void MultiplyRows(const StoredFactor* left, int leftCount, const StoredFactor* right,
                       int rightCount) {
-        StoredFactor* product = factors(2 * Factors) - (leftCount + rightCount);
-        ClearBelow(product + leftCount);
+        const int below = 2 * Factors - (leftCount + rightCount);
+        ClearBelow(below + leftCount);
+        StoredFactor* product = factors(below);
         for (int j = 0; j < rightCount; ++j, ++product) {
             Factor carry = 0;
             for (int i = 0; i < leftCount; ++i) {
@@ -106,8 +106,8 @@ private:
 
     template <int First>
     void ComputeFullColumns(const StoredFactor* left, const StoredFactor* right) {
+        ClearBelow(First);
         StoredFactor* product = factors(0);
-        ClearBelow(product + First);
         ColumnSum sum;
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
             ((AddFullColumn<First + K>(left, right, sum), product[First + K] = sum.Next()), ...);
@@ -144,8 +144,9 @@ private:
     void ComputeColumns(const StoredFactor* left, int leftCount, const StoredFactor* right,
                         int rightCount, int first) {
         const int columns = leftCount + rightCount - 1;
-        StoredFactor* product = factors(2 * Factors - 1) - columns;
-        ClearBelow(product + first);
+        const int below = 2 * Factors - 1 - columns;
+        ClearBelow(below + first);
+        StoredFactor* product = factors(below);
         ColumnSum sum;
         for (int k = first; k < columns; ++k) {
             const int begin = std::max(0, k - rightCount + 1);

@@ -272,9 +272,9 @@ FAULTS = [
     ),
     *faults_in(
         "number/kernels/mantissa_product.hpp",
-        ("rest <= Rest - static_cast<Word>(error)", "rest <= Rest"),
+        ("rest <= Rest - static_cast<Guard>(error)", "rest <= Rest"),
         ("return rest != 0 && ", "return "),
-        ("IsDecided(upper()[-1], W)", "IsDecided(upper()[-1], W / 2)"),
+        ("IsDecided(Factor{*factors(Factors - 1)}, Factors)", "IsDecided(Factor{*factors(Factors - 1)}, Factors / 2)"),
     ),
     *faults_in(
         "number/kernels/multiply.hpp",

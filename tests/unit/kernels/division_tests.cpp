@@ -1,4 +1,4 @@
-// Named hard cases of division (divide.hpp, limb_division.hpp).
+// Named hard cases of division (divide.hpp, limb_division.hpp, factor_division.hpp).
 #include "tests/unit/kernels/cases.hpp"
 
 using namespace kernel_tests;
@@ -60,6 +60,34 @@ TEST_CASE_TEMPLATE("a quotient", S, Small, Large) {
         check(S::Leading({Ones, 0xFFFFFFF0}, 0), S::Leading({0xFFFFFFF0}));
         check(allOnes, S::Leading({0xFFFFFFF0}, Ones));
         check(S::Leading({0xFFFFFFF0}, Ones), allOnes);
+        // The same for limbs of 56 bits.
+        check(S::Leading({Ones, 0xFFFFFF00}, 0), S::Leading({Ones, 0xFFFFFF00}));
+        check(allOnes, S::Leading({Ones, 0xFFFFFF00}, Ones));
+        check(S::Leading({Ones, 0xFFFFFF00}, Ones), allOnes);
+    }
+    SUBCASE("by a short divisor whose product with its inverse ends with zeros") {
+        // The inverse of two words of ones is 2^63, that of 2^63 is 2^64 - 2; with words of 32 bits
+        // the same for halves of these.
+        for (const Word lowest : {Word{1}, Word{2}, Word{4}, Top}) {
+            check(allOnes, S::Leading({Ones, Ones, 0, lowest}));
+            check(allOnes, S::Leading({Ones, Ones, lowest}));
+            check(allOnes, S::Leading({Top, 0, 0, lowest}));
+            check(allOnes, S::Leading({Top, 0, lowest}));
+            check(S::Leading({Top}), S::Leading({Ones, Ones, Ones, Ones, 0, lowest}));
+        }
+    }
+    SUBCASE("by divisors of two and more words that are nearest to 1/2 and to 1") {
+        for (int words = 2; words < S::Words; words += 1 + words / 12) {
+            auto nearOne = S::Leading({}, Ones);
+            std::fill_n(nearOne.begin(), S::Words - words, 0);
+            auto nearHalf = S::Leading({Top});
+            nearHalf[static_cast<std::size_t>(S::Words - words)] |= 1;
+            CAPTURE(words);
+            check(allOnes, nearOne);
+            check(allOnes, nearHalf);
+            check(nearHalf, nearOne);
+            check(nearOne, nearHalf);
+        }
     }
     SUBCASE("by divisors of every length") {
         for (int words = 1; words <= S::Words; words += 1 + words / 12) {

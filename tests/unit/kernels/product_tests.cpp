@@ -37,6 +37,19 @@ TEST_CASE_TEMPLATE("a product", S, Small, Large) {
             S::CheckLikePlain(Call::Multiply, S::Fraction(factor), S::Fraction(factor));
         }
     }
+    SUBCASE("of factors of different lengths whose column sums are the largest") {
+        for (int words = 1; words < S::Words; words += 1 + words / 8) {
+            for (int others = 1; others < S::Words; others += 1 + others / 8) {
+                auto left = allOnes;
+                std::fill_n(left.begin(), S::Words - words, 0);
+                auto right = allOnes;
+                std::fill_n(right.begin(), S::Words - others, 0);
+                CAPTURE(words);
+                CAPTURE(others);
+                S::CheckLikePlain(Call::Multiply, S::Fraction(left), S::Fraction(right));
+            }
+        }
+    }
     SUBCASE("with each limb of a factor at its largest while the others are 0") {
         constexpr int limbs = S::Bits / vqz::kernels::LimbBits;
         for (int limb = 0; limb < limbs; limb += 1 + limb / 6) {
