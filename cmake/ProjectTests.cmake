@@ -3,6 +3,8 @@
 
 set(BIGNUMBERVQZ_TEST_PREFIX "" CACHE STRING "What the name of every test begins with")
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
+# It is a program of the machine that builds, and no emulator starts it.
+set_target_properties(Python3::Interpreter PROPERTIES CROSSCOMPILING_EMULATOR "")
 
 # The words with which a test starts Python with the packages of scripts/checks-requirements.txt.
 set(python_for_checks "${PROJECT_SOURCE_DIR}/scripts/python" checks)
