@@ -289,14 +289,13 @@ void rbText::FillByHost(TextSlot slot) {
     if (slot == TextSlot::Ascii) {
         LogIfEnabled("REALGetStringData...");
     }
-    if (!host::PluginGetStringData(source, EncodingOf(slot), &stringData[index])) {
-        Fail("REALGetStringData failed.");
-        return;
-    }
-    hasStringData[index] = true;
-    if (HOST_INTERFACE_32_BIT == 0 && stringData[index].length > INT32_MAX) {
+    hasStringData[index] = host::PluginGetStringData(source, EncodingOf(slot), &stringData[index]);
+    if (HOST_INTERFACE_32_BIT == 0 && hasStringData[index] &&
+        stringData[index].length > INT32_MAX) {
         host::PluginDisposeStringData(&stringData[index]);
         hasStringData[index] = false;
+    }
+    if (!hasStringData[index]) {
         Fail("REALGetStringData failed.");
         return;
     }

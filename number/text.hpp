@@ -12,12 +12,10 @@
 #include "host/strings.hpp"
 #include "host/terminated_text.hpp"
 #include "number/ops/failure_report.hpp"
+#include "number/text_limit.hpp"
 #include "number/value/number_object.hpp"
 
 namespace vqz {
-
-/// How a number is written; the defaults write all digits in base 10.
-using TextFormat = ttmath::Conv;
 
 /// The 32-bit number nearest to an Integer: ttmath takes no wider ones.
 inline std::int32_t Nearest32(Integer value) {
@@ -42,8 +40,12 @@ inline char DecimalSeparator(String comma) {
 /// The number's text as a host string that the caller owns; null after a failure was raised.
 template <typename Value>
 String FormatNumber(Object self, const TextFormat& format, const char* failureName) {
+    const Value& value = ReadNumber<Value>(self);
+    if constexpr (HOST_INTERFACE_32_BIT == 0) {
+        RefuseGiantText(value, format);
+    }
     std::string text;
-    if (ReadNumber<Value>(self).ToString(text, format) != 0) {
+    if (value.ToString(text, format) != 0) {
         RaiseOverflowException<Value>(failureName, self);
         return nullptr;
     }

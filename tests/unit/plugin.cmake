@@ -49,5 +49,6 @@ add_unit_tests(table_tests
     tables/table_contents_tests.cpp
     tables/text_tests.cpp
     tables/variant_tests.cpp
+    tables/width_tests.cpp
   LIBRARIES table_test_support unit_test_support standin_runtime)
 add_dependencies(table_tests BigNumberVQZ)

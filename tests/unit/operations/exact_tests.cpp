@@ -206,19 +206,22 @@ private:
             words.push_back(class_.Word(objects.back().Get()));
         }
         if (operation.extra != Extra::None) {
-            words.push_back(tuple.extra);
+            words.push_back(
+                operation.extra == Extra::Integer
+                    ? static_cast<std::uintptr_t>(static_cast<std::int32_t>(tuple.extra))
+                    : tuple.extra);
         }
 
         Observation<AnyNumber> seen;
         host.TakeDebugLog();
-        const std::uint32_t answer =
+        const std::uintptr_t answer =
             class_.Call(class_.RoutineOf(operation.declaration), words, standin::ReturnKind::Word);
         seen.log = tests::Joined(host.TakeDebugLog());
         seen.raised = tests::TakeRaised(host);
         if (operation.answer == Answer::Integer) {
-            seen.result = static_cast<std::int32_t>(answer);
+            seen.result = static_cast<std::intptr_t>(answer);
         } else if (operation.answer == Answer::Boolean) {
-            seen.result = static_cast<std::int32_t>(answer & 0xFF);
+            seen.result = static_cast<std::intptr_t>(answer & 0xFF);
         } else if (const auto number = class_.ReadAndRelease(answer)) {
             seen.result = Comparable(*number);
         }

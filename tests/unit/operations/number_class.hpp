@@ -50,7 +50,7 @@ using Operand = std::optional<AnyNumber>;
 template <typename AnyNumber>
 struct Observation {
     /// A number, the word of an Integer or Boolean, or nothing when Nil came back.
-    std::variant<std::monostate, AnyNumber, std::int32_t> result;
+    std::variant<std::monostate, AnyNumber, std::intptr_t> result;
     /// "CLASS: MESSAGE", or empty when nothing was raised.
     std::string raised;
     /// The lines of the debug log.
@@ -61,7 +61,7 @@ struct Observation {
     friend std::ostream& operator<<(std::ostream& out, const Observation& observation) {
         if (const auto* number = std::get_if<AnyNumber>(&observation.result)) {
             out << *number;
-        } else if (const auto* integer = std::get_if<std::int32_t>(&observation.result)) {
+        } else if (const auto* integer = std::get_if<std::intptr_t>(&observation.result)) {
             out << *integer;
         } else {
             out << "Nil";
@@ -134,11 +134,11 @@ public:
 
     /// Calls a routine with these words and returns the word that it returns.
     std::uintptr_t Call(Routine routine, std::span<const std::uintptr_t> words,
-                       standin::ReturnKind kind) {
+                        standin::ReturnKind kind) {
         return host_.Call(routine, words, kind).Word();
     }
     std::uintptr_t Call(Routine routine, std::initializer_list<std::uintptr_t> words,
-                       standin::ReturnKind kind) {
+                        standin::ReturnKind kind) {
         return Call(routine, std::span(words.begin(), words.size()), kind);
     }
 

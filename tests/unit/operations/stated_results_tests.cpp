@@ -24,7 +24,7 @@ class StatedTest {
 public:
     void Succeeds(const StatedCall& stated) {
         INFO(std::string(stated.declaration));
-        const std::uint32_t answer = Call(stated);
+        const std::uintptr_t answer = Call(stated);
         CHECK(tests::TakeRaised(host()) == "");
         const tests::HeldObject result(reinterpret_cast<Object>(answer));
         CHECK(TextOf(result.Get()) == stated.outcome);
@@ -32,7 +32,7 @@ public:
 
     void Answers(const StatedCall& stated) {
         INFO(std::string(stated.declaration));
-        const auto answer = static_cast<std::int32_t>(Call(stated));
+        const auto answer = static_cast<std::intptr_t>(Call(stated));
         CHECK(tests::TakeRaised(host()) == "");
         CHECK(std::to_string(answer) == stated.outcome);
     }
@@ -56,7 +56,7 @@ public:
 private:
     standin::Host& host() { return loaded_.host(); }
 
-    std::uint32_t Call(const StatedCall& stated) {
+    std::uintptr_t Call(const StatedCall& stated) {
         std::vector<tests::HeldObject> objects;
         std::vector<std::uintptr_t> words;
         for (const std::string_view text : stated.operands) {

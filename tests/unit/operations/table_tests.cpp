@@ -35,8 +35,8 @@ TEST_CASE_TEMPLATE("constants are those of the bare library and log nothing", An
     for (const Constant<AnyNumber>& constant : Constants<AnyNumber>()) {
         INFO(std::string(constant.declaration));
         loaded.host().TakeDebugLog();
-        const std::uint32_t answer = numberClass.Call(numberClass.RoutineOf(constant.declaration),
-                                                      {}, standin::ReturnKind::Word);
+        const std::uintptr_t answer = numberClass.Call(numberClass.RoutineOf(constant.declaration),
+                                                       {}, standin::ReturnKind::Word);
         CHECK(tests::Joined(loaded.host().TakeDebugLog()) == "");
         CHECK(tests::TakeRaised(loaded.host()) == "");
         const auto value = numberClass.ReadAndRelease(answer);
@@ -70,8 +70,8 @@ TEST_CASE_TEMPLATE("without the debug log operations log nothing", AnyNumber, Nu
         INFO(std::string(operation.declaration));
         std::vector<std::uintptr_t> words(operation.arity, 0);
         words.push_back(1);
-        const std::uint32_t answer = numberClass.Call(numberClass.RoutineOf(operation.declaration),
-                                                      words, standin::ReturnKind::Word);
+        const std::uintptr_t answer = numberClass.Call(numberClass.RoutineOf(operation.declaration),
+                                                       words, standin::ReturnKind::Word);
         if (operation.answer == Answer::Number) {
             numberClass.ReadAndRelease(answer);
         }

@@ -154,6 +154,9 @@ TEST_CASE("Foreign flag words are rewritten for hosts that do not know them") {
         {0.0, 0x0, 0x0},
     };
     for (const Row& row : Rows) {
+        if (!tests::HasHosts(row.hostVersion)) {
+            continue;
+        }
         CAPTURE(row.hostVersion);
         CAPTURE(row.before);
         CHECK(FixedOn(row.hostVersion, row.before) == row.after);
@@ -205,8 +208,8 @@ TEST_CASE("A table that is missing, or whose count is below 1, keeps its flag wo
     tables.properties[0].flags = 0x308;
     ClassDefinition record = tables.Record();
     record.methodCount = 0;
-    record.sharedMethodCount = static_cast<std::uint32_t>(-1);
-    record.propertyCount = static_cast<std::uint32_t>(INT32_MIN);
+    record.sharedMethodCount = static_cast<std::size_t>(-1);
+    record.propertyCount = static_cast<std::size_t>(PTRDIFF_MIN);
     record.sharedProperties = nullptr;
     record.sharedPropertyCount = 5;
 
@@ -241,8 +244,12 @@ TEST_CASE("A host from 2012 on gets the record with its long tables and the inte
         double hostVersion;
         std::uint32_t interfaceVersion;
     };
-    constexpr Row Rows[] = {{2012.0, 10}, {2013.0, 11}, {2013.03, 12}, {2013.04, 13}};
+    constexpr Row Rows[] = {
+        {2012.0, 10}, {2013.0, 11}, {2013.03, 12}, {2013.04, 13}, {2023.04, 13}};
     for (const Row& row : Rows) {
+        if (!tests::HasHosts(row.hostVersion)) {
+            continue;
+        }
         CAPTURE(row.hostVersion);
         DirectHost host(row.hostVersion);
         host.RegisterClasses();

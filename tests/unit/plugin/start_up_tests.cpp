@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <doctest/doctest.h>
@@ -115,8 +116,8 @@ TEST_CASE("A start without resolver leaves everything as it was built") {
     const auto sharedMethods = BigNumberRecord().sharedMethodCount;
     Start(nullptr);
     CHECK((vqz::HostResolver == nullptr));
-    CHECK(vqz::HostVersion == 0.0);
-    CHECK(vqz::PluginInterfaceVersion == 9);
+    CHECK(vqz::HostVersion == (HOST_INTERFACE_32_BIT != 0 ? 0.0 : standin::First64BitVersion));
+    CHECK(vqz::PluginInterfaceVersion == (HOST_INTERFACE_32_BIT != 0 ? 9 : 13));
     CHECK_FALSE(vqz::DebugEnabled);
     CHECK(host.RegisteredClasses().empty());
     CHECK_FALSE(host.pluginInterfaceVersion().has_value());
@@ -132,20 +133,23 @@ TEST_CASE("A start without resolver leaves everything as it was built") {
 }
 
 TEST_CASE("A start registers the three classes in order and tells the interface version first") {
-    DirectHost host(2013.03);
+    constexpr double Version = HOST_INTERFACE_32_BIT != 0 ? 2013.03 : 2023.04;
+    constexpr std::uint32_t InterfaceVersion = HOST_INTERFACE_32_BIT != 0 ? 12 : 13;
+    DirectHost host(Version);
     Start(&standin::Host::Resolve);
     CHECK((vqz::HostResolver == &standin::Host::Resolve));
-    CHECK(vqz::HostVersion == 2013.03);
-    CHECK(vqz::PluginInterfaceVersion == 12);
-    CHECK(host.pluginInterfaceVersion() == 12);
+    CHECK(vqz::HostVersion == Version);
+    CHECK(vqz::PluginInterfaceVersion == InterfaceVersion);
+    CHECK(host.pluginInterfaceVersion() == InterfaceVersion);
     CHECK(tests::Joined(NamesOf(host.RegisteredClasses())) ==
           "BigNumberVQZ\nBiggerNumberVQZ\nBigNumberErrorExceptionVQZ\n");
-    CHECK(BigNumberRecord().version == 12);
+    CHECK(BigNumberRecord().version == InterfaceVersion);
     CHECK(BigNumberRecord().dataSize == 16);
     CHECK(vqz::NumberErrorRecord.dataSize == 0);
     CHECK(host.TakeDebugLog().empty());
 }
 
+#if HOST_INTERFACE_32_BIT
 TEST_CASE("A host that does not tell its version counts as an old one") {
     DirectHost host(standin::HostOptions{.version = std::nullopt});
     const auto sharedMethods = BigNumberRecord().sharedMethodCount;
@@ -155,6 +159,30 @@ TEST_CASE("A host that does not tell its version counts as an old one") {
     CHECK(BigNumberRecord().version == 9);
     CHECK(BigNumberRecord().sharedMethodCount == sharedMethods - 1);
 }
+#else
+TEST_CASE(
+    "A 64-bit host that tells no version, or too old a one, counts as the first of its kind") {
+    static double told = 0.0;
+    constexpr auto Tell = +[] { return told; };
+    for (const double version : {0.0, 2012.0, 2015.029, std::numeric_limits<double>::quiet_NaN()}) {
+        CAPTURE(version);
+        told = version;
+        DirectHost host;
+        const auto sharedMethods = BigNumberRecord().sharedMethodCount;
+        Start([](const char* name) -> void* {
+            if (std::string_view(name) != "REALGetRBVersion") {
+                return standin::Host::Resolve(name);
+            }
+            // No version is told by a function that there is not.
+            return told == 0.0 ? nullptr : reinterpret_cast<void*>(Tell);
+        });
+        CHECK(vqz::HostVersion == 2015.03);
+        CHECK(host.pluginInterfaceVersion() == 13);
+        CHECK(BigNumberRecord().version == 13);
+        CHECK(BigNumberRecord().sharedMethodCount == sharedMethods);
+    }
+}
+#endif
 
 TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") {
     struct Row {
@@ -163,6 +191,9 @@ TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") 
     };
     constexpr Row Rows[] = {{2015.0, 0}, {2014.99, 1}, {2011.99, 1}, {2023.04, 0}};
     for (const Row& row : Rows) {
+        if (!tests::HasHosts(row.hostVersion)) {
+            continue;
+        }
         CAPTURE(row.hostVersion);
         DirectHost host(row.hostVersion);
         const std::size_t allMethods = BigNumberRecord().sharedMethodCount;

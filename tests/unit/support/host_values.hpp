@@ -2,6 +2,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -43,6 +44,11 @@ private:
 
 using HeldString = Held<host_interface::String>;
 using HeldObject = Held<host_interface::Object>;
+
+/// Whether there are hosts of that release, or without one: 64-bit hosts have one, from 2015.03 on.
+inline bool HasHosts(std::optional<double> version) {
+    return HOST_INTERFACE_32_BIT != 0 || version.value_or(0.0) >= standin::First64BitVersion;
+}
 
 /// The lines as one text, so that a failed comparison shows them all.
 std::string Joined(const std::vector<std::string>& lines);

@@ -343,7 +343,7 @@ TEST_CASE("Comparing answers -1, 0 or 1, with NaN and Nil as zero") {
             const HeldObject left = Made(number, row.left);
             const HeldObject right = Made(number, row.right);
             CHECK(number.Call<Integer>("Operator_Compare(other as $) as Integer", left.Get(),
-                                            right.Get()) == row.expected);
+                                       right.Get()) == row.expected);
         }
     }
     CHECK(TakeRaised(plugin.host()) == "");

@@ -214,8 +214,7 @@ TEST_CASE("Bytes that the host lends while it tells of a failure are neither rea
             "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as "
             "Integer = 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = "
             "\".\") as String",
-            object.Get(), Integer{10}, false, Integer{15}, Integer{-1}, true,
-            text.Get());
+            object.Get(), Integer{10}, false, Integer{15}, Integer{-1}, true, text.Get());
         CHECK(plugin.host().Bytes(shown.Get()) == "2.5");
     }
     CHECK(disposed == 0);
