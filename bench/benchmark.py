@@ -356,14 +356,13 @@ def main():
     bare = "library" if any(name.startswith("library") for name in names) else "stock"
     if arguments.svg:
         draw(results, bare, arguments.svg)
-    for width in WIDTHS:
-        print("\n".join(call_costs(results, "plug-in" + width, bare + width)))
-        for name in reversed(RATIOS):
-            for line in summary(results, name + width):
-                print(line)
-    for name in ("library", "SSE2"):
-        for line in beside_far_marks(results, name + WIDE):
-            print(line)
+    closing = [line for width in WIDTHS for lines in (
+        call_costs(results, "plug-in" + width, bare + width),
+        *(summary(results, name + width) for name in reversed(RATIOS)),
+    ) for line in lines]
+    closing += [line for name in ("library", "SSE2")
+                for line in beside_far_marks(results, name + WIDE)]
+    print("\n".join(closing))
     if not report_speeds(results, names):
         sys.exit("something has become slower")
 

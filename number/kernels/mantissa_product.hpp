@@ -101,7 +101,12 @@ private:
                 return;
             }
         }
-        ComputeFullColumns<0>(left, right);
+        if constexpr (AreFactorsWide) {
+            // Needed too rarely for as much code.
+            ComputeColumns(left, Factors, right, Factors, 0);
+        } else {
+            ComputeFullColumns<0>(left, right);
+        }
     }
 
     template <int First>
