@@ -82,7 +82,7 @@ LIKELY = {
     "number/text": [programs("text|bad_input|encodings")],
     "number/ops": [programs("arithmetic|errors|comparison|debug_log")],
 }
-ALL = [GOLDEN, PROGRAMS, UNIT, TABLES, HOSTILE, OPERATIONS, SLOW]
+ALL = [GOLDEN, PROGRAMS, UNIT, SLOW, TABLES, OPERATIONS, HOSTILE]
 # Computations that only some of the sources have a part in.
 LAST = [KERNELS]
 
@@ -247,8 +247,8 @@ class Workshop:
         own = [entry for entry in self.objects[file] if entry[1].startswith(parts)]
         return min(own)[1] if own else None
 
-    def outcome(self, file: str, faulty: str) -> Outcome:
-        """What becomes of a fault: of the file with this text."""
+    def outcome(self, file: str, faulty: str, stages: list[Stage]) -> Outcome:
+        """What becomes of a fault, of the file with this text, when these stages follow its build."""
         quickest = self.quickest_object(file)
         with self.fault_in(file, faulty):
             # Most of what does not build fails in every object.
@@ -256,7 +256,7 @@ class Workshop:
                 return Outcome(Verdict.NO_BUILD)
             if self.has_same_code(PLAIN):
                 return Outcome(Verdict.SAME_CODE)
-            return self.outcome_of(stages_for(file))
+            return self.outcome_of(stages)
 
     def second_look(self, file: str, faulty: str) -> Outcome:
         """What becomes of a fault that `outcome` says survives: whether the optimised library is
