@@ -24,14 +24,57 @@ from universalmutator import mutator
 RULES = ["universal.rules", "c_like.rules", "cpp.rules"]
 
 
+LITERAL = re.compile(r'"(?:[^"\\]|\\.)*"|\'(?:[^\'\\]|\\.)*\'')
+# What begins a line that gives a name to something: without the line nobody knows the name.
+DECLARATION = re.compile(
+    r"^\s*(?!return|throw|case|else|goto|delete)(?:[\w:]+(?:<.*>)?[&*]*\s+)+[&*]*\w+(?:\[.*\])?\s*[=;({]"
+)
+# What the rules put in may be new to the file.
+KEYWORDS = {"true", "false", "break", "continue", "signed", "unsigned", "if", "while", "return"}
+
+
+def unmatched_brackets(code: str) -> str | None:
+    """The brackets of a line without a partner in it; None when two that do not fit are partners."""
+    partners = {")": "(", "]": "[", "}": "{"}
+    unmatched = []
+    for bracket in re.findall(r"[()\[\]{}]", LITERAL.sub("", code)):
+        if bracket in partners and unmatched and unmatched[-1] in partners.values():
+            if unmatched.pop() != partners[bracket]:
+                return None
+        else:
+            unmatched.append(bracket)
+    return "".join(unmatched)
+
+
+def may_go(lines: list[str], number: int) -> bool:
+    """False for a line without which the rest does not compile."""
+    before = lines[number - 1]
+    starts_statement = re.search(r"(?:[;{}:]|^\s*(?:#.*|//.*)?)$", lines[number - 2].rstrip("\n"))
+    if re.search(r"^\s*[})#]|[{,(]$", before) or unmatched_brackets(before) != "":
+        return False
+    if re.match(r"\s*(?:using|namespace|private|public|static_assert|typename)\b", before) or DECLARATION.match(before):
+        return False
+    return bool(starts_statement) == before.rstrip().endswith((";", ":"))
+
+
+def word_at(line: str, place: int) -> str:
+    """The word that holds this place of the line."""
+    start = place - len(re.search(r"\w*$", line[:place])[0])
+    return re.match(r"\w*", line[start:])[0]
+
+
 def may_compile(lines: list[str], number: int, after: str) -> bool:
     """False for what the compiler would refuse anyway: the rules know nothing of templates, pointers
-    and references, of numbers in names, and of where a loop is. Binary operators stand between blanks
-    here, as clang-format leaves them."""
+    and references, of numbers in names, of brackets, and of where a loop is. Binary operators stand
+    between blanks here, as clang-format leaves them."""
     before = lines[number - 1]
     if before.lstrip().startswith(("//", "template")):
         return False
-    if after.lstrip().startswith("/*") and re.search(r"^\s*[})#]|[{,(]$", before):
+    if after.lstrip().startswith("/*"):
+        return may_go(lines, number)
+    if unmatched_brackets(after) != unmatched_brackets(before) or re.search(r",\s*return\b", after):
+        return False
+    if after.lstrip().startswith("#begin"):
         return False
     if after.startswith(before.rstrip()) and (jump := re.search(r"\b(break|continue);$", after)):
         loops = r"^( +)(?:for|while|do)\b" if jump[1] == "continue" else r"^( +)(?:for|while|do|switch)\b"
@@ -41,6 +84,11 @@ def may_compile(lines: list[str], number: int, after: str) -> bool:
     place = len(os.path.commonprefix([before, after]))
     if before[place - 1 : place] in ("<", ">") and after[place : place + 1] == "=":
         place -= 1
+    name = word_at(after, place)
+    is_in_text = any(match.start() < place < match.end() for match in LITERAL.finditer(before))
+    is_name = re.match(r"[A-Za-z_]", name) and name not in KEYWORDS and not is_in_text
+    if is_name and not re.search(rf"\b{name}\b", "".join(lines)):
+        return False
     left, changed, right = before[:place], before[place : place + 1], before[place + 1 :]
     if changed and changed in "<>*&+|":
         return left.endswith(" ") and right.startswith((" ", "="))
@@ -50,14 +98,35 @@ def may_compile(lines: list[str], number: int, after: str) -> bool:
     return True
 
 
+def places_of_help(lines: list[str]) -> list[int]:
+    """Where in each line texts of the help begin, which do not get into the library."""
+    places = []
+    is_raw = is_summary = False
+    for line in lines:
+        starts_with_help = is_raw or is_summary and line.lstrip().startswith('"')
+        names = re.search(r"\.(?:summary|details|example|fails|units|range)\b", line)
+        if starts_with_help:
+            places.append(0)
+        else:
+            places.append(names.start() if names else len(line))
+        is_summary = starts_with_help and not is_raw or names is not None
+        if is_raw:
+            is_raw = ')"' not in line
+        else:
+            is_raw = re.search(r'R"\((?!.*\)")', line) is not None
+    return places
+
+
 def mutants_by_line(name: str) -> dict[int, list[dict]]:
     """The mutants of a file by the number of their line."""
     lines = pathlib.Path(name).read_text(encoding="utf-8").splitlines(keepends=True)
     with contextlib.redirect_stdout(io.StringIO()):
         found = mutator.mutants_regexp(lines, RULES, ignorePatterns=[])
+    help_from = places_of_help(lines)
     by_line = collections.defaultdict(list)
     for number, after, *_ in found:
-        if not may_compile(lines, number, after):
+        unchanged = len(os.path.commonprefix([lines[number - 1], after]))
+        if unchanged >= help_from[number - 1] or not may_compile(lines, number, after):
             continue
         mutant = {"file": name, "line": number, "before": lines[number - 1], "after": after}
         by_line[number].append(mutant)

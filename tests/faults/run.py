@@ -36,7 +36,7 @@ import time
 
 from faults import FAULTS, Fault
 from survivors import EXPLAINED
-from workshop import ALL, LAST, ROOT, Outcome, Verdict, Workshop
+from workshop import ALL, LAST, ROOT, Outcome, Verdict, Workshop, stages_for
 
 SEED = 20
 COUNT = 150
@@ -103,7 +103,8 @@ def try_listed(faults: list[Fault], workshops: queue.SimpleQueue, jobs: int) -> 
         workshop = workshops.get()
         begun = time.monotonic()
         sound = (ROOT / fault.file).read_text(encoding="utf-8")
-        outcome = workshop.outcome(fault.file, sound.replace(fault.before, fault.after))
+        faulty = sound.replace(fault.before, fault.after)
+        outcome = workshop.outcome(fault.file, faulty, stages_for(fault.file))
         workshops.put(workshop)
         change = f"{fault.before!r} -> {fault.after!r}"
         print(f"{outcome} ({time.monotonic() - begun:.0f} s): {fault.file}: {change}", flush=True)
@@ -214,7 +215,9 @@ def try_drawn(draw: Draw, workshops: queue.SimpleQueue, jobs: int) -> bool:
         workshop = workshops.get()
         while mutant := draw.next():
             begun = time.monotonic()
-            outcome = workshop.outcome(mutant.file, mutant.faulty_text())
+            # Tests would not notice what is explained, after taking as long as all of them take.
+            stages = [] if mutant.reason_to_survive() else stages_for(mutant.file)
+            outcome = workshop.outcome(mutant.file, mutant.faulty_text(), stages)
             draw.add(mutant, outcome, time.monotonic() - begun)
         workshops.put(workshop)
 
@@ -234,7 +237,7 @@ def look_again(draw: Draw, workshops: queue.SimpleQueue) -> None:
     waiting = [workshops.get() for _ in range(workshops.qsize())]
     workshop = min(waiting, key=lambda one: one.folder)
     for mutant in draw.with_verdict(Verdict.SURVIVES):
-        if mutant not in draw.settled:
+        if mutant not in draw.settled and mutant.reason_to_survive() is None:
             begun = time.monotonic()
             outcome = workshop.second_look(mutant.file, mutant.faulty_text())
             draw.settled.add(mutant)

@@ -15,6 +15,17 @@ class Explained:
 
 EXPLAINED = [
     Explained(
+        "value.SetZeroNan();",
+        "/*value.SetZeroNan();*/",
+        "The build has ttmath make every new number a NaN whose other bits are 0; the line says what the "
+        "callers rely on.",
+    ),
+    Explained(
+        "std::uint32_t value = 0;",
+        "std::uint32_t value = 1;",
+        "The system's random bytes replace it, and where there are none, it is not used.",
+    ),
+    Explained(
         'constexpr std::array Words = {"1", "true", "yes"};',
         'constexpr std::array Words = {"1" , "yes", "true"};',
         "Whether any of the words is the setting does not depend on their order.",

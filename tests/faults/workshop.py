@@ -1,5 +1,6 @@
 """A copy of the sources in which faults are tried out, and the tests that have to notice them."""
 
+import collections
 import contextlib
 import dataclasses
 import enum
@@ -67,22 +68,22 @@ def programs(folders: str) -> Stage:
     return Stage(COMMAND, f"programs/({folders})", SLOW_PROGRAMS)
 
 
-# Where the first failure is likely, by the longest beginning of the file's name; the rest follows.
+# Where the first failure is likely, by the longest beginning of the file's name; the rest follows, what
+# is quick first. UNIT alone is compiled from headers of the library, so for a header it waits its turn.
 LIKELY = {
-    "host/": [UNIT],
+    "host/": [UNIT, programs("debug_log|encodings")],
     "platform/": [UNIT],
-    "plugin/members/": [GOLDEN],
+    "plugin/members/": [GOLDEN, programs("debug_log|errors|arithmetic")],
     "plugin/": [UNIT, GOLDEN],
     "host/random": [OPERATIONS],
-    "number/kernels/": [KERNELS],
+    "number/kernels/": [programs("arithmetic|text"), OPERATIONS],
     "number/lifecycle": [TABLES],
-    "host/routine": [TABLES],
-    "plugin/members/constants": [OPERATIONS],
+    "plugin/members/constants": [GOLDEN, OPERATIONS],
     "number/conversions": [programs("values|errors|debug_log")],
     "number/text": [programs("text|bad_input|encodings")],
     "number/ops": [programs("arithmetic|errors|comparison|debug_log")],
 }
-ALL = [PROGRAMS, UNIT, GOLDEN, TABLES, HOSTILE, OPERATIONS, SLOW]
+ALL = [GOLDEN, PROGRAMS, UNIT, SLOW, TABLES, OPERATIONS, HOSTILE]
 # Computations that only some of the sources have a part in.
 LAST = [KERNELS]
 
@@ -91,6 +92,8 @@ def stages_for(file: str) -> list[Stage]:
     """The stages that a fault in this file goes through until one notices it."""
     matches = [start for start in LIKELY if file.startswith(start)]
     first = LIKELY[max(matches, key=len)] if matches else []
+    if file.endswith(".hpp"):
+        first = [stage for stage in first if stage is not UNIT]
     last = LAST if file.startswith("number/") else []
     return [*first, *(stage for stage in [*ALL, *last] if stage not in first)]
 
@@ -126,6 +129,8 @@ class Workshop:
         self.log = folder.with_suffix(".log").open("w")
         self.copy_sources()
         self.sound_libraries = {}
+        # By file: the objects that depend on it, each with the time that it was compiled in.
+        self.objects = collections.defaultdict(list)
         self.prepare(PLAIN, *{target for stage in [*ALL, *LAST] for target in stage.targets})
 
     def prepare(self, preset: str, *targets: str) -> None:
@@ -220,14 +225,39 @@ class Workshop:
         finally:
             path.write_text(sound, encoding="utf-8")
 
-    def outcome(self, file: str, faulty: str) -> Outcome:
-        """What becomes of a fault: of the file with this text."""
+    def quickest_object(self, file: str) -> str | None:
+        """The object of the library that depends on this file and is compiled in the shortest time."""
+        build = self.build(PLAIN)
+        if not self.objects:
+            seconds = {}
+            for line in (build / ".ninja_log").read_text().splitlines()[1:]:
+                begin, end, _, name, _ = line.split("\t")
+                seconds[name] = int(end) - int(begin)
+            command = ["ninja", "-C", build, "-t", "deps"]
+            listing = subprocess.run(command, capture_output=True, check=True, text=True).stdout
+            for line in listing.splitlines():
+                if line.startswith(" "):
+                    path = os.path.relpath(build / line.strip(), self.folder)
+                    self.objects[path].append((seconds.get(name, 0), name))
+                else:
+                    name = line.split(":")[0]
+        kernels = "number/kernels/CMakeFiles/"
+        parts = (
+            "plugin/CMakeFiles/plugin_objects.dir/", f"{kernels}kernels.dir/", f"{kernels}kernels_with_"
+        )
+        own = [entry for entry in self.objects[file] if entry[1].startswith(parts)]
+        return min(own)[1] if own else None
+
+    def outcome(self, file: str, faulty: str, stages: list[Stage]) -> Outcome:
+        """What becomes of a fault, of the file with this text, when these stages follow its build."""
+        quickest = self.quickest_object(file)
         with self.fault_in(file, faulty):
-            if not self.make(PLAIN, LIBRARY):
+            # Most of what does not build fails in every object.
+            if quickest and not self.make(PLAIN, quickest) or not self.make(PLAIN, LIBRARY):
                 return Outcome(Verdict.NO_BUILD)
             if self.has_same_code(PLAIN):
                 return Outcome(Verdict.SAME_CODE)
-            return self.outcome_of(stages_for(file))
+            return self.outcome_of(stages)
 
     def second_look(self, file: str, faulty: str) -> Outcome:
         """What becomes of a fault that `outcome` says survives: whether the optimised library is

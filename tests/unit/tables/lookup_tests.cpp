@@ -54,6 +54,17 @@ void* LoadedMethod(const char* module, const char* declaration) {
     return knowsMethods ? original(module, declaration) : nullptr;
 }
 
+int integersRead = 0;
+
+host_interface::BooleanWord CountedInteger(host_interface::Object object, const char* property,
+                                           std::int32_t* value) {
+    ++integersRead;
+    CHECK(std::string_view(property) == "Type");
+    static const auto original = reinterpret_cast<functions::REALGetPropValueInteger*>(
+        standin::Host::Resolve("REALGetPropValueInteger"));
+    return original(object, property, value);
+}
+
 int timesLent = 0;
 int timesGivenBack = 0;
 int timesAskedForEncoding = 0;
@@ -399,6 +410,23 @@ TEST_CASE("The method that tells a Variant's type is loaded once, when the host 
     read();
     read();
     CHECK(methodsLoaded == 5);
+}
+
+TEST_CASE("The property that tells a Variant's type is read only when the host lacks the method") {
+    for (const bool known : {true, false}) {
+        CAPTURE(known);
+        std::vector<tests::Replacement> replacements = CountedFunctions();
+        replacements.push_back(Replace<functions::REALGetPropValueInteger>(
+            "REALGetPropValueInteger", &CountedInteger));
+        WatchedPlugin plugin(replacements);
+        knowsMethods = known;
+        integersRead = 0;
+        const HeldObject five = Variant(plugin, VariantTypeCode::Int32, std::int64_t{5});
+        for (NumberClass& number : plugin.classes()) {
+            CHECK(number.Text(NumberWithVariant(number, five.Get()).Get()) == "5");
+        }
+        CHECK(integersRead == (known ? 0 : 2));
+    }
 }
 
 TEST_CASE("The host's version and kind are asked for at the start only") {
