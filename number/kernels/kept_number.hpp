@@ -4,8 +4,7 @@
 #include <atomic>
 #include <memory>
 #include <new>
-
-#include <ttmath/ttmath.h>
+#include <type_traits>
 
 namespace vqz::kernels {
 
@@ -19,13 +18,13 @@ public:
     /// The number in `result`. `compute` makes it from a new one and returns ttmath's carry, which
     /// is returned; a number with a carry is not kept.
     template <typename Compute>
-    ttmath::uint Get(Number& result, Compute compute) {
+    std::invoke_result_t<Compute, Number&> Get(Number& result, Compute compute) {
         if (state_.load(std::memory_order_acquire) == State::Kept) {
             result = *Place();
             return 0;
         }
         Number computed;
-        const ttmath::uint carry = compute(computed);
+        const auto carry = compute(computed);
         State expected = State::Missing;
         if (carry == 0 &&
             state_.compare_exchange_strong(expected, State::BeingKept, std::memory_order_relaxed)) {

@@ -102,14 +102,14 @@ void CheckEqual(const std::vector<std::string>& results, const std::vector<std::
 /// What one object holds, as a program may know it: no value yet, or none any more; not a number;
 /// or an integer.
 struct Model {
-    enum class Kind { Empty, Nan, Integer };
+    enum class Kind { Empty, Nan, Whole };
     Kind kind = Kind::Empty;
     std::int64_t value = 0;
 
-    static Model Of(std::int64_t value) { return {Kind::Integer, value}; }
+    static Model Of(std::int64_t value) { return {Kind::Whole, value}; }
     /// Without a value an object reads as a NaN, and so do copies of it.
     Model Read() const { return kind == Kind::Empty ? Model{Kind::Nan, 0} : *this; }
-    bool IsInteger() const { return kind == Kind::Integer; }
+    bool IsInteger() const { return kind == Kind::Whole; }
 };
 
 /// Objects that are constructed, set, read, computed with, destructed and dropped in any order,
@@ -195,8 +195,7 @@ private:
                 break;
             default:
                 CHECK(number_.Call<Integer>("Operator_Compare(other as $) as Integer", self,
-                                                 other.object.Get()) ==
-                      Order(slot.model, other.model));
+                                            other.object.Get()) == Order(slot.model, other.model));
         }
     }
 
