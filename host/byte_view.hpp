@@ -15,9 +15,12 @@ namespace vqz {
 class ByteView {
 public:
     /// All bytes of a string as the host stores them; a null string gives an empty view. A 64-bit
-    /// host lends them, and when it does not, or when there are more than 0x7FFFFFFF, the view is
-    /// empty and `failed`.
-    explicit ByteView(host_interface::String text) : string_(StringReference::Share(text)) {
+    /// host lends them in the string's own encoding, which is `encoding`, and when it does not, or
+    /// when there are more than 0x7FFFFFFF, the view is empty and `failed`. A 32-bit host's strings
+    /// are read without a call.
+    ByteView(host_interface::String text,
+             [[maybe_unused]] host_interface::HostTextEncoding encoding)
+        : string_(StringReference::Share(text)) {
         if (text == nullptr) {
             return;
         }
@@ -25,7 +28,7 @@ public:
         data_ = text->storage + 1;
         length_ = text->length;
 #else
-        isLent_ = host::PluginGetStringData(text, host::REALGetStringEncoding(text), &lent_);
+        isLent_ = host::PluginGetStringData(text, static_cast<std::uint32_t>(encoding), &lent_);
         failed_ = !isLent_ || lent_.length > INT32_MAX;
         if (!failed_) {
             data_ = lent_.data;

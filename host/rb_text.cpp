@@ -155,7 +155,7 @@ void rbText::ReplaceSource(host_interface::String text) {
 #if !HOST_INTERFACE_32_BIT
 const ByteView& rbText::SourceBytes() {
     if (!sourceBytes) {
-        sourceBytes.emplace(source);
+        sourceBytes.emplace(source, encoding);
         if (sourceBytes->failed()) {
             Fail("REALGetStringData failed.");
         }

@@ -71,7 +71,7 @@ private:
     void ReplaceSource(host_interface::String text);
 #if HOST_INTERFACE_32_BIT
     ByteView SourceBytes() const {
-        return ByteView(source);
+        return ByteView(source, encoding);
     }
 #else
     /// The source's bytes, which stay where they are until the source is replaced. A text whose

@@ -604,13 +604,13 @@ TEST_CASE("A byte view shows the bytes as the host stores them and keeps the str
     DirectHost host;
     {
         HeldString source = Make("1\0\xE9"sv, HostTextEncoding::Latin1);
-        const vqz::ByteView view(source.Get());
+        const vqz::ByteView view(source.Get(), HostTextEncoding::Latin1);
         CHECK(host.References(source.Get()) == 2);
         source = HeldString();
         CHECK(std::string(view.data(), static_cast<std::size_t>(view.length())) == "1\0\xE9"sv);
     }
     CHECK(host.Counts().stringsAlive == 0);
-    const vqz::ByteView none(host_interface::String{});
+    const vqz::ByteView none(host_interface::String{}, HostTextEncoding::Utf8);
     CHECK(none.data() == nullptr);
     CHECK(none.length() == 0);
 }

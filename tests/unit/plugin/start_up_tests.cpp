@@ -210,12 +210,14 @@ TEST_CASE("Hosts before 2015 are not told of the shared methods with UInteger") 
 }
 
 TEST_CASE("A second start runs every step again") {
-    DirectHost host(2014.99);
+    // No 64-bit host is so old that a method is hidden from it.
+    constexpr std::size_t HiddenMethods = HOST_INTERFACE_32_BIT != 0 ? 2 : 0;
+    DirectHost host(HOST_INTERFACE_32_BIT != 0 ? 2014.99 : 2023.04);
     const auto sharedMethods = BigNumberRecord().sharedMethodCount;
     Start(&standin::Host::Resolve);
     REALPluginMain(&standin::Host::Resolve);
-    CHECK(BigNumberRecord().sharedMethodCount == sharedMethods - 2);
-    CHECK(BiggerNumberRecord().sharedMethodCount == sharedMethods - 2);
+    CHECK(BigNumberRecord().sharedMethodCount == sharedMethods - HiddenMethods);
+    CHECK(BiggerNumberRecord().sharedMethodCount == sharedMethods - HiddenMethods);
     CHECK(BigNumberRecord().dataSize == 16);
     CHECK(host.RegisteredClasses().size() == 3);
 }

@@ -281,11 +281,14 @@ TEST_CASE("A function that is missing is looked up again at each call, and nothi
         {"type by its fallback",
          Read(VariantTypeCode::Int64, five),
          {"REALLoadGlobalMethod", "REALGetPropValueInteger"},
-         "REALLoadGlobalMethod 1"},
+         HOST_INTERFACE_32_BIT != 0 ? "REALLoadGlobalMethod 1"
+                                    : "REALGetPropValueInteger 1, REALLoadGlobalMethod 1"},
         {"no type",
          Read(VariantTypeCode::Int64, five),
          {"REALLoadGlobalMethod", "REALGetPropValueInteger", "REALGetPropValueInt"},
-         "REALGetPropValueInt 1, REALGetPropValueInteger 1, REALLoadGlobalMethod 1"},
+         HOST_INTERFACE_32_BIT != 0
+             ? "REALGetPropValueInt 1, REALGetPropValueInteger 1, REALLoadGlobalMethod 1"
+             : "REALGetPropValueInteger 1, REALLoadGlobalMethod 1"},
         {"class of an integer", Read(VariantTypeCode::Int32, five), {"pluginObjectType"}, ""},
         {"class of an object", ReadObject, {"pluginObjectType"}, "pluginObjectType 1"},
         {"instance", ReadObject, {"RuntimeObjectIsa"}, "RuntimeObjectIsa 1"},
@@ -303,11 +306,15 @@ TEST_CASE("A function that is missing is looked up again at each call, and nothi
         {"exception", FailToDivide, {"PluginNewInstance"}, "PluginNewInstance 2"},
         {"raise", FailToDivide, {"RuntimeRaiseException"}, "RuntimeRaiseException 1"},
         {"message", FailToDivide, {"REALSetPropValueString"}, "REALSetPropValueString 1"},
-        {"error number by its fallback", FailToDivide, {"REALSetPropValueInteger"}, ""},
+        {"error number by its fallback",
+         FailToDivide,
+         {"REALSetPropValueInteger"},
+         HOST_INTERFACE_32_BIT != 0 ? "" : "REALSetPropValueInteger 1"},
         {"error number",
          FailToDivide,
          {"REALSetPropValueInteger", "REALSetPropValueInt"},
-         "REALSetPropValueInt 1, REALSetPropValueInteger 1"},
+         HOST_INTERFACE_32_BIT != 0 ? "REALSetPropValueInt 1, REALSetPropValueInteger 1"
+                                    : "REALSetPropValueInteger 1"},
     };
     for (const Lookups& row : rows) {
         CAPTURE(row.call);
@@ -458,8 +465,10 @@ TEST_CASE("A text is asked for its encoding and its bytes once, and they are giv
             samples.integer = 10;
             timesLent = timesGivenBack = timesAskedForEncoding = 0;
             member.Call(samples);
-            CHECK(timesLent == 1);
-            CHECK(timesGivenBack == 1);
+            // Beside the converted text, 64-bit hosts lend the bytes as they are.
+            constexpr int Loans = HOST_INTERFACE_32_BIT != 0 ? 1 : 2;
+            CHECK(timesLent == Loans);
+            CHECK(timesGivenBack == Loans);
             CHECK(timesAskedForEncoding == 1);
             CHECK(TakeRaised(plugin.host()) == "");
             ++members;

@@ -303,7 +303,15 @@ TEST_CASE("What a missing function costs is what it would have done, and no more
     const Row rows[] = {
         {2023.04, "(nothing)", {"5", "12", failure}},
         {2011.99, "(nothing)", {"5", "12", failure}},
+#if HOST_INTERFACE_32_BIT
         {2023.04, "PluginGetStringData", {"5", "0", failure}},
+#else
+        // Nothing but this function reads a text there: every number made of one is 0.
+        {2023.04,
+         "PluginGetStringData",
+         {"0", "0",
+          "BigNumberErrorExceptionVQZ: Operator_Divide operation failed with numbers 0 and nil."}},
+#endif
         {2011.99, "PluginGetStringData", {"5", "12", failure}},
         {2023.04, "REALConvertString", {"5", "12", failure}},
         {2011.99, "REALConvertString", {"5", "0", failure}},
@@ -354,7 +362,11 @@ TEST_CASE("A host without a function that releases only keeps what it would rele
         CAPTURE(missing);
         LoadedPlugin plugin(standin::HostOptions{.missing = {missing}});
         SampleResults(plugin);
-        CHECK(plugin.host().Violations().empty());
+        for (const std::string& violation : plugin.host().Violations()) {
+            // The library cannot help it: its record is used up before it is filled again.
+            CHECK(std::string_view(missing) == "PluginDisposeStringData");
+            CHECK(violation.starts_with("PluginGetStringData: the record is filled again, but"));
+        }
         plugin.host().ResetLedger();
     }
 }
@@ -371,7 +383,9 @@ TEST_CASE("An error number that cannot be set does not matter, by either name") 
         CHECK(TakeRaised(plugin.host()) ==
               "BigNumberErrorExceptionVQZ: Operator_Divide operation failed with numbers 1 and "
               "nil.");
-        CHECK(plugin.host().lookups().at("REALSetPropValueInt") >= 1);
+        // 64-bit hosts have the first name only.
+        CHECK(plugin.host().lookups().contains("REALSetPropValueInt") ==
+              (HOST_INTERFACE_32_BIT != 0));
     }
 }
 
@@ -414,6 +428,7 @@ TEST_CASE("Results do not depend on the host's age, alignment, control word or h
         {.builtApplication = true},
         {.newInstanceRunsConstructor = true},
         {.unterminatedStrings = true},
+#if HOST_INTERFACE_32_BIT
         {.misalignedStack = true},
         {.changedControlWord = true},
         {.version = 2011.99,
@@ -422,6 +437,7 @@ TEST_CASE("Results do not depend on the host's age, alignment, control word or h
          .unterminatedStrings = true,
          .misalignedStack = true,
          .changedControlWord = true},
+#endif
     };
     for (std::size_t index = 0; index < std::size(hosts); ++index) {
         CAPTURE(index);
@@ -433,6 +449,7 @@ TEST_CASE("Results do not depend on the host's age, alignment, control word or h
     }
 }
 
+#if HOST_INTERFACE_32_BIT
 TEST_CASE("Every member works on a stack of four-byte alignment and with any control word") {
     LoadedPlugin plugin(standin::HostOptions{.misalignedStack = true, .changedControlWord = true});
     for (NumberClass& number : plugin.classes()) {
@@ -444,3 +461,4 @@ TEST_CASE("Every member works on a stack of four-byte alignment and with any con
         }
     }
 }
+#endif

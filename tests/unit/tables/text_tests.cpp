@@ -155,7 +155,7 @@ TEST_CASE("A number's text has all its digits in base 10") {
             const HeldObject object = number.Make(row.source);
             CHECK(Shown(number.Get<HeldString>("StringValue", object.Get())) == row.text);
             CHECK(Shown(number.Call<HeldString>(ToText, object.Get())) == row.text);
-            CHECK(Shown(number.Call<HeldString>(InBase, object.Get(), 10)) == row.text);
+            CHECK(Shown(number.Call<HeldString>(InBase, object.Get(), Integer{10})) == row.text);
         }
         CHECK(TakeRaised(plugin.host()) == "");
     }
@@ -173,7 +173,7 @@ TEST_CASE("Text for the host is UTF-8 on hosts of every age") {
             const HeldString texts[] = {
                 number.Get<HeldString>("StringValue", object.Get()),
                 number.Call<HeldString>(ToText, object.Get()),
-                number.Call<HeldString>(InBase, object.Get(), 10),
+                number.Call<HeldString>(InBase, object.Get(), Integer{10}),
                 GetFormatted(number, object.Get(), {}, nullptr),
             };
             for (const HeldString& text : texts) {
@@ -191,7 +191,7 @@ TEST_CASE("Nil and a NaN have the text NaN in every form") {
         for (const Object self : {Object{}, nan.Get()}) {
             CHECK(Shown(number.Get<HeldString>("StringValue", self)) == NanText);
             CHECK(Shown(number.Call<HeldString>(ToText, self)) == NanText);
-            CHECK(Shown(number.Call<HeldString>(InBase, self, 16)) == NanText);
+            CHECK(Shown(number.Call<HeldString>(InBase, self, Integer{16})) == NanText);
             CHECK(Shown(GetFormatted(number, self, {}, nullptr)) == NanText);
         }
         CHECK(TakeRaised(plugin.host()) == "");
@@ -212,8 +212,8 @@ TEST_CASE("A number is written in every base from 2 to 16") {
             CHECK(Shown(number.Call<HeldString>(InBase, object.Get(), base)) == expected);
             CHECK(Shown(GetFormatted(number, object.Get(), {.base = base}, nullptr)) == expected);
         }
-        CHECK(Shown(number.Call<HeldString>(InBase, negative.Get(), 2)) == "-11001000.1");
-        CHECK(Shown(number.Call<HeldString>(InBase, negative.Get(), 16)) == "-C8.8");
+        CHECK(Shown(number.Call<HeldString>(InBase, negative.Get(), Integer{2})) == "-11001000.1");
+        CHECK(Shown(number.Call<HeldString>(InBase, negative.Get(), Integer{16})) == "-C8.8");
     }
 }
 
@@ -231,7 +231,7 @@ TEST_CASE("A base outside of 2 to 16 fails, answers no text and leaves the numbe
             CHECK(number.ValueBytes(object.Get()) == bytes);
         }
         // ttmath writes a NaN without looking at the base.
-        CHECK(Shown(number.Call<HeldString>(InBase, nullptr, 17)) == NanText);
+        CHECK(Shown(number.Call<HeldString>(InBase, nullptr, Integer{17})) == NanText);
         CHECK(TakeRaised(plugin.host()) == "");
     }
 }
@@ -344,7 +344,8 @@ TEST_CASE("Text is read in every encoding by everything that takes text") {
                     number.Set("StringValue", object.Get(), text.Get());
                     CHECK(number.Text(object.Get()) == "12.5");
 
-                    CallRoutine<void>(number.Method(InBase).setter, object.Get(), 16, text.Get());
+                    CallRoutine<void>(number.Method(InBase).setter, object.Get(), Integer{16},
+                                      text.Get());
                     CHECK(number.Text(object.Get()) == "18.3125");
 
                     const Rest rest = SetText(number, object.Get(), text.Get(), 10);
@@ -590,26 +591,26 @@ TEST_CASE("Each reading and writing of text logs its own name, and failures two 
               LogLines({"GetStringValue"}));
         CHECK(plugin.LogOf([&] { number.Call<HeldString>(ToText, self); }) ==
               LogLines({"GetStringValue"}));
-        CHECK(plugin.LogOf([&] { number.Call<HeldString>(InBase, self, 16); }) ==
+        CHECK(plugin.LogOf([&] { number.Call<HeldString>(InBase, self, Integer{16}); }) ==
               LogLines({"GetStringValueBase"}));
         CHECK(plugin.LogOf([&] { GetFormatted(number, self, {}, nullptr); }) ==
               LogLines({"GetStringValueExt"}));
         CHECK(plugin.LogOf([&] { number.Set("StringValue", self, text.Get()); }) ==
               LogLines({"SetStringValue"}));
         CHECK(plugin.LogOf([&] {
-            CallRoutine<void>(number.Method(InBase).setter, self, 16, text.Get());
+            CallRoutine<void>(number.Method(InBase).setter, self, Integer{16}, text.Get());
         }) == LogLines({"SetStringValueBase"}));
         CHECK(plugin.LogOf([&] { SetText(number, self, text.Get(), 10); }) ==
               LogLines({"SetStringValueExt"}));
 
-        CHECK(plugin.LogOf([&] { number.Call<HeldString>(InBase, self, 17); }) ==
+        CHECK(plugin.LogOf([&] { number.Call<HeldString>(InBase, self, Integer{17}); }) ==
               LogLines({"GetStringValueBase", report, report}));
         CHECK(TakeRaised(plugin.host()) != "");
         CHECK(plugin.LogOf([&] { GetFormatted(number, self, {.base = 1}, nullptr); }) ==
               LogLines({"GetStringValueExt", report, report}));
         CHECK(TakeRaised(plugin.host()) != "");
         CHECK(plugin.LogOf([&] {
-            CallRoutine<void>(number.Method(InBase).setter, self, 0, text.Get());
+            CallRoutine<void>(number.Method(InBase).setter, self, Integer{0}, text.Get());
         }) == LogLines({"SetStringValueBase", report, report}));
         CHECK(TakeRaised(plugin.host()) != "");
         CHECK(plugin.LogOf([&] { SetText(number, self, text.Get(), 0); }) ==
