@@ -26,6 +26,11 @@ EXPLAINED = [
         "The system's random bytes replace it, and where there are none, it is not used.",
     ),
     Explained(
+        "return std::calloc(1, byteCount);",
+        "return std::calloc((1+1), byteCount);",
+        "Half of the memory is not used; it is zero and is freed like the other half.",
+    ),
+    Explained(
         'constexpr std::array Words = {"1", "true", "yes"};',
         'constexpr std::array Words = {"1" , "yes", "true"};',
         "Whether any of the words is the setting does not depend on their order.",
