@@ -1,6 +1,6 @@
-// What is left when a member fails halfway: outputs are what was stated before the step that
-// failed, and nothing that a conversion or the host wrote before it failed gets out where it must
-// not.
+// What is left when a member fails halfway: outputs have the values of the step before the
+// failure, and what a conversion or the host wrote before failing shows only where it is meant to.
+
 #include <array>
 #include <cstdint>
 #include <functional>
