@@ -257,7 +257,7 @@ private:
 }  // namespace
 
 TEST_CASE("Results are the same in all floating-point modes, and the modes stay") {
-    LoadedPlugin plugin(standin::HostOptions{.misalignedStack = true});
+    LoadedPlugin plugin(standin::HostOptions{.misalignedStack = HOST_INTERFACE_32_BIT != 0});
     const std::vector<std::string> expected = AllResults(plugin);
     // Single, double and extended precision of the x87 unit; all exceptions masked.
     constexpr std::array<std::uint16_t, 3> Precisions = {0x007F, 0x027F, 0x037F};
