@@ -111,15 +111,7 @@ std::string ReadStandardInput() {
 void OnInterrupt(void (*action)()) {
     static void (*wanted)() = nullptr;
     wanted = action;
-    SetConsoleCtrlHandler(
-        [](DWORD event) -> BOOL {
-            const bool isInterrupt = event == CTRL_C_EVENT;
-            if (isInterrupt) {
-                wanted();
-            }
-            return isInterrupt ? TRUE : FALSE;
-        },
-        TRUE);
+    SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
     // Without a console Wine raises the exception of a Ctrl-C instead.
     AddVectoredExceptionHandler(1, [](EXCEPTION_POINTERS* pointers) -> LONG {
         constexpr DWORD ControlC = 0xC000013A;

@@ -236,4 +236,11 @@ private:
     Surroundings surroundings_;
 };
 
+extern template const UnitVariable* ExpressionChecker::FindDeclared(
+    const std::vector<UnitVariable>& list, std::string_view name,
+    std::optional<std::string_view> unit) const;
+extern template const UnitConstant* ExpressionChecker::FindDeclared(
+    const std::vector<UnitConstant>& list, std::string_view name,
+    std::optional<std::string_view> unit) const;
+
 }  // namespace standin::language

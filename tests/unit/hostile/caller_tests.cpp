@@ -21,7 +21,6 @@
 
 namespace {
 
-using host_interface::Integer;
 using tests::CallRoutine;
 using tests::HeldObject;
 using tests::HeldString;
@@ -127,7 +126,7 @@ public:
         Slot& slot = slots_.at(random() % slots_.size());
         const Slot& other = slots_.at(random() % slots_.size());
         const auto value = static_cast<std::int32_t>(random() % 2'000'001) - 1'000'000;
-        const unsigned int choice = random() % 14;
+        const auto choice = static_cast<unsigned int>(random() % 14);
         CAPTURE(choice);
         CAPTURE(value);
         Apply(choice, slot, other, value);
@@ -194,8 +193,9 @@ private:
                 FlipSign(slot);
                 break;
             default:
-                CHECK(number_.Call<Integer>("Operator_Compare(other as $) as Integer", self,
-                                            other.object.Get()) == Order(slot.model, other.model));
+                CHECK(number_.Call<host_interface::Integer>(
+                          "Operator_Compare(other as $) as Integer", self, other.object.Get()) ==
+                      Order(slot.model, other.model));
         }
     }
 
@@ -220,7 +220,7 @@ private:
     void FlipSign(Slot& slot) {
         constexpr std::int32_t Sign = 128;
         const Object self = slot.object.Get();
-        const auto flags = number_.Get<Integer>("DataFlags", self);
+        const auto flags = number_.Get<host_interface::Integer>("DataFlags", self);
         const std::string refused =
             slot.model.kind == Model::Kind::Empty ? "NilObjectException: Not initialized" : "";
         CHECK(TakeRaised(plugin_.host()) == refused);
@@ -257,7 +257,7 @@ private:
 }  // namespace
 
 TEST_CASE("Results are the same in all floating-point modes, and the modes stay") {
-    LoadedPlugin plugin(standin::HostOptions{.misalignedStack = true});
+    LoadedPlugin plugin(standin::HostOptions{.misalignedStack = HOST_INTERFACE_32_BIT != 0});
     const std::vector<std::string> expected = AllResults(plugin);
     // Single, double and extended precision of the x87 unit; all exceptions masked.
     constexpr std::array<std::uint16_t, 3> Precisions = {0x007F, 0x027F, 0x037F};
@@ -381,7 +381,8 @@ TEST_CASE("A hundred thousand objects live at once, each with its own number") {
         int mistakes = 0;
         for (std::int32_t index = 0; index < Count; ++index) {
             const Object object = objects.at(static_cast<std::size_t>(index)).Get();
-            mistakes += number.Get<Integer>("IntegerValue", object) == index ? 0 : 1;
+            mistakes +=
+                number.Get<host_interface::Integer>("IntegerValue", object) == index ? 0 : 1;
         }
         CHECK(mistakes == 0);
     }

@@ -1,6 +1,7 @@
 #include "tests/unit/operations/number_class.hpp"
 
 #include <algorithm>
+#include <span>
 
 namespace operation_tests {
 
@@ -9,8 +10,9 @@ void LoadedHost::SetDebugging(bool on) {
     const auto debugging = std::ranges::find(type.sharedProperties, std::string("Debugging"),
                                              &standin::PropertyInfo::name);
     REQUIRE((debugging != type.sharedProperties.end()));
-    const std::uintptr_t value = on ? 1 : 0;
-    host_.Call(debugging->setter, {&value, 1}, standin::ReturnKind::None);
+    standin::CallArguments arguments;
+    arguments.Add(on);
+    host_.Call(debugging->setter, arguments, standin::ReturnKind::None);
     host_.TakeDebugLog();
 }
 

@@ -11,7 +11,7 @@ namespace operation_tests {
 /// One value of Rand. Checks that it is a plain positive number by its flags.
 template <typename AnyNumber>
 AnyNumber Draw(NumberClass<AnyNumber>& numberClass) {
-    const std::uint32_t answer =
+    const std::uintptr_t answer =
         numberClass.Call(numberClass.RoutineOf("Rand as $"), {}, standin::ReturnKind::Word);
     CHECK(tests::TakeRaised(standin::Host::Current()) == "");
     const auto value = numberClass.ReadAndRelease(answer);

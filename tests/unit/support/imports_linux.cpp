@@ -14,7 +14,39 @@ namespace tests {
 namespace {
 
 using host_interface::Routine;
+
+// What a relocation is like, and which ones fill the slot of an imported function.
+#if defined(__x86_64__) || defined(__aarch64__)
+using Relocation = ElfW(Rela);
+constexpr int RelocationTable = DT_RELA;
+constexpr int RelocationTableSize = DT_RELASZ;
+
+std::uint32_t SymbolOf(const Relocation& relocation) {
+    return static_cast<std::uint32_t>(ELF64_R_SYM(relocation.r_info));
+}
+
+bool IsSlot(const Relocation& relocation) {
+    const auto type = ELF64_R_TYPE(relocation.r_info);
+#if defined(__x86_64__)
+    return type == R_X86_64_JUMP_SLOT || type == R_X86_64_GLOB_DAT;
+#else
+    return type == R_AARCH64_JUMP_SLOT || type == R_AARCH64_GLOB_DAT;
+#endif
+}
+#else
 using Relocation = ElfW(Rel);
+constexpr int RelocationTable = DT_REL;
+constexpr int RelocationTableSize = DT_RELSZ;
+
+std::uint32_t SymbolOf(const Relocation& relocation) {
+    return ELF32_R_SYM(relocation.r_info);
+}
+
+bool IsSlot(const Relocation& relocation) {
+    const auto type = ELF32_R_TYPE(relocation.r_info);
+    return type == R_386_JMP_SLOT || type == R_386_GLOB_DAT;
+}
+#endif
 
 /// What the dynamic section says about a library; the loader has made addresses of the offsets.
 class Library {
@@ -30,7 +62,7 @@ public:
     const char* Name(const Relocation& relocation) const {
         const auto* symbols = reinterpret_cast<const ElfW(Sym)*>(Value(DT_SYMTAB));
         const auto* names = reinterpret_cast<const char*>(Value(DT_STRTAB));
-        return names + symbols[ELF32_R_SYM(relocation.r_info)].st_name;
+        return names + symbols[SymbolOf(relocation)].st_name;
     }
     std::span<const Relocation> Relocations(int table, int size) const {
         return {reinterpret_cast<const Relocation*>(Value(table)),
@@ -63,9 +95,7 @@ Routine ReplaceImport(Routine inside, const char* name, Routine replacement) {
     Routine before = nullptr;
     const auto replaceIn = [&](std::span<const Relocation> relocations) {
         for (const Relocation& relocation : relocations) {
-            const auto type = ELF32_R_TYPE(relocation.r_info);
-            if ((type == R_386_JMP_SLOT || type == R_386_GLOB_DAT) &&
-                std::strcmp(library.Name(relocation), name) == 0) {
+            if (IsSlot(relocation) && std::strcmp(library.Name(relocation), name) == 0) {
                 auto* slot = reinterpret_cast<Routine*>(library.base() + relocation.r_offset);
                 // The loader has closed the page after it filled the slots.
                 MakeWritable(slot);
@@ -74,7 +104,7 @@ Routine ReplaceImport(Routine inside, const char* name, Routine replacement) {
             }
         }
     };
-    replaceIn(library.Relocations(DT_REL, DT_RELSZ));
+    replaceIn(library.Relocations(RelocationTable, RelocationTableSize));
     replaceIn(library.Relocations(DT_JMPREL, DT_PLTRELSZ));
     return before;
 }

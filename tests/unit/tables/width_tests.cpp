@@ -33,14 +33,6 @@ constexpr const char* GetStringValue =
     "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String";
 constexpr const char* MultiplyByInteger = "Multiply(value as Integer) as $";
 
-/// The number as text in base 10 with these options; "null" for no text.
-std::string Formatted(NumberClass& number, LoadedPlugin& plugin, Object self,
-                      Integer scientificFrom, Integer round) {
-    const auto text = number.Call<HeldString>(GetStringValue, self, Integer{10}, false,
-                                              scientificFrom, round, true, String{});
-    return text ? plugin.host().Bytes(text.Get()) : "null";
-}
-
 std::string Raised(NumberClass& number, const std::string& name, const std::string& shown) {
     return "BigNumberErrorExceptionVQZ: " + number.Declaration(name) + " operation failed with " +
            shown + ".";
@@ -129,6 +121,18 @@ TEST_CASE("Within 32 bits a product with an Integer is the same on every host") 
 }
 
 #if !HOST_INTERFACE_32_BIT
+
+namespace {
+
+/// The number as text in base 10 with these options; "null" for no text.
+std::string Formatted(NumberClass& number, LoadedPlugin& plugin, Object self,
+                      Integer scientificFrom, Integer round) {
+    const auto text = number.Call<HeldString>(GetStringValue, self, Integer{10}, false,
+                                              scientificFrom, round, true, String{});
+    return text ? plugin.host().Bytes(text.Get()) : "null";
+}
+
+}  // namespace
 
 TEST_CASE("Beyond 32 bits a product with an Integer is that with its number, rounded") {
     LoadedPlugin plugin;
