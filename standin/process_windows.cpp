@@ -61,6 +61,29 @@ void OnAbort(int /*signal*/) {
     EndCrashed("abort");
 }
 
+/// What Ctrl-C does; null before `OnInterrupt`.
+void (*whenInterrupted)() = nullptr;
+
+BOOL WINAPI OnConsoleEvent(DWORD event) {
+    if (event != CTRL_C_EVENT) {
+        return FALSE;
+    }
+    whenInterrupted();
+    return TRUE;
+}
+
+/// Without a console Wine raises the exception of a Ctrl-C instead.
+LONG WINAPI OnConsoleException(EXCEPTION_POINTERS* pointers) {
+    constexpr DWORD ControlC = 0xC000013A;
+    constexpr DWORD DebugControlC = 0x40010005;
+    const auto code = pointers->ExceptionRecord->ExceptionCode;
+    if (code != ControlC && code != DebugControlC) {
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+    whenInterrupted();
+    return EXCEPTION_CONTINUE_EXECUTION;
+}
+
 }  // namespace
 
 void WriteBytes(Stream stream, std::string_view bytes) {
@@ -109,20 +132,9 @@ std::string ReadStandardInput() {
 }
 
 void OnInterrupt(void (*action)()) {
-    static void (*wanted)() = nullptr;
-    wanted = action;
+    whenInterrupted = action;
     SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
-    // Without a console Wine raises the exception of a Ctrl-C instead.
-    AddVectoredExceptionHandler(1, [](EXCEPTION_POINTERS* pointers) -> LONG {
-        constexpr DWORD ControlC = 0xC000013A;
-        constexpr DWORD DebugControlC = 0x40010005;
-        const auto code = pointers->ExceptionRecord->ExceptionCode;
-        if (code != ControlC && code != DebugControlC) {
-            return EXCEPTION_CONTINUE_SEARCH;
-        }
-        wanted();
-        return EXCEPTION_CONTINUE_EXECUTION;
-    });
+    AddVectoredExceptionHandler(1, OnConsoleException);
 }
 
 void ReportCrashes(const char* (*currentCall)(), int status) {

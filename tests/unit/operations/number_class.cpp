@@ -1,7 +1,6 @@
 #include "tests/unit/operations/number_class.hpp"
 
 #include <algorithm>
-#include <span>
 
 namespace operation_tests {
 
