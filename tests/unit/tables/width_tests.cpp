@@ -28,105 +28,10 @@ using tests::WatchedPlugin;
 
 constexpr bool IsWide = sizeof(Integer) == 8;
 
-constexpr const char* MultiplyByInteger = "Multiply(value as Integer) as $";
-
-std::string Raised(NumberClass& number, const std::string& name, const std::string& shown) {
-    return "BigNumberErrorExceptionVQZ: " + number.Declaration(name) + " operation failed with " +
-           shown + ".";
-}
-
-}  // namespace
-
-TEST_CASE("Integer and UInteger are converted in their full width") {
-    LoadedPlugin plugin;
-    constexpr Integer Smallest = std::numeric_limits<Integer>::min();
-    constexpr Integer Largest = std::numeric_limits<Integer>::max();
-    constexpr UInteger LargestUnsigned = std::numeric_limits<UInteger>::max();
-    for (NumberClass& number : plugin.classes()) {
-        for (const Integer value : {Smallest, Integer{-1}, Integer{0}, Integer{7}, Largest}) {
-            const HeldObject made(tests::CallRoutine<HeldObject>(
-                number.SharedMethod("NumberWithInteger(value as Integer) as $").function, value));
-            CHECK(number.Get<HeldString>("StringValue", made.Get()));
-            CHECK(number.Get<Integer>("IntegerValue", made.Get()) == value);
-            const HeldObject object = number.Make("1");
-            number.Set("IntegerValue", object.Get(), value);
-            CHECK(number.ValueBytes(object.Get()) == number.ValueBytes(made.Get()));
-            CHECK(number.ValueBytes(object.Get()) ==
-                  number.ValueBytes(number.Make(std::to_string(value)).Get()));
-        }
-        const HeldObject made(tests::CallRoutine<HeldObject>(
-            number.SharedMethod("NumberWithUInteger(value as UInteger) as $").function,
-            LargestUnsigned));
-        CHECK(number.ValueBytes(made.Get()) ==
-              number.ValueBytes(number.Make(std::to_string(LargestUnsigned)).Get()));
-    }
-}
-
-TEST_CASE("IntegerValue fails beyond the Integer of the host, under its own name") {
-    LoadedPlugin plugin;
-    const std::string beyond = IsWide ? "9223372036854775808" : "2147483648";
-    for (NumberClass& number : plugin.classes()) {
-        const HeldObject object = number.Make(beyond);
-        CHECK(plugin.LogOf([&] { CHECK(number.Get<Integer>("IntegerValue", object.Get()) == 0); })
-                  .starts_with("VQZ Debug: GetIntegerValue\n"));
-        CHECK(TakeRaised(plugin.host()) ==
-              Raised(number, "IntegerValue", "number " + number.Text(object.Get())));
-        CHECK(number.Get<Integer>("IntegerValue", number.Make("-" + beyond).Get()) ==
-              std::numeric_limits<Integer>::min());
-    }
-}
-
-TEST_CASE("Results of the type Integer fill the word") {
-    LoadedPlugin plugin;
-    for (NumberClass& number : plugin.classes()) {
-        const HeldObject one = number.Make("1");
-        const HeldObject two = number.Make("2");
-        CHECK(number.Call<Integer>("Operator_Compare(other as $) as Integer", one.Get(),
-                                   two.Get()) == -1);
-        CHECK(number.Call<Integer>("Operator_Compare(other as $) as Integer", two.Get(),
-                                   one.Get()) == 1);
-        CHECK(number.Call<Integer>("Modulate2 as Integer", one.Get()) == 1);
-        CHECK(number.Call<Integer>("Modulate2 as Integer", two.Get()) == 0);
-        CHECK(number.Get<Integer>("DataFlags", number.Make("-1").Get()) == 128);
-    }
-}
-
-TEST_CASE("DataFlags takes the low byte of whatever the Integer is") {
-    LoadedPlugin plugin;
-    for (NumberClass& number : plugin.classes()) {
-        const HeldObject object = number.Make("1");
-        number.Set("DataFlags", object.Get(), static_cast<Integer>(0x7ABBCCDD'11223380LL));
-        CHECK(number.Get<Integer>("DataFlags", object.Get()) == 128);
-        number.Set("DataFlags", object.Get(), Integer{-256});
-        CHECK(number.Get<Integer>("DataFlags", object.Get()) == 0);
-    }
-}
-
-TEST_CASE("Within 32 bits a product with an Integer is the same on every host") {
-    LoadedPlugin plugin;
-    for (NumberClass& number : plugin.classes()) {
-        const HeldObject third = number.Make("-0.125");
-        for (const Integer factor :
-             {Integer{INT32_MIN}, Integer{-1}, Integer{3}, Integer{INT32_MAX}}) {
-            const auto product = number.Call<HeldObject>(MultiplyByInteger, third.Get(), factor);
-            const auto expected = number.Call<HeldObject>(
-                "Multiply(other as $, round as boolean = true) as $", third.Get(),
-                number.Make(std::to_string(factor)).Get(), true);
-            CHECK(number.ValueBytes(product.Get()) == number.ValueBytes(expected.Get()));
-        }
-    }
-}
-
-#if !HOST_INTERFACE_32_BIT
 constexpr const char* GetStringValue =
     "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer "
     "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String";
-
-namespace {
-
-#if !HOST_INTERFACE_32_BIT
-
-#endif
+constexpr const char* MultiplyByInteger = "Multiply(value as Integer) as $";
 
 std::string Raised(NumberClass& number, const std::string& name, const std::string& shown) {
     return "BigNumberErrorExceptionVQZ: " + number.Declaration(name) + " operation failed with " +
