@@ -113,12 +113,12 @@ namespace ttmath {
 
 // ttmath keeps the logarithms of the bases in variables that all threads write without any order.
 // Here they are kept in a way that lets threads in. This holds with and without kernels.
-#define BIGNUMBER_KEEP_LOGARITHMS(E, W)                                                      \
-    template <>                                                                              \
-    inline uint Big<E, W>::ToString_LogBase(uint base, Big<E, W>& result) {                  \
-        static constinit vqz::kernels::KeptNumber<Big<E, W>> logarithms[15];                 \
-        return logarithms[base - 2].Get(                                                     \
-            result, [base](Big<E, W>& logarithm) { return logarithm.Ln(Big<E, W>(base)); }); \
+#define BIGNUMBER_KEEP_LOGARITHMS(E, W)                                          \
+    template <>                                                                  \
+    inline uint Big<E, W>::ToString_LogBase(uint base, Big<E, W>& result) {      \
+        static constinit vqz::kernels::KeptNumber<Big> logarithms[15];           \
+        return logarithms[base - 2].Get(                                         \
+            result, [base](Big& logarithm) { return logarithm.Ln(Big(base)); }); \
     }
 
 BIGNUMBER_TEXT_SIZES(BIGNUMBER_KEEP_LOGARITHMS)

@@ -14,7 +14,10 @@ public:
     // NOLINTNEXTLINE(google-explicit-constructor): it is made and used like the value
     constexpr explicit(false) Relaxed(T value) noexcept : value_(value) {}
     Relaxed(const Relaxed& other) noexcept : value_(T(other)) {}
-    Relaxed& operator=(const Relaxed& other) noexcept { return *this = T(other); }
+    Relaxed& operator=(const Relaxed& other) noexcept {
+        *this = T(other);
+        return *this;
+    }
 
     // NOLINTNEXTLINE(google-explicit-constructor)
     explicit(false) operator T() const noexcept { return value_.load(std::memory_order_relaxed); }

@@ -13,6 +13,7 @@ namespace {
 std::vector<std::int64_t> EvaluateIndices(const std::vector<ExpressionPtr>& expressions,
                                           Frame& frame) {
     std::vector<std::int64_t> indices;
+    indices.reserve(expressions.size());
     for (const auto& expression : expressions) {
         indices.push_back(expression->Evaluate(frame).Get<std::int64_t>());
     }
