@@ -159,7 +159,7 @@ public:
         return Named(module->name + "." + member.name);
     }
     ConstantValue operator()(const syntax::Unary& unary) const {
-        const auto operand = Evaluate(*unary.operand, constants_);
+        auto operand = Evaluate(*unary.operand, constants_);
         const auto* flag = std::get_if<bool>(&operand);
         if (unary.operation == UnaryOperator::Not) {
             return flag == nullptr ? throw ProgramError(at_, "\"Not\" takes a Boolean here")

@@ -29,7 +29,7 @@ void ErrorList::ThrowIfAny() const {
     auto first = sorted.front();
     sorted.erase(sorted.begin());
     first.SetFurther(std::move(sorted));
-    throw first;
+    throw ProgramError(std::move(first));
 }
 
 }  // namespace standin::language

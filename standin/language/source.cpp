@@ -60,18 +60,18 @@ void ProgramError::SetFurther(std::vector<ProgramError> errors) {
     further_ = std::make_shared<const std::vector<ProgramError>>(std::move(errors));
 }
 
-Source::Source(std::string name, std::string text) {
-    Add(std::move(name), std::move(text));
+Source::Source(const std::string& name, const std::string& text) {
+    Add(name, text);
 }
 
-const Source::File& Source::Add(std::string name, std::string text) {
+const Source::File& Source::Add(const std::string& name, const std::string& text) {
     if (!files_.empty()) {
         text_ += '\n';
     }
     const bool hasMark = text.starts_with(ByteOrderMark);
     const auto start = text_.size();
     text_ += std::string_view(text).substr(hasMark ? ByteOrderMark.size() : 0);
-    return files_.emplace_back(std::move(name), start, text_.size());
+    return files_.emplace_back(name, start, text_.size());
 }
 
 const Source::File& Source::FileAt(Position position) const {

@@ -62,10 +62,10 @@ public:
     };
 
     /// Takes UTF-8 text; a byte-order mark at its beginning is dropped.
-    Source(std::string name, std::string text);
+    Source(const std::string& name, const std::string& text);
 
     /// Adds another file of the program and returns where it stands.
-    const File& Add(std::string name, std::string text);
+    const File& Add(const std::string& name, const std::string& text);
 
     /// The name of the first file.
     const std::string& name() const { return files_.front().name; }
