@@ -71,7 +71,8 @@ const Source::File& Source::Add(const std::string& name, const std::string& text
     const bool hasMark = text.starts_with(ByteOrderMark);
     const auto start = text_.size();
     text_ += std::string_view(text).substr(hasMark ? ByteOrderMark.size() : 0);
-    return files_.emplace_back(name, start, text_.size());
+    files_.push_back({.name = name, .start = start, .end = text_.size()});
+    return files_.back();
 }
 
 const Source::File& Source::FileAt(Position position) const {

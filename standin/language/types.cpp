@@ -91,6 +91,7 @@ std::optional<Kind> FindKind(std::string_view name) {
 
 std::vector<std::string_view> KindNames() {
     std::vector<std::string_view> names;
+    names.reserve(NamesOfKinds.size());
     for (const auto& row : NamesOfKinds) {
         names.push_back(row.name);
     }
