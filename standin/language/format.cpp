@@ -41,7 +41,7 @@ std::string_view Section(std::string_view pattern, double value) {
     if (value < 0 && sections.size() > 1) {
         return sections[1];
     }
-    return value == 0 && sections.size() > 2 ? sections[2] : sections[0];
+    return std::fpclassify(value) == FP_ZERO && sections.size() > 2 ? sections[2] : sections[0];
 }
 
 bool IsExponent(std::string_view rest) {
@@ -150,7 +150,9 @@ std::string FormatNumber(double value, std::string_view pattern) {
     double magnitude = std::abs(value) * (form.isPercent ? 100.0 : 1.0);
     std::string exponent;
     if (form.exponentDigits > 0) {
-        int power = magnitude == 0 ? 0 : static_cast<int>(std::floor(std::log10(magnitude)));
+        int power = std::fpclassify(magnitude) == FP_ZERO
+                        ? 0
+                        : static_cast<int>(std::floor(std::log10(magnitude)));
         double scaled = magnitude / std::pow(10.0, power);
         // Rounding may lead to one digit more.
         const double half = 0.5 / std::pow(10.0, form.decimals);
