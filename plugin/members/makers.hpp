@@ -28,7 +28,8 @@ Print BigNumberVQZ.LibTypeStr)"},
             NumberWith<Value, "NumberWithInteger", Integer>(),
             {.section = Section::Making,
              .summary = "The number of an Integer.",
-             .details = "An Integer has 32 bits here.",
+             .details = "An Integer has 64 bits in a 64-bit application and 32 bits in a "
+                        "32-bit one.",
              .example = R"(
 Dim value As Integer = -42
 Print BigNumberVQZ.NumberWithInteger(value))"}},
@@ -114,8 +115,8 @@ auto NumberMakerWithUInteger() {
             NumberWith<Value, "NumberWithUInteger", UInteger>(),
             {.section = Section::Making,
              .summary = "The number of a UInteger.",
-             .details =
-                 "A UInteger has 32 bits here. Hosts older than 2015 do not show this method.",
+             .details = "A UInteger has 64 bits in a 64-bit application and 32 bits in a 32-bit "
+                        "one. Hosts older than 2015 do not show this method.",
              .example = R"(
 Dim value As UInteger = 4294967295
 Print BigNumberVQZ.NumberWithUInteger(value))"}},

@@ -64,9 +64,10 @@ Print Str((pages / "7").IsInteger))"}},
             .setter = SetProperty<Value, "SetIntegerValue", Integer>(),
             .help = {.section = Section::HostValues,
                      .summary = "The number as an Integer, its fraction cut off.",
-                     .details = "An Integer has 32 bits here. NaN and Nil give 0. Setting it never "
-                                "fails.",
-                     .range = "-2147483648 to 2147483647",
+                     .details = "An Integer has 64 bits in a 64-bit application and 32 bits in a "
+                                "32-bit one. NaN and Nil give 0. Setting it never fails.",
+                     .range = "those of Int64 in a 64-bit application, those of Int32 in a 32-bit "
+                              "one",
                      .fails = "numbers outside of that range and for numbers between -1 and 0, "
                               "which give 0",
                      .example = R"(

@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "standin/language/operations.hpp"
 #include "standin/language/text.hpp"
 
 namespace standin::language {
@@ -30,23 +31,6 @@ std::optional<double> NumberOf(const ConstantValue& value) {
 
 [[noreturn]] void Fail(Position at) {
     throw ProgramError(at, "only constants can stand here");
-}
-
-bool Holds(BinaryOperator comparison, std::partial_ordering order) {
-    switch (comparison) {
-        case BinaryOperator::Equal:
-            return order == 0;
-        case BinaryOperator::NotEqual:
-            return order != 0;
-        case BinaryOperator::Less:
-            return order < 0;
-        case BinaryOperator::LessEqual:
-            return order <= 0;
-        case BinaryOperator::Greater:
-            return order > 0;
-        default:
-            return order >= 0;
-    }
 }
 
 bool IsComparison(BinaryOperator operation) {
@@ -126,7 +110,7 @@ std::optional<ConstantValue> Apply(BinaryOperator operation, const ConstantValue
         return std::nullopt;
     }
     if (IsComparison(operation)) {
-        return Holds(operation, *leftNumber <=> *rightNumber);
+        return Fulfils(*leftNumber <=> *rightNumber, operation);
     }
     const auto* leftWhole = std::get_if<std::int64_t>(&left);
     const auto* rightWhole = std::get_if<std::int64_t>(&right);

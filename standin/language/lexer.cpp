@@ -130,20 +130,6 @@ constexpr bool IsBlank(char character) {
     return character == ' ' || character == '\t';
 }
 
-/// The number base of `&h`, `&b` and `&o` literals.
-constexpr std::optional<int> BaseOfPrefix(char letter) {
-    switch (FoldCase(letter)) {
-        case 'h':
-            return 16;
-        case 'b':
-            return 2;
-        case 'o':
-            return 8;
-        default:
-            return std::nullopt;
-    }
-}
-
 class Lexer {
 public:
     Lexer(std::string_view text, Position start) : text_(text), start_(start) {}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,20 @@ struct NameLess {
 /// The text in double quotes, as messages show what the user wrote.
 inline std::string Quoted(std::string_view text) {
     return '"' + std::string(text) + '"';
+}
+
+/// The base of a number whose prefix is `&` and this letter, such as &hFF.
+constexpr std::optional<int> BaseOfPrefix(char letter) {
+    switch (FoldCase(letter)) {
+        case 'h':
+            return 16;
+        case 'b':
+            return 2;
+        case 'o':
+            return 8;
+        default:
+            return std::nullopt;
+    }
 }
 
 }  // namespace standin::language

@@ -62,19 +62,7 @@ std::string Shortest(Real value) {
 
 /// The number base that `&h`, `&b` or `&o` announces.
 std::optional<int> PrefixBase(std::string_view text) {
-    if (text.size() < 2 || text[0] != '&') {
-        return std::nullopt;
-    }
-    switch (FoldCase(text[1])) {
-        case 'h':
-            return 16;
-        case 'b':
-            return 2;
-        case 'o':
-            return 8;
-        default:
-            return std::nullopt;
-    }
+    return text.size() < 2 || text[0] != '&' ? std::nullopt : BaseOfPrefix(text[1]);
 }
 
 constexpr bool IsDigit(char character) {
