@@ -57,7 +57,7 @@ void* LoadedMethod(const char* module, const char* declaration) {
 int integersRead = 0;
 
 host_interface::BooleanWord CountedInteger(host_interface::Object object, const char* property,
-                                           std::int32_t* value) {
+                                           host_interface::Integer* value) {
     ++integersRead;
     CHECK(std::string_view(property) == "Type");
     static const auto original = reinterpret_cast<functions::REALGetPropValueInteger*>(
