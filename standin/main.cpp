@@ -35,7 +35,7 @@ Source ReadSource(const CommandLine& line) {
     if (!text) {
         throw UsageError("cannot read the program " + *line.file);
     }
-    return {*line.file, std::move(*text)};
+    return {*line.file, *text};
 }
 
 void SendDebugLog(Host& host, bool shows) {

@@ -42,7 +42,7 @@ SMALLER, BIGGER = "BigNumberVQZ", "BiggerNumberVQZ"
 AT_32_BITS_ONLY = re.compile(r"^' At 32 bits only\b", re.MULTILINE)
 RUN_AT_32_BITS = "32-bit:"
 IN_BOTH_PRECISIONS = re.compile(r"^' In both precisions\b", re.MULTILINE)
-LOGGED_ADDRESS = re.compile(r"(?m)^(VQZ Debug: \w+) (?:0x[0-9a-f]+|[0-9A-F]{8}|\(nil\)|0): ")
+LOGGED_ADDRESS = re.compile(r"(?m)^(VQZ Debug: \w+) (?:(?:0x)?[0-9A-Fa-f]+|\(nil\)): ")
 SETTING = re.compile(r"\w+=.*", re.DOTALL)
 
 

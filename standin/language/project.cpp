@@ -123,13 +123,13 @@ private:
             }
             return;
         }
-        auto name = PathBeside(source_.name(), item.path);
-        auto text = read_(name);
+        const auto name = PathBeside(source_.name(), item.path);
+        const auto text = read_(name);
         if (!text) {
             throw ProgramError(item.at,
                                "cannot read the file " + name + " of " + Quoted(item.name));
         }
-        source_.Add(std::move(name), std::move(*text));
+        source_.Add(name, *text);
     }
 
     Source& source_;

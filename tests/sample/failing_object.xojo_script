@@ -4,4 +4,4 @@ Try
 Catch e As OutOfMemoryException
   Print e.Message
 End Try
-Print s.Value
+Print Str(s.Value)

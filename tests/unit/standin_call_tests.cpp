@@ -44,9 +44,9 @@ std::string& Received() {
 
 // Four parameters of a kind each, and how they are shown.
 #define TAKES_FOUR(k) double real##k, std::uint32_t word##k, float single##k, std::uint32_t flag##k
-#define SHOWN_FOUR(k)                                                       \
-    " | " + std::to_string(real##k) + " " + std::to_string(word##k) + " " + \
-        std::to_string(single##k) + " " + std::to_string(flag##k & 0xFFU)
+#define SHOWN_FOUR(k)                                                        \
+    (" | " + std::to_string(real##k) + " " + std::to_string(word##k) + " " + \
+     std::to_string(single##k) + " " + std::to_string(flag##k & 0xFFU))
 
 extern "C" {
 std::uint32_t WeighedSum(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d,

@@ -257,10 +257,11 @@ TEST_CASE("A block whose size is below 0 counts as one of size 0 and changes not
             const std::string size = std::to_string(plugin.host().BlockBytes(block.Get()).size());
             number.Set(part, object.Get(), block.Get());
             CHECK(number.ValueBytes(object.Get()) == before);
-            CHECK(TakeRaised(plugin.host()) ==
-                  "OutOfBoundsException: The parameter MemoryBlock.Size to method DataMantissa is "
-                  "too small. Range is " +
-                      size + " to " + size + ", but value is 0.");
+            std::string expected =
+                "OutOfBoundsException: The parameter MemoryBlock.Size to method DataMantissa is "
+                "too small. Range is ";
+            expected.append(size).append(" to ").append(size).append(", but value is 0.");
+            CHECK(TakeRaised(plugin.host()) == expected);
         }
     }
 }

@@ -13,9 +13,9 @@ LookupCounts lookups;
 
 }  // namespace
 
-std::string Shown(const LookupCounts& lookups) {
+std::string Shown(const LookupCounts& counts) {
     std::string list;
-    for (const auto& [name, count] : lookups) {
+    for (const auto& [name, count] : counts) {
         list += (list.empty() ? "" : ", ") + name + " " + std::to_string(count);
     }
     return list;

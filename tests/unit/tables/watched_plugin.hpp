@@ -28,7 +28,7 @@ Replacement Replace(const char* name, HostFunction* function) {
 using LookupCounts = std::map<std::string, int, std::less<>>;
 
 /// As a text: "REALLockString 1, RuntimeAddString 2".
-std::string Shown(const LookupCounts& lookups);
+std::string Shown(const LookupCounts& counts);
 
 /// The library in a host that watches what it looks up. There is one at a time.
 class WatchedPlugin : private LoadedPlugin {

@@ -10,27 +10,19 @@
 
 namespace {
 
-namespace functions = host_interface::functions;
 using host_interface::BooleanWord;
-using host_interface::HostTextEncoding;
 using host_interface::Integer;
 using host_interface::Object;
 using host_interface::String;
-using host_interface::StringData;
 using host_interface::UInteger;
 using tests::HeldObject;
 using tests::HeldString;
 using tests::LoadedPlugin;
 using tests::NumberClass;
-using tests::Replace;
 using tests::TakeRaised;
-using tests::WatchedPlugin;
 
 constexpr bool IsWide = sizeof(Integer) == 8;
 
-constexpr const char* GetStringValue =
-    "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer "
-    "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String";
 constexpr const char* MultiplyByInteger = "Multiply(value as Integer) as $";
 
 std::string Raised(NumberClass& number, const std::string& name, const std::string& shown) {
@@ -123,6 +115,16 @@ TEST_CASE("Within 32 bits a product with an Integer is the same on every host") 
 #if !HOST_INTERFACE_32_BIT
 
 namespace {
+
+namespace functions = host_interface::functions;
+using host_interface::HostTextEncoding;
+using host_interface::StringData;
+using tests::Replace;
+using tests::WatchedPlugin;
+
+constexpr const char* GetStringValue =
+    "GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer "
+    "= 15, round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String";
 
 /// The number as text in base 10 with these options; "null" for no text.
 std::string Formatted(NumberClass& number, LoadedPlugin& plugin, Object self,
