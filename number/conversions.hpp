@@ -135,8 +135,9 @@ NamedRoutine NumberWithText() {
 // ---------------------------------------------------------------------------------------------
 // To host values
 
-/// Converts with the fraction cut off; false when the value does not fit. A negative value must
-/// give a result with the sign bit: -0.4 does not fit, and no negative value fits without a sign.
+/// Converts with the fraction cut off; false when the value does not fit. ttmath counts a negative
+/// value as fitting only when the result is negative too: -0.4, which would become 0, does not fit,
+/// and neither does any negative value where the type has no sign.
 template <std::integral Host, typename Value>
 bool NumberTo(const Value& value, Host& result) {
     constexpr ttmath::uint Size = TTMATH_BITS(8 * sizeof(Host));

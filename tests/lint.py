@@ -15,6 +15,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -22,6 +23,8 @@ FOLDERS = ["bench", "help", "host", "interface", "number", "platform", "plugin",
 DELIVERED = ["host", "interface", "number", "platform", "plugin"]
 # clang-tidy finds the style file and the flags by itself; what GCC knows and Clang does not, passes.
 TIDY = ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option"]
+# Each file has to include what it uses, and GCC's precompiled headers are none of Clang's.
+PRECOMPILED = re.compile(r" -Winvalid-pch| -include \S*cmake_pch\.hxx")
 
 
 def sources(root: pathlib.Path, pattern: str) -> list[pathlib.Path]:
@@ -66,9 +69,14 @@ class Tidy:
 
     def __init__(self, root: pathlib.Path, build: pathlib.Path):
         self.root = root
-        self.build = build
         self.notes = build / "tidy"
         self.notes.mkdir(exist_ok=True)
+        self.entries = [
+            {**entry, "command": PRECOMPILED.sub("", entry["command"])}
+            for entry in json.loads((build / "compile_commands.json").read_text())
+            if build not in pathlib.Path(entry["file"]).parents
+        ]
+        (self.notes / "compile_commands.json").write_text(json.dumps(self.entries))
         headers = sources(root, "*.hpp")
         version = subprocess.run([*TIDY, "--version"], capture_output=True, check=True).stdout
         self.shared = [version, (root / ".clang-tidy").read_bytes(), *map(pathlib.Path.read_bytes, headers)]
@@ -82,7 +90,7 @@ class Tidy:
         is_delivered = any((self.root / folder) in source.parents for folder in DELIVERED)
         checks = [] if is_delivered else ["--checks=-clang-analyzer-*"]
         result = subprocess.run(
-            [*TIDY, *checks, "-p", str(self.build), str(source)], capture_output=True, text=True, check=False
+            [*TIDY, *checks, "-p", str(self.notes), str(source)], capture_output=True, text=True, check=False
         )
         if result.returncode == 0:
             note.touch()
@@ -92,10 +100,9 @@ class Tidy:
 
 
 def check_tidy(root: pathlib.Path, build: pathlib.Path) -> bool:
-    entries = json.loads((build / "compile_commands.json").read_text())
-    # A file that is compiled in several ways is looked at in one of them.
-    by_file = {entry["file"]: entry for entry in entries}
     tidy = Tidy(root, build)
+    # A file that is compiled in several ways is looked at in one of them.
+    by_file = {entry["file"]: entry for entry in tidy.entries}
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         return all(list(pool.map(tidy.is_clean, by_file.values())))
 

@@ -48,6 +48,8 @@ template <ttmath::uint E, ttmath::uint W>
 Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
                 const ttmath::Big<E, W>& smaller, bool round) {
     constexpr Word Bits = W * WordBits;
+    // By so many bits `smaller` moves to the right. From `Bits` on nothing of its mantissa is left
+    // in the result; at exactly `Bits` its highest bit still decides about rounding.
     const Word distance = ExponentDistance<E, W>(greater.exponent, smaller.exponent);
     const bool isSum = greater.IsSign() == smaller.IsSign();
     Remains remains{.firstBit = false, .othersZero = true};
@@ -78,6 +80,8 @@ Word AddOrdered(ttmath::Big<E, W>& me, const ttmath::Big<E, W>& greater,
         me.mantissa.Rcr(1, 1);
         carry += me.exponent.AddOne();
     }
+    // As ttmath does: a half or more that was shifted out changes the last bit; exactly half does
+    // so only where that bit is set.
     const bool isRounded = round && remains.firstBit;
     if (isRounded && (!remains.othersZero || me.mantissa.IsTheLowestBitSet())) {
         if (!isSum) {

@@ -117,16 +117,18 @@ private:
     }
 };
 
-/// Adds up columns, the highest first, into words that end before `wordsEnd`. Returns the carry out
-/// of the highest column.
+/// Turns columns of limbs into words. `columns` holds the most significant one first; column k from
+/// the end counts 2^(28 k). The words end before `wordsEnd`. Returns the carry out of the most
+/// significant column.
 ///
-/// With `AreSums` false, a column is at most 2^35 + 2^28, so that two of them and a carry fit in a
-/// lane. With `AreSums` true, a column is below 2^63; the first one must be 0, and so must be the
-/// one behind the last group, which is read too. Each of them then keeps its low 28 bits and hands
-/// the others to the column above, after which it is at most 2^35 + 2^28 as well.
+/// Without `AreSums`, a column must be at most 2^35 + 2^28: then two columns and a carry fit in a
+/// lane of 64 bits. With `AreSums`, columns are sums of products below 2^63. They are made small
+/// first: each keeps its low 28 bits and gets the upper bits of the column below it. The first
+/// column must be 0, as its upper bits would have nowhere to go; so must be the column behind the
+/// last group, which is read too.
 ///
-/// Two columns are written at a time as 8 bytes, of which they fill 7; the next two overwrite the
-/// eighth.
+/// A step joins two columns to 56 bits and stores them as 8 bytes; the next step, for the two
+/// columns above, overwrites the eighth byte.
 template <bool AreSums>
 inline DoubleWord JoinColumns(const DoubleWord* columns, int groups, Word* wordsEnd) {
     using Vector = Pair::Vector;

@@ -13,12 +13,12 @@
 //
 // How far such a term may be off, in units:
 //
-// - The plain sum rounds at most three numbers on the way from one term to the next, all of them
-//   products, by 2^-32W of their size each; and three to make a term of them, of which a quotient,
-//   whose remainder ttmath drops, counts twice. A term before MaxTerms < 2^11 differs from the
-//   exact one by less than (3 * 2^11 + 4) * 2^-32W < 2^13 * 2^-32W of its size. The tail's terms
-//   are below 2^(32W - 41) units, which leaves 2^-28. The term that the tail starts from is taken
-//   over from the plain sum and hands on as much: 2^-27 together.
+// - ttmath rounds too. It gets from one term to the next with at most three products, each with a
+//   relative error of 2^-32W, and makes a term of these with at most four such errors: two from
+//   products, and two from one quotient, whose remainder it drops. There are fewer than MaxTerms <
+//   2^11 terms, so that each is off by less than (3 * 2^11 + 4) * 2^-32W < 2^13 * 2^-32W of its
+//   size. The tail's terms are below 2^(32W - 41) units: an error below 2^-28. The tail's first
+//   term comes from ttmath's sum and brings the same error with it: 2^-27 together.
 // - Factors are cut off where a term's lowest limb ends, and so are the first term and products.
 //   With n < 2^7 limbs and factor limbs below 2.86 * 2^28 the highest column that is neglected is
 //   less than n * 2.87 * 2^56 < 2^65, and it counts 2^-28 of the lowest limb, which counts 2^-84:
