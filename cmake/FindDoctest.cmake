@@ -16,4 +16,7 @@ if(Doctest_FOUND AND NOT TARGET doctest_headers)
   header_only_library(doctest_headers "${DOCTEST_INCLUDE_DIR}" doctest)
   # The tests run on one thread, and the cross compiler's thread model has no mutexes.
   target_compile_definitions(doctest_headers INTERFACE DOCTEST_CONFIG_NO_MULTITHREADING)
+  # An exception in an assertion ends the test case instead of that assertion alone: these compile in
+  # two thirds of the time.
+  target_compile_definitions(doctest_headers INTERFACE DOCTEST_CONFIG_SUPER_FAST_ASSERTS)
 endif()

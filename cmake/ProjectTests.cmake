@@ -64,7 +64,7 @@ function(add_unit_tests target)
   add_executable(${target} ${arg_SOURCES})
   target_link_libraries(${target}
     PRIVATE ${arg_LIBRARIES} unit_test_main doctest_headers project_options self_contained)
-  build_quickly(${target})
+  build_quickly(${target} HEADERS <doctest/doctest.h>)
   add_project_test(NAME unit/${target} COMMAND ${target})
 endfunction()
 
