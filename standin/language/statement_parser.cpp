@@ -88,7 +88,8 @@ void StatementParser::ParseInto(syntax::Block& block) {
 
 void StatementParser::Recover(std::size_t start) {
     // What the line declares is not known now.
-    for (auto mark = start; mark <= cursor_.EndOfLine(start); ++mark) {
+    const auto end = cursor_.EndOfLine(start);
+    for (auto mark = start; mark <= end; ++mark) {
         if (cursor_.TokenAt(mark).kind == TokenKind::Name) {
             errors_.Doubt(cursor_.TokenAt(mark).text);
         }

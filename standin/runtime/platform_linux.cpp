@@ -14,8 +14,7 @@
 
 #if STANDIN_ADDRESS_SANITIZER
 /// Of the sanitizer's own runtime, whose header GCC's packages leave out.
-extern "C" std::size_t
-__sanitizer_get_current_allocated_bytes();  // NOLINT(bugprone-reserved-identifier)
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace standin::platform {

@@ -16,7 +16,7 @@ std::size_t failingSize = NoSize;
 // The linker leads the calls of vqz::platform::AllocateZeroed and FreeBuffer to the functions named
 // __wrap_… and keeps the originals as __real_… The build tells the name of the first one, which
 // depends on the type of its argument.
-// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
+// NOLINTBEGIN(readability-identifier-naming)
 extern "C" {
 #define JOINED(prefix, name) prefix##name
 #define WITH_PREFIX(prefix, name) JOINED(prefix, name)
@@ -39,7 +39,7 @@ void __wrap__ZN3vqz8platform10FreeBufferEPv(void* buffer) {
     __real__ZN3vqz8platform10FreeBufferEPv(buffer);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
+// NOLINTEND(readability-identifier-naming)
 
 void* operator new(std::size_t size) {
     void* const memory = size == failingSize ? nullptr : std::malloc(size == 0 ? 1 : size);
