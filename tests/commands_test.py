@@ -279,6 +279,9 @@ class CommandsTest(unittest.TestCase):
             (["one", "two"], "more than one program: one and two"),
             (["-e", "Print 1", "two"], "more than one program: -e and two"),
             (["-i", "one"], "-i takes no program"),
+            (["one.xojo_script", "--", "two"], "\"two\" is no argument for a script"),
+            (["--", "two"], "\"two\" is no argument for a script"),
+            (["one.xojo_project", "two", "three"], "cannot read the program one.xojo_project"),
             (["missing.xojo_script"], "cannot read the program missing.xojo_script"),
         ):
             with self.subTest(words=words):
