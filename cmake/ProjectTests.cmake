@@ -81,6 +81,8 @@ set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
 function(add_program_tests folder)
   file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script"
     "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_project")
+  # The project of all examples prints what they do, and has a test of its own.
+  list(FILTER programs EXCLUDE REGEX "/examples/Examples[.]xojo_project$")
   foreach(program IN LISTS programs)
     cmake_path(GET program STEM LAST_ONLY stem)
     file(STRINGS "${program}" at_32_bits_only REGEX "^' At 32 bits only")
@@ -91,6 +93,15 @@ function(add_program_tests folder)
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" --bits ${bits}
         "${program}" -- ${standin_command})
   endforeach()
+endfunction()
+
+# add_examples_project_test()
+#
+# The project in which the environment opens the examples.
+function(add_examples_project_test)
+  add_project_test(NAME examples/Examples
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/examples_project_test.py"
+      "${PROJECT_SOURCE_DIR}/examples" -- ${standin_command})
 endfunction()
 
 # add_document_tests(document)
@@ -231,6 +242,9 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
   add_project_test(NAME lint/document_programs_test
     COMMAND Python3::Interpreter "${tests}/document_programs_test.py")
+  add_project_test(NAME lint/examples_project
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/packaging/make_examples.py" --check
+      "${PROJECT_SOURCE_DIR}/examples")
   add_project_test(NAME lint/examples_check
     COMMAND Python3::Interpreter "${tests}/examples_check.py" "${PROJECT_SOURCE_DIR}/examples")
 endfunction()
