@@ -182,7 +182,7 @@ endfunction()
 # add_package_tests()
 #
 # What is in the package, and that it comes out the same a second time, by the preset that makes it; and by
-# each target, the tour with the library that the package has for it.
+# each target, the tour with the library that the package has for it, and the release as a new user opens it.
 function(add_package_tests)
   set(package "${BIGNUMBERVQZ_PACKAGE_FOLDER}/BigNumberVQZ.xojo_plugin")
   if(TARGET xojo_plugin)
@@ -190,6 +190,12 @@ function(add_package_tests)
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_test.py"
         "${package}" "${BIGNUMBERVQZ_PACKAGE_FOLDER}" "${PROJECT_SOURCE_DIR}" "${TTMATH_INCLUDE_DIR}")
   endif()
+  add_project_test(NAME package/release TARGETS release
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/release_test.py"
+      "${BIGNUMBERVQZ_PACKAGE_FOLDER}/BigNumberVQZ-${PROJECT_VERSION}.zip" "${package}"
+      "$<TARGET_FILE:BigNumberVQZ>"
+      "${BIGNUMBERVQZ_PACKAGE_FOLDER}/windows-x86/help/index.html" "${PROJECT_SOURCE_DIR}"
+      -- ${standin_command})
   add_project_test(NAME package/tour TARGETS xojo_plugin
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_tour.py"
       "${package}" "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}" -- ${standin_command})
