@@ -248,6 +248,9 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
   add_project_test(NAME lint/document_programs_test
     COMMAND Python3::Interpreter "${tests}/document_programs_test.py")
+  add_project_test(NAME lint/speed_picture
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/help/speed.py" --check
+      "${PROJECT_SOURCE_DIR}/docs")
   add_project_test(NAME lint/examples_project
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/packaging/make_examples.py" --check
       "${PROJECT_SOURCE_DIR}/examples")
