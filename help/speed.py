@@ -93,7 +93,8 @@ def chart(results: list[dict]) -> str:
         + "".join(bar(bits, ratio, decades) for bits, ratio in found.items()) + "</td></tr>\n"
         for operation, found in ratios.items())
     return ('<figure class="chart"><figcaption>How many times as fast as plain ttmath each operation '
-            f"is. Each step of the axis is ten times the one before. {legend}</figcaption>\n"
+            "is. Each step of the axis is ten times the one before. "
+            f'<span class="legend">{legend}</span></figcaption>\n'
             f'<table style="--steps:{decades}"><thead><tr><th>Operation</th>'
             f'<td><div class="ticks">{ticks}</div></td></tr></thead>\n'
             f"<tbody>{rows}</tbody></table></figure>\n")
