@@ -6,7 +6,6 @@ turn, round after round, so that whatever else the machine does falls upon all o
 """
 import argparse
 import json
-import os
 import platform
 import statistics
 import subprocess
@@ -290,34 +289,6 @@ def report_speeds(results, names):
     return kept
 
 
-def draw(results, contender, file):
-    """A chart of the ratios to stock, as an SVG that is the same for the same figures."""
-    os.environ.setdefault("SOURCE_DATE_EPOCH", "0")
-    import matplotlib
-    matplotlib.use("svg")
-    matplotlib.rcParams["svg.hashsalt"] = "benchmark"
-    import matplotlib.pyplot as pyplot
-
-    operations = [name for name, row in results.groups.items() if row["group"] != "call"
-                  and results.ratio(2048, name, contender, "stock")]
-    figure, axes = pyplot.subplots(figsize=(8, 0.32 * len(operations) + 1.2))
-    for offset, bits, color in ((-0.2, 2048, "#1f5fa8"), (0.2, 256, "#d98b27")):
-        ratios = [results.ratio(bits, name, contender, "stock") or 0 for name in operations]
-        places = [place + offset for place in range(len(operations))]
-        bars = axes.barh(places, ratios, height=0.38, color=color, label=f"{bits} bits")
-        axes.bar_label(bars, [f"{ratio:.1f}" for ratio in ratios], padding=3, fontsize=7)
-    axes.set_xscale("log")
-    axes.set_yticks(range(len(operations)), operations)
-    axes.invert_yaxis()
-    axes.set_xlabel("times as fast as stock ttmath")
-    axes.axvline(1, color="black", linewidth=0.8)
-    axes.legend(loc="lower right")
-    for side in ("top", "right"):
-        axes.spines[side].set_visible(False)
-    figure.tight_layout()
-    figure.savefig(file, metadata={"Date": None})
-
-
 def parse_arguments():
     parser = argparse.ArgumentParser(prog="./benchmark", description=__doc__.splitlines()[0])
     parser.add_argument("--contender", action="append", nargs="+", required=True,
@@ -329,7 +300,6 @@ def parse_arguments():
                         help="milliseconds that a sample lasts at least")
     parser.add_argument("--only", nargs="*", metavar="OPERATION", help="these operations alone")
     parser.add_argument("--json", type=Path, help="write every figure to this file")
-    parser.add_argument("--svg", type=Path, help="draw the ratios to stock into this file")
     return parser.parse_args()
 
 
@@ -354,8 +324,6 @@ def main():
             f'{{"machine": {json.dumps(platform.machine())}, "results": [\n{rows}\n]}}\n')
     # A plug-in on the stock library is a call of the stock library.
     bare = "library" if any(name.startswith("library") for name in names) else "stock"
-    if arguments.svg:
-        draw(results, bare, arguments.svg)
     closing = [line for width in WIDTHS for lines in (
         call_costs(results, "plug-in" + width, bare + width),
         *(summary(results, name + width) for name in reversed(RATIOS)),

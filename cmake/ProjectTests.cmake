@@ -82,6 +82,8 @@ set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
 function(add_program_tests folder)
   file(GLOB programs CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_script"
     "${PROJECT_SOURCE_DIR}/${folder}/*.xojo_project")
+  # The project of all examples prints what they do, and has a test of its own.
+  list(FILTER programs EXCLUDE REGEX "/examples/Examples[.]xojo_project$")
   foreach(program IN LISTS programs)
     cmake_path(GET program STEM LAST_ONLY stem)
     file(STRINGS "${program}" at_32_bits_only REGEX "^' At 32 bits only")
@@ -92,6 +94,15 @@ function(add_program_tests folder)
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" --bits ${bits}
         "${program}" -- ${standin_command})
   endforeach()
+endfunction()
+
+# add_examples_project_test()
+#
+# The project in which the environment opens the examples.
+function(add_examples_project_test)
+  add_project_test(NAME examples/Examples
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/examples_project_test.py"
+      "${PROJECT_SOURCE_DIR}/examples" -- ${standin_command})
 endfunction()
 
 # add_document_tests(document)
@@ -172,7 +183,7 @@ endfunction()
 # add_package_tests()
 #
 # What is in the package, and that it comes out the same a second time, by the preset that makes it; and by
-# each target, the tour with the library that the package has for it.
+# each target, the tour with the library that the package has for it, and the release as a new user opens it.
 function(add_package_tests)
   set(package "${BIGNUMBERVQZ_PACKAGE_FOLDER}/BigNumberVQZ.xojo_plugin")
   if(TARGET xojo_plugin)
@@ -180,6 +191,12 @@ function(add_package_tests)
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_test.py"
         "${package}" "${BIGNUMBERVQZ_PACKAGE_FOLDER}" "${PROJECT_SOURCE_DIR}" "${TTMATH_INCLUDE_DIR}")
   endif()
+  add_project_test(NAME package/release TARGETS release
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/release_test.py"
+      "${BIGNUMBERVQZ_PACKAGE_FOLDER}/BigNumberVQZ-${PROJECT_VERSION}.zip" "${package}"
+      "$<TARGET_FILE:BigNumberVQZ>"
+      "${BIGNUMBERVQZ_PACKAGE_FOLDER}/windows-x86/help/index.html" "${PROJECT_SOURCE_DIR}"
+      -- ${standin_command})
   add_project_test(NAME package/tour TARGETS xojo_plugin
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/package_tour.py"
       "${package}" "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}" -- ${standin_command})
@@ -232,6 +249,12 @@ function(add_lint_tests)
     COMMAND Python3::Interpreter "${tests}/run_program_test.py")
   add_project_test(NAME lint/document_programs_test
     COMMAND Python3::Interpreter "${tests}/document_programs_test.py")
+  add_project_test(NAME lint/speed_picture
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/help/speed.py" --check
+      "${PROJECT_SOURCE_DIR}/docs")
+  add_project_test(NAME lint/examples_project
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/packaging/make_examples.py" --check
+      "${PROJECT_SOURCE_DIR}/examples")
   add_project_test(NAME lint/examples_check
     COMMAND Python3::Interpreter "${tests}/examples_check.py" "${PROJECT_SOURCE_DIR}/examples")
 endfunction()

@@ -63,7 +63,7 @@ Function Mean(values() As BigNumberVQZ) As BigNumberVQZ
   For Each value As BigNumberVQZ In values
     sum = sum + value
   Next
-  Return sum / Str(values.Count)
+  Return sum / Str(values.Ubound + 1)
 End Function
 Try
   Print Mean(Array(seven, minusTwo))

@@ -2,13 +2,13 @@
 ' are there for BiggerNumberVQZ as well, with about 616 digits instead of 77.
 
 ' The number with 40 digits after the point at the most.
-Function Short(x As BigNumberVQZ) As String
+Function Shortened(x As BigNumberVQZ) As String
   If x Is Nil Then Return "Nil"
   Return x.GetStringValue(10, False, 50, 40)
 End Function
 
 Sub Show(label As String, x As BigNumberVQZ)
-  Print label + " = " + Short(x)
+  Print label + " = " + Shortened(x)
 End Sub
 
 Dim a As BigNumberVQZ = "17.5"

@@ -8,12 +8,11 @@ Const Width = 29
 Const Height = 11
 Const Shades = " .,:;=+*%#@"
 
-Dim four As New BigNumberVQZ(4)
-
 ' The steps until z is farther than 2 from 0, or 0 when it stays for as long as we look.
 Function StepsToEscape(cx As BigNumberVQZ, cy As BigNumberVQZ, most As Integer) As Integer
   Dim x As BigNumberVQZ = cx
   Dim y As BigNumberVQZ = cy
+  Dim four As New BigNumberVQZ(4)
   For steps As Integer = 1 To most
     Dim xx As BigNumberVQZ = x * x
     Dim yy As BigNumberVQZ = y * y

@@ -33,8 +33,8 @@ Do
   guesses.Append(x.GetStringValue(10, False, 15, 610))
 Loop Until (x - previous).Abs < "1e-610"           ' as far as the 616 digits of the class go, nearly
 
-Dim root As String = guesses(guesses.LastIndex)
-For i As Integer = 0 To guesses.LastIndex - 1
+Dim root As String = guesses(guesses.Ubound)
+For i As Integer = 0 To guesses.Ubound - 1
   Print "Right digits after step " + Str(i + 1) + ": " + Str(CommonLength(guesses(i), root) - 1)
 Next
 Print "x^3 - 2x - 5 = 0 where x ="

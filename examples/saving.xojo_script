@@ -43,13 +43,14 @@ Dim numbers() As BiggerNumberVQZ = Array(BiggerNumberVQZ.One / three, -three.Sqr
     BiggerNumberVQZ.Zero, BiggerNumberVQZ.Nan, BiggerNumberVQZ.Max)
 
 ' In an application this MemoryBlock is what a BinaryStream writes to a file and reads from it.
-Dim file As New MemoryBlock(numbers.Count * RecordSize)
-For i As Integer = 0 To numbers.LastIndex
+Dim count As Integer = numbers.Ubound + 1
+Dim file As New MemoryBlock(count * RecordSize)
+For i As Integer = 0 To numbers.Ubound
   Save(numbers(i), file, i * RecordSize)
 Next
-Print Str(numbers.Count) + " numbers in " + Str(file.Size) + " bytes"
+Print Str(count) + " numbers in " + Str(file.Size) + " bytes"
 
-For i As Integer = 0 To numbers.LastIndex
+For i As Integer = 0 To numbers.Ubound
   Dim x As BiggerNumberVQZ = Load(file, i * RecordSize)
   Dim again As New MemoryBlock(RecordSize)
   Save(x, again, 0)

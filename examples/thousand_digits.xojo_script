@@ -5,7 +5,11 @@
 ' a thousand take up what is cut off on the way.
 
 Const BlockDigits = 510
-Dim base As BiggerNumberVQZ = "1e" + Str(BlockDigits)   ' a block counts from 0 to base - 1
+
+' A block counts from 0 to one less than this.
+Function BlockBase() As BiggerNumberVQZ
+  Return New BiggerNumberVQZ("1e" + Str(BlockDigits))
+End Function
 
 ' A long number: its whole part, then its blocks.
 Function LongNumber(whole As Integer) As BiggerNumberVQZ()
@@ -17,6 +21,7 @@ Function Quotient(dividend() As BiggerNumberVQZ, divisor As Integer) As BiggerNu
   Dim result() As BiggerNumberVQZ
   Dim d As New BiggerNumberVQZ(divisor)
   Dim rest As New BiggerNumberVQZ
+  Dim base As BiggerNumberVQZ = BlockBase
   For Each block As BiggerNumberVQZ In dividend
     Dim part As BiggerNumberVQZ = rest * base + block
     Dim q As BiggerNumberVQZ = part \ d
@@ -39,7 +44,7 @@ Sub AddArcTangent(sum() As BiggerNumberVQZ, factor As Integer, x As Integer)
   Dim n As Integer = 1
   While Not IsZero(power)
     Dim term() As BiggerNumberVQZ = Quotient(power, n)
-    For i As Integer = 0 To term.LastIndex
+    For i As Integer = 0 To term.Ubound
       sum(i) = If(n Mod 4 = 1, sum(i) + term(i), sum(i) - term(i))
     Next
     power = Quotient(power, x * x)
@@ -51,7 +56,8 @@ End Sub
 ' much or missing is carried over to the block before.
 Function Digits(sum() As BiggerNumberVQZ) As String
   Dim text As String
-  For i As Integer = sum.LastIndex DownTo 1
+  Dim base As BiggerNumberVQZ = BlockBase
+  For i As Integer = sum.Ubound DownTo 1
     Dim carry As BiggerNumberVQZ = (sum(i) / base).Floor
     sum(i - 1) = sum(i - 1) + carry
     Dim block As BiggerNumberVQZ = sum(i) - carry * base

@@ -13,7 +13,8 @@ import dataclasses
 import pathlib
 import re
 import sys
-import zipfile
+
+from archive import write_archive
 
 NAME = "BigNumberVQZ"
 
@@ -85,19 +86,6 @@ def ttmath_terms(header: str) -> bytes:
     sys.exit("make_package: ttmath's header carries no licence")
 
 
-def write_package(path: pathlib.Path, files: dict[str, bytes]) -> None:
-    """Writes the files in the order of their names, all of the same date and rights."""
-    unfinished = path.with_suffix(".unfinished")
-    with zipfile.ZipFile(unfinished, "w") as archive:
-        for name in sorted(files):
-            entry = zipfile.ZipInfo(f"{NAME}/{name}")
-            entry.compress_type = zipfile.ZIP_DEFLATED
-            entry.create_system = 3  # Unix, wherever it is made
-            entry.external_attr = 0o100644 << 16
-            archive.writestr(entry, files[name], compresslevel=9)
-    unfinished.replace(path)
-
-
 def main() -> None:
     parser = argparse.ArgumentParser()
     for option in ("--builds", "--ttmath", "--help-page", "--project"):
@@ -117,7 +105,7 @@ def main() -> None:
     for name in ("LICENSE", "THIRD-PARTY-NOTICES.md"):
         files[f"Licences/{name}"] = (given.project / name).read_bytes()
     files["IDE Resources/Help/index.html"] = given.help_page.read_bytes()
-    write_package(given.package, files)
+    write_archive(given.package, NAME, files)
 
 
 if __name__ == "__main__":

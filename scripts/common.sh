@@ -95,8 +95,18 @@ under_lock() {
     ) 9>"$file"
 }
 
-# announce_package: says where the package lies.
+# release_name: the name of the release, after the version's number.
+release_name() {
+    local number
+    read -r number _ <"$root/VERSION"
+    printf 'BigNumberVQZ-%s.zip\n' "$number"
+}
+
+# announce_package: says where the package lies, and the release where there is one.
 announce_package() {
+    local release
+    release="build/$(release_name)"
+    [[ ! -e $root/$release ]] || say "the release, with examples and help: $release"
     say "the package for your Plugins folder: build/BigNumberVQZ.xojo_plugin"
     touch "$root/build/announced"
 }

@@ -7,6 +7,8 @@
 #include <functional>
 #include <limits>
 
+#include "standin/language/project.hpp"
+#include "standin/language/unicode.hpp"
 #include "standin/options.hpp"
 
 namespace standin {
@@ -14,7 +16,7 @@ namespace standin {
 const std::string_view UsageText = OptionsText;
 
 const std::string_view UsageHint =
-    "usage: ./run [options] [PROGRAM | - | -e TEXT | -i]; ./run --help tells more\n";
+    "usage: ./run [options] [PROGRAM [argument...] | - | -e TEXT | -i]; ./run --help tells more\n";
 
 namespace {
 
@@ -143,12 +145,29 @@ constexpr std::size_t CountListed() {
 }
 static_assert(CountListed() == Switches.size() - 1 + Settings.size());
 
+/// A word for the application, which only a project has.
+void AddArgument(CommandLine& line, const std::string& word) {
+    if (!line.file || !language::IsProjectName(*line.file)) {
+        throw UsageError("\"" + word +
+                         "\" is no argument for a script: only a project has a Run that takes it");
+    }
+    if (language::FindInvalidUtf8(word)) {
+        throw UsageError("an argument for the project is not UTF-8");
+    }
+    line.arguments.push_back(word);
+}
+
 }  // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& words) {
     CommandLine line;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const auto& word = words[i];
+        if (word == "--") {
+            std::for_each(words.begin() + static_cast<std::ptrdiff_t>(i) + 1, words.end(),
+                          [&line](const std::string& argument) { AddArgument(line, argument); });
+            break;
+        }
         if (const auto* found = std::ranges::find(Switches, word, &Switch::name);
             found != Switches.end()) {
             found->set(line);
@@ -160,6 +179,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words) {
             setting->set(line, words[i]);
         } else if (word.size() > 1 && word.front() == '-') {
             throw UsageError("unknown option " + word);
+        } else if (line.file && language::IsProjectName(*line.file)) {
+            AddArgument(line, word);
         } else if (line.file) {
             throw UsageError("more than one program: " + *line.file + " and " + word);
         } else {

@@ -30,6 +30,8 @@ struct CommandLine {
     /// The program: a file's name, `-` for standard input, or the text itself.
     std::optional<std::string> file;
     std::optional<std::string> text;
+    /// What the application of a project is called with.
+    std::vector<std::string> arguments;
     /// A file that documents the members, for the prompt.
     std::optional<std::string> documentation;
     /// Whether the prompt marks where a line is expected, which only a person needs.

@@ -71,7 +71,7 @@ Status RunProgram(Host& host, Source& source, const language::TypeTable& types,
         if (line.file && language::IsProjectName(*line.file)) {
             language::AddProjectFiles(source, process::ReadFile);
         }
-        const language::Program program(source, types);
+        const language::Program program(source, types, line.arguments);
         SetLimits(host, line);
         return static_cast<Status>(program.Run(host, process::WriteLine, line.maximumSteps));
     } catch (const language::ProgramError& error) {

@@ -9,14 +9,16 @@
 namespace standin {
 
 inline constexpr std::string_view OptionsText =
-    R"(usage: ./run [options] [PROGRAM | - | -e TEXT | -i]
+    R"(usage: ./run [options] [PROGRAM [argument...] | - | -e TEXT | -i]
 
 Runs a program in the host's language against the plug-in library. PROGRAM is a .xojo_script file
 or a project, NAME.xojo_project; `-` reads the program from standard input; without any program
-examples/tour.xojo_script runs. The
-library is the DLL for 32-bit Windows, loaded by the stand-in host under Wine, unless --target names
-another one. What is missing is installed, fetched and built first; without --target also the package
-with the libraries of all targets.
+examples/tour.xojo_script runs. The words behind a project are the arguments of its application;
+those that begin with a dash stand behind `--`.
+
+The library is the DLL for 32-bit Windows, loaded by the stand-in host under Wine, unless --target
+names another one. What is missing is installed, fetched and built first; without --target also the
+package with the libraries of all targets, and the release.
 
   -e TEXT              the text of the program itself
   -i                   runs line by line what you type

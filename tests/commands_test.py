@@ -56,7 +56,10 @@ class CommandsTest(unittest.TestCase):
     def test_version_needs_nothing(self) -> None:
         result = self.run_command("run", "--version")
         self.assertEqual((result.returncode, result.stderr), (0, ""))
-        self.assertEqual(result.stdout, f"BigNumberVQZ {(PROJECT / 'VERSION').read_text()}")
+        version, *rest = result.stdout.splitlines(keepends=True)
+        self.assertEqual(version, f"BigNumberVQZ {(PROJECT / 'VERSION').read_text()}")
+        self.assertEqual(rest, ["(2021) is the year that the 21 stands for, not a date on which "
+                                "anything was built.\n"])
 
     def test_nothing_installed_and_no_right_to_install(self) -> None:
         result = self.run_command("run")
@@ -245,7 +248,7 @@ class CommandsTest(unittest.TestCase):
         self.assertEqual(self.noted("set-up"), ["arm64 build windows windows64 wine"])
         self.assertEqual([line.partition("/build/")[2] for line in self.noted("built")],
                          ["windows-x86_64 BigNumberVQZ", "linux-x86_64 BigNumberVQZ",
-                          "linux-arm64 BigNumberVQZ", "windows-x86 xojo_plugin standin"])
+                          "linux-arm64 BigNumberVQZ", "windows-x86 xojo_plugin release standin"])
 
     def test_a_test_of_the_package_makes_it(self) -> None:
         self.offer_tests()
@@ -279,6 +282,9 @@ class CommandsTest(unittest.TestCase):
             (["one", "two"], "more than one program: one and two"),
             (["-e", "Print 1", "two"], "more than one program: -e and two"),
             (["-i", "one"], "-i takes no program"),
+            (["one.xojo_script", "--", "two"], "\"two\" is no argument for a script"),
+            (["--", "two"], "\"two\" is no argument for a script"),
+            (["one.xojo_project", "two", "three"], "cannot read the program one.xojo_project"),
             (["missing.xojo_script"], "cannot read the program missing.xojo_script"),
         ):
             with self.subTest(words=words):

@@ -13,6 +13,12 @@ import tempfile
 import zipfile
 
 
+def libraries_like(archive: zipfile.ZipFile, library: pathlib.Path) -> list[str]:
+    """The names of the libraries in the package that have the same bytes."""
+    return [name for name in archive.namelist()
+            if "/Build Resources/" in name and archive.read(name) == library.read_bytes()]
+
+
 def main() -> None:
     separator = sys.argv.index("--")
     package, library, source = map(pathlib.Path, sys.argv[1:separator])
@@ -21,9 +27,7 @@ def main() -> None:
         sys.exit(f"the command does not load {library}")
     toured = 0
     with zipfile.ZipFile(package) as archive, tempfile.TemporaryDirectory() as folder:
-        for name in archive.namelist():
-            if "/Build Resources/" not in name or archive.read(name) != library.read_bytes():
-                continue
+        for name in libraries_like(archive, library):
             unpacked = archive.extract(name, folder)
             words = [unpacked if word == str(library) else word for word in command]
             result = subprocess.run(

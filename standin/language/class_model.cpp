@@ -77,7 +77,6 @@ constexpr std::string_view UnsupportedTypes[] = {"BinaryStream",
                                                  "Graphics",
                                                  "JSONItem",
                                                  "Mutex",
-                                                 "Pair",
                                                  "Picture",
                                                  "Ptr",
                                                  "RegEx",
@@ -169,6 +168,7 @@ TypeTable::TypeTable(const Host& host) : constants_(HostConstants(host)) {
             AddClass(*info);
         }
     }
+    AddClass(Host::Current().ProgramClass(std::string(PairClass)));
     AddClass(Host::Current().ProgramClass(std::string(DictionaryClass)));
     for (const auto* info : host.RegisteredClasses()) {
         AddClass(*info);

@@ -34,7 +34,8 @@ Value NewProgramObject::Evaluate(Frame& frame) const {
         arguments.push_back(argument.byRef ? Value::ReferenceTo(*argument.value->Storage(frame))
                                            : argument.value->Evaluate(frame));
     }
-    std::vector<Value> values;
+    Fields::Values values;
+    values.reserve(fields_.size());
     for (const auto& field : fields_) {
         values.push_back(Value::DefaultOf(field));
     }

@@ -81,7 +81,7 @@ code::Block Compiler::Compile(syntax::Program program, ErrorList& errors) {
     return CompileAll(program, errors, std::nullopt);
 }
 
-code::Block Compiler::CompileProject(syntax::Program program, const Source& source,
+code::Block Compiler::CompileProject(syntax::Program program, const std::vector<std::string>& words,
                                      ErrorList& errors) {
     const auto application = std::ranges::find(program.units, true, &syntax::Unit::isApplication);
     if (application == program.units.end()) {
@@ -99,11 +99,13 @@ code::Block Compiler::CompileProject(syntax::Program program, const Source& sour
         const Position at = application->at;
         auto run = Make(
             at, syntax::Member{Make(at, syntax::Name{application->name}), std::string(RunName)});
-        syntax::Expressions words;
-        words.push_back(Make(at, syntax::TextLiteral{source.name()}));
+        syntax::Expressions texts;
+        for (const auto& word : words) {
+            texts.push_back(Make(at, syntax::TextLiteral{word}));
+        }
         syntax::Expressions arguments;
         arguments.push_back(
-            Make(at, syntax::Call{Make(at, syntax::Name{"Array"}), std::move(words)}));
+            Make(at, syntax::Call{Make(at, syntax::Name{"Array"}), std::move(texts)}));
         auto call = Make(at, syntax::Call{std::move(run), std::move(arguments)});
         program.main.push_back(std::make_unique<syntax::Statement>(
             syntax::Statement{at, syntax::Return{std::move(call)}}));
@@ -147,7 +149,7 @@ void Compiler::CompileBody(const Pending& pending, ErrorList& errors) {
     auto places = std::vector<Position>();
     if (const auto* self = pending.surroundings.self) {
         Parameter object;
-        object.name = SelfName;
+        object.name = std::string(SelfName);
         object.type = {Kind::Instance, self};
         parameters.insert(parameters.begin(), std::move(object));
         places.push_back(pending.routine->signature.at);
@@ -192,6 +194,9 @@ void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
                 throw ProgramError(unit.at, Quoted(unit.name) + " is declared already");
             }
             callables_.units.insert(unit.name);
+            if (unit.isApplication) {
+                callables_.application = unit.name;
+            }
             if (unit.isClass) {
                 types_.Declare(unit.name, ClassModel::Origin::Program, unit.at);
             }
@@ -297,7 +302,7 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
                  .host = {},
                  .field = model.properties.size(),
                  .isPrivate = field.visibility != syntax::Visibility::Global});
-            AppendFirstValue(initialiser->body, SelfName, field.declarator);
+            AppendFirstValue(initialiser->body, std::string(SelfName), field.declarator);
         });
     }
     for (auto& routine : unit.routines) {

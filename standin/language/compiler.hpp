@@ -35,9 +35,10 @@ public:
     /// The statements of a program outside of its routines. Throws ProgramError for its errors,
     /// those that are in the list already included, and may leave declarations behind then.
     code::Block Compile(syntax::Program program, ErrorList& errors);
-    /// The same for a project: its one statement starts the application, whose result is that of
-    /// the frame.
-    code::Block CompileProject(syntax::Program program, const Source& source, ErrorList& errors);
+    /// The same for a project: its one statement starts the application with these words, the first
+    /// of which is the program's own name. The application's result is that of the frame.
+    code::Block CompileProject(syntax::Program program, const std::vector<std::string>& words,
+                               ErrorList& errors);
     /// An expression that stands alone: it is printed, if it has a value.
     code::Block CompileShown(const syntax::Expression& expression);
 

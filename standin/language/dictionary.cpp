@@ -13,6 +13,7 @@
 #include "standin/language/array_members.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/native_data.hpp"
+#include "standin/language/pair.hpp"
 #include "standin/language/text.hpp"
 
 namespace standin::language {
@@ -34,7 +35,6 @@ public:
         return found == places_.end() ? nullptr : &items_[found->second].second;
     }
     void Add(const std::string& name, const Value& key, Value value) {
-        MemoryBudget::Require(sizeof(items_.front()) * (items_.size() + 1));
         items_.emplace_back(key, std::move(value));
         places_.emplace(name, items_.size() - 1);
     }
@@ -69,7 +69,9 @@ protected:
     }
 
 private:
-    std::vector<std::pair<Value, Value>> items_;
+    using Item = std::pair<Value, Value>;
+
+    std::vector<Item, BudgetAllocator<Item>> items_;
     std::unordered_map<std::string, std::size_t> places_;
 };
 
@@ -93,12 +95,27 @@ std::string NameOfKey(const Value& key, const Machine& machine) {
     return "n" + ShortestText(host.VariantAsDouble(key.object()));
 }
 
-Value MakeDictionary(const Arguments& /*arguments*/, const Machine& machine) {
+/// A later value of a key takes the place of an earlier one.
+void Set(Entries& entries, const Value& key, const Value& value, const Machine& machine) {
+    const auto name = NameOfKey(key, machine);
+    if (auto* known = entries.Find(name)) {
+        auto old = std::exchange(*known, value);
+    } else {
+        entries.Add(name, key, value);
+    }
+}
+
+Value MakeDictionary(const Arguments& arguments, const Machine& machine) {
     Host& host = machine.host();
     const auto& info = host.ProgramClass(std::string(DictionaryClass));
     auto made = Value::Adopt(host.MakeObject(info, std::make_unique<Entries>()));
     if (made.object() == nullptr) {
         machine.Raise("OutOfMemoryException", "There is no memory for a new Dictionary.");
+    }
+    auto& entries = *static_cast<Entries*>(host.Held(made.object()));
+    for (const auto& pair : RequireArray(arguments[0], machine).items) {
+        machine.RequireObject(pair);
+        Set(entries, LeftOf(pair, machine), RightOf(pair, machine), machine);
     }
     return made;
 }
@@ -112,13 +129,7 @@ Value GetValue(const Arguments& arguments, const Machine& machine) {
 }
 
 Value SetValue(const Arguments& arguments, const Machine& machine) {
-    auto& entries = EntriesOf(arguments, machine);
-    const auto name = NameOfKey(arguments[1], machine);
-    if (auto* value = entries.Find(name)) {
-        auto old = std::exchange(*value, arguments[2]);
-    } else {
-        entries.Add(name, arguments[1], arguments[2]);
-    }
+    Set(EntriesOf(arguments, machine), arguments[1], arguments[2], machine);
     return {};
 }
 
@@ -190,7 +201,7 @@ constexpr auto Methods = std::to_array<HostMember>({
 });
 
 constexpr auto Factories = std::to_array<HostMember>({
-    {DictionaryClass, "Constructor()", MakeDictionary, nullptr},
+    {DictionaryClass, "Constructor(ParamArray entries As Pair)", MakeDictionary, nullptr},
 });
 
 }  // namespace

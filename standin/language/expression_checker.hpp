@@ -52,6 +52,8 @@ struct Callables {
     std::vector<UnitConstant> constants = {};
     /// The names of the modules and classes.
     std::set<std::string, NameLess> units = {};
+    /// The name of the class that is the application; empty in a script.
+    std::string application = {};
 };
 
 /// Where code stands: in which module or class; in a class its methods have an object.
@@ -59,10 +61,6 @@ struct Surroundings {
     std::string unit = {};
     const ClassModel* self = nullptr;
 };
-
-/// How code calls the object that it belongs to.
-inline constexpr auto SelfName = "Self";
-inline constexpr auto MeName = "Me";
 
 /// Checks the expressions that see one scope. Every function throws ProgramError at the first
 /// mistake.
@@ -80,7 +78,7 @@ public:
     Checked Check(const syntax::Expression& expression);
     /// The same, converted to a type.
     code::ExpressionPtr CheckAs(const syntax::Expression& expression, Type type);
-    /// An expression for what it does, which may answer nothing.
+    /// An expression for what it does, which may return nothing.
     Checked CheckCall(const syntax::Expression& expression);
     /// A value as text, as Print takes it.
     code::ExpressionPtr CheckAsText(const syntax::Expression& expression);
@@ -125,6 +123,7 @@ private:
     Checked CheckNode(const syntax::Unary& unary, Position at);
     Checked CheckNode(const syntax::Binary& binary, Position at);
 
+    static Checked MakeConstant(Value value, Type type, Position at);
     static Checked MakeBoolean(code::ExpressionPtr code, Position at);
     /// A whole literal is Integer; Int64 where that is too small; UInt64 where that is too small.
     static Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at);
@@ -143,6 +142,11 @@ private:
     Checked CheckNamedCall(const std::string& name, Arguments arguments, Position at);
     Checked CastTo(Checked value, Type type, Position at);
 
+    /// How an error during a call names the member that was called.
+    static std::string LabelOf(const ClassModel& model, const std::string& declaration);
+    /// The call of a plug-in's routine as code; shared members have no receiver.
+    static Checked MakeCall(std::optional<Checked> receiver, code::PluginCall call,
+                            code::NilReceiver nil, Type result, Position at);
     /// The call of a method's routine, of which there must be one.
     code::PluginCall MakePluginCall(const ClassModel& model, const Method& method,
                                     Arguments arguments, Position at);
@@ -205,7 +209,10 @@ private:
     template <typename Declared>
     const Declared* FindDeclared(const std::vector<Declared>& list, std::string_view name,
                                  std::optional<std::string_view> unit) const;
-    /// Whether an expression is the name of a module or class, and which.
+    /// The variable of that name in the routine; `Me` is the object that `Self` is.
+    const Variable* FindLocal(std::string_view name) const;
+    /// Whether an expression is the name of a module or class, and which: `Self` and `Me` are the
+    /// application in its own code.
     const std::string* FindUnit(const syntax::Expression& expression) const;
     /// Whether the object that the code belongs to has a member of that name.
     bool IsOwnMember(const std::string& name) const;

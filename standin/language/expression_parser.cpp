@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "standin/language/names.hpp"
+
 namespace standin::language {
 namespace {
 
@@ -125,7 +127,17 @@ bool IsLiteral(const syntax::Expression& expression) {
 
 ExpressionPtr ExpressionParser::ParseExpression() {
     const NestingGuard guard(depth_, cursor_.At());
-    return ParseBinary(LowestLevel);
+    auto left = ParseBinary(LowestLevel);
+    const Position at = cursor_.At();
+    if (!cursor_.TryTake(TokenKind::Colon)) {
+        return left;
+    }
+    // `a : b : c` is a Pair with a Pair on its right.
+    Expressions sides;
+    sides.push_back(std::move(left));
+    sides.push_back(ParseExpression());
+    const auto height = HeightOf(sides);
+    return Make(at, height, syntax::New{{std::string(PairClass), at}, std::move(sides)});
 }
 
 ExpressionPtr ExpressionParser::ParseBinary(int level) {

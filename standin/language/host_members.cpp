@@ -15,6 +15,7 @@
 #include "standin/language/dictionary.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/operations.hpp"
+#include "standin/language/pair.hpp"
 
 namespace standin::language {
 namespace {
@@ -295,7 +296,7 @@ std::vector<HostMember> Of(std::string_view className, std::initializer_list<Mem
 }  // namespace
 
 std::vector<HostMember> HostPropertiesOf(std::string_view className) {
-    return Of(className, {Properties, DictionaryProperties()});
+    return Of(className, {Properties, DictionaryProperties(), PairProperties()});
 }
 
 std::vector<HostMember> HostMethodsOf(std::string_view className) {
@@ -307,7 +308,7 @@ std::vector<HostMember> HostConstructorsOf(std::string_view className) {
 }
 
 std::vector<HostMember> HostFactoriesOf(std::string_view className) {
-    return Of(className, {Factories, DictionaryFactories()});
+    return Of(className, {Factories, DictionaryFactories(), PairFactories()});
 }
 
 }  // namespace standin::language

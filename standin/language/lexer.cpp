@@ -38,6 +38,7 @@ constexpr auto Punctuation = std::to_array<Spelling>({
     {")", TokenKind::CloseParenthesis},
     {",", TokenKind::Comma},
     {".", TokenKind::Dot},
+    {":", TokenKind::Colon},
 });
 
 constexpr auto ReservedWords = std::to_array<Spelling>({

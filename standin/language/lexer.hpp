@@ -41,6 +41,7 @@ enum class TokenKind : std::uint8_t {
     CloseParenthesis,
     Comma,
     Dot,
+    Colon,
     // Directives. `text` of a pragma and of a tag is the rest of the line.
     HashIf,
     HashElseIf,

@@ -27,6 +27,12 @@ struct NameLess {
     }
 };
 
+/// How code calls the object that it belongs to.
+inline constexpr std::string_view SelfName = "Self";
+inline constexpr std::string_view MeName = "Me";
+/// The class of two values with a colon between them.
+inline constexpr std::string_view PairClass = "Pair";
+
 /// The text in double quotes, as messages show what the user wrote.
 inline std::string Quoted(std::string_view text) {
     return '"' + std::string(text) + '"';

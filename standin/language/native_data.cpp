@@ -50,6 +50,10 @@ void NativeData::Bury(std::vector<Value> values) {
     graveyard = nullptr;
 }
 
+Fields::~Fields() {
+    Bury({std::make_move_iterator(values.begin()), std::make_move_iterator(values.end())});
+}
+
 /// Empty values stay behind: the object may still be used by what is released.
 void Fields::MoveTo(std::vector<Value>& list) {
     for (auto& value : values) {

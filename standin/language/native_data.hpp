@@ -33,10 +33,12 @@ private:
 /// The fields of an object.
 class Fields final : public NativeData {
 public:
-    explicit Fields(std::vector<Value> first) : values(std::move(first)) {}
-    ~Fields() override { Bury(std::move(values)); }
+    using Values = std::vector<Value, BudgetAllocator<Value>>;
 
-    std::vector<Value> values;
+    explicit Fields(Values first) : values(std::move(first)) {}
+    ~Fields() override;
+
+    Values values;
 
 protected:
     void MoveTo(std::vector<Value>& list) override;

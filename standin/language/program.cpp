@@ -1,5 +1,7 @@
 #include "standin/language/program.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 
 #include "standin/language/parser.hpp"
@@ -21,12 +23,16 @@ void RunStatements(const code::Block& statements, Frame& frame) {
     }
 }
 
-Program::Program(const Source& source, const TypeTable& types) : compiler_(types) {
+Program::Program(const Source& source, const TypeTable& types,
+                 const std::vector<std::string>& arguments)
+    : compiler_(types) {
     source.Validate();
     ErrorList errors;
     Constants constants(&types.constants());
     if (source.files().size() > 1) {
-        main_ = compiler_.CompileProject(ParseProject(source, constants, errors), source, errors);
+        std::vector<std::string> words{source.name()};
+        std::ranges::copy(arguments, std::back_inserter(words));
+        main_ = compiler_.CompileProject(ParseProject(source, constants, errors), words, errors);
     } else {
         main_ = compiler_.Compile(ParseProgram(source.text(), constants, errors), errors);
     }

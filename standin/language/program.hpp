@@ -1,6 +1,9 @@
 // A program of the host's language, from its text to its run.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
 #include "standin/language/compiler.hpp"
@@ -20,8 +23,9 @@ void RunStatements(const code::Block& statements, Frame& frame);
 class Program {
 public:
     /// Parses and checks; throws ProgramError for the errors in it. The types must outlive the
-    /// program.
-    Program(const Source& source, const TypeTable& types);
+    /// program. The arguments, in UTF-8, are for the application of a project.
+    Program(const Source& source, const TypeTable& types,
+            const std::vector<std::string>& arguments = {});
 
     /// Runs the program from its first statement and returns its exit status, which only the
     /// application of a project tells; else it is 0. Throws Thrown for an exception that nothing

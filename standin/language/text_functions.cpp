@@ -1,4 +1,4 @@
-// Functions of the language that search and take apart text. They work on UTF-8 and answer it.
+// Functions of the language that search and take apart text. They work on UTF-8 and return it.
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -34,6 +34,17 @@ template <char (*Change)(char)>
 Value ChangeCase(const Arguments& arguments, const Machine& machine) {
     auto text = Utf8Of(arguments[0], machine);
     std::ranges::transform(text, text.begin(), Change);
+    return machine.MakeText(text);
+}
+
+/// The first letter of each word is large, the others are small.
+Value MakeTitle(const Arguments& arguments, const Machine& machine) {
+    auto text = Utf8Of(arguments[0], machine);
+    bool isFirst = true;
+    for (auto& character : text) {
+        character = isFirst ? RaiseCase(character) : FoldCase(character);
+        isFirst = Blanks.find(character) != std::string_view::npos;
+    }
     return machine.MakeText(text);
 }
 
@@ -150,10 +161,12 @@ Value Replace(const Arguments& arguments, const Machine& machine) {
     return machine.MakeText(result + text.substr(copied));
 }
 
+using FieldList = std::vector<std::string_view, BudgetAllocator<std::string_view>>;
+
 /// What stands between the delimiters; each character when there is no delimiter, and nothing in an
 /// empty text.
-std::vector<std::string_view> Fields(std::string_view text, std::string_view delimiter) {
-    std::vector<std::string_view> fields;
+FieldList Fields(std::string_view text, std::string_view delimiter) {
+    FieldList fields;
     if (delimiter.empty()) {
         while (!text.empty()) {
             const auto size = OffsetBehind(text, 1);
@@ -209,6 +222,7 @@ Value NthField(const Arguments& arguments, const Machine& machine) {
 constexpr auto Functions = std::to_array<BuiltInRow>({
     {"Uppercase(text As String) As String", ChangeCase<RaiseCase>},
     {"Lowercase(text As String) As String", ChangeCase<FoldCase>},
+    {"Titlecase(text As String) As String", MakeTitle},
     {"Trim(text As String) As String", TrimText<WithoutBlanks>},
     {"LTrim(text As String) As String", TrimText<WithoutLeadingBlanks>},
     {"RTrim(text As String) As String", TrimText<WithoutTrailingBlanks>},

@@ -47,7 +47,7 @@ std::optional<Variable> ExpressionChecker::FindVariable(
     const syntax::Expression& expression) const {
     const UnitVariable* found = nullptr;
     if (const auto* name = std::get_if<syntax::Name>(&expression.node)) {
-        if (const auto* variable = scope_.Find(name->name)) {
+        if (const auto* variable = FindLocal(name->name)) {
             return *variable;
         }
         if (!IsOwnMember(name->name)) {
@@ -63,9 +63,18 @@ std::optional<Variable> ExpressionChecker::FindVariable(
 
 const std::string* ExpressionChecker::FindUnit(const syntax::Expression& expression) const {
     const auto* name = std::get_if<syntax::Name>(&expression.node);
-    const bool isUnit =
-        name != nullptr && scope_.Find(name->name) == nullptr && !IsOwnMember(name->name);
-    return isUnit ? &name->name : nullptr;
+    if (name == nullptr || FindLocal(name->name) != nullptr || IsOwnMember(name->name)) {
+        return nullptr;
+    }
+    const bool isApplication = !callables_.application.empty() &&
+                               SameName(surroundings_.unit, callables_.application) &&
+                               (SameName(name->name, SelfName) || SameName(name->name, MeName));
+    return isApplication ? &callables_.application : &name->name;
+}
+
+const Variable* ExpressionChecker::FindLocal(std::string_view name) const {
+    const auto* variable = scope_.Find(name);
+    return variable == nullptr && SameName(name, MeName) ? scope_.Find(SelfName) : variable;
 }
 
 bool ExpressionChecker::IsOwnMember(const std::string& name) const {

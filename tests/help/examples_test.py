@@ -11,6 +11,7 @@ import re
 import sys
 import tempfile
 import unittest
+from xml.etree import ElementTree
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "help"))
 
@@ -20,6 +21,7 @@ from examples import ExampleError, ExampleRunner, Kind  # noqa: E402
 from members import NUMBER_CLASS, Accessor, read_member  # noqa: E402
 from page_data import PageData, Parameter, parameters_of  # noqa: E402
 
+SVG = "{http://www.w3.org/2000/svg}"
 SQRT = {
     "declaration": "Sqrt as BigNumberVQZ",
     "isProperty": False,
@@ -153,6 +155,11 @@ class SpeedTest(unittest.TestCase):
         self.assertEqual(re.findall(r'style="width:([^"]*)"', chart), ["66.7%", "88.1%", "0.0%"])
         self.assertEqual(re.findall(r'style="left:[^"]*">([^<]*)<', chart), ["1", "10", "100", "1,000"])
         self.assertEqual(re.findall(r"<th>([^<]*)</th>", chart), ["Operation", "sin", "add"])
+        picture = speed.picture(rows)
+        texts = [text.text for text in ElementTree.fromstring(picture).iter(f"{SVG}text")]
+        self.assertEqual(texts, ["BigNumberVQZ", "BiggerNumberVQZ", "1", "10", "100", "1,000",
+                                 "sin", "100.0", "440.0", "add", "0.9"])
+        self.assertEqual(picture.count("prefers-color-scheme: dark"), 1)
 
     def test_nothing_to_compare(self) -> None:
         self.assertEqual(speed.chart([]), "")

@@ -13,6 +13,9 @@ TEST_CASE("letters and blanks") {
     CHECK(host.Show("\"[\" + Trim(\"  a b\" + Chr(9)) + LTrim(\" c \") + RTrim(\" d \") + \"]\"") ==
           "[a bc  d]");
     CHECK(host.Show("Trim(\"  \") + \"|\"") == "|");
+    CHECK(host.Show("Titlecase(\"two bIG words\") + \"|\" + Titlecase(\" 1a\")") ==
+          "Two Big Words| 1a");
+    CHECK(host.Show("Titlecase(\"\")").empty());
 }
 
 TEST_CASE("searching text") {

@@ -2,6 +2,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "standin/language/project.hpp"
 #include "tests/unit/language_support.hpp"
@@ -27,7 +28,8 @@ std::string ErrorsIn(SampleHost& sample, const std::string& text) {
 }
 
 /// What a project of these files prints, with its exit status; or the first line of its errors.
-std::string RunProject(SampleHost& sample, const std::map<std::string, std::string>& files) {
+std::string RunProject(SampleHost& sample, const std::map<std::string, std::string>& files,
+                       const std::vector<std::string>& arguments = {}) {
     Source source("folder/P.xojo_project", files.at("folder/P.xojo_project"));
     std::string output;
     try {
@@ -35,7 +37,7 @@ std::string RunProject(SampleHost& sample, const std::map<std::string, std::stri
             const auto found = files.find(name);
             return found == files.end() ? std::nullopt : std::optional(found->second);
         });
-        const Program program(source, sample.types());
+        const Program program(source, sample.types(), arguments);
         const int status = program.Run(sample.host(), [&output](std::string_view line) {
             output += std::string(line) + "\n";
         });
@@ -154,6 +156,40 @@ TEST_CASE("dictionaries") {
               .starts_with("Unhandled KeyNotFoundException"));
 }
 
+TEST_CASE("pairs") {
+    SampleHost host;
+    CHECK(host.Run("Dim p As Pair = \"a\" : 1 + 2\nPrint p.Left + Str(p.Right.IntegerValue)\n"
+                   "Dim list As Pair = 1 : 2 : 3\nPrint Pair(list.Right).Right\n"
+                   "Print New Pair(5, \"x\").Right") == "a3\n3\nx\n");
+    CHECK(host.Run("Dim p As Pair = 1 : 2\np.Left = 5").find("is read-only") != std::string::npos);
+    CHECK(host.Run("Dim p As Pair\nPrint p.Left").starts_with("Unhandled NilObjectException"));
+    CHECK(host.Run("Dim p As Pair = 1 :").starts_with("1:20: expected an expression"));
+    // Pairs of Pairs are let go of one after the other.
+    CHECK(host.Run("Dim p As Pair\nFor i As Integer = 1 To 20000\np = i : p\nNext\n"
+                   "Print Str(p.Left.IntegerValue)") == "20000\n");
+}
+
+TEST_CASE("dictionaries made of pairs") {
+    SampleHost host;
+    CHECK(host.Run("Dim d As New Dictionary(\"a\" : 1, 2 : New Sample(3), \"A\" : \"new\")\n"
+                   "Print Str(d.Count) + d.Value(\"a\") + Str(Sample(d.Value(2)).Value)") ==
+          "2new3\n");
+    CHECK(host.Run("Dim pairs() As Pair\npairs.Append 1 : 2\nDim d As New Dictionary(pairs)\n"
+                   "Print d.Value(1)") == "2\n");
+    CHECK(host.Run("Dim d As New Dictionary(1)").find("New Dictionary") != std::string::npos);
+    CHECK(host.Run("Dim p As Pair\nDim d As New Dictionary(p)")
+              .starts_with("Unhandled NilObjectException"));
+}
+
+TEST_CASE("Me is the object that Self is") {
+    SampleHost host;
+    CHECK(host.Run("Class C\nDim x As Integer\nSub Constructor(x As Integer)\nMe.x = x\nEnd Sub\n"
+                   "Function Same() As Boolean\nReturn Me Is Self\nEnd Function\nEnd Class\n"
+                   "Dim c As New C(4)\nPrint Str(c.x) + Str(c.Same)") == "4True\n");
+    CHECK(host.Run("Print Me.x").starts_with("1:7: there is nothing named \"Me\""));
+    CHECK(host.Run("Dim me As Integer = 3\nPrint Str(Me)") == "3\n");
+}
+
 TEST_CASE("memory blocks take text and both orders of bytes") {
     SampleHost host;
     CHECK(host.Run(
@@ -244,4 +280,20 @@ TEST_CASE("projects run from the application's Run") {
               .find("inherits from ConsoleApplication") != std::string::npos);
     CHECK(RunProject(host, {{"folder/P.xojo_project", "Class=A;A;&h1;&h0;false"}})
               .find("begins with its type") != std::string::npos);
+}
+
+TEST_CASE("the application gets its arguments, and is Self and Me to its own code") {
+    SampleHost host;
+    const std::string app =
+        "Class App\nInherits ConsoleApplication\nDim seen As Integer\n"
+        "Function Run(args() As String) As Integer\nMe.seen = args.Ubound\n"
+        "Print Join(args, \",\") + Self.Mark\nReturn App.seen\nEnd Function\n"
+        "Function Mark() As String\nReturn \"!\"\nEnd Function\nEnd Class\n";
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}},
+                     {"a \"b\"", "", "ä"}) == "folder/P.xojo_project,a \"b\",,ä!\n3");
+    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
+                            {"folder/App.xojo_code", app + "Module M\nFunction F() As Integer\n"
+                                                           "Return Self.seen\nEnd Function\n"
+                                                           "End Module\n"}})
+              .find("there is nothing named \"Self\"") != std::string::npos);
 }

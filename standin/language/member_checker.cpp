@@ -1,0 +1,239 @@
+// The members of the expression checker: what stands behind a dot, read or called.
+#include <algorithm>
+#include <utility>
+
+#include "standin/language/array_members.hpp"
+#include "standin/language/code_units.hpp"
+#include "standin/language/expression_checker.hpp"
+#include "standin/language/suggestions.hpp"
+
+namespace standin::language {
+
+std::string ExpressionChecker::LabelOf(const ClassModel& model, const std::string& declaration) {
+    return model.name() + "." + declaration;
+}
+
+Checked ExpressionChecker::MakeCall(std::optional<Checked> receiver, code::PluginCall call,
+                                    code::NilReceiver nil, Type result, Position at) {
+    if (!receiver) {
+        return {std::make_unique<code::SharedCall>(std::move(call)), result, at, {}, false};
+    }
+    return {std::make_unique<code::InstanceCall>(std::move(receiver->code), std::move(call), nil),
+            result,
+            at,
+            {},
+            false};
+}
+
+Checked ExpressionChecker::CheckNode(const syntax::Member& member, Position at) {
+    const auto* module = std::get_if<syntax::Name>(&member.object->node);
+    if (module != nullptr && SameName(module->name, EncodingsModule) &&
+        scope_.Find(module->name) == nullptr) {
+        const auto encoding = FindEncoding(member.name);
+        if (!encoding) {
+            throw ProgramError(at, "there is no encoding " + Quoted(member.name));
+        }
+        return MakeConstant(Value::Of(static_cast<std::uint32_t>(*encoding)), {Kind::TextEncoding},
+                            at);
+    }
+    if (const auto* unit = FindUnit(*member.object)) {
+        if (auto value = TryUnitValue(*unit, member.name, at)) {
+            return std::move(*value);
+        }
+    }
+    return CheckMember(CheckReceiver(*member.object), member.name, at);
+}
+
+ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expression& expression) {
+    const auto* name = std::get_if<syntax::Name>(&expression.node);
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    if (name != nullptr && scope_.Find(name->name) == nullptr) {
+        if (const auto* model = types_.FindClass(name->name)) {
+            return {std::nullopt, model};
+        }
+        if (callables_.units.contains(name->name)) {
+            throw ProgramError(expression.at, "the module " + Quoted(name->name) +
+                                                  " has no such member that is seen here");
+        }
+    }
+    // An Enum may bear the name of its module before it.
+    if (member != nullptr && FindUnit(*member->object) != nullptr) {
+        const auto* model = types_.FindClass(member->name);
+        if (model != nullptr && model->origin() == ClassModel::Origin::Enumeration) {
+            return {std::nullopt, model};
+        }
+    }
+    auto value = Check(expression);
+    // Values that are no objects have methods, but no class.
+    const ClassModel* model = nullptr;
+    if (IsHandle(value.type.kind)) {
+        model = types_.FindClass(NameOf(value.type));
+    }
+    return {std::move(value), model};
+}
+
+/// A name after a dot without arguments: a property first, else a method.
+Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& name, Position at) {
+    if (receiver.model != nullptr && !receiver.value) {
+        const auto& items = receiver.model->items;
+        const auto item = std::ranges::find_if(
+            items, [&name](const auto& candidate) { return SameName(candidate.name, name); });
+        if (item != items.end()) {
+            return MakeConstant(Value::Of(item->value), {Kind::Enumeration, receiver.model}, at);
+        }
+    }
+    if (receiver.model == nullptr) {
+        return CheckValueMember(std::move(*receiver.value), name, {}, at);
+    }
+    if (receiver.value) {
+        if (const auto* property = receiver.model->FindProperty(name)) {
+            return ReadProperty(std::move(receiver), *property, false, at);
+        }
+    }
+    if (const auto* property = receiver.model->FindSharedProperty(name)) {
+        return ReadProperty(std::move(receiver), *property, true, at);
+    }
+    return CheckMemberCall(std::move(receiver), name, {}, at);
+}
+
+Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string& name,
+                                           Arguments arguments, Position at) {
+    if (receiver.model == nullptr) {
+        return CheckValueMember(std::move(*receiver.value), name, std::move(arguments), at);
+    }
+    const auto& model = *receiver.model;
+    if (!arguments.empty() && IsArrayProperty(receiver, name)) {
+        return CheckElement(CheckMember(std::move(receiver), name, at), std::move(arguments), at);
+    }
+    if (receiver.value) {
+        const auto methods = model.FindMethods(name);
+        if (!methods.empty()) {
+            return CallMethod(std::move(receiver), methods, false, std::move(arguments), at);
+        }
+    }
+    const auto shared = model.FindSharedMethods(name);
+    if (!shared.empty()) {
+        return CallMethod(std::move(receiver), shared, true, std::move(arguments), at);
+    }
+    const bool isProperty =
+        model.FindProperty(name) != nullptr || model.FindSharedProperty(name) != nullptr;
+    if (isProperty && receiver.value && arguments.empty()) {
+        return CheckMember(std::move(receiver), name, at);
+    }
+    if (isProperty && receiver.value) {
+        throw ProgramError(at, Quoted(name) + " is a property and takes no arguments");
+    }
+    if (isProperty || !model.FindMethods(name).empty()) {
+        throw ProgramError(at, Quoted(name) + " needs an object of " + model.name());
+    }
+    if (receiver.value) {
+        if (auto result = TryExtension(*receiver.value, name, arguments, at)) {
+            return std::move(*result);
+        }
+    }
+    FailWithoutMember(model, name, at);
+}
+
+Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& name,
+                                            Arguments arguments, Position at) {
+    if (auto result = TryArrayMember(value, name, arguments, at)) {
+        return std::move(*result);
+    }
+    const std::string type = NameOf(value.type);
+    if (auto result = TryExtension(value, name, arguments, at)) {
+        return std::move(*result);
+    }
+    const bool isArray = value.type.kind == Kind::Array;
+    arguments.insert(arguments.begin(), std::move(value));
+    if (auto result = TryBuiltIn(name, arguments, at)) {
+        return std::move(*result);
+    }
+    std::vector<std::string_view> names;
+    if (isArray) {
+        for (const auto& member : ArrayMembers()) {
+            names.push_back(member.declaration.substr(0, member.declaration.find('(')));
+        }
+    } else {
+        for (const auto& builtIn : callables_.builtIns) {
+            names.emplace_back(builtIn.signature.name);
+        }
+    }
+    throw ProgramError(at, type + " has no member " + Quoted(name) + SuggestionFor(name, names));
+}
+
+Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
+                                        Position at) {
+    RequireUsable(property.declaration, property.problem, at);
+    if (property.field) {
+        RequireAccess(property.isPrivate, *receiver.model, property.name, at);
+        return {std::make_unique<code::Field>(std::move(receiver.value->code), *property.field),
+                property.type,
+                at,
+                {},
+                false};
+    }
+    if (property.host.function != nullptr) {
+        return {MakeHostCall(property.host.function, std::move(receiver), {}),
+                property.type,
+                at,
+                {},
+                false};
+    }
+    RequireRoutine(property.getter, property.declaration, at);
+    const auto parameter = isShared ? std::nullopt : std::optional(property.parameter);
+    code::PluginCall call(LabelOf(*receiver.model, property.declaration), property.getter, {},
+                          property.type.kind, parameter);
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    code::NilReceiver::Passed, property.type, at);
+}
+
+Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const Method*>& methods,
+                                      bool isShared, Arguments arguments, Position at) {
+    const auto& name = methods.front()->signature.name;
+    const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    if (method.routine != nullptr) {
+        RequireAccess(method.isPrivate, *receiver.model, name, at);
+        auto filled = Fill(method.signature, std::move(arguments), at, *this);
+        filled.insert(filled.begin(), {std::move(receiver.value->code), Kind::Instance, false});
+        return {std::make_unique<code::RoutineCall>(*method.routine, std::move(filled), true),
+                method.signature.result,
+                at,
+                {},
+                false};
+    }
+    if (method.host.function != nullptr) {
+        auto filled = Fill(method.signature, std::move(arguments), at, *this);
+        return {MakeHostCall(method.host.function, std::move(receiver), std::move(filled)),
+                method.signature.result,
+                at,
+                {},
+                false};
+    }
+    auto call = MakePluginCall(*receiver.model, method, std::move(arguments), at);
+    // What returns nothing is there for what it does to the object.
+    const Type result = method.signature.result;
+    const bool reads = result.kind != Kind::None;
+    return MakeCall(isShared ? std::nullopt : std::move(receiver.value), std::move(call),
+                    reads ? code::NilReceiver::Passed : code::NilReceiver::Refused, result, at);
+}
+
+code::ExpressionPtr ExpressionChecker::MakeHostCall(BuiltInFunction function, Receiver receiver,
+                                                    std::vector<code::Argument> arguments) {
+    const Kind kind = receiver.value->type.kind;
+    arguments.insert(arguments.begin(), {std::move(receiver.value->code), kind, false});
+    // Nil is a Variant like any other.
+    if (kind == Kind::Variant) {
+        return std::make_unique<code::BuiltInCall>(function, std::move(arguments));
+    }
+    return std::make_unique<code::HostMemberCall>(function, std::move(arguments));
+}
+
+code::PluginCall ExpressionChecker::MakePluginCall(const ClassModel& model, const Method& method,
+                                                   Arguments arguments, Position at) {
+    const auto& signature = method.signature;
+    RequireRoutine(method.function, signature.declaration, at);
+    return {LabelOf(model, signature.declaration), method.function,
+            Fill(signature, std::move(arguments), at, *this), signature.result.kind};
+}
+
+}  // namespace standin::language
