@@ -10,6 +10,7 @@
 #include "standin/language/project.hpp"
 #include "standin/language/unicode.hpp"
 #include "standin/options.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 
@@ -98,6 +99,12 @@ constexpr auto Settings = std::to_array<Setting>({
     {"--max-memory",
      [](CommandLine& line, const std::string& value) {
          line.maximumMemory = ReadCount<std::size_t>("--max-memory", value);
+     }},
+    {"--wrong",
+     [](CommandLine& /*line*/, const std::string& value) {
+         if (!BeWrongAbout(value)) {
+             throw UsageError("there is no fact " + value + "; docs/host-facts.md lists them");
+         }
      }},
     {"-e", [](CommandLine& line, const std::string& value) { line.text = value; }},
 });

@@ -55,6 +55,7 @@ What kind of host to be:
                        references it is off
   --fail-string N      the N-th string that is made while the program runs fails
   --fail-object N      the N-th object that is made while the program runs fails
+  --wrong FACT         a host about which this fact of docs/host-facts.md is not true
 
 What ./run gives to the stand-in host:
   --library FILE       the plug-in library to load

@@ -66,17 +66,29 @@ Value VarType(const Arguments& arguments, const Machine& machine) {
     return Value::Of(machine.host().VariantType(arguments[0].object()));
 }
 
-/// A Variant with any type code, also one that no value of the language has; what it holds is taken
-/// from another.
-Value VariantOfType(const Arguments& arguments, const Machine& machine) {
-    Host& host = machine.host();
-    auto variant =
-        Value::Adopt(host.MakeVariant(static_cast<std::int32_t>(arguments[0].Get<Integer>()),
-                                      host.VariantContents(arguments[1].object())));
+Value MakeVariant(std::int32_t typeCode, const VariantValue& contents, const Machine& machine) {
+    auto variant = Value::Adopt(machine.host().MakeVariant(typeCode, contents));
     if (variant.object() == nullptr) {
         machine.Raise("OutOfMemoryException", "There is no memory for a new Variant.");
     }
     return variant;
+}
+
+/// A Variant with any type code, also one that no value of the language has; what it holds is taken
+/// from another.
+Value VariantOfType(const Arguments& arguments, const Machine& machine) {
+    return MakeVariant(static_cast<std::int32_t>(arguments[0].Get<Integer>()),
+                       machine.host().VariantContents(arguments[1].object()), machine);
+}
+
+/// A colour. No type of the language holds one, so it is a Variant from the start.
+Value MakeColor(const Arguments& arguments, const Machine& machine) {
+    std::uint64_t color = 0;
+    for (const auto& part : arguments) {
+        color = color << 8U | (part.Get<std::uint64_t>() & 0xFFU);
+    }
+    return MakeVariant(static_cast<std::int32_t>(host_interface::VariantTypeCode::Color), color,
+                       machine);
 }
 
 // Parts of text ----------------------------------------------------------------------------------
@@ -226,6 +238,7 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Boolean) As String", TextOfBoolean},
     {"VarType(value As Variant) As Integer", VarType},
     {"VariantOfType(typeCode As Integer, value As Variant) As Variant", VariantOfType},
+    {"RGB(red As Integer, green As Integer, blue As Integer) As Variant", MakeColor},
     {"Val(text As String) As Double", Val},
     {"CStr(value As Variant) As String", Unboxed<Kind::Text>},
     {"CDbl(value As Variant) As Double", Unboxed<Kind::Double>},

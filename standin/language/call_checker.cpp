@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
@@ -133,6 +134,9 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
             code = std::make_unique<code::NewHostObject>(model.info(), function, std::move(filled));
         }
         return {std::move(code), type, at, {}, false};
+    }
+    if (arguments.empty() && IsWrongAbout("constructor-runs")) {
+        return {std::make_unique<code::NewObject>(model.info(), std::nullopt), type, at, {}, false};
     }
     auto call = MakePluginCall(model, method, std::move(arguments), at);
     return {std::make_unique<code::NewObject>(model.info(), std::move(call)), type, at, {}, false};

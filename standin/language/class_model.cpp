@@ -1,12 +1,14 @@
 #include "standin/language/class_model.hpp"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "standin/language/dictionary.hpp"
 #include "standin/language/host_members.hpp"
 #include "standin/language/parser.hpp"
 #include "standin/language/suggestions.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
@@ -106,6 +108,15 @@ void RefuseHostType(const syntax::TypeName& name) {
     }
 }
 
+/// Whether programs can name the entry of a table: hidden ones, too, unless the host is wrong
+/// there.
+template <typename Info>
+bool IsKnown(const Info& info) {
+    const bool isHidden = std::ranges::any_of(
+        info.attributes, [](const auto& attribute) { return SameName(attribute.first, "Hidden"); });
+    return !(isHidden && IsWrongAbout("compiles-hidden-members"));
+}
+
 /// The name that a declaration begins with, for one that does not parse.
 std::string LeadingName(std::string_view declaration) {
     return std::string(declaration.substr(0, declaration.find_first_of(" (\t")));
@@ -202,10 +213,11 @@ void TypeTable::AddMembers(ClassModel& model) const {
         return ReadProperty(property);
     };
     std::ranges::transform(info.methods, std::back_inserter(model.methods), readMethod);
-    std::ranges::transform(info.sharedMethods, std::back_inserter(model.sharedMethods), readMethod);
+    std::ranges::transform(info.sharedMethods | std::views::filter(IsKnown<MethodInfo>),
+                           std::back_inserter(model.sharedMethods), readMethod);
     std::ranges::transform(info.properties, std::back_inserter(model.properties), readProperty);
-    std::ranges::transform(info.sharedProperties, std::back_inserter(model.sharedProperties),
-                           readProperty);
+    std::ranges::transform(info.sharedProperties | std::views::filter(IsKnown<PropertyInfo>),
+                           std::back_inserter(model.sharedProperties), readProperty);
     AddHostMembers(model);
 }
 

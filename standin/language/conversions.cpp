@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "standin/language/code_expressions.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
@@ -16,7 +17,13 @@ Fit PlainFit(const Checked& value, Type to) {
     if (from == to) {
         return Fit::Exact;
     }
+    const auto isOfPlugin = [](Type type) {
+        return type.kind == Kind::Instance && type.model->info().record != nullptr;
+    };
     if (from.kind == Kind::Nil) {
+        if (isOfPlugin(to) && IsWrongAbout("compiles-nil-argument")) {
+            return Fit::None;
+        }
         const bool takesNil = IsHandle(to.kind) || to.kind == Kind::TextEncoding;
         return takesNil ? Fit::Exact : Fit::None;
     }
@@ -25,6 +32,9 @@ Fit PlainFit(const Checked& value, Type to) {
     }
     if (IsNumber(from.kind) && IsNumber(to.kind)) {
         return Widens(from.kind, to.kind) ? Fit::Widening : Fit::Narrowing;
+    }
+    if (isOfPlugin(from) && IsWrongAbout("compiles-number-in-variant")) {
+        return Fit::None;
     }
     const bool isBoxed =
         to.kind == Kind::Variant && (IsHandle(from.kind) || FindBoxing(from.kind) != nullptr);
@@ -36,6 +46,9 @@ Fit PlainFit(const Checked& value, Type to) {
 /// The Operator_Convert that makes an object of the class from the value: the one whose parameter
 /// fits best, if one does without loss.
 const Method* FindConversionIn(const Checked& value, const ClassModel& model) {
+    if (model.info().record != nullptr && IsWrongAbout("compiles-conversion-in")) {
+        return nullptr;
+    }
     const Method* best = nullptr;
     auto bestFit = Fit::Converting;
     for (const auto* method : model.FindMethods(ConvertOperator)) {
@@ -54,7 +67,8 @@ const Method* FindConversionIn(const Checked& value, const ClassModel& model) {
 
 /// The Operator_Convert that answers an object as a value of that type.
 const Method* FindConversionOut(Type from, Type to) {
-    if (from.kind != Kind::Instance) {
+    if (from.kind != Kind::Instance ||
+        (from.model->info().record != nullptr && IsWrongAbout("compiles-conversion-out"))) {
         return nullptr;
     }
     const auto methods = from.model->FindMethods(ConvertOperator);

@@ -6,6 +6,7 @@
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/suggestions.hpp"
+#include "standin/language/wrong_overloads.hpp"
 
 namespace standin::language {
 
@@ -164,6 +165,7 @@ Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& na
 Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
                                         Position at) {
     RequireUsable(property.declaration, property.problem, at);
+    RequireUnambiguous(*receiver.model, property.name, at);
     if (property.field) {
         RequireAccess(property.isPrivate, *receiver.model, property.name, at);
         return {std::make_unique<code::Field>(std::move(receiver.value->code), *property.field),
@@ -190,6 +192,7 @@ Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& prope
 Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const Method*>& methods,
                                       bool isShared, Arguments arguments, Position at) {
     const auto& name = methods.front()->signature.name;
+    RequireUnambiguous(*receiver.model, name, at);
     const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
     if (method.routine != nullptr) {
         RequireAccess(method.isPrivate, *receiver.model, name, at);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
@@ -142,7 +143,7 @@ Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
     const bool isMinus = unary.operation == syntax::UnaryOperator::Minus;
     if (type.kind == Kind::Instance) {
         const auto methods = type.model->FindMethods(isMinus ? NegateOperator : NotOperator);
-        if (!methods.empty()) {
+        if (!methods.empty() && !IsWrongAbout("compiles-negation")) {
             return CallMethod({std::move(operand), type.model}, methods, false, {}, at);
         }
     }
@@ -284,8 +285,17 @@ Checked ExpressionChecker::CompareIdentity(BinaryOperator operation, Checked lef
 std::optional<Checked> ExpressionChecker::TryOperator(BinaryOperator operation, Checked& left,
                                                       Checked& right, Position at) {
     const auto name = std::string(RowOf(operation).method);
-    if (auto result = TryOperatorOf(name, left, right, false, at)) {
-        return result;
+    if (IsWrongAbout("order-of-operands") && left.type.kind == Kind::Text &&
+        FitOf(left, right.type) == Fit::Converting) {
+        left = ConvertTo(std::move(left), right.type);
+    }
+    if (!IsWrongAbout("compiles-operator-left")) {
+        if (auto result = TryOperatorOf(name, left, right, false, at)) {
+            return result;
+        }
+    }
+    if (IsWrongAbout("compiles-operator-right")) {
+        return std::nullopt;
     }
     return TryOperatorOf(name + std::string(RightSuffix), right, left, true, at);
 }
@@ -294,10 +304,14 @@ std::optional<Checked> ExpressionChecker::TryCompareOperator(BinaryOperator oper
                                                              Checked& left, Checked& right,
                                                              Position at) {
     const std::string name(CompareOperator);
+    const bool hasNil = left.type.kind == Kind::Nil || right.type.kind == Kind::Nil;
+    if (IsWrongAbout("compiles-comparison") || (hasNil && IsWrongAbout("nil-compared"))) {
+        return std::nullopt;
+    }
     bool isMirrored = false;
     auto call = TryOperatorOf(name, left, right, false, at);
     if (!call) {
-        isMirrored = true;
+        isMirrored = !IsWrongAbout("order-of-comparison");
         call = TryOperatorOf(name, right, left, true, at);
     }
     if (!call) {

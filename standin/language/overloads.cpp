@@ -6,6 +6,8 @@
 
 #include "standin/language/code_arrays.hpp"
 #include "standin/language/code_expressions.hpp"
+#include "standin/language/wrong_overloads.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
@@ -47,6 +49,10 @@ std::optional<Fits> FitsOf(const Signature& signature, const std::vector<Checked
                                 parameter.isParamArray) &&
                                !parameter.byRef;
                     });
+    if (given < parameters.size() && parameters.back().defaultValue != nullptr &&
+        IsWrongAbout("compiles-left-out-arguments")) {
+        return std::nullopt;
+    }
     const bool doAllFit = std::ranges::find(fits, Fit::None) == fits.end();
     return areMissingOptional && doAllFit ? std::optional(fits) : std::nullopt;
 }
@@ -138,7 +144,7 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
     const auto overload = FindOverload(candidates, arguments);
     switch (overload.outcome) {
         case Overload::Outcome::One:
-            return overload.best.front();
+            return CalledOverload(name, candidates, overload.best.front(), arguments, at);
         case Overload::Outcome::Tie:
             throw ProgramError(
                 at, Quoted(name) + " with " + TypesOf(arguments) +
@@ -178,7 +184,8 @@ std::vector<code::Argument> Fill(const Signature& signature, std::vector<Checked
                 {CollectFrom(i, arguments, parameter.type.ElementType()), Kind::Array, false});
             break;
         }
-        if (i >= arguments.size() && parameter.defaultValue == nullptr) {
+        if (i >= arguments.size() &&
+            (parameter.defaultValue == nullptr || IsWrongAbout("default-values"))) {
             filled.push_back(
                 {std::make_unique<code::DefaultValue>(parameter.type), parameter.type.kind, false});
             continue;

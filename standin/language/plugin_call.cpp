@@ -4,14 +4,53 @@
 #include <bit>
 #include <cstring>
 #include <deque>
+#include <type_traits>
 #include <utility>
+
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
 
 const char* currentLabel = nullptr;
 
-void Append(CallArguments& arguments, const Value& value, Kind kind) {
+constexpr FactOf<Kind> ArgumentFacts[] = {
+    {Kind::Boolean, "argument-boolean"}, {IntegerKind, "argument-integer"},
+    {UIntegerKind, "argument-uinteger"}, {Kind::Int32, "argument-int32"},
+    {Kind::UInt32, "argument-uint32"},   {Kind::Int64, "argument-int64"},
+    {Kind::UInt64, "argument-uint64"},   {Kind::Single, "argument-single"},
+    {Kind::Double, "argument-double"},   {Kind::Currency, "argument-currency"},
+};
+
+constexpr FactOf<Kind> ResultFacts[] = {
+    {Kind::Boolean, "result-boolean"}, {IntegerKind, "result-integer"},
+    {Kind::Int64, "result-int64"},     {Kind::UInt64, "result-uint64"},
+    {Kind::Double, "result-double"},   {Kind::Currency, "result-currency"},
+};
+
+/// What becomes of a value that a host passes wrongly: half of an integer's bits, a Double of
+/// single precision, a Single without its fraction, an amount in units, the other Boolean.
+Value Damaged(const Value& value, Kind kind) {
+    if (kind == Kind::Boolean) {
+        return Value::Of(!value.IsTrue());
+    }
+    return WithNumberType(kind, [&value]<typename T>(std::type_identity<T>) {
+        const auto number = value.Get<T>();
+        if constexpr (std::is_same_v<T, CurrencyAmount>) {
+            return Value::Of(CurrencyAmount{number.scaled / CurrencyScale});
+        } else if constexpr (std::is_same_v<T, double>) {
+            return Value::Of(static_cast<double>(static_cast<float>(number)));
+        } else if constexpr (std::is_same_v<T, float>) {
+            return Value::Of(static_cast<float>(static_cast<int>(number)));
+        } else {
+            constexpr auto Half = 4 * sizeof(T);
+            return Value::Of(static_cast<T>(static_cast<std::uint64_t>(number) &
+                                            ((std::uint64_t{1} << Half) - 1)));
+        }
+    });
+}
+
+void AppendAsItIs(CallArguments& arguments, const Value& value, Kind kind) {
     switch (kind) {
         case Kind::Boolean:
             return arguments.Add(value.IsTrue());
@@ -29,6 +68,16 @@ void Append(CallArguments& arguments, const Value& value, Kind kind) {
                 }
             });
     }
+}
+
+void Append(CallArguments& arguments, const Value& value, Kind kind) {
+    if (kind == Kind::Instance && IsWrongAbout("argument-object-reference")) {
+        Host::Current().Lock(value.object());
+    } else if (kind == Kind::Text && IsWrongAbout("argument-text-reference")) {
+        Host::Current().Lock(value.text());
+    }
+    const bool isWrong = IsWrongAbout<Kind>(ArgumentFacts, kind);
+    AppendAsItIs(arguments, isWrong ? Damaged(value, kind) : value, kind);
 }
 
 template <typename T>
@@ -61,6 +110,9 @@ private:
             case Kind::Boolean:
                 return Store(bytes_, static_cast<std::uint8_t>(variable_.IsTrue()));
             case Kind::Text:
+                if (IsWrongAbout("byref-text-released")) {
+                    Host::Current().Lock(variable_.text());
+                }
                 return Store(bytes_, variable_.ReleaseText());
             case Kind::Instance:
             case Kind::Variant:
@@ -75,10 +127,15 @@ private:
     void Empty() {
         switch (kind_) {
             case Kind::Boolean:
-                variable_ = Value::Of(Load<std::uint8_t>(bytes_) != 0);
+                if (!IsWrongAbout("byref-boolean")) {
+                    variable_ = Value::Of(Load<std::uint8_t>(bytes_) != 0);
+                }
                 break;
             case Kind::Text:
                 variable_ = Value::Adopt(Load<String>(bytes_));
+                if (IsWrongAbout("byref-text")) {
+                    variable_ = {};
+                }
                 break;
             case Kind::Instance:
             case Kind::Variant:
@@ -149,6 +206,9 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
     // A variable's own reference is all that an argument has in the host, so it is all it has here:
     // a routine that drops the variable it got by reference drops the argument too.
     for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments_[i].kind == Kind::Instance && IsWrongAbout("nil-argument")) {
+            frame.machine.RequireObject(arguments[i]);
+        }
         const Value* storage = arguments_[i].byRef ? nullptr : arguments_[i].value->Storage(frame);
         if (storage != nullptr) {
             arguments[i].BorrowFrom(*storage);
@@ -176,6 +236,15 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
         returned = frame.machine.host().Call(routine_, passed, HowToReturn());
     }
     auto result = ToValue(returned);
+    if (IsWrongAbout<Kind>(ResultFacts, result_)) {
+        result = Damaged(result, result_);
+    } else if (result_ == Kind::Instance && IsWrongAbout("result-object-reference")) {
+        frame.machine.host().Lock(result.object());
+    } else if (result_ == Kind::Text && IsWrongAbout("result-text-reference")) {
+        frame.machine.host().Lock(result.text());
+    } else if (result_ == Kind::Text && result.text() == nullptr && IsWrongAbout("text-empty")) {
+        frame.machine.Raise("NilObjectException", "A string that is Nil was used.");
+    }
     if (auto* exception = frame.machine.host().TakeException()) {
         frame.machine.Throw(Value::Adopt(exception));
     }
@@ -241,6 +310,11 @@ Value InstanceCall::Evaluate(Frame& frame) const {
         arguments = call_.EvaluateArguments(frame);
     }
     if (nilReceiver_ == NilReceiver::Refused) {
+        if (receiver.object() == nullptr && IsWrongAbout("nil-receiver-of-setter")) {
+            return {};
+        }
+        frame.machine.RequireObject(receiver);
+    } else if (IsWrongAbout("nil-receiver")) {
         frame.machine.RequireObject(receiver);
     }
     auto* const self = receiver.object();

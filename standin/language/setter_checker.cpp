@@ -3,6 +3,7 @@
 
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 
@@ -94,7 +95,9 @@ code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
     const auto& signature = method.signature;
     const bool isReadable =
         method.function != nullptr || method.host.function != nullptr || method.routine != nullptr;
-    if (method.setter == nullptr && method.host.setter == nullptr && isReadable) {
+    const bool isRefused =
+        method.setter != nullptr && IsWrongAbout("compiles-assignment-to-method");
+    if (isRefused || (method.setter == nullptr && method.host.setter == nullptr && isReadable)) {
         throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
     }
     auto filled = Fill(signature, std::move(arguments), at, *this);

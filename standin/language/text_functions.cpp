@@ -219,6 +219,17 @@ Value NthField(const Arguments& arguments, const Machine& machine) {
                                     : std::string_view{});
 }
 
+/// -1, 0 or 1 for the order of the bytes of two texts; the host's other modes are refused.
+Value CompareBytes(const Arguments& arguments, const Machine& machine) {
+    if (arguments[2].Get<Integer>() != 0) {
+        machine.Raise("UnsupportedOperationException", "StrComp compares by bytes only, mode 0.");
+    }
+    const int order = machine.host()
+                          .Bytes(arguments[0].text())
+                          .compare(machine.host().Bytes(arguments[1].text()));
+    return Value::Of((order > 0) - (order < 0));
+}
+
 constexpr auto Functions = std::to_array<BuiltInRow>({
     {"Uppercase(text As String) As String", ChangeCase<RaiseCase>},
     {"Lowercase(text As String) As String", ChangeCase<FoldCase>},
@@ -241,6 +252,7 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"FromArray(parts() As String, delimiter As String = \"\") As String", JoinParts, "String"},
     {"Join(parts() As String, delimiter As String = \" \") As String", JoinParts},
     {"CountFields(text As String, delimiter As String) As Integer", CountFields},
+    {"StrComp(left As String, right As String, mode As Integer) As Integer", CompareBytes},
     {"NthField(text As String, delimiter As String, number As Integer) As String", NthField},
 });
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "standin/runtime/record_layout.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 namespace {
@@ -213,7 +214,7 @@ std::string NormalDeclaration(std::string_view declaration) {
 bool ClassInfo::IsA(const ClassInfo& other) const {
     for (const ClassInfo* info = this; info != nullptr; info = info->super) {
         if (info == &other) {
-            return true;
+            return info == this || record == nullptr || !IsWrongAbout("exception-super-class");
         }
     }
     return false;

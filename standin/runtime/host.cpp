@@ -15,6 +15,7 @@
 #include "standin/runtime/sanitizer.hpp"
 #include "standin/runtime/state.hpp"
 #include "standin/runtime/variants.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 namespace {
@@ -281,9 +282,9 @@ Object Host::MakeVariant(std::int32_t typeCode, VariantValue value) {
     const char* unsignedClass = "";
     if (std::holds_alternative<std::uint64_t>(value)) {
         if (typeCode == static_cast<std::int32_t>(VariantTypeCode::Int32)) {
-            unsignedClass = "_VariantUInt32";
+            unsignedClass = IsWrongAbout("variant-of-uint32") ? "" : "_VariantUInt32";
         } else if (typeCode == static_cast<std::int32_t>(VariantTypeCode::Int64)) {
-            unsignedClass = "_VariantUInt64";
+            unsignedClass = IsWrongAbout("variant-of-uint64") ? "" : "_VariantUInt64";
         }
     }
     const ClassEntry* type = state_->classes.Find(unsignedClass);

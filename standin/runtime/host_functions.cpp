@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <new>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "interface/host_interface.hpp"
@@ -13,6 +14,7 @@
 #include "standin/runtime/properties.hpp"
 #include "standin/runtime/state.hpp"
 #include "standin/runtime/variants.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 namespace {
@@ -94,7 +96,11 @@ String BuildStringAs(const char* bytes, std::int32_t length, HostTextEncoding en
     if (length == 0) {
         return nullptr;
     }
-    return Current().strings.Make({bytes, static_cast<std::size_t>(length)}, encoding);
+    const bool isWrong =
+        (encoding == HostTextEncoding::Utf8 && IsWrongAbout("text-returned-as-utf8")) ||
+        (encoding == HostTextEncoding::Ascii && IsWrongAbout("text-returned-as-ascii"));
+    return Current().strings.Make({bytes, static_cast<std::size_t>(length)},
+                                  isWrong ? HostTextEncoding::MacRoman : encoding);
 }
 
 String BuildString(const char* bytes, std::int32_t length) noexcept {
@@ -125,8 +131,21 @@ void DisposeStringData(StringData* data) noexcept {
     Current().strings.ReturnData(data, "PluginDisposeStringData");
 }
 
+constexpr FactOf<HostTextEncoding> EncodingFacts[] = {
+    {HostTextEncoding::Utf8, "text-in-utf8"},
+    {HostTextEncoding::Utf16, "text-in-utf16"},
+    {HostTextEncoding::Latin1, "text-in-latin1"},
+    {HostTextEncoding::Unknown, "text-of-unknown-encoding"},
+};
+
 std::uint32_t GetStringEncoding(String text) noexcept {
-    return static_cast<std::uint32_t>(Current().strings.Encoding(text, "REALGetStringEncoding"));
+    const auto encoding = Current().strings.Encoding(text, "REALGetStringEncoding");
+    if (IsWrongAbout<HostTextEncoding>(EncodingFacts, encoding)) {
+        const bool isWide = encoding == HostTextEncoding::Utf16;
+        return static_cast<std::uint32_t>(isWide ? HostTextEncoding::Utf8
+                                                 : HostTextEncoding::Utf16);
+    }
+    return static_cast<std::uint32_t>(encoding);
 }
 
 void SetStringEncoding(String text, std::uint32_t encoding) noexcept {
@@ -179,6 +198,9 @@ Object NewInstance(const char* className) noexcept {
     if (type == nullptr) {
         return nullptr;
     }
+    if (type->payload == Payload::Exception && IsWrongAbout("exception-class")) {
+        type = &state.Class("RuntimeException");
+    }
     Object object = state.objects.Make(*type);
     if (object != nullptr && state.options.newInstanceRunsConstructor) {
         if (const Routine constructor = EmptyConstructor(*type)) {
@@ -204,8 +226,14 @@ void RaiseException(Object exception) noexcept {
     if (CallRecord& record = CallRecord::OfProcess(); record.IsKept()) {
         record.NoteRaise(entry->type->name, Host::Current().Message(exception));
     }
+    if (IsWrongAbout("exception-raised")) {
+        return;
+    }
     if (state.raised == nullptr) {
         state.objects.Lock(exception, user);
+        if (IsWrongAbout("exception-reference")) {
+            state.objects.Lock(exception, user);
+        }
         state.raised = exception;
     }
 }
@@ -223,10 +251,13 @@ void* BlockPointer(Object block) noexcept {
 
 Integer BlockSize(Object block) noexcept {
     const auto* payload = Current().objects.PayloadOf<BlockPayload>(block, "memoryBlockGetSize");
-    return payload == nullptr ? Integer{0} : static_cast<Integer>(payload->bytes.size());
+    const Integer difference = IsWrongAbout("block-passed") ? 1 : 0;
+    return payload == nullptr ? Integer{0}
+                              : static_cast<Integer>(payload->bytes.size()) - difference;
 }
 
 Object NewBlock(std::int32_t byteCount) noexcept {
+    byteCount += IsWrongAbout("block-returned") ? 1 : 0;
     // More than this host has, whatever the machine could give.
     constexpr std::int32_t MostBytes = 256 << 20;
     if (byteCount < 0 || byteCount > MostBytes) {
@@ -244,14 +275,21 @@ Object NewBlock(std::int32_t byteCount) noexcept {
 
 // Variants --------------------------------------------------------------------------------------
 
+/// The type of a Variant that is made, or Single if the host is wrong about that.
+std::int32_t TypeToMake(host_interface::VariantTypeCode code, Fact fact) {
+    return static_cast<std::int32_t>(IsWrongAbout(fact) ? host_interface::VariantTypeCode::Single
+                                                        : code);
+}
+
 Object BoxInt32(std::int32_t value) noexcept {
     return Host::Current().MakeVariant(
-        static_cast<std::int32_t>(host_interface::VariantTypeCode::Int32), std::int64_t{value});
+        TypeToMake(host_interface::VariantTypeCode::Int32, "variant-from-int32"),
+        std::int64_t{value});
 }
 
 Object BoxInt64(std::int64_t value) noexcept {
     return Host::Current().MakeVariant(
-        static_cast<std::int32_t>(host_interface::VariantTypeCode::Int64), value);
+        TypeToMake(host_interface::VariantTypeCode::Int64, "variant-from-int64"), value);
 }
 
 Object BoxUInt64(std::uint64_t value) noexcept {
@@ -261,7 +299,7 @@ Object BoxUInt64(std::uint64_t value) noexcept {
 
 Object BoxString(String value) noexcept {
     return Host::Current().MakeVariant(
-        static_cast<std::int32_t>(host_interface::VariantTypeCode::String), value);
+        TypeToMake(host_interface::VariantTypeCode::String, "variant-from-string"), value);
 }
 
 double UnboxDouble(Object variant) noexcept {
@@ -292,8 +330,27 @@ String UnboxString(Object variant) noexcept {
     return VariantText(Current(), variant, "VariantToString");
 }
 
+constexpr FactOf<host_interface::VariantTypeCode> VariantFacts[] = {
+    {host_interface::VariantTypeCode::Nil, "variant-of-nil"},
+    {host_interface::VariantTypeCode::Int32, "variant-of-int32"},
+    {host_interface::VariantTypeCode::Int64, "variant-of-int64"},
+    {host_interface::VariantTypeCode::Single, "variant-of-single"},
+    {host_interface::VariantTypeCode::Double, "variant-of-double"},
+    {host_interface::VariantTypeCode::Currency, "variant-of-currency"},
+    {host_interface::VariantTypeCode::Date, "variant-of-date"},
+    {host_interface::VariantTypeCode::DateTime, "variant-of-datetime"},
+    {host_interface::VariantTypeCode::String, "variant-of-string"},
+    {host_interface::VariantTypeCode::Object, "variant-of-number"},
+    {host_interface::VariantTypeCode::Boolean, "variant-of-boolean"},
+    {host_interface::VariantTypeCode::Color, "variant-of-color"},
+};
+
 Integer TypeOf(Object variant) noexcept {
-    return VariantTypeOf(Current(), variant, "VarType");
+    using host_interface::VariantTypeCode;
+    const auto type = VariantTypeOf(Current(), variant, "VarType");
+    const bool isWrong =
+        IsWrongAbout<VariantTypeCode>(VariantFacts, static_cast<VariantTypeCode>(type));
+    return isWrong ? static_cast<Integer>(VariantTypeCode::Window) : type;
 }
 
 // Properties ------------------------------------------------------------------------------------
@@ -320,8 +377,13 @@ BooleanWord GetProperty(Object object, const char* name, T* out) noexcept {
 /// "REALSetPropValue…" for properties of the type T.
 template <FunctionName Name, typename T>
 BooleanWord SetProperty(Object object, const char* name, T value) noexcept {
+    const std::string_view property = TextOrEmpty(name);
+    if constexpr (std::is_integral_v<T>) {
+        value += property == "ErrorNumber" && IsWrongAbout("exception-number") ? 1 : 0;
+    }
     return InLowByte(
-        WriteProperty(Host::Current(), object, TextOrEmpty(name), PropertyValue(value), Name.text));
+        !(property == "Message" && IsWrongAbout("exception-message")) &&
+        WriteProperty(Host::Current(), object, property, PropertyValue(value), Name.text));
 }
 
 // The table -------------------------------------------------------------------------------------

@@ -1,8 +1,12 @@
 #include "standin/runtime/object_store.hpp"
 
 #include <algorithm>
+#include <cstring>
+#include <new>
 #include <span>
 #include <utility>
+
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 namespace {
@@ -27,6 +31,17 @@ void ForEachData(const ObjectEntry& entry, Take take) {
     ForEachClass(*entry.type, [&](const ClassEntry& type) {
         take(std::span(entry.memory.data() + type.dataOffset, type.dataSize));
     });
+}
+
+/// Fills the first word of instance data with the address of memory that its owner may read and
+/// give back, as if another object had lived there.
+void FillWithRemains(std::span<std::byte> data) {
+    constexpr std::size_t LargestValue = 4096;
+    if (data.size() >= sizeof(void*)) {
+        void* const remains = ::operator new(LargestValue);
+        std::memset(remains, 0, LargestValue);
+        std::memcpy(data.data(), &remains, sizeof remains);
+    }
 }
 
 std::string Describe(const ObjectEntry& entry) {
@@ -72,6 +87,9 @@ Object ObjectStore::Make(const ClassEntry& type, ObjectPayload payload) {
     entry.references += spareReferences_;
     std::fill_n(entry.memory.data(), entry.memory.size(), NoiseByte);
     ForEachData(entry, [](std::span<std::byte> data) { std::ranges::fill(data, std::byte{0}); });
+    if (IsWrongAbout("instance-zero")) {
+        ForEachData(entry, FillWithRemains);
+    }
     auto* object = reinterpret_cast<Object>(entry.memory.data());
     objects_.Add(object, std::move(entry));
     return object;
@@ -155,7 +173,7 @@ void ObjectStore::Die(Object object, ObjectEntry& entry, const char* user) {
     constexpr std::uint32_t Dying = 1U << 30U;
     entry.references = Dying;
     ForEachClass(*entry.type, [&](const ClassEntry& type) {
-        if (type.destructor != nullptr) {
+        if (type.destructor != nullptr && !IsWrongAbout("destructor-runs")) {
             callDestructor_(type.destructor, object);
         }
     });
