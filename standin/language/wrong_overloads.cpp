@@ -59,6 +59,19 @@ bool Applies(const WrongCall& call, const Signature& best, const Checked& argume
            (call.best == Kind::None || call.best == best.parameters.front().type.kind);
 }
 
+/// More constructors than any class of the host's own has.
+constexpr std::size_t SmallestPluginClass = 4;
+
+/// Whether the host takes the argument for one of several constructors and cannot decide.
+bool IsUndecided(const Checked& argument) {
+    if (argument.type.kind == Kind::Text) {
+        return IsWrongAbout("compiles-constructor-of-string");
+    }
+    return IsNumber(argument.type.kind) &&
+           (FormOf(argument) == Form::Value ? IsWrongAbout("compiles-constructor-of-value")
+                                            : IsWrongAbout("compiles-constructor-of-literal"));
+}
+
 [[noreturn]] void FailToDecide(const std::string& name, Position at) {
     throw ProgramError(at, Quoted(name) + " fits several equally well");
 }
@@ -75,8 +88,8 @@ std::size_t CalledOverload(const std::string& name, const Candidates& candidates
         return best;
     }
     const auto& argument = arguments.front();
-    if (IsWrongAbout("compiles-constructor-of-string") && SameName(signature.name, Constructor) &&
-        argument.type.kind == Kind::Text && candidates.size() > 1) {
+    if (SameName(signature.name, Constructor) && candidates.size() > SmallestPluginClass &&
+        IsUndecided(argument)) {
         FailToDecide(name, at);
     }
     const auto* const call = std::ranges::find_if(
