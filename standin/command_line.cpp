@@ -101,10 +101,13 @@ constexpr auto Settings = std::to_array<Setting>({
          line.maximumMemory = ReadCount<std::size_t>("--max-memory", value);
      }},
     {"--wrong",
-     [](CommandLine& /*line*/, const std::string& value) {
+     [](CommandLine& line, const std::string& value) {
          if (!BeWrongAbout(value)) {
-             throw UsageError("there is no fact " + value + "; docs/host-facts.md lists them");
+             throw UsageError("there is no fact \"" + value +
+                              "\" to be wrong about; docs/host-facts.md lists them");
          }
+         // What is kept of released memory would hide what such a host leaves behind.
+         line.host.remembersReleased = false;
      }},
     {"-e", [](CommandLine& line, const std::string& value) { line.text = value; }},
 });

@@ -20,13 +20,13 @@ Inherits ConsoleApplication
 		  #EndIf
 		  
 		  Compiles.Run
+		  HostObjects.Run
 		  HostValues.Run
 		  HostVariants.Run
 		  HostTexts.Run
-		  
 		  BigNumberChecks.Run
 		  BiggerNumberChecks.Run
-		  HostObjects.Run
+		  HostObjects.RunLast
 		  
 		  Print Str(Checks.Count) + " checks, " + Str(Checks.Failed) + " failed"
 		  If Checks.Failed > 0 Then

@@ -258,7 +258,7 @@ Protected Module Compiles
 		  #If kConstructorOfLiteral Then
 		    #Pragma BreakOnExceptions False
 		    Try
-		      CheckText("constructor-of-whole-literal", TextOf(New BigNumberVQZ(12)), "12")
+		      CheckText("compiles-constructor-of-literal", TextOf(New BigNumberVQZ(12)), "12")
 		      CheckText("constructor-of-whole-literal", TextOf(New BigNumberVQZ(-12)), "-12")
 		      CheckText("constructor-of-wide-literal", TextOf(New BigNumberVQZ(9007199254740993)), "9007199254740993")
 		      CheckText("constructor-of-real-literal", TextOf(New BigNumberVQZ(0.1)), "0.1000000000000000055511151231257827021181583404541015625")

@@ -1,12 +1,13 @@
 #tag Module
 Protected Module HostObjects
 	#tag Note, Name = About
-		Objects, Nil, exceptions, and what stays behind. What would end the program on a host that is wrong about
-		it comes last.
+		Objects, Nil, exceptions, and what stays behind. What may end the program on a host that is wrong about it
+		comes first or last: first what all failing calls need.
 	#tag EndNote
 
 	#tag Method, Flags = &h1
 		Protected Sub Run()
+		  ExceptionsHaveASuperClass
 		  Construction
 		  NilArgument
 		  ExceptionsAreRaised
@@ -16,8 +17,12 @@ Protected Module HostObjects
 		  Arguments
 		  Failures
 		  NilReceiver
+		End Sub
+	#tag EndMethod
+
+	#tag Method, Flags = &h1
+		Protected Sub RunLast()
 		  NilReceiverOfSetter
-		  ExceptionsHaveASuperClass
 		End Sub
 	#tag EndMethod
 
@@ -117,6 +122,10 @@ Protected Module HostObjects
 		  Try
 		    Dim a As BigNumberVQZ = N("17")
 		    Dim made As BigNumberVQZ = a.Floor
+		    ' The first rounds fill what the host keeps for later.
+		    For i As Integer = 1 To kRounds
+		      made = a.Floor
+		    Next
 		    Dim objects As Integer = Runtime.ObjectCount
 		    Dim memory As Int64 = Runtime.MemoryUsed
 		    For i As Integer = 1 To kRounds
@@ -138,6 +147,9 @@ Protected Module HostObjects
 		    Dim digits As String = TextOf(a)
 		    Dim rest As String
 		    Dim wasRead As Boolean
+		    For i As Integer = 1 To kRounds
+		      digits = TextOf(a)
+		    Next
 		    Dim memory As Int64 = Runtime.MemoryUsed
 		    For i As Integer = 1 To kRounds
 		      digits = TextOf(a)
@@ -237,7 +249,7 @@ Protected Module HostObjects
 		  Catch e As RuntimeException
 		    CheckText("exception-super-class", ClassOf(e), "BigNumberErrorExceptionVQZ")
 		  Catch mine As BigNumberErrorExceptionVQZ
-		    Unexpected("exception-super-class", Nil)
+		    CheckText("exception-super-class", "no RuntimeException", "")
 		  End Try
 		End Sub
 	#tag EndMethod

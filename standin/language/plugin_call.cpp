@@ -135,6 +135,9 @@ private:
                 variable_ = Value::Adopt(Load<String>(bytes_));
                 if (IsWrongAbout("byref-text")) {
                     variable_ = {};
+                } else if (variable_.text() == nullptr && IsWrongAbout("text-empty")) {
+                    variable_ = Value::Adopt(
+                        Host::Current().MakeString("Nil", host_interface::HostTextEncoding::Utf8));
                 }
                 break;
             case Kind::Instance:
@@ -242,8 +245,6 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
         frame.machine.host().Lock(result.object());
     } else if (result_ == Kind::Text && IsWrongAbout("result-text-reference")) {
         frame.machine.host().Lock(result.text());
-    } else if (result_ == Kind::Text && result.text() == nullptr && IsWrongAbout("text-empty")) {
-        frame.machine.Raise("NilObjectException", "A string that is Nil was used.");
     }
     if (auto* exception = frame.machine.host().TakeException()) {
         frame.machine.Throw(Value::Adopt(exception));

@@ -131,21 +131,11 @@ void DisposeStringData(StringData* data) noexcept {
     Current().strings.ReturnData(data, "PluginDisposeStringData");
 }
 
-constexpr FactOf<HostTextEncoding> EncodingFacts[] = {
-    {HostTextEncoding::Utf8, "text-in-utf8"},
-    {HostTextEncoding::Utf16, "text-in-utf16"},
-    {HostTextEncoding::Latin1, "text-in-latin1"},
-    {HostTextEncoding::Unknown, "text-of-unknown-encoding"},
-};
-
 std::uint32_t GetStringEncoding(String text) noexcept {
     const auto encoding = Current().strings.Encoding(text, "REALGetStringEncoding");
-    if (IsWrongAbout<HostTextEncoding>(EncodingFacts, encoding)) {
-        const bool isWide = encoding == HostTextEncoding::Utf16;
-        return static_cast<std::uint32_t>(isWide ? HostTextEncoding::Utf8
-                                                 : HostTextEncoding::Utf16);
-    }
-    return static_cast<std::uint32_t>(encoding);
+    const bool isWrong =
+        encoding == HostTextEncoding::Unknown && IsWrongAbout("text-of-unknown-encoding");
+    return static_cast<std::uint32_t>(isWrong ? HostTextEncoding::Utf16 : encoding);
 }
 
 void SetStringEncoding(String text, std::uint32_t encoding) noexcept {

@@ -8,6 +8,7 @@
 
 #include "standin/runtime/record_layout.hpp"
 #include "standin/runtime/text_encoding.hpp"
+#include "standin/runtime/wrong_facts.hpp"
 
 namespace standin {
 namespace {
@@ -18,6 +19,17 @@ using host_interface::StringData;
 constexpr std::byte NoiseByte{0xEE};
 /// The host's bytes in front of a text.
 constexpr std::size_t TextOffset = 1;
+
+constexpr FactOf<HostTextEncoding> EncodingFacts[] = {
+    {HostTextEncoding::Utf8, "text-in-utf8"},
+    {HostTextEncoding::Utf16, "text-in-utf16"},
+    {HostTextEncoding::Latin1, "text-in-latin1"},
+};
+
+/// Whether the host takes the text for one in another encoding when a plug-in asks for it.
+bool IsMisread(const StringEntry* entry) {
+    return entry != nullptr && IsWrongAbout<HostTextEncoding>(EncodingFacts, entry->encoding);
+}
 
 std::string Describe(std::uint64_t serial, std::string_view bytes, HostTextEncoding encoding) {
     return "string #" + std::to_string(serial) + " " + Quoted(bytes) + " (" +
@@ -122,7 +134,7 @@ String StringStore::Convert(String text, HostTextEncoding encoding, const char* 
     if (text == nullptr) {
         return nullptr;
     }
-    const auto bytes = BytesAs(text, encoding, user);
+    const auto bytes = BytesForPlugin(text, encoding, user);
     return bytes ? MakeRecord(*bytes, encoding) : nullptr;
 }
 
@@ -141,6 +153,15 @@ std::optional<std::string> StringStore::BytesAs(String text, HostTextEncoding en
         return std::nullopt;
     }
     return ConvertText(TextOf(*entry), entry->encoding, encoding);
+}
+
+std::optional<std::string> StringStore::BytesForPlugin(String text, HostTextEncoding encoding,
+                                                       const char* user) {
+    const StringEntry* entry = strings_.Find(text);
+    if (IsMisread(entry)) {
+        return ConvertText(TextOf(*entry), HostTextEncoding::MacRoman, encoding);
+    }
+    return BytesAs(text, encoding, user);
 }
 
 HostTextEncoding StringStore::Encoding(String text, const char* user) {
@@ -188,10 +209,10 @@ bool StringStore::LendData(String text, HostTextEncoding encoding, StringData* r
     }
     // What a 64-bit plug-in asks for in the string's own encoding are the bytes as they are.
     const StringEntry* entry = layout::IsNarrow ? nullptr : strings_.Find(text);
-    const bool asTheyAre =
-        encoding == HostTextEncoding::Unknown || (entry != nullptr && encoding == entry->encoding);
-    const auto bytes =
-        asTheyAre ? std::optional<std::string>(Bytes(text, user)) : BytesAs(text, encoding, user);
+    const bool asTheyAre = encoding == HostTextEncoding::Unknown ||
+                           (entry != nullptr && encoding == entry->encoding && !IsMisread(entry));
+    const auto bytes = asTheyAre ? std::optional<std::string>(Bytes(text, user))
+                                 : BytesForPlugin(text, encoding, user);
     if (!bytes || failures_.FailsNow(Allocation::String)) {
         return false;
     }

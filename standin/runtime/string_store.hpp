@@ -50,6 +50,9 @@ public:
     std::string_view Bytes(String text, const char* user);
     /// The text's bytes in another encoding; none when they cannot be converted.
     std::optional<std::string> BytesAs(String text, HostTextEncoding encoding, const char* user);
+    /// The same for a plug-in that asks: misread by a host that is wrong about the text's encoding.
+    std::optional<std::string> BytesForPlugin(String text, HostTextEncoding encoding,
+                                              const char* user);
     HostTextEncoding Encoding(String text, const char* user);
     void SetEncoding(String text, HostTextEncoding encoding, const char* user);
     std::uint32_t References(String text, const char* user);
