@@ -132,10 +132,8 @@ void DisposeStringData(StringData* data) noexcept {
 }
 
 std::uint32_t GetStringEncoding(String text) noexcept {
-    const auto encoding = Current().strings.Encoding(text, "REALGetStringEncoding");
-    const bool isWrong =
-        encoding == HostTextEncoding::Unknown && IsWrongAbout("text-of-unknown-encoding");
-    return static_cast<std::uint32_t>(isWrong ? HostTextEncoding::Utf16 : encoding);
+    return static_cast<std::uint32_t>(
+        Current().strings.EncodingForPlugin(text, "REALGetStringEncoding"));
 }
 
 void SetStringEncoding(String text, std::uint32_t encoding) noexcept {

@@ -24,11 +24,16 @@ constexpr FactOf<HostTextEncoding> EncodingFacts[] = {
     {HostTextEncoding::Utf8, "text-in-utf8"},
     {HostTextEncoding::Utf16, "text-in-utf16"},
     {HostTextEncoding::Latin1, "text-in-latin1"},
+    {HostTextEncoding::Unknown, "text-of-unknown-encoding"},
 };
 
-/// Whether the host takes the text for one in another encoding when a plug-in asks for it.
-bool IsMisread(const StringEntry* entry) {
-    return entry != nullptr && IsWrongAbout<HostTextEncoding>(EncodingFacts, entry->encoding);
+/// The encoding that the host takes the text to be in when a plug-in asks for it.
+HostTextEncoding TakenEncoding(const StringEntry& entry) {
+    if (!IsWrongAbout<HostTextEncoding>(EncodingFacts, entry.encoding)) {
+        return entry.encoding;
+    }
+    return entry.encoding == HostTextEncoding::Unknown ? HostTextEncoding::Utf16
+                                                       : HostTextEncoding::MacRoman;
 }
 
 std::string Describe(std::uint64_t serial, std::string_view bytes, HostTextEncoding encoding) {
@@ -158,10 +163,15 @@ std::optional<std::string> StringStore::BytesAs(String text, HostTextEncoding en
 std::optional<std::string> StringStore::BytesForPlugin(String text, HostTextEncoding encoding,
                                                        const char* user) {
     const StringEntry* entry = strings_.Find(text);
-    if (IsMisread(entry)) {
-        return ConvertText(TextOf(*entry), HostTextEncoding::MacRoman, encoding);
+    if (entry == nullptr || TakenEncoding(*entry) == entry->encoding) {
+        return BytesAs(text, encoding, user);
     }
-    return BytesAs(text, encoding, user);
+    return ConvertText(TextOf(*entry), TakenEncoding(*entry), encoding);
+}
+
+HostTextEncoding StringStore::EncodingForPlugin(String text, const char* user) {
+    const StringEntry* entry = Find(text, user);
+    return entry == nullptr ? HostTextEncoding::Ascii : TakenEncoding(*entry);
 }
 
 HostTextEncoding StringStore::Encoding(String text, const char* user) {
@@ -210,7 +220,7 @@ bool StringStore::LendData(String text, HostTextEncoding encoding, StringData* r
     // What a 64-bit plug-in asks for in the string's own encoding are the bytes as they are.
     const StringEntry* entry = layout::IsNarrow ? nullptr : strings_.Find(text);
     const bool asTheyAre = encoding == HostTextEncoding::Unknown ||
-                           (entry != nullptr && encoding == entry->encoding && !IsMisread(entry));
+                           (entry != nullptr && encoding == TakenEncoding(*entry));
     const auto bytes = asTheyAre ? std::optional<std::string>(Bytes(text, user))
                                  : BytesForPlugin(text, encoding, user);
     if (!bytes || failures_.FailsNow(Allocation::String)) {

@@ -50,7 +50,8 @@ public:
     std::string_view Bytes(String text, const char* user);
     /// The text's bytes in another encoding; none when they cannot be converted.
     std::optional<std::string> BytesAs(String text, HostTextEncoding encoding, const char* user);
-    /// The same for a plug-in that asks: misread by a host that is wrong about the text's encoding.
+    /// The same two for a plug-in that asks: of another encoding on a host that is wrong about it.
+    HostTextEncoding EncodingForPlugin(String text, const char* user);
     std::optional<std::string> BytesForPlugin(String text, HostTextEncoding encoding,
                                               const char* user);
     HostTextEncoding Encoding(String text, const char* user);
