@@ -122,6 +122,28 @@ Protected Module Checks
 		End Function
 	#tag EndMethod
 
+	#tag Method, Flags = &h0
+		Function ManyNines() As String
+		  ' The digits of an exponent that no number has.
+		  Dim nines As String = "9999999999"
+		  For i As Integer = 1 To 4
+		    nines = nines + nines
+		  Next
+		  Return nines
+		End Function
+	#tag EndMethod
+
+	#tag Method, Flags = &h0
+		Function AllOnes(size As Integer) As String
+		  ' So many bytes with all bits set, in hexadecimal.
+		  Dim digits() As String
+		  For i As Integer = 1 To size
+		    digits.Append("FF")
+		  Next
+		  Return Join(digits, "")
+		End Function
+	#tag EndMethod
+
 	#tag Method, Flags = &h21
 		Private Sub CountCheck(name As String)
 		  mCount = mCount + 1
