@@ -99,6 +99,8 @@ Protected Module BigNumberChecks
 		  OfLn2
 		  OfLn10
 		  OfRand
+		  OfNilLeftOfOperators
+		  OfNilRightOfOperators
 		  OfNilReceivers
 		End Sub
 	#tag EndMethod
@@ -2588,6 +2590,82 @@ Protected Module BigNumberChecks
 		  Catch e As RuntimeException
 		    Unexpected("BigNumberVQZ.Rand", e)
 		  End Try
+		End Sub
+	#tag EndMethod
+
+	#tag Method, Flags = &h21
+		Private Sub OfNilLeftOfOperators()
+		  #If kOperatorLeft Then
+		    #Pragma BreakOnExceptions False
+		    Dim x As BigNumberVQZ
+		    Dim none As BigNumberVQZ
+		    Try
+		      Try
+		        x = none + N("3")
+		        MissFailure("BigNumberVQZ.Operator_Add of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_Add of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Add operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none - N("3")
+		        MissFailure("BigNumberVQZ.Operator_Subtract of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_Subtract of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Subtract operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none * N("3")
+		        MissFailure("BigNumberVQZ.Operator_Multiply of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_Multiply of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Multiply operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none / N("3")
+		        MissFailure("BigNumberVQZ.Operator_Divide of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_Divide of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Divide operation failed with numbers nil and 3.")
+		      End Try
+		    Catch e As RuntimeException
+		      Unexpected("Nil left of an operator of BigNumberVQZ", e)
+		    End Try
+		  #EndIf
+		End Sub
+	#tag EndMethod
+
+	#tag Method, Flags = &h21
+		Private Sub OfNilRightOfOperators()
+		  #If kOperatorRight And kConversionIn Then
+		    #Pragma BreakOnExceptions False
+		    Dim x As BigNumberVQZ
+		    Dim none As BigNumberVQZ
+		    Try
+		      Try
+		        x = "3" + none
+		        MissFailure("BigNumberVQZ.Operator_AddRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_AddRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Add operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" - none
+		        MissFailure("BigNumberVQZ.Operator_SubtractRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_SubtractRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Subtract operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" * none
+		        MissFailure("BigNumberVQZ.Operator_MultiplyRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_MultiplyRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Multiply operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" / none
+		        MissFailure("BigNumberVQZ.Operator_DivideRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BigNumberVQZ.Operator_DivideRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Divide operation failed with numbers nil and 3.")
+		      End Try
+		    Catch e As RuntimeException
+		      Unexpected("Nil right of an operator of BigNumberVQZ", e)
+		    End Try
+		  #EndIf
 		End Sub
 	#tag EndMethod
 

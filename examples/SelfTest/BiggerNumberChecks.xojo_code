@@ -99,6 +99,8 @@ Protected Module BiggerNumberChecks
 		  OfLn2
 		  OfLn10
 		  OfRand
+		  OfNilLeftOfOperators
+		  OfNilRightOfOperators
 		  OfNilReceivers
 		End Sub
 	#tag EndMethod
@@ -2588,6 +2590,82 @@ Protected Module BiggerNumberChecks
 		  Catch e As RuntimeException
 		    Unexpected("BiggerNumberVQZ.Rand", e)
 		  End Try
+		End Sub
+	#tag EndMethod
+
+	#tag Method, Flags = &h21
+		Private Sub OfNilLeftOfOperators()
+		  #If kOperatorLeft Then
+		    #Pragma BreakOnExceptions False
+		    Dim x As BiggerNumberVQZ
+		    Dim none As BiggerNumberVQZ
+		    Try
+		      Try
+		        x = none + N("3")
+		        MissFailure("BiggerNumberVQZ.Operator_Add of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_Add of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Add operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none - N("3")
+		        MissFailure("BiggerNumberVQZ.Operator_Subtract of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_Subtract of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Subtract operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none * N("3")
+		        MissFailure("BiggerNumberVQZ.Operator_Multiply of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_Multiply of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Multiply operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = none / N("3")
+		        MissFailure("BiggerNumberVQZ.Operator_Divide of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_Divide of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Divide operation failed with numbers nil and 3.")
+		      End Try
+		    Catch e As RuntimeException
+		      Unexpected("Nil left of an operator of BiggerNumberVQZ", e)
+		    End Try
+		  #EndIf
+		End Sub
+	#tag EndMethod
+
+	#tag Method, Flags = &h21
+		Private Sub OfNilRightOfOperators()
+		  #If kOperatorRight And kConversionIn Then
+		    #Pragma BreakOnExceptions False
+		    Dim x As BiggerNumberVQZ
+		    Dim none As BiggerNumberVQZ
+		    Try
+		      Try
+		        x = "3" + none
+		        MissFailure("BiggerNumberVQZ.Operator_AddRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_AddRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Add operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" - none
+		        MissFailure("BiggerNumberVQZ.Operator_SubtractRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_SubtractRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Subtract operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" * none
+		        MissFailure("BiggerNumberVQZ.Operator_MultiplyRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_MultiplyRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Multiply operation failed with numbers nil and 3.")
+		      End Try
+		      Try
+		        x = "3" / none
+		        MissFailure("BiggerNumberVQZ.Operator_DivideRight of Nil")
+		      Catch e As RuntimeException
+		        CheckFailed("BiggerNumberVQZ.Operator_DivideRight of Nil", e, "BigNumberErrorExceptionVQZ", "Operator_Divide operation failed with numbers nil and 3.")
+		      End Try
+		    Catch e As RuntimeException
+		      Unexpected("Nil right of an operator of BiggerNumberVQZ", e)
+		    End Try
+		  #EndIf
 		End Sub
 	#tag EndMethod
 

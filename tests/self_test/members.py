@@ -538,6 +538,16 @@ MEMBERS = [
     ]),
 
     # A receiver that is Nil.
+    Member("OfNilLeftOfOperators", "Nil left of an operator of $", [
+        Fails(f"$.Operator_{name} of Nil", f'x = none {sign} N("3")',
+              f'"Operator_{name} operation failed with numbers nil and 3."')
+        for name, sign in (("Add", "+"), ("Subtract", "-"), ("Multiply", "*"), ("Divide", "/"))],
+           "kOperatorLeft"),
+    Member("OfNilRightOfOperators", "Nil right of an operator of $", [
+        Fails(f"$.Operator_{name}Right of Nil", f'x = "3" {sign} none',
+              f'"Operator_{name} operation failed with numbers nil and 3."')
+        for name, sign in (("Add", "+"), ("Subtract", "-"), ("Multiply", "*"), ("Divide", "/"))],
+           "kOperatorRight And kConversionIn"),
     Member("OfNilReceivers", "Nil as a receiver of $", [
         yes("$.IsNan of Nil", "none.IsNan"),
         text("$.GetStringValue of Nil", 'none.GetStringValue(10, False, 15, -1, True, ".")', "NaN"),
