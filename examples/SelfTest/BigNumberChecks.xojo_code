@@ -1138,8 +1138,8 @@ Protected Module BigNumberChecks
 		      CheckText("BigNumberVQZ.Constructor(UInt64)", Shown(New BigNumberVQZ(wideUnsigned)), "9007199254740993")
 		      Dim real As Double = 0.1
 		      CheckText("BigNumberVQZ.Constructor(Double)", Shown(New BigNumberVQZ(real)), "0.1000000000000000055511151231257827021181583404541015625")
-		      Dim short As Single = 0.1
-		      CheckText("BigNumberVQZ.Constructor(Single)", Shown(New BigNumberVQZ(short)), "0.100000001490116119384765625")
+		      Dim shortReal As Single = 0.1
+		      CheckText("BigNumberVQZ.Constructor(Single)", Shown(New BigNumberVQZ(shortReal)), "0.100000001490116119384765625")
 		      Dim amount As Currency = 12.5
 		      CheckText("BigNumberVQZ.Constructor(Currency)", Shown(New BigNumberVQZ(amount)), "12.5")
 		      CheckText("BigNumberVQZ.Constructor(other)", Shown(New BigNumberVQZ(N("-2.5"))), "-2.5")
@@ -1165,8 +1165,8 @@ Protected Module BigNumberChecks
 		    CheckText("BigNumberVQZ.NumberWithUInt64", Shown(BigNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
 		    Dim narrowUnsigned As UInt32 = 4294967295
 		    CheckText("BigNumberVQZ.NumberWithUInt32", Shown(BigNumberVQZ.NumberWithUInt32(narrowUnsigned)), "4294967295")
-		    Dim short As Single = 0.1
-		    CheckText("BigNumberVQZ.NumberWithSingle", Shown(BigNumberVQZ.NumberWithSingle(short)), "0.100000001490116119384765625")
+		    Dim shortReal As Single = 0.1
+		    CheckText("BigNumberVQZ.NumberWithSingle", Shown(BigNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
 		    Dim real As Double = 0.1
 		    CheckText("BigNumberVQZ.NumberWithDouble", Shown(BigNumberVQZ.NumberWithDouble(real)), "0.1000000000000000055511151231257827021181583404541015625")
 		    Dim amount As Currency = 12.5

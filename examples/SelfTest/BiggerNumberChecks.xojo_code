@@ -1138,8 +1138,8 @@ Protected Module BiggerNumberChecks
 		      CheckText("BiggerNumberVQZ.Constructor(UInt64)", Shown(New BiggerNumberVQZ(wideUnsigned)), "9007199254740993")
 		      Dim real As Double = 0.1
 		      CheckText("BiggerNumberVQZ.Constructor(Double)", Shown(New BiggerNumberVQZ(real)), "0.1000000000000000055511151231257827021181583404541015625")
-		      Dim short As Single = 0.1
-		      CheckText("BiggerNumberVQZ.Constructor(Single)", Shown(New BiggerNumberVQZ(short)), "0.100000001490116119384765625")
+		      Dim shortReal As Single = 0.1
+		      CheckText("BiggerNumberVQZ.Constructor(Single)", Shown(New BiggerNumberVQZ(shortReal)), "0.100000001490116119384765625")
 		      Dim amount As Currency = 12.5
 		      CheckText("BiggerNumberVQZ.Constructor(Currency)", Shown(New BiggerNumberVQZ(amount)), "12.5")
 		      CheckText("BiggerNumberVQZ.Constructor(other)", Shown(New BiggerNumberVQZ(N("-2.5"))), "-2.5")
@@ -1165,8 +1165,8 @@ Protected Module BiggerNumberChecks
 		    CheckText("BiggerNumberVQZ.NumberWithUInt64", Shown(BiggerNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
 		    Dim narrowUnsigned As UInt32 = 4294967295
 		    CheckText("BiggerNumberVQZ.NumberWithUInt32", Shown(BiggerNumberVQZ.NumberWithUInt32(narrowUnsigned)), "4294967295")
-		    Dim short As Single = 0.1
-		    CheckText("BiggerNumberVQZ.NumberWithSingle", Shown(BiggerNumberVQZ.NumberWithSingle(short)), "0.100000001490116119384765625")
+		    Dim shortReal As Single = 0.1
+		    CheckText("BiggerNumberVQZ.NumberWithSingle", Shown(BiggerNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
 		    Dim real As Double = 0.1
 		    CheckText("BiggerNumberVQZ.NumberWithDouble", Shown(BiggerNumberVQZ.NumberWithDouble(real)), "0.1000000000000000055511151231257827021181583404541015625")
 		    Dim amount As Currency = 12.5

@@ -158,7 +158,6 @@ Protected Module Compiles
 		      CheckText("compiles-conversion-out", digits, "12.25")
 		      digits = N("-3")
 		      CheckText("compiles-conversion-out", digits, "-3")
-		      CheckInteger("compiles-conversion-out", Len(N("12.25")), 5)
 		    Catch e As RuntimeException
 		      Unexpected("compiles-conversion-out", e)
 		    End Try
@@ -235,8 +234,8 @@ Protected Module Compiles
 		      Dim wideUnsigned As UInt64 = 9223372036854775807
 		      wideUnsigned = wideUnsigned + wideUnsigned + 1
 		      CheckText("constructor-of-uint64", TextOf(New BigNumberVQZ(wideUnsigned)), "18446744073709551615")
-		      Dim short As Single = 0.1
-		      CheckText("constructor-of-single", TextOf(New BigNumberVQZ(short)), "0.100000001490116119384765625")
+		      Dim shortReal As Single = 0.1
+		      CheckText("constructor-of-single", TextOf(New BigNumberVQZ(shortReal)), "0.100000001490116119384765625")
 		      Dim real As Double = 0.1
 		      CheckText("constructor-of-double", TextOf(New BigNumberVQZ(real)), "0.1000000000000000055511151231257827021181583404541015625")
 		      Dim amount As Currency = 0.1

@@ -112,7 +112,11 @@ Protected Module HostObjects
 		Private Sub CheckBytesKept(name As String, before As Int64)
 		  ' Whether kRounds rounds left less than kBytesPerRound bytes each behind.
 		  Dim grown As Int64 = Runtime.MemoryUsed - before
-		  CheckText(name, If(grown < kRounds * kBytesPerRound, "", Str(grown) + " bytes more"), "")
+		  If grown < kRounds * kBytesPerRound Then
+		    CheckTrue(name, True)
+		  Else
+		    CheckText(name, Str(grown) + " bytes more", "none")
+		  End If
 		End Sub
 	#tag EndMethod
 

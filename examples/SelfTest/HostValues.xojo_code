@@ -75,9 +75,9 @@ Protected Module HostValues
 		    #EndIf
 		    CheckText("argument-integer", TextOf(BigNumberVQZ.NumberWithInteger(whole)), wholeDigits)
 		    CheckTrue("result-integer", N(wholeDigits).IntegerValue = whole)
-		    Dim set As New BigNumberVQZ
-		    set.IntegerValue = whole
-		    CheckText("argument-integer", TextOf(set), wholeDigits)
+		    Dim changed As New BigNumberVQZ
+		    changed.IntegerValue = whole
+		    CheckText("argument-integer", TextOf(changed), wholeDigits)
 		    #If RBVersion >= 2015 Then
 		      #If Target64Bit Then
 		        Dim unsignedWhole As UInteger = 9223372036854775807
@@ -98,19 +98,19 @@ Protected Module HostValues
 		Private Sub RealNumbers()
 		  #Pragma BreakOnExceptions False
 		  Try
-		    Dim short As Single = -0.75
-		    CheckText("argument-single", TextOf(BigNumberVQZ.NumberWithSingle(short)), "-0.75")
+		    Dim shortReal As Single = -0.75
+		    CheckText("argument-single", TextOf(BigNumberVQZ.NumberWithSingle(shortReal)), "-0.75")
 		    Dim real As Double = 0.1
 		    CheckText("argument-double", TextOf(BigNumberVQZ.NumberWithDouble(real)), "0.1000000000000000055511151231257827021181583404541015625")
 		    CheckReal("result-double", BigNumberVQZ.NumberWithDouble(real).DoubleValue, real)
 		    Dim amount As Currency = -1234.5678
 		    CheckText("argument-currency", TextOf(BigNumberVQZ.NumberWithCurrency(amount)), "-1234.5678")
 		    CheckTrue("result-currency", N("-1234.5678").CurrencyValue = amount)
-		    Dim set As New BigNumberVQZ
-		    set.DoubleValue = real
-		    CheckReal("argument-double", set.DoubleValue, real)
-		    set.CurrencyValue = amount
-		    CheckText("argument-currency", TextOf(set), "-1234.5678")
+		    Dim changed As New BigNumberVQZ
+		    changed.DoubleValue = real
+		    CheckReal("argument-double", changed.DoubleValue, real)
+		    changed.CurrencyValue = amount
+		    CheckText("argument-currency", TextOf(changed), "-1234.5678")
 		  Catch e As RuntimeException
 		    Unexpected("argument-double", e)
 		  End Try

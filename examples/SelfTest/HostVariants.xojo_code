@@ -59,8 +59,8 @@ Protected Module HostVariants
 
 	#tag Method, Flags = &h21
 		Private Sub RealNumbers()
-		  Dim short As Single = 0.75
-		  CheckVariant("variant-of-single", short, "0.75")
+		  Dim shortReal As Single = 0.75
+		  CheckVariant("variant-of-single", shortReal, "0.75")
 		  Dim real As Double = -2.5
 		  CheckVariant("variant-of-double", real, "-2.5")
 		  Dim amount As Currency = 12.3456
@@ -101,7 +101,7 @@ Protected Module HostVariants
 		  day.TotalSeconds = 3847219200
 		  CheckVariant("variant-of-date", day, "3847219200")
 		  #If XojoVersion >= 2019.02 Then
-		    Dim moment As New DateTime(1637496000)
+		    Dim moment As New DateTime(1637496000.0)
 		    CheckVariant("variant-of-datetime", moment, "1637496000")
 		  #EndIf
 		End Sub

@@ -6,6 +6,7 @@ add_unit_tests(language_tests
     language_lexer_tests.cpp
     language_parser_tests.cpp
     language_plugin_tests.cpp
+    language_project_tests.cpp
     language_run_tests.cpp
     language_unit_tests.cpp
     language_variant_tests.cpp

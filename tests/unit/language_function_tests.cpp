@@ -61,6 +61,9 @@ TEST_CASE("fields of text") {
     CHECK(host.Show("CountFields(\"a;b;c\", \";\")") == "3");
     CHECK(host.Show("CountFields(\"abc\", \";\")") == "1");
     CHECK(host.Show("NthField(\"a;b;c\", \";\", 2)") == "b");
+    CHECK(host.Show("Str(StrComp(\"a\", \"A\", 0))") == "1");
+    CHECK(host.Show("Str(StrComp(\"a\", \"b\", 0))") == "-1");
+    CHECK(host.Show("Str(StrComp(\"ab\", \"ab\", 0))") == "0");
     CHECK(host.Show("NthField(\"a;b;c\", \";\", 4) + NthField(\"a\", \";\", 0) + \"|\"") == "|");
 }
 

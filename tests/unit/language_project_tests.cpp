@@ -1,0 +1,210 @@
+// Projects that are broken, or written otherwise than the environment does: they run, or what is
+// said of them names the file and the line.
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <regex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <doctest.h>
+
+#include "language_support.hpp"
+#include "standin/language/program.hpp"
+#include "standin/language/project.hpp"
+
+namespace {
+
+using standin::language::AddProjectFiles;
+using standin::language::Program;
+using standin::language::ProgramError;
+using standin::language::Source;
+
+using Files = std::map<std::string, std::string>;
+
+constexpr const char* ProjectName = "P.xojo_project";
+constexpr const char* AppName = "App.xojo_code";
+constexpr const char* ModuleName = "Words.xojo_code";
+
+constexpr std::string_view Project =
+    "Type=Console\nRBProjectVersion=2021.021\n"
+    "Class=App;App.xojo_code;&h0000000000000001;&h0000000000000000;false\n"
+    "Module=Words;Words.xojo_code;&h0000000000000002;&h0000000000000000;false\n"
+    "BuildFlags=&h4100\n";
+constexpr std::string_view App =
+    "#tag Class\nProtected Class App\nInherits ConsoleApplication\n\t#tag Event\n"
+    "\t\tFunction Run(args() as String) As Integer\n\t\t  Print Words.Greeting\n\t\t  Return 3\n"
+    "\t\tEnd Function\n\t#tag EndEvent\n\n\t#tag ViewBehavior\n\t#tag EndViewBehavior\n"
+    "End Class\n#tag EndClass\n";
+constexpr std::string_view Module =
+    "#tag Module\nProtected Module Words\n\t#tag Method, Flags = &h1\n"
+    "\t\tProtected Function Greeting() As String\n\t\t  Return kHello + mSign\n"
+    "\t\tEnd Function\n\t#tag EndMethod\n\t#tag Property, Flags = &h21\n"
+    "\t\tPrivate mSign As String = \"!\"\n\t#tag EndProperty\n"
+    "\t#tag Constant, Name = kHello, Type = String, Dynamic = False, Default = \\\"hello\", "
+    "Scope = Private\n\t#tag EndConstant\nEnd Module\n#tag EndModule\n";
+constexpr std::string_view Output = "hello!\n3";
+
+Files Plain() {
+    return {{ProjectName, std::string(Project)},
+            {AppName, std::string(App)},
+            {ModuleName, std::string(Module)}};
+}
+
+/// The same files with a piece of one of them replaced wherever it occurs.
+Files With(const std::string& file, std::string_view piece, std::string_view replacement) {
+    auto files = Plain();
+    auto& text = files.at(file);
+    std::size_t at = text.find(piece);
+    REQUIRE(at != std::string::npos);
+    for (; at != std::string::npos; at = text.find(piece, at + replacement.size())) {
+        text.replace(at, piece.size(), replacement);
+    }
+    return files;
+}
+
+/// The files, each of them changed.
+template <typename Change>
+Files Each(Change change) {
+    auto files = Plain();
+    for (auto& [name, text] : files) {
+        text = change(text);
+    }
+    return files;
+}
+
+std::string WithLineEnds(const std::string& text, std::string_view lineEnd) {
+    std::string result;
+    for (const char character : text) {
+        character == '\n' ? result += lineEnd : result += character;
+    }
+    return result;
+}
+
+/// What the project prints, with its exit status; or the first line of its errors.
+std::string Run(SampleHost& sample, const Files& files) {
+    Source source(ProjectName, files.at(ProjectName));
+    std::string output;
+    try {
+        AddProjectFiles(source, [&files](const std::string& name) -> std::optional<std::string> {
+            const auto found = files.find(name);
+            return found == files.end() ? std::nullopt : std::optional(found->second);
+        });
+        const Program program(source, sample.types());
+        const int status = program.Run(sample.host(), [&output](std::string_view line) {
+            output += std::string(line) + "\n";
+        });
+        return output + std::to_string(status);
+    } catch (const ProgramError& error) {
+        const auto report = source.Describe(error);
+        return report.substr(0, report.find('\n'));
+    }
+}
+
+bool NamesAPlace(const std::string& report) {
+    static const std::regex Place(
+        R"((P\.xojo_project|App\.xojo_code|Words\.xojo_code):\d+:\d+: error: .+)");
+    return std::regex_match(report, Place);
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const auto end = text.find('\n') + 1;
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return lines;
+}
+
+std::string Joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const auto& line : lines) {
+        text += line;
+    }
+    return text;
+}
+
+}  // namespace
+
+TEST_CASE("a project runs with any line ends, with a byte-order mark, and without its tabs") {
+    SampleHost host;
+    CHECK(Run(host, Plain()) == Output);
+    for (const std::string_view lineEnd : {"\r\n", "\r"}) {
+        CAPTURE(lineEnd);
+        CHECK(Run(host, Each([lineEnd](const std::string& text) {
+                      return WithLineEnds(text, lineEnd);
+                  })) == Output);
+    }
+    CHECK(Run(host, Each([](const std::string& text) { return "\xEF\xBB\xBF" + text; })) == Output);
+    CHECK(Run(host, Each([](const std::string& text) {
+                  return text.substr(0, text.size() - 1);
+              })) == Output);
+    CHECK(Run(host, With(AppName, "\t", "")) == Output);
+    CHECK(Run(host, With(ModuleName, "\t", "    ")) == Output);
+    CHECK(Run(host, With(ProjectName, "\nModule", "\n\t \n\nModule")) == Output);
+}
+
+TEST_CASE("what is wrong with a project is told with its line") {
+    SampleHost host;
+    auto files = Plain();
+    files.erase(ModuleName);
+    CHECK(Run(host, files).starts_with("P.xojo_project:4:1: error: cannot read the file Words"));
+    CHECK(Run(host, With(ProjectName, "Type=Console\n", ""))
+              .starts_with("P.xojo_project:1:1: error: a project begins with its type"));
+    CHECK(Run(host, With(ProjectName, "Type=Console", "Type=Desktop"))
+              .starts_with("P.xojo_project:1:6: error: projects of the type \"Desktop\""));
+    CHECK(Run(host, With(ProjectName, "RBProjectVersion=2021.021", "RBProjectVersion"))
+              .starts_with("P.xojo_project:2:1: error: this is no line of a project"));
+    CHECK(Run(host, With(ProjectName, ";&h0000000000000001", ""))
+              .starts_with("P.xojo_project:3:1: error: an item is written"));
+    CHECK(Run(host, {{ProjectName, ""}}) == "P.xojo_project:1:1: error: the project is empty");
+    CHECK(Run(host, {{ProjectName, "Type=Console\n"}}) ==
+          "P.xojo_project:1:1: error: the project lists no class and no module");
+    CHECK(Run(host, With(ProjectName, "RBProjectVersion", "RB\xFFProjectVersion"))
+              .find("is not UTF-8 text") != std::string::npos);
+    CHECK(NamesAPlace(Run(host, With(ModuleName, "kHello +", "\xFF +"))));
+}
+
+TEST_CASE("a project without an application, or without its Run, says so") {
+    SampleHost host;
+    const auto withoutApp = With(
+        ProjectName, "Class=App;App.xojo_code;&h0000000000000001;&h0000000000000000;false\n", "");
+    CHECK(Run(host, withoutApp).find("inherits from ConsoleApplication") != std::string::npos);
+    CHECK(Run(host, With(AppName, "Function Run(", "Function Start(")) ==
+          "App.xojo_code:2:17: error: \"App\" has no Function Run(args() As String)");
+}
+
+TEST_CASE("a project whose files end anywhere runs or names a place") {
+    SampleHost host;
+    for (const auto& [name, text] : Plain()) {
+        for (std::size_t size = 0; size < text.size(); ++size) {
+            auto files = Plain();
+            files.at(name) = text.substr(0, size);
+            CAPTURE(name);
+            CAPTURE(size);
+            const auto result = Run(host, files);
+            CHECK((result == Output || NamesAPlace(result)));
+        }
+    }
+}
+
+TEST_CASE("a project with a line too few or twice runs or names a place") {
+    SampleHost host;
+    for (const auto& [name, text] : Plain()) {
+        const auto lines = LinesOf(text);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            for (const std::size_t times : {0U, 2U}) {
+                auto changed = lines;
+                changed[i] = times == 0 ? "" : lines[i] + lines[i];
+                auto files = Plain();
+                files.at(name) = Joined(changed);
+                CAPTURE(lines[i]);
+                CAPTURE(times);
+                const auto result = Run(host, files);
+                CHECK((result.ends_with("\n3") || result.ends_with("\n0") || NamesAPlace(result)));
+            }
+        }
+    }
+}
