@@ -271,6 +271,28 @@ function(add_completeness_tests)
     COMMAND Python3::Interpreter "${folder}/texts.py" "${PROJECT_SOURCE_DIR}")
 endfunction()
 
+# add_self_test_tests()
+#
+# Whether the self-test leaves out a member or one of its failures, and whether its modules are those that
+# are made from the table of members.
+function(add_self_test_tests)
+  set(folder "${PROJECT_SOURCE_DIR}/tests/self_test")
+  add_project_test(NAME self_test/coverage
+    COMMAND Python3::Interpreter "${folder}/coverage.py" "${PROJECT_SOURCE_DIR}" --
+      ${standin_command})
+  add_project_test(NAME self_test/modules
+    COMMAND Python3::Interpreter "${folder}/make_checks.py" "${PROJECT_SOURCE_DIR}" --check)
+endfunction()
+
+# add_wrong_host_tests()
+#
+# Whether the self-test notices each fact about which a host is wrong.
+function(add_wrong_host_tests)
+  add_project_test(NAME self_test/wrong_facts
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/self_test/wrong_facts.py"
+      "${PROJECT_SOURCE_DIR}" -- ${standin_command})
+endfunction()
+
 # add_host_tests([sample])
 #
 # A program with all members on hosts of every age, each without one function in turn; with `sample` on

@@ -1,7 +1,6 @@
 #include "standin/language/class_model.hpp"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "standin/language/dictionary.hpp"
@@ -108,13 +107,18 @@ void RefuseHostType(const syntax::TypeName& name) {
     }
 }
 
-/// Whether programs can name the entry of a table: hidden ones, too, unless the host is wrong
+/// Reads the entries of a table that programs can name: hidden ones, too, unless the host is wrong
 /// there.
-template <typename Info>
-bool IsKnown(const Info& info) {
-    const bool isHidden = std::ranges::any_of(
-        info.attributes, [](const auto& attribute) { return SameName(attribute.first, "Hidden"); });
-    return !(isHidden && IsWrongAbout("compiles-hidden-members"));
+template <typename Info, typename Member, typename Read>
+void AppendKnown(const std::vector<Info>& infos, std::vector<Member>& members, const Read& read) {
+    for (const auto& info : infos) {
+        const bool isHidden = std::ranges::any_of(info.attributes, [](const auto& attribute) {
+            return SameName(attribute.first, "Hidden");
+        });
+        if (!(isHidden && IsWrongAbout("compiles-hidden-members"))) {
+            members.push_back(read(info));
+        }
+    }
 }
 
 /// The name that a declaration begins with, for one that does not parse.
@@ -212,12 +216,10 @@ void TypeTable::AddMembers(ClassModel& model) const {
     const auto readProperty = [this](const PropertyInfo& property) {
         return ReadProperty(property);
     };
-    std::ranges::transform(info.methods, std::back_inserter(model.methods), readMethod);
-    std::ranges::transform(info.sharedMethods | std::views::filter(IsKnown<MethodInfo>),
-                           std::back_inserter(model.sharedMethods), readMethod);
-    std::ranges::transform(info.properties, std::back_inserter(model.properties), readProperty);
-    std::ranges::transform(info.sharedProperties | std::views::filter(IsKnown<PropertyInfo>),
-                           std::back_inserter(model.sharedProperties), readProperty);
+    AppendKnown(info.methods, model.methods, readMethod);
+    AppendKnown(info.sharedMethods, model.sharedMethods, readMethod);
+    AppendKnown(info.properties, model.properties, readProperty);
+    AppendKnown(info.sharedProperties, model.sharedProperties, readProperty);
     AddHostMembers(model);
 }
 

@@ -2,24 +2,17 @@
 // said of them names the file and the line.
 #include <cstddef>
 #include <map>
-#include <optional>
 #include <regex>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <doctest.h>
+#include "tests/unit/language_support.hpp"
 
-#include "language_support.hpp"
-#include "standin/language/program.hpp"
-#include "standin/language/project.hpp"
+using language_tests::RunProject;
+using language_tests::SampleHost;
 
 namespace {
-
-using standin::language::AddProjectFiles;
-using standin::language::Program;
-using standin::language::ProgramError;
-using standin::language::Source;
 
 using Files = std::map<std::string, std::string>;
 
@@ -82,24 +75,8 @@ std::string WithLineEnds(const std::string& text, std::string_view lineEnd) {
     return result;
 }
 
-/// What the project prints, with its exit status; or the first line of its errors.
 std::string Run(SampleHost& sample, const Files& files) {
-    Source source(ProjectName, files.at(ProjectName));
-    std::string output;
-    try {
-        AddProjectFiles(source, [&files](const std::string& name) -> std::optional<std::string> {
-            const auto found = files.find(name);
-            return found == files.end() ? std::nullopt : std::optional(found->second);
-        });
-        const Program program(source, sample.types());
-        const int status = program.Run(sample.host(), [&output](std::string_view line) {
-            output += std::string(line) + "\n";
-        });
-        return output + std::to_string(status);
-    } catch (const ProgramError& error) {
-        const auto report = source.Describe(error);
-        return report.substr(0, report.find('\n'));
-    }
+    return RunProject(sample, ProjectName, files);
 }
 
 bool NamesAPlace(const std::string& report) {
@@ -203,7 +180,7 @@ TEST_CASE("a project with a line too few or twice runs or names a place") {
                 CAPTURE(lines[i]);
                 CAPTURE(times);
                 const auto result = Run(host, files);
-                CHECK((result.ends_with("\n3") || result.ends_with("\n0") || NamesAPlace(result)));
+                CHECK((result.ends_with('3') || result.ends_with('0') || NamesAPlace(result)));
             }
         }
     }

@@ -1,9 +1,12 @@
 // What the tests of the language share: a host with the sample plug-in, and programs run in it.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <doctest/doctest.h>
 
@@ -11,6 +14,7 @@
 #include "standin/language/class_model.hpp"
 #include "standin/language/code.hpp"
 #include "standin/language/program.hpp"
+#include "standin/language/project.hpp"
 #include "standin/language/session.hpp"
 #include "standin/language/source.hpp"
 #include "standin/runtime/host.hpp"
@@ -93,5 +97,29 @@ private:
     standin::Host host_;
     std::unique_ptr<standin::language::TypeTable> types_;
 };
+
+/// What the project of that name prints, with its exit status, its files being these and no others;
+/// or the first line of its errors.
+inline std::string RunProject(SampleHost& sample, const std::string& project,
+                              const std::map<std::string, std::string>& files,
+                              const std::vector<std::string>& arguments = {}) {
+    standin::language::Source source(project, files.at(project));
+    std::string output;
+    try {
+        standin::language::AddProjectFiles(
+            source, [&files](const std::string& name) -> std::optional<std::string> {
+                const auto found = files.find(name);
+                return found == files.end() ? std::nullopt : std::optional(found->second);
+            });
+        const standin::language::Program program(source, sample.types(), arguments);
+        const int status = program.Run(sample.host(), [&output](std::string_view line) {
+            output += std::string(line) + "\n";
+        });
+        return output + std::to_string(status);
+    } catch (const standin::language::ProgramError& error) {
+        const auto report = source.Describe(error);
+        return report.substr(0, report.find('\n'));
+    }
+}
 
 }  // namespace language_tests

@@ -1,14 +1,10 @@
 // Modules, classes, constants and projects, and how all errors of a program are told.
-#include <map>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "standin/language/project.hpp"
 #include "tests/unit/language_support.hpp"
 
+using language_tests::RunProject;
 using language_tests::SampleHost;
-using standin::language::AddProjectFiles;
 using standin::language::MaximumShownErrors;
 using standin::language::Program;
 using standin::language::ProgramError;
@@ -25,27 +21,6 @@ std::string ErrorsIn(SampleHost& sample, const std::string& text) {
         return source.Describe(error);
     }
     return "none";
-}
-
-/// What a project of these files prints, with its exit status; or the first line of its errors.
-std::string RunProject(SampleHost& sample, const std::map<std::string, std::string>& files,
-                       const std::vector<std::string>& arguments = {}) {
-    Source source("folder/P.xojo_project", files.at("folder/P.xojo_project"));
-    std::string output;
-    try {
-        AddProjectFiles(source, [&files](const std::string& name) -> std::optional<std::string> {
-            const auto found = files.find(name);
-            return found == files.end() ? std::nullopt : std::optional(found->second);
-        });
-        const Program program(source, sample.types(), arguments);
-        const int status = program.Run(sample.host(), [&output](std::string_view line) {
-            output += std::string(line) + "\n";
-        });
-        return output + std::to_string(status);
-    } catch (const ProgramError& error) {
-        const auto report = source.Describe(error);
-        return report.substr(0, report.find('\n'));
-    }
 }
 
 constexpr auto Head = "Type=Console\nClass=App;App.xojo_code;&h1;&h0;false\n";
@@ -267,18 +242,22 @@ TEST_CASE("projects run from the application's Run") {
         "Default = \\\"-7\\x20+ 10\", Scope = Private\n\t#tag EndConstant\n\t#tag Note, Name = n\n"
         "\t\tany \"text\n\t#tag EndNote\n\t#tag ViewBehavior\n\t\t\"\n\t#tag EndViewBehavior\n"
         "End Class\n#tag EndClass\n";
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}}) ==
+    CHECK(RunProject(host, "folder/P.xojo_project",
+                     {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}}) ==
           "folder/P.xojo_project\n3");
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}})
+    CHECK(RunProject(host, "folder/P.xojo_project", {{"folder/P.xojo_project", Head}})
               .starts_with(
                   "folder/P.xojo_project:2:1: error: cannot read the file folder/App.xojo_code"));
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
-                            {"folder/App.xojo_code", "#tag Window\nBegin Window W\n"}}) ==
+    CHECK(RunProject(host, "folder/P.xojo_project",
+                     {{"folder/P.xojo_project", Head},
+                      {"folder/App.xojo_code", "#tag Window\nBegin Window W\n"}}) ==
           "folder/App.xojo_code:1:1: error: Windows are not supported here");
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
-                            {"folder/App.xojo_code", "Class App\nEnd Class\n"}})
+    CHECK(RunProject(
+              host, "folder/P.xojo_project",
+              {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", "Class App\nEnd Class\n"}})
               .find("inherits from ConsoleApplication") != std::string::npos);
-    CHECK(RunProject(host, {{"folder/P.xojo_project", "Class=A;A;&h1;&h0;false"}})
+    CHECK(RunProject(host, "folder/P.xojo_project",
+                     {{"folder/P.xojo_project", "Class=A;A;&h1;&h0;false"}})
               .find("begins with its type") != std::string::npos);
 }
 
@@ -289,11 +268,13 @@ TEST_CASE("the application gets its arguments, and is Self and Me to its own cod
         "Function Run(args() As String) As Integer\nMe.seen = args.Ubound\n"
         "Print Join(args, \",\") + Self.Mark\nReturn App.seen\nEnd Function\n"
         "Function Mark() As String\nReturn \"!\"\nEnd Function\nEnd Class\n";
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}},
+    CHECK(RunProject(host, "folder/P.xojo_project",
+                     {{"folder/P.xojo_project", Head}, {"folder/App.xojo_code", app}},
                      {"a \"b\"", "", "ä"}) == "folder/P.xojo_project,a \"b\",,ä!\n3");
-    CHECK(RunProject(host, {{"folder/P.xojo_project", Head},
-                            {"folder/App.xojo_code", app + "Module M\nFunction F() As Integer\n"
-                                                           "Return Self.seen\nEnd Function\n"
-                                                           "End Module\n"}})
+    CHECK(RunProject(host, "folder/P.xojo_project",
+                     {{"folder/P.xojo_project", Head},
+                      {"folder/App.xojo_code", app + "Module M\nFunction F() As Integer\n"
+                                                     "Return Self.seen\nEnd Function\n"
+                                                     "End Module\n"}})
               .find("there is nothing named \"Self\"") != std::string::npos);
 }
