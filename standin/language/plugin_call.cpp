@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstring>
 #include <deque>
 #include <type_traits>
@@ -41,7 +42,7 @@ Value Damaged(const Value& value, Kind kind) {
         } else if constexpr (std::is_same_v<T, double>) {
             return Value::Of(static_cast<double>(static_cast<float>(number)));
         } else if constexpr (std::is_same_v<T, float>) {
-            return Value::Of(static_cast<float>(static_cast<int>(number)));
+            return Value::Of(std::trunc(number));
         } else {
             constexpr auto Half = 4 * sizeof(T);
             return Value::Of(static_cast<T>(static_cast<std::uint64_t>(number) &
