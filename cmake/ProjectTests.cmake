@@ -298,9 +298,9 @@ endfunction()
 # A program with all members on hosts of every age, each without one function in turn; with `sample` on
 # that many of these hosts only.
 function(add_host_tests)
-  set(options)
+  set(options --bits ${bits})
   if(ARGC GREATER 0)
-    set(options --sample 20261121 ${ARGV0})
+    list(APPEND options --sample 20261121 ${ARGV0})
   endif()
   add_project_test(NAME hosts/matrix
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/hosts/matrix.py" ${options}

@@ -229,15 +229,18 @@ class CommandsTest(unittest.TestCase):
         self.assertEqual(self.noted("set-up"), ["build windows"])
         self.assertEqual([line.split()[-1] for line in self.noted("built")], ["build.ninja"])
 
-    def test_without_options_everything_is_built(self) -> None:
+    def test_without_options_all_that_tests_need_is_built(self) -> None:
         self.offer_tests()
         result = self.run_command("test")
         self.assertEqual(result.returncode, 0, result.stderr)
         built = [line for line in self.noted("built") if not line.endswith("build.ninja")]
-        presets = ["windows-x86", "linux-x86_64", "linux-x86", "linux-x86-sanitize", "linux-x86-fuzz"]
-        self.assertEqual([line.rpartition("/")[2] for line in built], presets)
+        presets = ["windows-x86", "windows-x86_64", "linux-x86_64", "linux-arm64", "linux-x86",
+                   "linux-x86-sanitize", "linux-x86_64-sanitize", "linux-x86-fuzz", "linux-x86_64-threads"]
+        self.assertEqual([line.rpartition("/")[2] for line in built],
+                         [f"{preset} prover sums" for preset in presets])
         self.assertEqual(self.noted("configured"), presets)
-        self.assertEqual(self.noted("set-up"), ["build checks native windows", "checks wine"])
+        self.assertEqual(self.noted("set-up"), ["arm64 build checks native windows windows64",
+                                                "arm64 checks wine wine64"])
         self.assertEqual(len(self.noted("tested")), 2)
 
     def test_the_package_is_made_of_the_libraries_of_all_targets(self) -> None:

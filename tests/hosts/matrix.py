@@ -1,6 +1,6 @@
 """Runs a program that uses all members on hosts of every age, each lacking one function in turn.
 
-usage: matrix.py [--sample SEED COUNT | --without FUNCTION... | --write] FOLDER -- COMMAND...
+usage: matrix.py [--bits 64] [--sample SEED COUNT | --without FUNCTION... | --write] FOLDER -- COMMAND...
 
 COMMAND starts the stand-in host with the library. The program is made of steps.txt, for both number
 classes, and of steps for the members that these leave out. On every host it must come to its end without
@@ -9,6 +9,10 @@ for. FOLDER/missing-functions.txt is what the program shows on a current host, a
 otherwise on a host that lacks a function; FOLDER/debug-log.txt which lines without a value the library
 logs while it runs. Both are compared; --write keeps them anew instead. With --sample only some of the
 hosts are tried, drawn with that seed; with --without only current ones that lack these functions.
+
+Hosts of 64 bits are of fewer ages. They show other things and are asked for other functions: for them
+FOLDER/missing-functions-64.txt takes the place of the first file. The lines of the log are the same ones
+there, in another order, since an Integer literal calls the overload for Int64.
 
 Where the environment variable STANDIN_CALL_RECORD names a file, the calls are recorded there as well.
 
@@ -31,7 +35,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).parents[1]))
 import host_ages  # noqa: E402
 import output_check  # noqa: E402
 import steps  # noqa: E402
-from host_ages import AGES, CURRENT  # noqa: E402
+from host_ages import CURRENT  # noqa: E402
 
 CLASSES = {"BigNumberVQZ": "256 bits", "BiggerNumberVQZ": "2048 bits"}
 NOTHING = "nothing"
@@ -158,11 +162,13 @@ class Outcome:
 class Hosts:
     """Runs the program; the library's calls and lookups are noted."""
 
-    def __init__(self, command: list[str], folder: pathlib.Path):
+    def __init__(self, command: list[str], folder: pathlib.Path, bits: int):
         self.command = command
         self.folder = folder
+        self.bits = bits
+        self.ages = host_ages.ages(bits)
         self.runs = 0
-        for age in AGES:
+        for age in self.ages:
             self.program(age).write_text(program_of(steps.written(age)), "utf-8")
             self.complete(age)
 
@@ -200,8 +206,8 @@ class Hosts:
             options += ["--without", missing]
         if missing in BALANCES:
             options.append("--spare-references")
-        # A host without a version function is an old one for the library.
-        program = self.program("none" if missing == VERSION else age)
+        # A host without a version function is the oldest one for the library.
+        program = self.program(self.ages[0] if missing == VERSION else age)
         result = output_check.run([*self.command, *options, str(program)],
                                   {"STANDIN_CALL_RECORD": str(self.record(age))})
         self.runs += 1
@@ -214,13 +220,14 @@ class Hosts:
             shown[step] = value
         return Outcome(result.returncode, shown, result.stderr.decode(**output_check.ENCODING))
 
-    def recorded(self, ages: tuple[str, ...] = AGES) -> str:
-        """What hosts of these ages recorded."""
-        return "".join(self.record(age).read_text("utf-8") for age in ages if self.record(age).exists())
+    def recorded(self, *ages: str) -> str:
+        """What hosts of these ages recorded, or of all where none is named."""
+        records = map(self.record, ages or self.ages)
+        return "".join(record.read_text("utf-8") for record in records if record.exists())
 
     def noted(self, kind: str, *ages: str) -> set[tuple[str, ...]]:
         """The fields of the records' lines of that kind, of all ages where none is named."""
-        lines = self.recorded(ages or AGES).splitlines()
+        lines = self.recorded(*ages).splitlines()
         return {tuple(line.split("\t")[1:]) for line in lines if line.startswith(f"{kind}\t")}
 
 
@@ -250,19 +257,19 @@ def differences(plain: Outcome, outcome: Outcome, missing: str) -> list[str]:
 Rows = dict[tuple[str, str], list[str]]
 
 
-def render(rows: Rows, plain: dict[str, str]) -> str:
-    """The table as text: first what is seen on a current host, then, for each function, the hosts
-    that it matters on, in groups that see the same."""
+def render(rows: Rows, plain: dict[str, str], ages: tuple[str, ...]) -> str:
+    """The table as text: first what is seen on a current host, then, for each function, the hosts of
+    these ages that it matters on, in groups that see the same."""
     text = "What the program shows on a current host that lacks nothing\n\n"
     text += "".join(f"  {step} -> {value}\n" for step, value in plain.items())
     for missing in sorted({missing for _, missing in rows}):
         groups = collections.defaultdict(list)
-        for age in AGES:
+        for age in ages:
             if (age, missing) in rows:
                 groups[tuple(rows[age, missing])].append(age)
         text += f"\nWithout {missing}\n"
-        for lines, ages in groups.items():
-            text += f"\n  on hosts {', '.join(ages)}\n"
+        for lines, alike in groups.items():
+            text += f"\n  on hosts {', '.join(alike)}\n"
             text += "".join(f"    {line}\n" for line in lines or ["nothing changes"])
     return text
 
@@ -283,9 +290,13 @@ def parse(text: str) -> Rows:
 def main() -> None:
     words, command = sys.argv[1:sys.argv.index("--")], sys.argv[sys.argv.index("--") + 1:]
     *options, golden = words
+    bits = 32
+    if options[:1] == ["--bits"]:
+        bits, options = int(options[1]), options[2:]
+    table = pathlib.Path(golden) / ("missing-functions.txt" if bits == 32 else f"missing-functions-{bits}.txt")
     with tempfile.TemporaryDirectory() as folder:
-        hosts = Hosts(command, pathlib.Path(folder))
-        problems = check(hosts, options, pathlib.Path(golden))
+        hosts = Hosts(command, pathlib.Path(folder), bits)
+        problems = check(hosts, options, table)
         if record := os.environ.get("STANDIN_CALL_RECORD"):
             with open(record, "a", encoding="utf-8") as file:
                 file.write(hosts.recorded())
@@ -293,11 +304,11 @@ def main() -> None:
         sys.exit("\n".join(problems))
 
 
-def check(hosts: Hosts, options: list[str], golden: pathlib.Path) -> list[str]:
+def check(hosts: Hosts, options: list[str], table: pathlib.Path) -> list[str]:
     """Tries the hosts that the options ask for. Returns what is wrong with them."""
-    table, log = golden / "missing-functions.txt", golden / "debug-log.txt"
+    log = table.with_name("debug-log.txt")
     problems = []
-    known = parse(table.read_text("utf-8"))
+    known = {} if "--write" in options else parse(table.read_text("utf-8"))
     rows: Rows = {}
     plain: dict[str, Outcome] = {}
 
@@ -323,7 +334,7 @@ def check(hosts: Hosts, options: list[str], golden: pathlib.Path) -> list[str]:
         for missing in options[1:]:
             look(CURRENT, missing)
     else:
-        for age in AGES:
+        for age in hosts.ages:
             look_at_plain(age)
         uncalled = hosts.noted("entry") - {fields[:4] for fields in hosts.noted("call")}
         problems += [f"the steps leave out {' '.join(fields)}" for fields in sorted(uncalled)]
@@ -331,7 +342,7 @@ def check(hosts: Hosts, options: list[str], golden: pathlib.Path) -> list[str]:
         done: set[str] = set()
         while missing_names := {fields[0] for fields in hosts.noted("lookup")} - done:
             for missing in sorted(missing_names):
-                for age in AGES:
+                for age in hosts.ages:
                     look(age, missing)
             done |= missing_names
 
@@ -341,12 +352,15 @@ def check(hosts: Hosts, options: list[str], golden: pathlib.Path) -> list[str]:
     if not is_whole:
         expected = {place: known.get(place, []) for place in rows}
         if rows != expected:
-            problems.append(output_check.difference(render(expected, {}).encode(), render(rows, {}).encode()))
+            texts = (render(table, {}, hosts.ages).encode() for table in (expected, rows))
+            problems.append(output_check.difference(*texts))
         return problems
 
-    for file, text in ((table, render(rows, plain[CURRENT].shown)),
-                       (log, "".join(f"{line}\n" for line in hosts.debug_log()))):
-        if "--write" in options:
+    shown, logged = render(rows, plain[CURRENT].shown, hosts.ages), hosts.debug_log()
+    if hosts.bits == 64 and sorted(logged) == sorted(log.read_text("utf-8").splitlines()):
+        logged = log.read_text("utf-8").splitlines()
+    for file, text in ((table, shown), (log, "".join(f"{line}\n" for line in logged))):
+        if "--write" in options and not (file == log and hosts.bits == 64):
             file.write_bytes(text.encode())
         elif difference := output_check.difference(file.read_bytes(), text.encode()):
             problems.append(f"{file.name} is different; ./test --golden writes it anew\n{difference}")

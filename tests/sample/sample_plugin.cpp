@@ -87,14 +87,16 @@ void Construct(Object self) {
     Write(self, 0);
 }
 
-void ConstructInteger(Object self, Integer value) {
+void ConstructInt32(Object self, std::int32_t value) {
     ++instances;
-    Write(self, static_cast<std::int32_t>(value));
+    Write(self, value);
 }
 
+/// Keeps the upper half of a value beyond 32 bits, so that a program sees that all of it arrived.
 void ConstructInt64(Object self, std::int64_t value) {
     ++instances;
-    Write(self, static_cast<std::int32_t>(value >> 32U));
+    const bool fits = value == static_cast<std::int32_t>(value);
+    Write(self, static_cast<std::int32_t>(fits ? value : value >> 32U));
 }
 
 void ConstructString(Object self, String value) {
@@ -339,7 +341,7 @@ PropertyDefinition sharedProperties[] = {
 
 MethodDefinition methods[] = {
     Method("Constructor", AsRoutine(Construct)),
-    Method("Constructor(value as Integer)", AsRoutine(ConstructInteger)),
+    Method("Constructor(value as Int32)", AsRoutine(ConstructInt32)),
     Method("Constructor(value as Int64)", AsRoutine(ConstructInt64)),
     Method("Constructor(value as String)", AsRoutine(ConstructString)),
     Method("Constructor(other as Sample)", AsRoutine(ConstructCopy)),
@@ -381,7 +383,7 @@ MethodDefinition methods[] = {
 };
 
 MethodDefinition sharedMethods[] = {
-    Method("Which(value as Integer) as Integer", AsRoutine(Which<1>)),
+    Method("Which(value as Int32) as Integer", AsRoutine(Which<1>)),
     Method("Which(value as Int64) as Integer", AsRoutine(Which<2>)),
     Method("Which(value as Double) as Integer", AsRoutine(Which<3>)),
     Method("Which(value as String) as Integer", AsRoutine(Which<4>)),
@@ -391,6 +393,8 @@ MethodDefinition sharedMethods[] = {
     Method("Wide(value as Int64) as Integer", AsRoutine(Which<8>)),
     Method("Wide(value as Sample) as Integer", AsRoutine(Which<9>)),
     Method("OfUInt32(value as UInt32) as Integer", AsRoutine(Which<10>)),
+    Method("Twice(value as Integer) as Integer", AsRoutine(Which<11>)),
+    Method("Twice(value as Int64) as Integer", AsRoutine(Which<12>)),
     Method("AUInt64 as UInt64", AsRoutine(ReturnUInt64)),
     Method("AnInt64 as Int64", AsRoutine(ReturnInt64)),
     Method("AUInt32 as UInt32", AsRoutine(ReturnUInt32)),

@@ -23,6 +23,11 @@ extern "C" void REALPluginMain(host_interface::Resolver resolver);
 
 namespace language_tests {
 
+/// What is expected at the width that Integer has here.
+inline std::string PerWidth(const std::string& at32Bits, const std::string& at64Bits) {
+    return sizeof(host_interface::Integer) == 4 ? at32Bits : at64Bits;
+}
+
 /// A host in which the sample plug-in is registered. Its end checks that the ledger is clean.
 class SampleHost {
 public:

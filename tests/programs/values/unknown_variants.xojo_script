@@ -22,7 +22,7 @@ Dim u32 As UInt32 = 4294967295
 Dim u64 As UInt64 = 18446744073709551615
 Dim d As Double = 0.1
 Dim amount As Currency = 12.3456
-Show("Int32", -5)
+Show("Int32", CType(-5, Int32))
 Show("UInt32", u32)
 Show("UInt64", u64)
 Show("Double", d)

@@ -209,10 +209,13 @@ Integer SizeBeyond32Bits(Object) {
 int loansGiven = 0;
 int loansReturned = 0;
 
-/// Lends bytes and says that there are 2^31 of them.
+/// How many bytes the host says that it lends.
+std::size_t lentLength = 0;
+
+/// Lends bytes and says that there are more of them.
 BooleanWord LendTooMany(String, std::uint32_t encoding, StringData* out) {
     *out = {.data = "12.5",
-            .length = std::size_t{INT32_MAX} + 1,
+            .length = lentLength,
             .encoding = encoding,
             .hostPointer = nullptr,
             .hostWord = 0};
@@ -248,7 +251,14 @@ TEST_CASE("A memory block of more than 4 GB is refused with its size") {
     CHECK(plugin.bigNumber().ValueBytes(object.Get()) == before);
 }
 
-TEST_CASE("Text of 2 GB counts as failed, and its bytes are given back") {
+TEST_CASE("Text of 2 GB and more counts as failed, and its bytes are given back") {
+    SUBCASE("2 GB") {
+        lentLength = std::size_t{INT32_MAX} + 1;
+    }
+    // In 32 bits this would be the length of the text.
+    SUBCASE("4 GB and the text") {
+        lentLength = (std::size_t{1} << 32U) + 4;
+    }
     WatchedPlugin plugin(
         {Replace<functions::PluginGetStringData>("PluginGetStringData", &LendTooMany),
          Replace<functions::PluginDisposeStringData>("PluginDisposeStringData", &TakeBack)});
