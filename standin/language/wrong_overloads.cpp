@@ -50,7 +50,7 @@ constexpr WrongCall WrongCalls[] = {
     {"constructor-of-whole-literal", Constructor, Form::WholeLiteral, Kind::None, Kind::UInt32},
     {"constructor-of-wide-literal", Constructor, Form::WideLiteral, Kind::None, Kind::Int32},
     {"constructor-of-real-literal", Constructor, Form::RealLiteral, Kind::Double, Kind::Single},
-    {"overload-by-type", "Multiply", Form::Value, Kind::UInt32, IntegerKind},
+    {"overload-by-type", "Multiply", Form::Value, IntegerKind, Kind::UInt32},
 };
 
 bool Applies(const WrongCall& call, const Signature& best, const Checked& argument) {
