@@ -20,6 +20,7 @@ DOCUMENTS = {
     "CHANGELOG.md": "CHANGELOG.md",
     "LICENSE.txt": "LICENSE",
     "THIRD-PARTY-NOTICES.md": "THIRD-PARTY-NOTICES.md",
+    "SelfTest/host-facts.md": "docs/host-facts.md",
 }
 # The folders with projects, likewise; each with the patterns of what belongs to it.
 PROJECTS = {

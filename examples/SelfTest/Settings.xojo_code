@@ -2,7 +2,7 @@
 Protected Module Settings
 	#tag Note, Name = About
 		What a compiler could refuse stands between #If and #EndIf with one of these constants. Set it to False to
-		compile the rest without it. docs/host-facts.md says what a refusal means.
+		compile the rest without it. The file host-facts.md says what a refusal means.
 	#tag EndNote
 
 	#tag Constant, Name = kLibraryVersion, Type = String, Dynamic = False, Default = \"21.3", Scope = Public
