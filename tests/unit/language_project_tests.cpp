@@ -2,7 +2,6 @@
 // said of them names the file and the line.
 #include <cstddef>
 #include <map>
-#include <regex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,10 +78,27 @@ std::string Run(SampleHost& sample, const Files& files) {
     return RunProject(sample, ProjectName, files);
 }
 
-bool NamesAPlace(const std::string& report) {
-    static const std::regex Place(
-        R"((P\.xojo_project|App\.xojo_code|Words\.xojo_code):\d+:\d+: error: .+)");
-    return std::regex_match(report, Place);
+/// Takes a number and the colon behind it off the text; false when it begins otherwise.
+bool TakeNumber(std::string_view& text) {
+    const auto end = text.find_first_not_of("0123456789");
+    if (end == 0 || end == std::string_view::npos || text[end] != ':') {
+        return false;
+    }
+    text.remove_prefix(end + 1);
+    return true;
+}
+
+/// Whether the report begins with a file of the project, a line and a column, and says something.
+bool NamesAPlace(std::string_view report) {
+    for (const std::string_view file : {"P.xojo_project:", "App.xojo_code:", "Words.xojo_code:"}) {
+        if (report.starts_with(file)) {
+            constexpr std::string_view Error = " error: ";
+            report.remove_prefix(file.size());
+            return TakeNumber(report) && TakeNumber(report) && report.starts_with(Error) &&
+                   report.size() > Error.size();
+        }
+    }
+    return false;
 }
 
 std::vector<std::string> LinesOf(std::string_view text) {
