@@ -14,7 +14,7 @@
 
 #if STANDIN_ADDRESS_SANITIZER
 /// Of the sanitizer's own runtime, whose header GCC's packages leave out.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+std::size_t BytesOfSanitizer() asm("__sanitizer_get_current_allocated_bytes");
 #endif
 
 namespace standin::platform {
@@ -262,7 +262,7 @@ void UnloadLibrary(void* library) {
 std::size_t MemoryUsed() {
 #if STANDIN_ADDRESS_SANITIZER
     // Its own allocator is in the place of the C library's.
-    return __sanitizer_get_current_allocated_bytes();
+    return BytesOfSanitizer();
 #else
     return mallinfo2().uordblks;
 #endif
