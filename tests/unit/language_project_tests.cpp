@@ -94,7 +94,9 @@ bool NamesAPlace(std::string_view report) {
         if (report.starts_with(file)) {
             constexpr std::string_view Error = " error: ";
             report.remove_prefix(file.size());
-            return TakeNumber(report) && TakeNumber(report) && report.starts_with(Error) &&
+            const bool hasLine = TakeNumber(report);
+            const bool hasColumn = TakeNumber(report);
+            return hasLine && hasColumn && report.starts_with(Error) &&
                    report.size() > Error.size();
         }
     }
