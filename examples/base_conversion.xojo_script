@@ -9,9 +9,9 @@ Function PowerOfTwo(exponent As Integer) As BiggerNumberVQZ
   Return two ^ Str(exponent)
 End Function
 
-Sub PrintLines(text As String, width As Integer)
-  For i As Integer = 1 To Len(text) Step width
-    Print "  " + Mid(text, i, width)
+Sub PrintLines(digits As String, width As Integer)
+  For i As Integer = 1 To Len(digits) Step width
+    Print "  " + Mid(digits, i, width)
   Next
 End Sub
 

@@ -12,13 +12,13 @@ Function Amount(cents As BigNumberVQZ) As String
   While Len(digits) < 3
     digits = "0" + digits
   Wend
-  Dim text As String = "." + Right(digits, 2)
+  Dim grouped As String = "." + Right(digits, 2)
   digits = Left(digits, Len(digits) - 2)
   While Len(digits) > 3
-    text = "," + Right(digits, 3) + text
+    grouped = "," + Right(digits, 3) + grouped
     digits = Left(digits, Len(digits) - 3)
   Wend
-  Return digits + text
+  Return digits + grouped
 End Function
 
 Print "1,000.00 at 3.75 % a year, interest rounded to the cent each year:"

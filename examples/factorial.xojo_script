@@ -8,9 +8,9 @@ Function Factorial(n As Integer) As BiggerNumberVQZ
   Return result
 End Function
 
-Sub PrintLines(text As String, width As Integer)
-  For i As Integer = 1 To Len(text) Step width
-    Print "  " + Mid(text, i, width)
+Sub PrintLines(digits As String, width As Integer)
+  For i As Integer = 1 To Len(digits) Step width
+    Print "  " + Mid(digits, i, width)
   Next
 End Sub
 

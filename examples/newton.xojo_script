@@ -9,9 +9,9 @@ Function CommonLength(a As String, b As String) As Integer
   Return count
 End Function
 
-Sub PrintLines(text As String, width As Integer)
-  For i As Integer = 1 To Len(text) Step width
-    Print "  " + Mid(text, i, width)
+Sub PrintLines(digits As String, width As Integer)
+  For i As Integer = 1 To Len(digits) Step width
+    Print "  " + Mid(digits, i, width)
   Next
 End Sub
 

@@ -54,7 +54,9 @@ Dim value As Variant = 1099511627776
 Print BigNumberVQZ.NumberWithVariant(value)
 value = "12.5 metres"
 Print BigNumberVQZ.NumberWithVariant(value)
-value = New Date(3847219200.5)                   ' dates count as their seconds
+Dim day As New Date                              ' dates count as their seconds
+day.TotalSeconds = 3847219200.5
+value = day
 Print BigNumberVQZ.NumberWithVariant(value)
 value = x
 Print Str(BigNumberVQZ.NumberWithVariant(value).Equals(x))
@@ -74,8 +76,8 @@ Print x
 Print "-- A number as a Variant is an Integer or Int64 where it is one, else text"
 Sub ShowVariant(x As BigNumberVQZ)
   Dim value As Variant = x.VariantValue
-  Dim text As String = value
-  Print "type " + Str(VarType(value)) + ": " + text
+  Dim shown As String = value
+  Print "type " + Str(VarType(value)) + ": " + shown
 End Sub
 ShowVariant("5")
 ShowVariant("1099511627776")

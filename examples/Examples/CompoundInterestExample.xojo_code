@@ -48,13 +48,13 @@ Protected Module CompoundInterestExample
 		  While Len(digits) < 3
 		    digits = "0" + digits
 		  Wend
-		  Dim text As String = "." + Right(digits, 2)
+		  Dim grouped As String = "." + Right(digits, 2)
 		  digits = Left(digits, Len(digits) - 2)
 		  While Len(digits) > 3
-		    text = "," + Right(digits, 3) + text
+		    grouped = "," + Right(digits, 3) + grouped
 		    digits = Left(digits, Len(digits) - 3)
 		  Wend
-		  Return digits + text
+		  Return digits + grouped
 		End Function
 	#tag EndMethod
 

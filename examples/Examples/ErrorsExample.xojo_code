@@ -29,10 +29,10 @@ Protected Module ErrorsExample
 		  
 		  Section("What a user types: a number and nothing else (a comma is taken as a point)")
 		  
-		  For Each text As String In Array(" 12.50 ", "-1e6", "12,50", "twelve", "")
+		  For Each typed As String In Array(" 12.50 ", "-1e6", "12,50", "twelve", "")
 		    Try
-		      Print ReadNumber(text)
-		    Catch e As InvalidArgumentException
+		      Print ReadNumber(typed)
+		    Catch e As RuntimeException
 		      Print e.Message
 		    End Try
 		  Next
@@ -72,13 +72,15 @@ Protected Module ErrorsExample
 
 
 	#tag Method, Flags = &h21
-		Private Function ReadNumber(text As String) As BigNumberVQZ
+		Private Function ReadNumber(typed As String) As BigNumberVQZ
 		  Dim x As New BigNumberVQZ
 		  Dim rest As String
 		  Dim found As Boolean
-		  x.SetStringValue(Trim(text), 10, rest, found)
+		  x.SetStringValue(Trim(typed), 10, rest, found)
 		  If Not found Or rest <> "" Then
-		    Raise New InvalidArgumentException("'" + text + "' is not a number", 0)
+		    Dim mistake As New RuntimeException
+		    mistake.Message = "'" + typed + "' is not a number"
+		    Raise mistake
 		  End If
 		  Return x
 		End Function

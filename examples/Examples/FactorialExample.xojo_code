@@ -31,9 +31,9 @@ Protected Module FactorialExample
 
 
 	#tag Method, Flags = &h21
-		Private Sub PrintLines(text As String, width As Integer)
-		  For i As Integer = 1 To Len(text) Step width
-		    Print "  " + Mid(text, i, width)
+		Private Sub PrintLines(digits As String, width As Integer)
+		  For i As Integer = 1 To Len(digits) Step width
+		    Print "  " + Mid(digits, i, width)
 		  Next
 		End Sub
 	#tag EndMethod

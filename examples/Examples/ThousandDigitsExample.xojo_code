@@ -11,24 +11,24 @@ Protected Module ThousandDigitsExample
 		  Dim machin() As BiggerNumberVQZ = LongNumber(0)      ' pi = 16 arctan 1/5 - 4 arctan 1/239
 		  AddArcTangent(machin, 16, 5)
 		  AddArcTangent(machin, -4, 239)
-		  Dim text As String = Digits(machin)
+		  Dim digitsOfPi As String = Digits(machin)
 		  
 		  Dim stormer() As BiggerNumberVQZ = LongNumber(0)     ' pi = 24 arctan 1/8 + 8 arctan 1/57 + 4 arctan 1/239
 		  AddArcTangent(stormer, 24, 8)
 		  AddArcTangent(stormer, 8, 57)
 		  AddArcTangent(stormer, 4, 239)
 		  
-		  Print "pi = " + Left(text, 2)
+		  Print "pi = " + Left(digitsOfPi, 2)
 		  For i As Integer = 3 To 1002 Step 50
-		    Print "     " + Mid(text, i, 50)
+		    Print "     " + Mid(digitsOfPi, i, 50)
 		  Next
-		  Print "Both formulas agree on all 1000 digits: " + Str(text = Digits(stormer))
+		  Print "Both formulas agree on all 1000 digits: " + Str(digitsOfPi = Digits(stormer))
 		  
 		  ' One number alone, as far as it goes:
 		  Dim pi As String = BiggerNumberVQZ.Pi.GetStringValue(10, False, 15)
-		  Print "BiggerNumberVQZ.Pi agrees on " + Str(CommonLength(text, pi) - 2) + " digits after the point."
+		  Print "BiggerNumberVQZ.Pi agrees on " + Str(CommonLength(digitsOfPi, pi) - 2) + " digits after the point."
 		  Dim smallerPi As String = BigNumberVQZ.Pi.GetStringValue(10, False, 15)
-		  Print "BigNumberVQZ.Pi agrees on " + Str(CommonLength(text, smallerPi) - 2) + " digits after the point."
+		  Print "BigNumberVQZ.Pi agrees on " + Str(CommonLength(digitsOfPi, smallerPi) - 2) + " digits after the point."
 		End Sub
 	#tag EndMethod
 
@@ -98,15 +98,15 @@ Protected Module ThousandDigitsExample
 		Private Function Digits(sum() As BiggerNumberVQZ) As String
 		  ' The sum as text. Its blocks have become too large or negative: from the last one on, what is too
 		  ' much or missing is carried over to the block before.
-		  Dim text As String
+		  Dim written As String
 		  Dim base As BiggerNumberVQZ = BlockBase
 		  For i As Integer = sum.Ubound DownTo 1
 		    Dim carry As BiggerNumberVQZ = (sum(i) / base).Floor
 		    sum(i - 1) = sum(i - 1) + carry
 		    Dim block As BiggerNumberVQZ = sum(i) - carry * base
-		    text = Right((block + base).GetStringValue(10, False, 1000), BlockDigits) + text
+		    written = Right((block + base).GetStringValue(10, False, 1000), BlockDigits) + written
 		  Next
-		  Return sum(0).StringValue + "." + Left(text, 1000)
+		  Return sum(0).StringValue + "." + Left(written, 1000)
 		End Function
 	#tag EndMethod
 

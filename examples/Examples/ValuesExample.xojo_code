@@ -59,7 +59,9 @@ Protected Module ValuesExample
 		  Print BigNumberVQZ.NumberWithVariant(value)
 		  value = "12.5 metres"
 		  Print BigNumberVQZ.NumberWithVariant(value)
-		  value = New Date(3847219200.5)                   ' dates count as their seconds
+		  Dim day As New Date                              ' dates count as their seconds
+		  day.TotalSeconds = 3847219200.5
+		  value = day
 		  Print BigNumberVQZ.NumberWithVariant(value)
 		  value = x
 		  Print Str(BigNumberVQZ.NumberWithVariant(value).Equals(x))
@@ -110,8 +112,8 @@ Protected Module ValuesExample
 	#tag Method, Flags = &h21
 		Private Sub ShowVariant(x As BigNumberVQZ)
 		  Dim value As Variant = x.VariantValue
-		  Dim text As String = value
-		  Print "type " + Str(VarType(value)) + ": " + text
+		  Dim shown As String = value
+		  Print "type " + Str(VarType(value)) + ": " + shown
 		End Sub
 	#tag EndMethod
 

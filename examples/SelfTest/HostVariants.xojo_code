@@ -100,7 +100,7 @@ Protected Module HostVariants
 		  Dim day As New Date
 		  day.TotalSeconds = 3847219200
 		  CheckVariant("variant-of-date", day, "3847219200")
-		  #If XojoVersion >= 2019.02 Then
+		  #If RBVersion >= 2019.02 Then
 		    Dim moment As New DateTime(1637496000.0)
 		    CheckVariant("variant-of-datetime", moment, "1637496000")
 		  #EndIf
