@@ -203,16 +203,21 @@ class RecipesTest(unittest.TestCase):
             "97 is prime", f"{3 * 11 * 17} is not prime", "1000000007 is prime",
             f"{1000000007 * 1000000009} is not prime", f"{2**127 - 1} is prime"])
 
-    def test_continued_fraction_of_pi(self) -> None:
+    def test_continued_fractions(self) -> None:
+        """Those of pi, and of 355/113, whose last term is 15 and 1 instead of 16 after the rounding."""
         rest = fractions.Fraction("3.14159265358979323846264338327950288")
-        lines, terms = [], []
+        pi_terms = []
         for _ in range(6):
-            terms.append(rest.numerator // rest.denominator)
-            rest = 1 / (rest - terms[-1])
-            value = fractions.Fraction(terms[-1])
-            for term in reversed(terms[:-1]):
-                value = term + 1 / value
-            lines.append(f"{terms[-1]}: {value.numerator}/{value.denominator}")
+            pi_terms.append(rest.numerator // rest.denominator)
+            rest = 1 / (rest - pi_terms[-1])
+        lines = []
+        for terms in (pi_terms, [3, 7, 15, 1]):
+            for count in range(1, len(terms) + 1):
+                value = fractions.Fraction(terms[count - 1])
+                for term in reversed(terms[:count - 1]):
+                    value = term + 1 / value
+                lines.append(f"{terms[count - 1]}: {value.numerator}/{value.denominator}")
+        self.assertEqual(lines[-1], "1: 355/113")
         self.assertEqual(self.printed("continued-fractions"), lines)
 
     def test_rounding_and_groups(self) -> None:
