@@ -179,7 +179,7 @@ Print Str(fortune.CurrencyValue))"}},
             .getter = GetVariant<Value, "GetVariantValue">(),
             .setter = SetVariant<Value, "SetVariantValue">(),
             .help = {.section = Section::HostValues,
-                     .summary = "The number as a Variant: an Integer or Int64 when it is one, else "
+                     .summary = "The number as a Variant: an Int32 or Int64 when it is one, else "
                                 "text.",
                      .details = "Integers beyond Int64 become text too. It can be set from "
                                 "numbers of every kind, text, dates (as seconds), Booleans, "
