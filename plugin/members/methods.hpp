@@ -81,8 +81,11 @@ Print BigNumberVQZ.Nan.Floor)"}},
                  "With `scientific` every number has an exponent; without it only where it is "
                  "above `scientificFrom` or below its negative. `round` is the number of "
                  "digits after the point, -1 for all of them; `TrimZeros` drops zeros at "
-                 "their end. `comma` gives the decimal mark by its first character. A "
-                 "failure is reported under the name DoubleValue.",
+                 "their end. `comma` gives the decimal mark by its first character. In base 10 "
+                 "the text is rounded to at most 77 significant digits (BiggerNumberVQZ: 617); "
+                 "zeros "
+                 "stand in the places of an integer after them. Base 16 shows all that the "
+                 "number holds. A failure is reported under the name DoubleValue.",
              .fails = "a base outside of 2 to 16, which gives an empty text",
              .example = R"(
 Dim third As BigNumberVQZ = "100"
@@ -121,7 +124,9 @@ length.SetStringValue("12.5", 17, rest, found))"}},
                      .summary = "The number as text in a base of 2 to 16; can be assigned to.",
                      .details = "Digits from 10 on are the letters A to F. From base^16 on there "
                                 "is an exponent: `*10^21` in base 16 is 16 to the power of 33. It "
-                                "is not read again; GetStringValue can write without one.",
+                                "is not read again; GetStringValue can write without one. Text in "
+                                "base 10 is rounded to at most 77 significant digits "
+                                "(BiggerNumberVQZ: 617), text in base 16 is not.",
                      .fails = "a base outside of 2 to 16",
                      .example = R"(
 Dim mask As BigNumberVQZ = "255.5"

@@ -136,11 +136,14 @@ Print Str(large.DoubleValue))"}},
             .getter = GetText<Value, "GetStringValue", "StringValue">(),
             .setter = SetText<Value, "SetStringValue", "StringValue">(),
             .help = {.section = Section::Text,
-                     .summary = "The number as text in base 10, with all its digits.",
-                     .details = "From 10^16 on the text is scientific; GetStringValue moves that "
-                                "limit. NaN and Nil give NaN. Setting it reads as far as a number "
-                                "goes, takes a point or a comma for the decimal mark, and gives 0 "
-                                "where there is none; the old value is gone in any case.",
+                     .summary = "The number as text in base 10.",
+                     .details = "The text is rounded to at most 77 significant digits "
+                                "(BiggerNumberVQZ: 617). From 10^16 on it is scientific; "
+                                "GetStringValue moves that limit, and then zeros stand in the "
+                                "places of an integer after the digits. NaN and Nil give NaN. "
+                                "Setting it reads as far as a number goes, takes a point or a "
+                                "comma for the decimal mark, and gives 0 where there is none; the "
+                                "old value is gone in any case.",
                      .fails = "a text, when it is set, whose exponent is beyond the range",
                      .example = R"(
 Dim price As New BigNumberVQZ
@@ -176,7 +179,7 @@ Print Str(fortune.CurrencyValue))"}},
             .getter = GetVariant<Value, "GetVariantValue">(),
             .setter = SetVariant<Value, "SetVariantValue">(),
             .help = {.section = Section::HostValues,
-                     .summary = "The number as a Variant: an Integer or Int64 when it is one, else "
+                     .summary = "The number as a Variant: an Int32 or Int64 when it is one, else "
                                 "text.",
                      .details = "Integers beyond Int64 become text too. It can be set from "
                                 "numbers of every kind, text, dates (as seconds), Booleans, "

@@ -176,6 +176,7 @@ class RecipesTest(unittest.TestCase):
     """What the recipes printed, compared with what Python computes."""
 
     page: str
+    command: list[str]
 
     def printed(self, anchor: str) -> list[str]:
         """The lines below the program of a recipe."""
@@ -197,22 +198,72 @@ class RecipesTest(unittest.TestCase):
         self.assertEqual(self.printed("fibonacci-numbers"),
                          [str(numbers[n]) for n in (10, 100, 360)])
 
+    def run_program(self, text: str) -> list[str]:
+        return subprocess.run([*self.command, "-"], input=text, capture_output=True, text=True,
+                              check=True).stdout.splitlines()
+
+    def test_limits_of_factorials_and_fibonacci_numbers(self) -> None:
+        """How far the recipes say that text in base 10, and the number itself, has every digit."""
+        fibonacci = [0, 1]
+        while len(fibonacci) <= 2953:
+            fibonacci.append(fibonacci[-2] + fibonacci[-1])
+        limits = {"BigNumberVQZ": ((65, 68), (370, 370)), "BiggerNumberVQZ": ((333, 341), (2951, 2952))}
+        for name, (of_factorials, of_fibonacci) in limits.items():
+            program = """
+Sub Show(kind As String, i As Integer, n As CLASS)
+  Print kind + " " + Str(i)
+  Print n.GetStringValue(10, False, 1000)
+  Print n.GetStringValue(16, False, 1000)
+End Sub
+Dim product As CLASS = "1"
+For i As Integer = 1 To FACTORIALS
+  product = product.Multiply(i)
+  Show("factorial", i, product)
+Next
+Dim before As CLASS = "0"
+Dim current As CLASS = "1"
+For i As Integer = 1 To FIBONACCI
+  Show("fibonacci", i, current)
+  Dim sum As CLASS = before + current
+  before = current
+  current = sum
+Next
+"""
+            for word, value in (("CLASS", name), ("FACTORIALS", of_factorials[1] + 1),
+                                ("FIBONACCI", of_fibonacci[1] + 1)):
+                program = program.replace(word, str(value))
+            shown = {"factorial": [], "fibonacci": []}
+            lines = iter(self.run_program(program))
+            for heading, decimal_text, hexadecimal in zip(lines, lines, lines):
+                kind, i = heading.split()
+                exact = math.factorial(int(i)) if kind == "factorial" else fibonacci[int(i)]
+                shown[kind].append((decimal_text == str(exact), int(hexadecimal, 16) == exact))
+            for kind, (printed, held) in (("factorial", of_factorials), ("fibonacci", of_fibonacci)):
+                with self.subTest(name=name, kind=kind):
+                    self.assertEqual(shown[kind],
+                                     [(i <= printed, i <= held) for i in range(1, held + 2)])
+
     def test_primes(self) -> None:
         """561 is a Carmichael number, the longer one a product of two primes, the last one Mersenne's."""
         self.assertEqual(self.printed("a-primality-test"), [
             "97 is prime", f"{3 * 11 * 17} is not prime", "1000000007 is prime",
             f"{1000000007 * 1000000009} is not prime", f"{2**127 - 1} is prime"])
 
-    def test_continued_fraction_of_pi(self) -> None:
+    def test_continued_fractions(self) -> None:
+        """Those of pi, and of 355/113, whose last term is 15 and 1 instead of 16 after the rounding."""
         rest = fractions.Fraction("3.14159265358979323846264338327950288")
-        lines, terms = [], []
+        pi_terms = []
         for _ in range(6):
-            terms.append(rest.numerator // rest.denominator)
-            rest = 1 / (rest - terms[-1])
-            value = fractions.Fraction(terms[-1])
-            for term in reversed(terms[:-1]):
-                value = term + 1 / value
-            lines.append(f"{terms[-1]}: {value.numerator}/{value.denominator}")
+            pi_terms.append(rest.numerator // rest.denominator)
+            rest = 1 / (rest - pi_terms[-1])
+        lines = []
+        for terms in (pi_terms, [3, 7, 15, 1]):
+            for count in range(1, len(terms) + 1):
+                value = fractions.Fraction(terms[count - 1])
+                for term in reversed(terms[:count - 1]):
+                    value = term + 1 / value
+                lines.append(f"{terms[count - 1]}: {value.numerator}/{value.denominator}")
+        self.assertEqual(lines[-1], "1: 355/113")
         self.assertEqual(self.printed("continued-fractions"), lines)
 
     def test_rounding_and_groups(self) -> None:
@@ -247,7 +298,7 @@ def main() -> None:
     folder, ContentsTest.version = sys.argv[1:separator]
     ContentsTest.folder = pathlib.Path(folder)
     RecipesTest.page = (ContentsTest.folder / "index.html").read_text(encoding="utf-8")
-    ContentsTest.command = sys.argv[separator + 1 :]
+    RecipesTest.command = ContentsTest.command = sys.argv[separator + 1 :]
     unittest.main(argv=sys.argv[:1])
 
 
