@@ -170,6 +170,17 @@ function(add_library_tests)
         ${check} ${processor} "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}"
         "${TTMATH_INCLUDE_DIR}")
   endforeach()
+  # Without optimisation, functions of the standard library stay out of line, and such a build is not delivered.
+  if(TARGET kernels AND CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT BIGNUMBERVQZ_SANITIZE)
+    set(newer_sets ${KERNEL_INSTRUCTION_SETS})
+    list(POP_FRONT newer_sets)
+    foreach(set IN LISTS newer_sets)
+      string(REGEX REPLACE ":.*" "" set "${set}")
+      add_project_test(NAME library/instruction_set_${set} TARGETS kernels_with_${set}
+        COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/instruction_sets.py" "${CMAKE_NM}" ${set}
+          "$<TARGET_OBJECTS:kernels_with_${set}>")
+    endforeach()
+  endif()
   add_project_test(NAME library/reproducible
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/reproducible_build.py"
       "${PROJECT_SOURCE_DIR}" BigNumberVQZ "$<TARGET_FILE:BigNumberVQZ>" --

@@ -32,8 +32,8 @@ function(add_kernel_tests target kernels)
 endfunction()
 
 add_kernel_tests(kernel_tests kernels)
-if(TARGET kernels_sse2)
-  add_kernel_tests(kernel_tests_sse2 kernels_sse2)
+if(KERNEL_BASIC_SET)
+  add_kernel_tests(kernel_tests_${KERNEL_BASIC_SET} kernels_${KERNEL_BASIC_SET})
 endif()
 
 add_project_test(NAME unit/kernel_map
