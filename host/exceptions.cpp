@@ -34,8 +34,7 @@ bool IsAnyOf(const std::exception& exception) {
 }
 
 /// The first match counts. The second test for std::underflow_error never matches, since the first
-/// one comes before it: so a failed cast is reported as a plain "C++ Exception", which is what
-/// existing programs expect.
+/// one comes before it: so a failed cast is reported as a plain "C++ Exception", and stays so.
 ExceptionMapping MapException(const std::exception& exception) {
     if (IsAnyOf<std::bad_alloc>(exception)) {
         return {"Failed to allocate memory", "OutOfMemoryException"};

@@ -209,8 +209,8 @@ void rbText::CheckForAscii() {
     }
 }
 
-/// Bytes of no known encoding are taken for Windows ANSI. A rebuilt text counts as failed too:
-/// callers are meant to know that its encoding was guessed.
+/// Bytes of no known encoding are taken for Windows ANSI. A rebuilt text counts as failed, too, and
+/// the log says so: its encoding is a guess.
 void rbText::RebuildUnknownEncoding() {
     const ByteView& bytes = SourceBytes();
     void* probe = platform::AllocateZeroed(static_cast<std::size_t>(bytes.length()) + 4);

@@ -1,4 +1,5 @@
-// Conversions from host values to numbers and back. The template arguments of the routines here are
+// Conversions from host values to numbers and back; what becomes of an integer is `NumberFrom` in
+// number/value/number_value.hpp. The template arguments of the routines here are
 // the name in the debug log and, for those that can fail, the name that a failure is reported
 // under.
 #pragma once
@@ -290,7 +291,7 @@ Object MakeAs(Host value) {
 }
 
 /// "NumberWithVariant(value as variant)"; null for Nil. A Double is read as a Single here, unlike
-/// in the setter of "VariantValue": programs rely on that precision.
+/// in the setter of "VariantValue"; the help says so, and it stays so.
 template <typename Value, FixedString LogName>
 NamedRoutine NumberWithVariant() {
     return MakeUnguardedRoutine<Unguarded::OutOfMemoryEscapes, LogName,
@@ -353,7 +354,7 @@ bool IsInRangeOf(const Value& value) {
 }
 
 /// The range in which "VariantValue" gives a UInt64: -1 to 0. Zero has become an Int32 before this
-/// test, so integers beyond Int64 become text; programs rely on that.
+/// test, so integers beyond Int64 become text; the help says so, and it stays so.
 template <typename Value>
 bool IsInRangeOfUInt64Variant(const Value& value) {
     return NumberConstant<Value, -1> <= value && value <= NumberConstant<Value, 0>;

@@ -12,8 +12,8 @@
 namespace vqz {
 
 /// Adapts the record to the host and registers it. On a host of interface version 9, which is
-/// always a 32-bit one, the record is replaced by its old form. Does nothing else on a host without
-/// "PluginRegisterClass".
+/// always a 32-bit one, the record is replaced by its old form. A host without
+/// "PluginRegisterClass" gets no class; the record is adapted all the same.
 void RegisterClassDefinition(host_interface::ClassDefinition& record);
 
 /// Replaces flags of the record and its tables that the host's release does not know.

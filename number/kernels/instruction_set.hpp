@@ -1,6 +1,6 @@
 // The namespace of inline functions that are compiled for more than one instruction set.
 //
-// The code that takes most of the time on long mantissas, vector_kernels.cpp, is written once and
+// The code that works on vectors, vector_kernels.cpp, is written once and
 // compiled for each instruction set of the processor. One computation never uses two of them: some
 // x86 processors run the older instructions several times slower once a wide register was used, and
 // in 32-bit code a program has no way to end this state.

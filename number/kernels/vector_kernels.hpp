@@ -1,6 +1,6 @@
-// The kernels that work on vectors, where computations with long mantissas spend most of their
-// time. Each instruction set has its own copy of them; which one runs is chosen when the library is
-// loaded.
+// The kernels that work on vectors: small terms of series and, where factors are words, products
+// and quotients of long mantissas, too. Each instruction set has its own copy of them; which one
+// runs is chosen when the library is loaded.
 #pragma once
 
 #include <algorithm>

@@ -39,6 +39,7 @@ Object ComputeWithTwoNumbers(Object self, Object other, Operation operation) {
         return NewNumberObject(result);
     }
     if (DebugEnabled) {
+        // The first of two such lines; `RaiseOverflowException` writes the second.
         LogMessage("RaiseOverflowException");
     }
     RaiseOverflowException(Name.text, FindNumber<Value>(self), FindNumber<Value>(other));

@@ -43,6 +43,7 @@ inline void RaiseNumberError(std::initializer_list<const char*> pieces) {
 template <typename Value>
 void RaiseOverflowException(const char* operationName, Object number) {
     if (DebugEnabled) {
+        // The log shows two levels of this name here; the expected logs have both lines.
         LogMessage("RaiseOverflowException");
         LogMessage("RaiseOverflowException");
     }

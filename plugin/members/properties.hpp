@@ -228,6 +228,7 @@ Print Str(nothing.DataMantissa.Size))"}},
         Row{.name = "DataExponent",
             .type = "MemoryBlock",
             .getter = GetPart<Value, &Value::exponent>(),
+            // Its failures name the other property; the help says so.
             .setter = SetPart<Value, &Value::exponent, "DataMantissa">(),
             .help = {.section = Section::Inside,
                      .summary = "The bytes of the signed exponent, least significant first.",

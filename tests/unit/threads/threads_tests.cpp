@@ -256,7 +256,7 @@ struct ShortestTimes {
     double Gain() const { return 2 * one / two; }
 };
 
-/// Whether each call gives another result, or the routine is the state of the whole process.
+/// Whether each call gives another result.
 bool IsLeftOut(const Member& member) {
     return member.declaration == "rand as number";
 }
@@ -372,7 +372,7 @@ constexpr bool IsWatched = true;
 constexpr bool IsWatched = false;
 #endif
 
-TEST_CASE("Two threads compute twice as much as one" * doctest::skip(IsWatched)) {
+TEST_CASE("Two threads that add do not wait for each other" * doctest::skip(IsWatched)) {
     REALPluginMain(&Resolve);
     const ClassDefinition& type = *Classes()[0];
     const std::vector<Member> members = MembersOf(type);
