@@ -41,4 +41,21 @@ EXPLAINED = [
         "Native language runtimes keep what this prepares in thread-local memory, which is there from "
         "the start. It is for the runtime of Windows, which these builds do not have.",
     ),
+    Explained(
+        "PrepareForExceptions();",
+        "/*PrepareForExceptions();*/",
+        "The same, one call further out.",
+    ),
+    Explained(
+        "if (handle != nullptr) {",
+        "if (1==1) {",
+        "Hosts count no references of a null handle, which is an empty text or no object; the condition "
+        "saves a call.",
+    ),
+    Explained(
+        "return *this;",
+        "/*return *this;*/",
+        "A function that does not return what it promises does not compile in the builds that are "
+        "delivered: they take warnings for errors, unlike those for deliberate faults.",
+    ),
 ]
