@@ -253,15 +253,12 @@ uint ReadFraction(Big<E, W>& number, const char*& source, const ttmath::Conv& co
     uint count = ReadExactly(reader, conv.base, fraction);
     Big<E, W> base(conv.base);
     uint carry = 0;
-    while (fraction.exponent.IsSign() || fraction.exponent.IsZero()) {
-        const ttmath::sint digit = reader.Digit();
-        if (digit == -1) {
-            break;
-        }
+    // The plain member reads digits until the exponent is above 0. It is so after one digit, which
+    // makes the integer longer than a mantissa.
+    if (const ttmath::sint digit = reader.Digit(); digit != -1) {
         carry += fraction.Mul(base);
         carry += fraction.Add(Big<E, W>(digit));
         ++count;
-        reader.Advance();
     }
     reader.SkipDigits();
     source = reader.place();

@@ -58,4 +58,9 @@ EXPLAINED = [
         "A function that does not return what it promises does not compile in the builds that are "
         "delivered: they take warnings for errors, unlike those for deliberate faults.",
     ),
+    Explained(
+        "while (getrandom(&value, sizeof value, 0) != static_cast<ssize_t>(sizeof value)) {",
+        "while (getrandom(&value, sizeof value, (0+1)) != static_cast<ssize_t>(sizeof value)) {",
+        "Nothing calls this function; it is there for the linker.",
+    ),
 ]

@@ -2,10 +2,14 @@
 // of them has to get right first.
 #include <algorithm>
 #include <array>
+#include <fstream>
+#include <iterator>
+#include <string>
 #include <vector>
 
 #include <doctest/doctest.h>
 
+#include BIGNUMBER_PROCESSOR_INSTRUCTION_SETS
 #include BIGNUMBER_PROCESSOR_PAIR
 #include BIGNUMBER_PROCESSOR_WORD_DIVISION
 #include "number/kernels/factors.hpp"
@@ -186,4 +190,12 @@ TEST_CASE("a pair of lanes") {
     CHECK(stored == Lanes{0xFFFFFFFF00000005, 7});
     Pair::StoreAligned(stored.data(), b);
     CHECK(stored == second);
+}
+
+TEST_CASE("vectors are computed with AVX2 where Linux says that the processor has it") {
+    std::ifstream file("/proc/cpuinfo");
+    REQUIRE(file.is_open());
+    const std::string processor(std::istreambuf_iterator<char>(file), {});
+    const bool hasAvx2 = processor.find(" avx2") != std::string::npos;
+    CHECK((&BestVectorKernels() != &BasicVectorKernels) == hasAvx2);
 }
