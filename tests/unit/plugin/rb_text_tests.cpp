@@ -82,6 +82,12 @@ host_interface::BooleanWord LendNothingSomewhere(host_interface::String, std::ui
 void CountDisposal(host_interface::StringData*) {
     ++disposals;
 }
+
+/// Finds a rebound "PluginGetStringData", so that another function can be rebound after it.
+void BindLoans() {
+    host_interface::StringData lent;
+    CHECK(vqz::host::PluginGetStringData(nullptr, 0, &lent));
+}
 #endif
 
 constexpr std::size_t Index(TextSlot slot) {
@@ -706,6 +712,7 @@ TEST_CASE(
 TEST_CASE("Bytes that the host lends without an address are none") {
     DirectHost host;
     const Rebound lend(vqz::host::PluginGetStringData, &LendNothing);
+    BindLoans();
     const Rebound dispose(vqz::host::PluginDisposeStringData, &CountDisposal);
     for (const HostTextEncoding encoding : EightBitEncodings) {
         CAPTURE(static_cast<std::uint32_t>(encoding));
@@ -730,6 +737,7 @@ TEST_CASE("What stands at the address of no converted bytes is not looked at") {
     DirectHost host;
     const HeldString source = Make("\x31\x00"sv, HostTextEncoding::Utf16);
     const Rebound lend(vqz::host::PluginGetStringData, &LendNothingSomewhere);
+    BindLoans();
     const Rebound dispose(vqz::host::PluginDisposeStringData, &CountDisposal);
     const vqz::TerminatedText text(source.Get());
     CHECK(text.begin() == ""sv);
