@@ -82,12 +82,7 @@ TEST_CASE_TEMPLATE("an integer power", S, Small, Large) {
         for (const std::uint8_t info : {std::uint8_t{0}, SignFlag}) {
             auto base = S::Integer(1);
             base.info = info;
-            const auto result = with_kernels::Compute(
-                Call::PowUInt, {.first = base, .second = power, .word = 0, .text = {}});
-            CHECK(result.carry == 0);
-            CHECK(S::Difference(result.number.mantissa, S::Integer(1).mantissa) == "right");
-            CHECK(result.number.exponent == S::Integer(1).exponent);
-            CHECK(int{result.number.info} == 0);
+            S::CheckIsOne(Call::PowUInt, base, power);
         }
     }
     SUBCASE("whose result has no room") {
