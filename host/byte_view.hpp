@@ -16,8 +16,8 @@ class ByteView {
 public:
     /// All bytes of a string as the host stores them; a null string gives an empty view. A 64-bit
     /// host lends them in the string's own encoding, which is `encoding`, and when it does not, or
-    /// when there are more than 0x7FFFFFFF, the view is empty and `failed`. A 32-bit host's strings
-    /// are read without a call.
+    /// when there are more than 0x7FFFFFFF, or a length without data, the view is empty and
+    /// `failed`. A 32-bit host's strings are read without a call.
     ByteView(host_interface::String text,
              [[maybe_unused]] host_interface::HostTextEncoding encoding)
         : string_(StringReference::Share(text)) {
@@ -29,7 +29,8 @@ public:
         length_ = text->length;
 #else
         isLent_ = host::PluginGetStringData(text, static_cast<std::uint32_t>(encoding), &lent_);
-        failed_ = !isLent_ || lent_.length > INT32_MAX;
+        failed_ =
+            !isLent_ || lent_.length > INT32_MAX || (lent_.data == nullptr && lent_.length > 0);
         if (!failed_) {
             data_ = lent_.data;
             length_ = static_cast<host_interface::Integer>(lent_.length);

@@ -299,7 +299,8 @@ void rbText::FillByHost(TextSlot slot) {
         Fail("REALGetStringData failed.");
         return;
     }
-    if (stringData[index].data != nullptr) {
+    // Where no bytes are, nobody may look for a NUL behind them.
+    if (stringData[index].data != nullptr && stringData[index].length > 0) {
         data[index] = stringData[index].data;
         length[index] = static_cast<std::int32_t>(stringData[index].length);
     }

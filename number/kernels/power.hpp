@@ -60,6 +60,13 @@ Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     return number.Pow(ttmath::UInt<1>(power));
 }
 
+/// Whether two numbers have the same bits, the flags without a meaning included.
+template <ttmath::uint E, ttmath::uint W>
+bool SameBits(const ttmath::Big<E, W>& left, const ttmath::Big<E, W>& right) {
+    return left.info == right.info && left.exponent == right.exponent &&
+           left.mantissa == right.mantissa;
+}
+
 /// number = number^[|power|], as Big::PowUInt; `power` is changed.
 template <ttmath::uint E, ttmath::uint W>
 Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
@@ -97,6 +104,11 @@ Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
         }
         carry += power.exponent.SubOne();
         if (power < one) {
+            break;
+        }
+        // From here on every product would be by 1. ttmath goes on, with a step for each power of 2
+        // in `power`: for `Exp` of a number whose mantissa is 0 that can be 2^(32 E - 1) steps.
+        if (SameBits(square, one)) {
             break;
         }
         carry += square.Mul(square);

@@ -100,6 +100,17 @@ struct Size {
                                        const NumberType& second = {}) {
         return CheckLikePlain(call, {.first = first, .second = second, .word = 0, .text = {}});
     }
+
+    /// Calls with the kernels, where ttmath would not come to an end, and expects exactly 1.
+    static void CheckIsOne(Call call, const NumberType& first, const NumberType& second = {}) {
+        const Input<E, W> input = {.first = first, .second = second, .word = 0, .text = {}};
+        const auto actual = with_kernels::Compute(call, input);
+        const auto one = Integer(1);
+        CHECK(Difference(actual.number.mantissa, one.mantissa) == "right");
+        CHECK(actual.number.exponent == one.exponent);
+        CHECK(int{actual.number.info} == 0);
+        CHECK(actual.carry == 0);
+    }
 };
 
 using Small = Size<2, 8>;

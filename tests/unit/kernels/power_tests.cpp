@@ -63,6 +63,28 @@ TEST_CASE_TEMPLATE("an integer power", S, Small, Large) {
             S::CheckLikePlain(call, S::Integer(3), zero);
         }
     }
+    SUBCASE("of 1 and -1, also with flags that mean nothing") {
+        for (const std::uint8_t info : {std::uint8_t{0}, SignFlag, FlagsWithoutMeaning}) {
+            CAPTURE(int{info});
+            auto one = S::Integer(1);
+            one.info = info;
+            for (const Word power : {1U, 2U, 3U, 1000U, 1001U}) {
+                for (const Call call : PowerCalls) {
+                    S::CheckLikePlain(call, one, S::Integer(power));
+                }
+            }
+            S::CheckLikePlain(Call::PowUInt, one, S::Make(S::Leading({0xC0000000}), 1000));
+        }
+    }
+    SUBCASE("of 1 with the largest exponent, which ttmath would take centuries for") {
+        auto power = S::Make(S::Leading({Top}));
+        power.exponent.back() = Ones >> 1;
+        for (const std::uint8_t info : {std::uint8_t{0}, SignFlag}) {
+            auto base = S::Integer(1);
+            base.info = info;
+            S::CheckIsOne(Call::PowUInt, base, power);
+        }
+    }
     SUBCASE("whose result has no room") {
         auto huge = S::Integer(3);
         huge.exponent.back() = Ones >> 2;

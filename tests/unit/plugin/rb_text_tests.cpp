@@ -26,6 +26,9 @@ using standin::Allocation;
 using tests::DirectHost;
 using tests::HeldString;
 using tests::LogLines;
+#if !HOST_INTERFACE_32_BIT
+using tests::Rebound;
+#endif
 using vqz::rbText;
 using vqz::TextKind;
 using vqz::TextSlot;
@@ -56,6 +59,36 @@ constexpr auto Nonsense = static_cast<HostTextEncoding>(0x00001234);
 
 constexpr TextSlot EightBitSlots[] = {TextSlot::Windows, TextSlot::MacRoman, TextSlot::Ascii,
                                       TextSlot::Utf8, TextSlot::Latin1};
+
+#if !HOST_INTERFACE_32_BIT
+std::size_t lentLength = 0;
+int disposals = 0;
+
+host_interface::BooleanWord LendNothing(host_interface::String, std::uint32_t,
+                                        host_interface::StringData* lent) {
+    *lent = {};
+    lent->length = lentLength;
+    return 1;
+}
+
+/// No bytes, at an address that cannot be read.
+host_interface::BooleanWord LendNothingSomewhere(host_interface::String, std::uint32_t,
+                                                 host_interface::StringData* lent) {
+    *lent = {};
+    lent->data = reinterpret_cast<decltype(lent->data)>(1);
+    return 1;
+}
+
+void CountDisposal(host_interface::StringData*) {
+    ++disposals;
+}
+
+/// Finds a rebound "PluginGetStringData", so that another function can be rebound after it.
+void BindLoans() {
+    host_interface::StringData lent;
+    CHECK(vqz::host::PluginGetStringData(nullptr, 0, &lent));
+}
+#endif
 
 constexpr std::size_t Index(TextSlot slot) {
     return static_cast<std::size_t>(slot);
@@ -674,5 +707,40 @@ TEST_CASE(
         CHECK(host.References(source.Get()) == 1);
     }
     CHECK(host.Counts().stringDataHeld == 0);
+}
+
+TEST_CASE("Bytes that the host lends without an address are none") {
+    DirectHost host;
+    const Rebound lend(vqz::host::PluginGetStringData, &LendNothing);
+    BindLoans();
+    const Rebound dispose(vqz::host::PluginDisposeStringData, &CountDisposal);
+    for (const HostTextEncoding encoding : EightBitEncodings) {
+        CAPTURE(static_cast<std::uint32_t>(encoding));
+        const HeldString source = Make("12.5", encoding);
+        lentLength = 4;
+        disposals = 0;
+        CHECK(host.LogOf([&] {
+            rbText text(source.Get());
+            CHECK(text.Utf8Text() == ""sv);
+            CHECK(text.Utf8Length() == 0);
+            CHECK(text.failed);
+        }) == LogLines({"REALGetStringData failed."}));
+        CHECK(disposals == 1);
+
+        lentLength = 0;
+        const rbText text(source.Get());
+        CHECK_FALSE(text.failed);
+    }
+}
+
+TEST_CASE("What stands at the address of no converted bytes is not looked at") {
+    DirectHost host;
+    const HeldString source = Make("\x31\x00"sv, HostTextEncoding::Utf16);
+    const Rebound lend(vqz::host::PluginGetStringData, &LendNothingSomewhere);
+    BindLoans();
+    const Rebound dispose(vqz::host::PluginDisposeStringData, &CountDisposal);
+    const vqz::TerminatedText text(source.Get());
+    CHECK(text.begin() == ""sv);
+    CHECK(text.end() == text.begin());
 }
 #endif
