@@ -60,11 +60,12 @@ Word RaiseToPower(ttmath::Big<E, W>& number, Word power) {
     return number.Pow(ttmath::UInt<1>(power));
 }
 
-/// Whether two numbers have the same bits, the flags without a meaning included.
+/// Whether the square of a number, which is not NaN, is the number itself, and the carry 0: 0, and
+/// 1 with any of the flags that have no meaning.
 template <ttmath::uint E, ttmath::uint W>
-bool SameBits(const ttmath::Big<E, W>& left, const ttmath::Big<E, W>& right) {
-    return left.info == right.info && left.exponent == right.exponent &&
-           left.mantissa == right.mantissa;
+bool IsItsSquare(const ttmath::Big<E, W>& number, const ttmath::Big<E, W>& one) {
+    return number.IsZero() ||
+           (!number.IsSign() && number.exponent == one.exponent && number.mantissa == one.mantissa);
 }
 
 /// number = number^[|power|], as Big::PowUInt; `power` is changed.
@@ -106,10 +107,11 @@ Word RaiseToPower(ttmath::Big<E, W>& number, ttmath::Big<E, W>& power) {
         if (power < one) {
             break;
         }
-        // From here on every product would be by 1. ttmath goes on, with a step for each power of 2
-        // in `power`: for `Exp` of a number whose mantissa is 0 that can be 2^(32 E - 1) steps.
-        if (SameBits(square, one)) {
-            break;
+        // A power above 2^(32 W) has only zeros down to exponent 0, so that the next steps only
+        // square. Where squaring changes nothing, they are left out: for 1 to the power of a huge
+        // number, and for `Exp` of one whose mantissa is 0, they could be 2^(32 E - 1).
+        if (!power.exponent.IsSign() && IsItsSquare(square, one)) {
+            power.exponent.SetZero();
         }
         carry += square.Mul(square);
     }

@@ -83,10 +83,7 @@ struct Size {
                (isSmall ? std::to_string(low) : "more than a word");
     }
 
-    /// Calls with the kernels and without, and compares everything that comes out.
-    static Output<E, W> CheckLikePlain(Call call, const Input<E, W>& input) {
-        const auto actual = with_kernels::Compute(call, input);
-        auto expected = plain::Compute(call, input);
+    static void CheckEqual(const Output<E, W>& actual, const Output<E, W>& expected) {
         CHECK_MESSAGE(
             Difference(actual.number.mantissa, expected.number.mantissa) == "right",
             "the mantissa is " << Difference(actual.number.mantissa, expected.number.mantissa));
@@ -94,6 +91,12 @@ struct Size {
         CHECK(int{actual.number.info} == int{expected.number.info});
         CHECK(actual.carry == expected.carry);
         CHECK(actual.text == expected.text);
+    }
+
+    /// Calls with the kernels and without, and compares everything that comes out.
+    static Output<E, W> CheckLikePlain(Call call, const Input<E, W>& input) {
+        auto expected = plain::Compute(call, input);
+        CheckEqual(with_kernels::Compute(call, input), expected);
         return expected;
     }
     static Output<E, W> CheckLikePlain(Call call, const NumberType& first,
@@ -101,15 +104,10 @@ struct Size {
         return CheckLikePlain(call, {.first = first, .second = second, .word = 0, .text = {}});
     }
 
-    /// Calls with the kernels, where ttmath would not come to an end, and expects exactly 1.
-    static void CheckIsOne(Call call, const NumberType& first, const NumberType& second = {}) {
+    /// Calls with the kernels alone, where ttmath would not come to an end.
+    static Output<E, W> Compute(Call call, const NumberType& first, const NumberType& second = {}) {
         const Input<E, W> input = {.first = first, .second = second, .word = 0, .text = {}};
-        const auto actual = with_kernels::Compute(call, input);
-        const auto one = Integer(1);
-        CHECK(Difference(actual.number.mantissa, one.mantissa) == "right");
-        CHECK(actual.number.exponent == one.exponent);
-        CHECK(int{actual.number.info} == 0);
-        CHECK(actual.carry == 0);
+        return with_kernels::Compute(call, input);
     }
 };
 

@@ -76,13 +76,22 @@ TEST_CASE_TEMPLATE("an integer power", S, Small, Large) {
             S::CheckLikePlain(Call::PowUInt, one, S::Make(S::Leading({0xC0000000}), 1000));
         }
     }
-    SUBCASE("of 1 with the largest exponent, which ttmath would take centuries for") {
-        auto power = S::Make(S::Leading({Top}));
-        power.exponent.back() = Ones >> 1;
-        for (const std::uint8_t info : {std::uint8_t{0}, SignFlag}) {
-            auto base = S::Integer(1);
-            base.info = info;
-            S::CheckIsOne(Call::PowUInt, base, power);
+    SUBCASE("with exponents up to the largest, for which ttmath would take centuries") {
+        constexpr int compared = 20'000;
+        const auto zero = S::Make({});
+        const auto half = S::Make(S::Leading({Top}), -S::Bits);
+        for (auto base : {S::Integer(1), zero, half}) {
+            for (const std::uint8_t info : {std::uint8_t{0}, SignFlag, FlagsWithoutMeaning}) {
+                CAPTURE(int{info});
+                base.info = info;
+                for (const auto& mantissa : {S::Leading({Top}), S::Leading({5}), zero.mantissa}) {
+                    const auto expected =
+                        S::CheckLikePlain(Call::PowUInt, base, S::Make(mantissa, compared));
+                    auto power = S::Make(mantissa);
+                    power.exponent.back() = Ones >> 1;
+                    S::CheckEqual(S::Compute(Call::PowUInt, base, power), expected);
+                }
+            }
         }
     }
     SUBCASE("whose result has no room") {
