@@ -24,6 +24,16 @@ using process::WriteOutput;
 /// How the command ends; the numbers are its exit status.
 enum class Status { Good = 0, Unhandled = 1, Wrong = 2, Unbalanced = 3, Crashed = 4 };
 
+/// Refuses what is no program but belongs to a project.
+void RefusePartOfProject(const std::string& name) {
+    constexpr std::string_view CodeExtension = ".xojo_code";
+    const bool isCode = name.ends_with(CodeExtension);
+    if (isCode || process::IsFolder(name)) {
+        throw UsageError(name + (isCode ? " is one file of a project" : " is a folder") +
+                         "; name the project, NAME.xojo_project");
+    }
+}
+
 Source ReadSource(const CommandLine& line) {
     if (line.text) {
         return {"-e", *line.text};
@@ -31,6 +41,7 @@ Source ReadSource(const CommandLine& line) {
     if (*line.file == "-") {
         return {"-", process::ReadStandardInput()};
     }
+    RefusePartOfProject(*line.file);
     auto text = process::ReadFile(*line.file);
     if (!text) {
         throw UsageError("cannot read the program " + *line.file);
@@ -132,7 +143,7 @@ Status Perform(const CommandLine& line) {
         status = RunProgram(host, *source, types, line);
     } else if (line.task == Task::Prompt) {
         SetLimits(host, line);
-        RunPrompt(host, types, line);
+        status = static_cast<Status>(RunPrompt(host, types, line));
     } else {
         WriteOutput(line.task == Task::List
                         ? language::ListClasses(host, types, line.file.value_or(""))

@@ -31,6 +31,10 @@ std::string ToUtf8(const wchar_t* text) {
     return utf8;
 }
 
+std::filesystem::path PathOf(const std::string& name) {
+    return std::u8string(name.begin(), name.end());
+}
+
 const char* NameOf(DWORD code) {
     switch (code) {
         case EXCEPTION_ACCESS_VIOLATION:
@@ -111,11 +115,14 @@ std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
     return arguments;
 }
 
-std::optional<std::string> ReadFile(const std::string& name) {
-    const std::filesystem::path path(std::u8string(name.begin(), name.end()));
+bool IsFolder(const std::string& name) {
     std::error_code ignored;
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path, ignored)) {
+    return std::filesystem::is_directory(PathOf(name), ignored);
+}
+
+std::optional<std::string> ReadFile(const std::string& name) {
+    std::ifstream file(PathOf(name), std::ios::binary);
+    if (!file || IsFolder(name)) {
         return std::nullopt;
     }
     return std::string(std::istreambuf_iterator<char>(file), {});

@@ -7,6 +7,7 @@
 #include "standin/language/host_members.hpp"
 #include "standin/language/parser.hpp"
 #include "standin/language/suggestions.hpp"
+#include "standin/language/unsupported.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -66,45 +67,6 @@ bool HasArray(const Signature& signature) {
            std::ranges::any_of(signature.parameters, [](const Parameter& parameter) {
                return parameter.type.kind == Kind::Array;
            });
-}
-
-/// Types of the host that programs of other kinds use.
-constexpr std::string_view UnsupportedTypes[] = {"BinaryStream",
-                                                 "Color",
-                                                 "Database",
-                                                 "DateInterval",
-                                                 "Delegate",
-                                                 "FolderItem",
-                                                 "Graphics",
-                                                 "JSONItem",
-                                                 "Mutex",
-                                                 "Picture",
-                                                 "Ptr",
-                                                 "RegEx",
-                                                 "Semaphore",
-                                                 "Shell",
-                                                 "TextInputStream",
-                                                 "TextOutputStream",
-                                                 "Thread",
-                                                 "Timer",
-                                                 "WString",
-                                                 "CString",
-                                                 "Xojo",
-                                                 "TCPSocket",
-                                                 "URLConnection",
-                                                 "Text",
-                                                 "CGFloat",
-                                                 "Auto",
-                                                 "Window",
-                                                 "DesktopWindow",
-                                                 "DictionaryEntry"};
-
-/// Throws for a type that the host has, but that is not supported here.
-void RefuseHostType(const syntax::TypeName& name) {
-    if (std::ranges::any_of(UnsupportedTypes,
-                            [&name](std::string_view type) { return SameName(type, name.name); })) {
-        throw ProgramError(name.at, "the type " + Quoted(name.name) + " is not supported here");
-    }
 }
 
 /// Reads the entries of a table that programs can name: hidden ones, too, unless the host is wrong
@@ -349,12 +311,36 @@ std::vector<std::string_view> TypeTable::Names() const {
     return names;
 }
 
+std::optional<Type> TypeTable::Find(std::string_view name, std::string_view module) const {
+    const auto type = Find(name);
+    const bool isThere =
+        type &&
+        (module.empty() || (type->model != nullptr && SameName(type->model->module, module)));
+    return isThere ? type : std::nullopt;
+}
+
+void TypeTable::FailWithoutType(const syntax::TypeName& name) const {
+    const auto written = name.module.empty() ? name.name : name.module + "." + name.name;
+    if (IsUnsupported(std::string_view(written).substr(0, written.find('.')))) {
+        throw ProgramError(name.at, "the type " + Quoted(written) + " is not supported here");
+    }
+    const auto elsewhere = Find(name.name);
+    std::string suggestion;
+    if (!elsewhere) {
+        suggestion = SuggestionFor(name.name, Names());
+    } else {
+        const bool isInModule = elsewhere->model != nullptr && !elsewhere->model->module.empty();
+        suggestion =
+            "; there is " +
+            Quoted(isInModule ? elsewhere->model->module + "." + NameOf(*elsewhere) : name.name);
+    }
+    throw ProgramError(name.at, "there is no type " + Quoted(written) + suggestion);
+}
+
 Type TypeTable::Require(const syntax::TypeName& name) const {
-    const auto type = Find(name.name);
+    const auto type = Find(name.name, name.module);
     if (!type) {
-        RefuseHostType(name);
-        throw ProgramError(
-            name.at, "there is no type " + Quoted(name.name) + SuggestionFor(name.name, Names()));
+        FailWithoutType(name);
     }
     return name.dimensions == 0 ? *type : Type::ArrayOf(*type, name.dimensions);
 }

@@ -113,6 +113,8 @@ public:
     std::vector<Property> sharedProperties;
     /// The values of an `Enum`.
     std::vector<syntax::Enumeration::Item> items;
+    /// Of a type of the program: the module that it belongs to; empty outside of modules.
+    std::string module;
     /// Of a class of the program: what gives the fields of a new object their first values.
     const code::Routine* initialiser = nullptr;
 
@@ -152,6 +154,8 @@ public:
     std::vector<std::string_view> Names() const;
 
     std::optional<Type> Find(std::string_view name) const;
+    /// The same of one that belongs to a module; to any where that is empty.
+    std::optional<Type> Find(std::string_view name, std::string_view module) const;
     const ClassModel* FindClass(std::string_view name) const;
     /// The type of a written name; throws ProgramError when there is none.
     Type Require(const syntax::TypeName& name) const;
@@ -161,6 +165,7 @@ public:
                       std::optional<Type> element = std::nullopt) const;
 
 private:
+    [[noreturn]] void FailWithoutType(const syntax::TypeName& name) const;
     ClassModel& AddClass(const ClassInfo& info);
     void AddMembers(ClassModel& model) const;
     void AddHostMembers(ClassModel& model) const;

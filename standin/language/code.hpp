@@ -55,6 +55,18 @@ public:
     const char* what() const noexcept override { return "interrupted"; }
 };
 
+/// The program ends itself; no Catch and no Finally of it sees that.
+class Ended : public std::exception {
+public:
+    explicit Ended(int status) : status_(status) {}
+    /// Its exit status.
+    int status() const { return status_; }
+    const char* what() const noexcept override { return "the program ended itself"; }
+
+private:
+    int status_;
+};
+
 /// Statements that a program may take, each turn of a loop and each branch counted as one more.
 inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_t>::max();
 

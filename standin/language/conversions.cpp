@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "standin/language/code_expressions.hpp"
+#include "standin/language/hints.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -172,19 +173,6 @@ Checked ConvertPlain(Checked value, Type to) {
     return {std::move(value.code), to, value.at, {}, false};
 }
 
-std::string HintFor(Type from, Type to) {
-    if (IsNumber(from.kind) && to.kind == Kind::Text) {
-        return "; use Str";
-    }
-    if (from.kind == Kind::Text && IsNumber(to.kind)) {
-        return "; use Val";
-    }
-    if (from.kind == Kind::Instance && to.kind == Kind::Instance && to.model->IsA(*from.model)) {
-        return "; use CType";
-    }
-    return {};
-}
-
 }  // namespace
 
 Fit FitOf(const Checked& value, Type to) {
@@ -217,7 +205,7 @@ Checked ConvertTo(Checked value, Type to) {
         return ConvertOut(std::move(value), to, *method);
     }
     throw ProgramError(value.at, "expected " + NameOf(to) + ", this is " + NameOf(value.type) +
-                                     HintFor(value.type, to));
+                                     ConversionHint(value, to));
 }
 
 void RequireUsable(const std::string& declaration, const std::string& problem, Position at) {

@@ -98,7 +98,7 @@ TEST_CASE("mistakes with arrays are told") {
     SampleHost host;
     CHECK(host.Run("Dim a() As Integer\na.Append(\"x\")") ==
           "2:10: \"Append(value As Element)\" expects Integer for \"value\", this is a value of "
-          "type String");
+          "type String; use Val");
     CHECK(host.Run("Dim a() As Integer\nPrint a") ==
           "2:7: \"Print\" takes a String, this is Integer()");
     CHECK(host.Run("Dim a() As Integer\nPrint a(1, 2)") == "2:7: an array takes one index");
@@ -120,7 +120,7 @@ TEST_CASE("mistakes with arrays are told") {
     CHECK(host.Run("For Each n As Integer In 5\nNext") ==
           "1:26: \"For Each\" takes an array, this is Integer");
     CHECK(host.Run("For Each n As Sample In Array(5)\nNext") ==
-          "1:10: expected Sample, this is Integer");
+          "1:10: expected Sample, this is Integer; write New Sample(...)");
 }
 
 TEST_CASE("For Each goes over the elements there are") {

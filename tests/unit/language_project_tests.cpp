@@ -168,7 +168,8 @@ TEST_CASE("a project without an application, or without its Run, says so") {
         ProjectName, "Class=App;App.xojo_code;&h0000000000000001;&h0000000000000000;false\n", "");
     CHECK(Run(host, withoutApp).find("inherits from ConsoleApplication") != std::string::npos);
     CHECK(Run(host, With(AppName, "Function Run(", "Function Start(")) ==
-          "App.xojo_code:2:17: error: \"App\" has no Function Run(args() As String)");
+          "App.xojo_code:5:12: error: a ConsoleApplication has no event \"Start\"; it has Run and "
+          "UnhandledException");
 }
 
 TEST_CASE("a project whose files end anywhere runs or names a place") {
