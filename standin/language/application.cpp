@@ -71,17 +71,20 @@ void RequireEvent(const syntax::Signature& signature) {
 
 }  // namespace
 
-void CheckEvents(const syntax::Unit& unit, ErrorList& errors) {
-    for (const auto& routine : unit.routines) {
-        errors.Try([&] {
+void CheckEvents(syntax::Unit& unit, ErrorList& errors) {
+    for (auto& routine : unit.routines) {
+        const bool isRight = errors.Try([&] {
             if (unit.isApplication && IsEvent(routine)) {
                 RequireEvent(routine.signature);
-            } else if (routine.tag == syntax::RoutineTag::Event) {
+            } else if (routine.tag == syntax::RoutineTag::Event && !unit.isIncomplete) {
                 throw ProgramError(routine.signature.at,
                                    Quoted(unit.name) + " has no events: it does not inherit from " +
                                        std::string(ApplicationBase));
             }
         });
+        if (!isRight) {
+            routine.body.clear();
+        }
     }
 }
 

@@ -17,8 +17,8 @@ inline constexpr std::string_view RunEvent = "Run";
 inline constexpr std::string_view UnhandledEvent = "UnhandledException";
 
 /// Adds an error for each event of a module or class that it cannot have, or that the host declares
-/// otherwise.
-void CheckEvents(const syntax::Unit& unit, ErrorList& errors);
+/// otherwise. Nothing is left in such an event.
+void CheckEvents(syntax::Unit& unit, ErrorList& errors);
 
 /// The routine of an application that is that event; null without it.
 const syntax::Routine* FindEvent(const syntax::Unit& unit, std::string_view name);

@@ -235,14 +235,9 @@ Property TypeTable::ReadProperty(const PropertyInfo& info) const {
     return property;
 }
 
-Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
-                             std::optional<Type> element) const {
-    const auto resolve = [this, element](const syntax::TypeName& name) {
-        if (element && name.name == ElementPlaceholder) {
-            return name.dimensions == 0 ? *element : Type::ArrayOf(*element, name.dimensions);
-        }
-        return Require(name);
-    };
+template <typename ResolveType>
+Signature TypeTable::ResolveWith(syntax::Signature syntax, std::string declaration,
+                                 ResolveType resolve) {
     Signature signature;
     signature.name = std::move(syntax.name);
     signature.declaration = std::move(declaration);
@@ -256,6 +251,24 @@ Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
         signature.result = resolve(*syntax.result);
     }
     return signature;
+}
+
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
+                             std::optional<Type> element) const {
+    return ResolveWith(
+        std::move(syntax), std::move(declaration), [this, element](const syntax::TypeName& name) {
+            if (element && name.name == ElementPlaceholder) {
+                return name.dimensions == 0 ? *element : Type::ArrayOf(*element, name.dimensions);
+            }
+            return Require(name);
+        });
+}
+
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
+                             const ErrorList& errors) const {
+    return ResolveWith(
+        std::move(syntax), std::move(declaration),
+        [this, &errors](const syntax::TypeName& name) { return Require(name, errors); });
 }
 
 std::optional<Type> TypeTable::Find(std::string_view name) const {
@@ -335,6 +348,14 @@ void TypeTable::FailWithoutType(const syntax::TypeName& name) const {
             Quoted(isInModule ? elsewhere->model->module + "." + NameOf(*elsewhere) : name.name);
     }
     throw ProgramError(name.at, "there is no type " + Quoted(written) + suggestion);
+}
+
+Type TypeTable::Require(const syntax::TypeName& name, const ErrorList& errors) const {
+    const bool isDoubtful = errors.IsDoubtful(name.name) || errors.IsDoubtful(name.module);
+    if (isDoubtful && !Find(name.name, name.module)) {
+        throw FollowingError(name.at, "the declaration of the type has an error");
+    }
+    return Require(name);
 }
 
 Type TypeTable::Require(const syntax::TypeName& name) const {

@@ -17,7 +17,7 @@ constexpr auto InitialiserName = "(fields)";
 
 /// The head of a routine with the names of its types resolved. The routine keeps the names, which
 /// its body needs; only the defaults move.
-Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
+Signature Resolve(syntax::Signature& syntax, const TypeTable& types, const ErrorList& errors) {
     syntax::Signature head{syntax.name, syntax.at, {}, syntax.result};
     std::string declaration;
     const auto brackets = [](const syntax::TypeName& type) {
@@ -38,7 +38,7 @@ Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
     if (syntax.result) {
         declaration += " As " + syntax.result->name + brackets(*syntax.result);
     }
-    return types.Resolve(std::move(head), std::move(declaration));
+    return types.Resolve(std::move(head), std::move(declaration), errors);
 }
 
 bool HaveSameHead(const Signature& left, const Signature& right) {
@@ -102,7 +102,7 @@ code::Block Compiler::Compile(syntax::Program program, ErrorList& errors) {
 code::Block Compiler::CompileProject(syntax::Program program, const std::vector<std::string>& words,
                                      ErrorList& errors) {
     const auto application = std::ranges::find(program.units, true, &syntax::Unit::isApplication);
-    for (const auto& unit : program.units) {
+    for (auto& unit : program.units) {
         CheckEvents(unit, errors);
     }
     if (errors.empty() && application == program.units.end()) {
@@ -138,7 +138,7 @@ code::Block Compiler::CompileAll(syntax::Program& program, ErrorList& errors,
     }
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : program.routines) {
-        if (!errors.Try([&] { DeclareRoutine(routine, {}, siblings); })) {
+        if (!errors.Try([&] { DeclareRoutine(routine, {}, siblings, errors); })) {
             errors.Doubt(routine.signature.name);
         }
     }
@@ -263,7 +263,7 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
                 throw ProgramError(field.declarator.at,
                                    Quoted(field.declarator.name) + " is declared already");
             }
-            const auto type = types_.Require(field.declarator.type);
+            const auto type = types_.Require(field.declarator.type, errors);
             const Variable variable{type, globals_.size(), code::VariableKind::Global};
             globals_.push_back(type);
             callables_.variables.push_back(
@@ -278,16 +278,16 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : unit.routines) {
         routine.visibility = seen(routine.visibility);
-        if (!errors.Try([&] { DeclareRoutine(routine, unit.name, siblings); })) {
+        if (!errors.Try([&] { DeclareRoutine(routine, unit.name, siblings, errors); })) {
             errors.Doubt(routine.signature.name);
         }
     }
 }
 
 void Compiler::DeclareRoutine(syntax::Routine& routine, const std::string& unit,
-                              std::vector<DeclaredRoutine>& siblings) {
+                              std::vector<DeclaredRoutine>& siblings, const ErrorList& errors) {
     auto& code = NewRoutine();
-    const DeclaredRoutine declared{Resolve(routine.signature, types_), &code, unit,
+    const DeclaredRoutine declared{Resolve(routine.signature, types_, errors), &code, unit,
                                    routine.visibility};
     const auto isSame = [&](const DeclaredRoutine& other) { return AreSame(other, declared); };
     if (std::ranges::any_of(siblings, isSame)) {
@@ -308,6 +308,7 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
     }
     // The table hands out constant models; this one is its program's own.
     auto& model = types_.OwnModel(unit.name);
+    model.isIncomplete = unit.isIncomplete;
     auto initialiser = std::make_unique<syntax::Routine>();
     initialiser->signature.name = InitialiserName;
     initialiser->signature.at = unit.at;
@@ -317,7 +318,7 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
             if (model.FindProperty(declarator.name) != nullptr) {
                 throw ProgramError(declarator.at, Quoted(declarator.name) + " is declared already");
             }
-            const auto type = types_.Require(declarator.type);
+            const auto type = types_.Require(declarator.type, errors);
             model.properties.push_back(
                 {.name = declarator.name,
                  .type = type,
@@ -330,11 +331,12 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
         };
         if (!errors.Try(declare)) {
             errors.Doubt(field.declarator.name);
+            model.isIncomplete = true;
         }
     }
     for (auto& routine : unit.routines) {
-        if (!errors.Try([&] { DeclareMethod(model, routine); })) {
-            errors.Doubt(routine.signature.name);
+        if (!errors.Try([&] { DeclareMethod(model, routine, errors); })) {
+            model.isIncomplete = true;
         }
     }
     if (!initialiser->body.empty()) {
@@ -347,7 +349,7 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
     }
 }
 
-void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
+void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine, const ErrorList& errors) {
     const auto& name = routine.signature.name;
     const Position at = routine.signature.at;
     constexpr std::string_view Operator = "Operator_";
@@ -357,7 +359,7 @@ void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
     if (SameName(name, "Destructor")) {
         throw ProgramError(at, "Destructors are not supported here");
     }
-    auto signature = Resolve(routine.signature, types_);
+    auto signature = Resolve(routine.signature, types_, errors);
     for (const auto& method : model.methods) {
         if (HaveSameHead(method.signature, signature)) {
             throw ProgramError(at, Quoted(name) + " is declared already");

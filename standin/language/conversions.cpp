@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "standin/language/code_expressions.hpp"
+#include "standin/language/errors.hpp"
 #include "standin/language/hints.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
@@ -203,6 +204,9 @@ Checked ConvertTo(Checked value, Type to) {
     }
     if (const auto* method = FindConversionOut(value.type, to)) {
         return ConvertOut(std::move(value), to, *method);
+    }
+    if (IsIncomplete(value.type) || IsIncomplete(to)) {
+        throw FollowingError(value.at, "the class has an error");
     }
     throw ProgramError(value.at, "expected " + NameOf(to) + ", this is " + NameOf(value.type) +
                                      ConversionHint(value, to));

@@ -38,6 +38,9 @@ bool HaveIdentity(const Checked& left, const Checked& right) {
 /// Why an operator cannot stand between two operands.
 [[noreturn]] void FailOperator(BinaryOperator operation, const Checked& left, const Checked& right,
                                Position at) {
+    if (IsIncomplete(left.type) || IsIncomplete(right.type)) {
+        throw FollowingError(at, "the class has an error");
+    }
     const auto& row = RowOf(operation);
     std::string message = Quoted(row.sign) + " cannot stand between " + NameOf(left.type) +
                           " and " + NameOf(right.type);

@@ -158,6 +158,11 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
         case Overload::Outcome::NoneFits:
             break;
     }
+    const bool isDoubtful = std::ranges::any_of(
+        arguments, [](const Checked& argument) { return IsIncomplete(argument.type); });
+    if (isDoubtful || (model != nullptr && model->isIncomplete)) {
+        throw FollowingError(at, "the class has an error");
+    }
     if (candidates.size() == 1) {
         FailOnly(name, *candidates.front(), arguments, at, model);
     }

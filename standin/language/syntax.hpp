@@ -349,6 +349,8 @@ struct Unit {
     std::vector<Field> fields;
     std::vector<Constant> constants;
     std::vector<Routine> routines;
+    /// Whether a part of it has an error and was left out.
+    bool isIncomplete = false;
     /// The module that a class belongs to; empty outside of modules.
     std::string module = {};
 };

@@ -18,10 +18,7 @@ constexpr std::string_view ConstructorName = "Constructor";
 }  // namespace
 
 Type ExpressionChecker::RequireType(const syntax::TypeName& name) const {
-    if (!types_.Find(name.name) && errors_.IsDoubtful(name.name)) {
-        throw FollowingError(name.at, "the declaration of the type has an error");
-    }
-    return types_.Require(name);
+    return types_.Require(name, errors_);
 }
 
 template <typename Declared>
@@ -218,7 +215,8 @@ Checked ExpressionChecker::ConstructOwn(const ClassModel& model, Arguments argum
 }
 
 void ExpressionChecker::FailWithoutName(const std::string& name, Position at) const {
-    if (errors_.IsDoubtful(name)) {
+    const bool isInIncomplete = surroundings_.self != nullptr && surroundings_.self->isIncomplete;
+    if (errors_.IsDoubtful(name) || isInIncomplete) {
         throw FollowingError(at, "the declaration has an error");
     }
     auto names = scope_.Names();
@@ -330,7 +328,8 @@ void ExpressionChecker::FailWithoutValueMember(Type type, const std::string& nam
 
 void ExpressionChecker::FailWithoutMember(const ClassModel& model, const std::string& name,
                                           Position at) const {
-    if (model.origin() != ClassModel::Origin::Host && errors_.IsDoubtful(name)) {
+    const bool isDoubtful = model.isIncomplete || errors_.IsDoubtful(name);
+    if (model.origin() != ClassModel::Origin::Host && isDoubtful) {
         throw FollowingError(at, "the declaration has an error");
     }
     for (const auto* type = &model; type != nullptr; type = type->super()) {

@@ -101,11 +101,20 @@ void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& 
         if (errors_.count() == errorsBefore) {
             errors_.AddUnclosed(error);
         }
+        DoubtAll();
     }
     if (program.units.size() > count) {
-        errors_.Try([&] { RequireItem(program.units[count], file); });
+        if (!errors_.Try([&] { RequireItem(program.units[count], file); })) {
+            errors_.Doubt(file.item.name);
+        }
     } else if (errors_.count() == errorsBefore) {
         errors_.Add(ProgramError(cursor_.At(), "the file holds no module and no class"));
+    }
+}
+
+void UnitParser::DoubtAll() {
+    for (cursor_.Rewind(0); !cursor_.IsAt(TokenKind::EndOfText);) {
+        statements_.SkipDoubtfulLine();
     }
 }
 
@@ -134,7 +143,8 @@ void UnitParser::ParseMembers(syntax::Unit& unit, const Token& head, syntax::Pro
         const auto word = cursor_.Following().kind;
         const bool isStray = word != TokenKind::Class && word != TokenKind::Module;
         if (!cursor_.IsAt(TokenKind::End)) {
-            TryParse([&] { ParseMember(unit, program); });
+            const bool isRight = TryParse([&] { ParseMember(unit, program); });
+            unit.isIncomplete = unit.isIncomplete || !isRight;
         } else if (isStray && !errors_.empty()) {
             // It ended something that has an error.
             cursor_.SkipLine();
@@ -239,6 +249,7 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
     if (!errors_.Try([&] { RefuseForeignMember(token); })) {
         cursor_.SkipLine();
         SkipTag(tag);
+        unit.isIncomplete = true;
         return;
     }
     tagged_.tag = tag.Is("Event")    ? syntax::RoutineTag::Event
@@ -252,9 +263,10 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
                                                          : Visibility::Global;
     }
     if (tag.Is("Constant")) {
-        auto constant = tag.ReadConstant();
+        if (!errors_.Try([&] { AddConstant(unit, tag.ReadConstant()); })) {
+            errors_.Doubt(std::string(tag.Text("Name").value_or("")));
+        }
         cursor_.SkipLine();
-        AddConstant(unit, std::move(constant));
         return;
     }
     cursor_.SkipLine();

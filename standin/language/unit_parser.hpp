@@ -52,13 +52,18 @@ private:
     void ParseEnumerationItems(syntax::Enumeration& enumeration, TokenKind end);
     void AddConstant(syntax::Unit& unit, syntax::Constant constant);
     Modifiers TakeModifiers(Modifiers modifiers);
-    /// Runs an action that parses something; after an error in it goes behind that.
+    /// Makes all names of the text doubtful.
+    void DoubtAll();
+    /// Runs an action that parses something; after an error in it goes behind that. Tells whether
+    /// there was none.
     template <typename Action>
-    void TryParse(Action action) {
+    bool TryParse(Action action) {
         const auto start = cursor_.Mark();
-        if (!errors_.Try(action)) {
+        const bool isRight = errors_.Try(action);
+        if (!isRight) {
             statements_.Recover(start);
         }
+        return isRight;
     }
 
     TokenCursor cursor_;
