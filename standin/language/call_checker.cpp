@@ -19,7 +19,7 @@ void RefuseObject(const std::string& name, const Candidates& candidates,
         return;
     }
     const auto& model = *arguments.front().type.model;
-    const auto hint = FunctionHint(model, name, candidates.front()->result);
+    const auto hint = FunctionHint(model, *candidates.front());
     if (!hint.empty()) {
         throw ProgramError(at, Quoted(name) + " takes no " + model.name() + hint);
     }

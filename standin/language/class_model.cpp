@@ -145,8 +145,9 @@ TypeTable::TypeTable(const Host& host) : constants_(HostConstants(host)) {
             AddClass(*info);
         }
     }
-    AddClass(Host::Current().ProgramClass(std::string(PairClass)));
-    AddClass(Host::Current().ProgramClass(std::string(DictionaryClass)));
+    for (const auto name : {PairClass, DictionaryClass, DictionaryEntryClass}) {
+        AddClass(Host::Current().ProgramClass(std::string(name)));
+    }
     for (const auto* info : host.RegisteredClasses()) {
         AddClass(*info);
     }

@@ -80,6 +80,8 @@ public:
     code::ExpressionPtr CheckAs(const syntax::Expression& expression, Type type);
     /// An expression for what it does, which may return nothing.
     Checked CheckCall(const syntax::Expression& expression);
+    /// What a For Each goes through: an array, or the entries of a Dictionary as one.
+    Checked CheckElements(const syntax::Expression& expression);
     /// A value as text, as Print takes it.
     code::ExpressionPtr CheckAsText(const syntax::Expression& expression);
     /// A value of any type that has a text form, as the prompt shows it.

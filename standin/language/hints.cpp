@@ -4,6 +4,7 @@
 
 #include "standin/language/names.hpp"
 #include "standin/language/operators.hpp"
+#include "standin/language/text.hpp"
 
 namespace standin::language {
 namespace {
@@ -31,7 +32,7 @@ std::string PropertyHint(const ClassModel& model, Type type) {
     const bool isValue =
         type.kind == Kind::Text || type.kind == Kind::Boolean || IsNumber(type.kind);
     const auto* property = isValue ? FindValueProperty(model, type) : nullptr;
-    return property == nullptr ? std::string() : "; its " + property->name + " is " + NameOf(type);
+    return property == nullptr ? std::string() : "; use its " + property->name;
 }
 
 /// Whether a class has a constructor that takes the value without loss.
@@ -43,15 +44,26 @@ bool IsConstructedOf(const ClassModel& model, const Checked& value) {
     });
 }
 
-/// `New Class(5)`, and the literal as a text where that becomes an object by itself.
-std::string ConstructionHint(const Checked& value, Type to) {
-    const auto literal = value.literal ? std::to_string(*value.literal) : std::string("...");
-    auto hint = "; write New " + NameOf(to) + "(" + literal + ")";
-    const Checked text{nullptr, {Kind::Text}, value.at, {}, false};
-    if (value.literal && FitOf(text, to) != Fit::None) {
-        hint += " or " + Quoted(literal);
+/// A literal as it is written; empty for any other value.
+std::string LiteralIn(const Checked& value) {
+    if (value.literal) {
+        return std::to_string(*value.literal);
     }
-    return hint;
+    return value.amount ? TextOf(*value.amount) : std::string();
+}
+
+/// A literal as a text, where that becomes an object by itself, and `New Class(5)`.
+std::string ConstructionHint(const Checked& value, Type to) {
+    const auto literal = LiteralIn(value);
+    const Checked text{nullptr, {Kind::Text}, value.at, {}, false};
+    const bool takesText = !literal.empty() && FitOf(text, to) != Fit::None;
+    return "; write " + (takesText ? Quoted(literal) + " or " : "") + "New " + NameOf(to) + "(" +
+           (literal.empty() ? "..." : literal) + ")";
+}
+
+/// Whether a function makes something of a number, as the object is one.
+bool TakesNumber(const Signature& function) {
+    return !function.parameters.empty() && IsNumber(function.parameters.front().type.kind);
 }
 
 }  // namespace
@@ -84,14 +96,17 @@ std::string MemberHint(const ClassModel& model, std::string_view name,
     if (found != Operators.end() && !model.FindMethods(method).empty()) {
         return "; write a " + std::string(found->sign) + " b";
     }
-    return functions.empty() ? std::string()
-                             : PropertyHint(model, functions.front()->signature.result);
+    return functions.empty() || !TakesNumber(functions.front()->signature)
+               ? std::string()
+               : PropertyHint(model, functions.front()->signature.result);
 }
 
-std::string FunctionHint(const ClassModel& model, std::string_view function, Type result) {
-    const auto methods = model.FindMethods(function);
-    return methods.empty() ? PropertyHint(model, result)
-                           : "; write value." + methods.front()->signature.name;
+std::string FunctionHint(const ClassModel& model, const Signature& function) {
+    const auto methods = model.FindMethods(function.name);
+    if (!methods.empty()) {
+        return "; write value." + methods.front()->signature.name;
+    }
+    return TakesNumber(function) ? PropertyHint(model, function.result) : std::string();
 }
 
 std::string ParameterHint(const ClassModel& model, std::string_view method) {

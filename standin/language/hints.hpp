@@ -22,7 +22,7 @@ std::string MemberHint(const ClassModel& model, std::string_view name,
 
 /// What an object has in place of a function that does not take it: a method of that name, or a
 /// property of the type that the function returns.
-std::string FunctionHint(const ClassModel& model, std::string_view function, Type result);
+std::string FunctionHint(const ClassModel& model, const Signature& function);
 
 /// Which method of a class has a parameter that is named like another of its methods, such as for
 /// `Round(2)`.

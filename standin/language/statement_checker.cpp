@@ -338,14 +338,7 @@ void StatementChecker::AddNode(code::Block& block, const syntax::ForEach& loop, 
     code::Block code;
     scope_.EnterBlock();
     std::optional<Checked> array;
-    errors_.Try([&] {
-        auto checked = expressions_.Check(*loop.array);
-        if (checked.type.kind != Kind::Array) {
-            throw ProgramError(checked.at,
-                               "\"For Each\" takes an array, this is " + NameOf(checked.type));
-        }
-        array = std::move(checked);
-    });
+    errors_.Try([&] { array = expressions_.CheckElements(*loop.array); });
     const auto variable = TryLoopVariable(loop.variable, loop.type, loop.variableAt);
     std::optional<code::ForEachParts> parts;
     if (array && variable) {

@@ -303,10 +303,14 @@ void UnitParser::TakeProperty() {
     const bool isComputed = IsNamed(cursor_.Current(), "Get") || IsNamed(cursor_.Current(), "Set");
     cursor_.Rewind(property);
     if (!isComputed) {
-        const auto& name = cursor_.Following().text;
-        errors_.Add(ProgramError(cursor_.At(), "a property is written without this word: " + name +
-                                                   " As its type, or Dim " + name +
-                                                   " As its type"));
+        // `X As Type`
+        std::string declaration = cursor_.Following().text;
+        for (auto mark = property + 2; mark < property + 4 && mark <= cursor_.EndOfLine(property);
+             ++mark) {
+            declaration += " " + cursor_.TokenAt(mark).text;
+        }
+        errors_.Add(ProgramError(
+            cursor_.At(), "a property is written " + Quoted(declaration) + ", without this word"));
         cursor_.Take();
     }
 }

@@ -22,7 +22,6 @@ constexpr std::string_view Names[] = {
     "Delegate",
     "DesktopApplication",
     "DesktopWindow",
-    "DictionaryEntry",
     "EndException",
     "Font",
     "IOException",

@@ -118,7 +118,7 @@ TEST_CASE("mistakes with arrays are told") {
     CHECK(host.Run("Redim a") ==
           "1:1: \"Redim\" takes an array with its last index in parentheses");
     CHECK(host.Run("For Each n As Integer In 5\nNext") ==
-          "1:26: \"For Each\" takes an array, this is Integer");
+          "1:26: \"For Each\" takes an array or a Dictionary, this is Integer");
     CHECK(host.Run("For Each n As Sample In Array(5)\nNext") ==
           "1:10: expected Sample, this is Integer; write New Sample(...)");
 }

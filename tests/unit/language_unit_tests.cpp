@@ -3,25 +3,12 @@
 
 #include "tests/unit/language_support.hpp"
 
+using language_tests::ErrorsIn;
 using language_tests::RunProject;
 using language_tests::SampleHost;
 using standin::language::MaximumShownErrors;
-using standin::language::Program;
-using standin::language::ProgramError;
-using standin::language::Source;
 
 namespace {
-
-/// All errors of a text, as the command shows them.
-std::string ErrorsIn(SampleHost& sample, const std::string& text) {
-    const Source source("p", text);
-    try {
-        const Program program(source, sample.types());
-    } catch (const ProgramError& error) {
-        return source.Describe(error);
-    }
-    return "none";
-}
 
 constexpr auto Head = "Type=Console\nClass=App;App.xojo_code;&h1;&h0;false\n";
 
