@@ -24,16 +24,6 @@ using process::WriteOutput;
 /// How the command ends; the numbers are its exit status.
 enum class Status { Good = 0, Unhandled = 1, Wrong = 2, Unbalanced = 3, Crashed = 4 };
 
-/// Refuses what is no program but belongs to a project.
-void RefusePartOfProject(const std::string& name) {
-    constexpr std::string_view CodeExtension = ".xojo_code";
-    const bool isCode = name.ends_with(CodeExtension);
-    if (isCode || process::IsFolder(name)) {
-        throw UsageError(name + (isCode ? " is one file of a project" : " is a folder") +
-                         "; name the project, NAME.xojo_project");
-    }
-}
-
 Source ReadSource(const CommandLine& line) {
     if (line.text) {
         return {"-e", *line.text};
@@ -41,7 +31,6 @@ Source ReadSource(const CommandLine& line) {
     if (*line.file == "-") {
         return {"-", process::ReadStandardInput()};
     }
-    RefusePartOfProject(*line.file);
     auto text = process::ReadFile(*line.file);
     if (!text) {
         throw UsageError("cannot read the program " + *line.file);

@@ -13,8 +13,6 @@ std::vector<std::string> Arguments(int argc, char** argv);
 
 /// The bytes of a file, its name in UTF-8; none when it cannot be read.
 std::optional<std::string> ReadFile(const std::string& name);
-/// Whether a folder has that name, in UTF-8.
-bool IsFolder(const std::string& name);
 /// All of standard input, byte for byte.
 std::string ReadStandardInput();
 

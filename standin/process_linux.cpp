@@ -60,15 +60,11 @@ std::vector<std::string> Arguments(int argc, char** argv) {
     return argc > 0 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>{};
 }
 
-bool IsFolder(const std::string& name) {
-    struct stat status {};
-    return stat(name.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
 std::optional<std::string> ReadFile(const std::string& name) {
     // A folder can be opened, but not read.
+    struct stat status {};
     std::ifstream file(name, std::ios::binary);
-    if (!file || IsFolder(name)) {
+    if (!file || stat(name.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
         return std::nullopt;
     }
     return std::string(std::istreambuf_iterator<char>(file), {});

@@ -31,10 +31,6 @@ std::string ToUtf8(const wchar_t* text) {
     return utf8;
 }
 
-std::filesystem::path PathOf(const std::string& name) {
-    return std::u8string(name.begin(), name.end());
-}
-
 const char* NameOf(DWORD code) {
     switch (code) {
         case EXCEPTION_ACCESS_VIOLATION:
@@ -115,14 +111,11 @@ std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
     return arguments;
 }
 
-bool IsFolder(const std::string& name) {
-    std::error_code ignored;
-    return std::filesystem::is_directory(PathOf(name), ignored);
-}
-
 std::optional<std::string> ReadFile(const std::string& name) {
-    std::ifstream file(PathOf(name), std::ios::binary);
-    if (!file || IsFolder(name)) {
+    const std::filesystem::path path(std::u8string(name.begin(), name.end()));
+    std::error_code ignored;
+    std::ifstream file(path, std::ios::binary);
+    if (!file || std::filesystem::is_directory(path, ignored)) {
         return std::nullopt;
     }
     return std::string(std::istreambuf_iterator<char>(file), {});

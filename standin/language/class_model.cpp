@@ -50,13 +50,13 @@ const Property* Named(const std::vector<Property>& properties, std::string_view 
     return found == properties.end() ? nullptr : &*found;
 }
 
-/// The first class, from `model` to its ancestors, for which `find` has an answer.
+/// The first class, from `model` to its ancestors, for which `find` returns something.
 template <typename Find>
 auto FirstAnswer(const ClassModel* model, Find find) -> decltype(find(*model)) {
     for (; model != nullptr; model = model->super()) {
-        auto answer = find(*model);
-        if (answer != decltype(find(*model)){}) {
-            return answer;
+        auto found = find(*model);
+        if (found != decltype(find(*model)){}) {
+            return found;
         }
     }
     return {};

@@ -50,7 +50,7 @@ struct Signature {
     std::string problem;
 };
 
-/// What answers for a member of one of the host's own classes; null in a plug-in's members.
+/// The functions behind a member of one of the host's own classes; null in a plug-in's members.
 struct HostAccess {
     BuiltInFunction function = nullptr;
     BuiltInFunction setter = nullptr;
@@ -86,7 +86,7 @@ struct Property {
 };
 
 /// One class. Members are looked up from the class to its ancestors; the nearest class that has
-/// the name answers.
+/// the name counts.
 class ClassModel {
 public:
     /// What the program declares: a class of its own, or an `Enum`.

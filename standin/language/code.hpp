@@ -165,7 +165,7 @@ public:
     Expression(const Expression&) = delete;
     Expression& operator=(const Expression&) = delete;
 
-    /// The value; a node that returns nothing answers a value that nobody reads.
+    /// The value; of a node that returns nothing, a value that nobody reads.
     virtual Value Evaluate(Frame& frame) const = 0;
     /// Where the value of a variable is kept; null for every other expression.
     virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }

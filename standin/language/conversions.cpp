@@ -67,7 +67,7 @@ const Method* FindConversionIn(const Checked& value, const ClassModel& model) {
     return best;
 }
 
-/// The Operator_Convert that answers an object as a value of that type.
+/// The Operator_Convert that returns an object as a value of that type.
 const Method* FindConversionOut(Type from, Type to) {
     if (from.kind != Kind::Instance ||
         (from.model->info().record != nullptr && IsWrongAbout("compiles-conversion-out"))) {

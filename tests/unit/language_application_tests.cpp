@@ -110,6 +110,9 @@ TEST_CASE("Quit ends the program wherever it stands") {
                                    "Print \"finally\"\nEnd Try\nEnd Sub\n#tag EndMethod\n") ==
           "last\n7");
     CHECK(host.Run("Print \"a\"\nQuit\nPrint \"b\"") == "a\n");
+    standin::language::Session session(host.host(), host.types(), [](std::string_view) {});
+    CHECK_THROWS_AS(session.Run(standin::language::Source("input", "Quit(2)")),
+                    standin::language::Ended);
 }
 
 TEST_CASE("Input reads a line") {

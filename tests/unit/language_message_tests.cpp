@@ -88,7 +88,7 @@ TEST_CASE("a wrong or a missing end is one error") {
                      "Class C\nPrivate Function F(a As) As Integer\nReturn 1\nEnd Function\n"
                      "Function H() As Integer\nReturn F\nEnd Function\nEnd Class\n"
                      "Dim c As New C\nPrint Str(c.H + c.F)") ==
-          "2:23: error: expected the name of a type, found \")\"");
+          "2:24: error: expected the name of a type, found \")\"");
 }
 
 TEST_CASE("a class with an error is not blamed for what it lacks") {
