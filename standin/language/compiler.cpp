@@ -105,16 +105,22 @@ code::Block Compiler::CompileProject(syntax::Program program, const std::vector<
     for (auto& unit : program.units) {
         CheckEvents(unit, errors);
     }
-    if (errors.empty() && application == program.units.end()) {
-        errors.Add(ProgramError(
-            0, "no class of the project inherits from ConsoleApplication, so nothing can start"));
-    } else if (errors.empty() && FindEvent(*application, RunEvent) == nullptr) {
+    constexpr Type StatusType{IntegerKind};
+    if (application == program.units.end()) {
+        if (errors.empty()) {
+            errors.Add(ProgramError(
+                0,
+                "no class of the project inherits from ConsoleApplication, so nothing can start"));
+        }
+        return CompileAll(program, errors, StatusType);
+    }
+    if (errors.empty() && FindEvent(*application, RunEvent) == nullptr) {
         errors.Add(ProgramError(
             application->at, Quoted(application->name) + " has no Function Run(args() As String)"));
     } else if (errors.empty()) {
         program.main.push_back(MakeStart(*application, words));
     }
-    auto block = CompileAll(program, errors, Type{IntegerKind});
+    auto block = CompileAll(program, errors, StatusType);
     if (FindEvent(*application, UnhandledEvent) == nullptr) {
         return block;
     }

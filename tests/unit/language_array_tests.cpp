@@ -123,6 +123,13 @@ TEST_CASE("mistakes with arrays are told") {
           "1:10: expected Sample, this is Integer; write New Sample(...)");
 }
 
+TEST_CASE("a routine finds nothing in an array of the main program before its declaration") {
+    SampleHost host;
+    CHECK(host.Run("Sub Fill()\nnumbers.Append(1)\nEnd Sub\nFor i As Integer = 1 To 2\nFill\nNext\n"
+                   "Dim numbers() As Integer") ==
+          "Unhandled NilObjectException: An array was used before its declaration. (line 2)\n");
+}
+
 TEST_CASE("For Each goes over the elements there are") {
     SampleHost host;
     CHECK(host.Run("Dim a() As Integer = Array(1, 2, 3), n As Double\nFor Each n In a\n"

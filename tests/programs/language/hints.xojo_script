@@ -11,7 +11,7 @@ Print Sqrt(a)
 Print a.Power("2")
 Print a.Round(2)
 Dim d As Double = a
-Dim i As Int64 = a
+Dim i As Integer = a
 If a > 5 Then
   Print a + 5
 End If
