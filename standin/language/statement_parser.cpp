@@ -297,15 +297,19 @@ syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends,
     return block;
 }
 
+void StatementParser::RefuseEnd() {
+    errors_.Add(ProgramError(cursor_.At(),
+                             "there is no " + Describe(cursor_.Following().kind) + " to end here"));
+    cursor_.SkipLine();
+}
+
 bool StatementParser::StopsBlock(std::initializer_list<TokenKind> ends, TokenKind opener) {
     const auto line = cursor_.Mark();
     if (EndsOpenBlock(line, open_.size() - 1) && !BelongsTo(line, opener)) {
         return false;
     }
     if (cursor_.IsAt(TokenKind::End) && IsStrayEnd(cursor_.Following().kind, opener)) {
-        errors_.Add(ProgramError(
-            cursor_.At(), "there is no " + Describe(cursor_.Following().kind) + " to end here"));
-        cursor_.SkipLine();
+        RefuseEnd();
         SkipToCode();
         return StopsBlock(ends, opener);
     }

@@ -44,6 +44,8 @@ public:
     /// Steps past the `End` of a block. Another word behind it than that of the block is an error,
     /// but ends the block as well.
     void ExpectEnd(TokenKind what);
+    /// Adds an error for an `End` of something that is not open, and steps past its line.
+    void RefuseEnd();
     /// After an error in what began with token `start`: goes behind the end of that, or to the line
     /// that ends a block around it.
     void Recover(std::size_t start);
@@ -86,6 +88,7 @@ private:
     /// Whether the line can stand in no block of statements: the head of a routine or a module, or
     /// a tag.
     bool IsOutsideOfStatements(std::size_t line) const;
+    /// Steps past what is left of the line, its end excepted.
     void SkipToEndOfLine();
     /// Steps past the word that ends a loop; another one is an error, but ends the loop as well.
     void ExpectLoopEnd(TokenKind what);

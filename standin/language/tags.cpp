@@ -260,7 +260,9 @@ void CheckTags(const TokenCursor& cursor, ErrorList& errors) {
         if (token.kind == TokenKind::HashTag) {
             checker.Take(Tag(token));
         } else if (token.kind == TokenKind::Mistake && previous == TokenKind::HashTag) {
+            // What the tag swallows holds the ends of the others.
             errors.Add(ProgramError(token.at, token.text));
+            return;
         }
         previous = token.kind;
     }

@@ -74,7 +74,7 @@ void UnitParser::ParseTopLevel(syntax::Program& program) {
 }
 
 void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& file) {
-    const auto count = program.units.size();
+    std::optional<std::size_t> unit;
     const auto errorsBefore = errors_.count();
     if (!errors_.Try([&] { RefuseForeignItem(cursor_); })) {
         return;
@@ -94,6 +94,7 @@ void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& 
                     cursor_.Fail("a module or a class");
                 }
                 ParseUnit(program, file.item.module);
+                unit = unit.value_or(program.units.size() - 1);
             });
         }
     } catch (const UnclosedError& error) {
@@ -103,8 +104,8 @@ void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& 
         }
         DoubtAll();
     }
-    if (program.units.size() > count) {
-        if (!errors_.Try([&] { RequireItem(program.units[count], file); })) {
+    if (unit) {
+        if (!errors_.Try([&] { RequireItem(program.units[*unit], file); })) {
             errors_.Doubt(file.item.name);
         }
     } else if (errors_.count() == errorsBefore) {
@@ -141,15 +142,18 @@ void UnitParser::ParseMembers(syntax::Unit& unit, const Token& head, syntax::Pro
             throw UnclosedError(head.at, "this " + Describe(head.kind) + " is never closed");
         }
         const auto word = cursor_.Following().kind;
-        const bool isStray = word != TokenKind::Class && word != TokenKind::Module;
+        const bool endsUnit = word == TokenKind::Class || word == TokenKind::Module ||
+                              word == TokenKind::EndOfLine || word == TokenKind::Name;
         if (!cursor_.IsAt(TokenKind::End)) {
             const bool isRight = TryParse([&] { ParseMember(unit, program); });
             unit.isIncomplete = unit.isIncomplete || !isRight;
-        } else if (isStray && !errors_.empty()) {
+        } else if (endsUnit) {
+            return;
+        } else if (errors_.empty()) {
+            statements_.RefuseEnd();
+        } else {
             // It ended something that has an error.
             cursor_.SkipLine();
-        } else {
-            return;
         }
     }
 }

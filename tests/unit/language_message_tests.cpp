@@ -81,6 +81,9 @@ TEST_CASE("a wrong or a missing end is one error") {
           "2:1: error: this \"If\" is not closed before \"Function\"");
     CHECK(MessagesOf(host, "Function F() As Integer\nReturn 1\nEnd If\nReturn 2\nEnd Function\n" +
                                g + use) == "3:1: error: there is no \"If\" to end here");
+    CHECK(
+        MessagesOf(host, "Module M\nSub A()\nEnd Sub\nEnd Sub\nSub B()\nEnd Sub\nEnd Module\nB") ==
+        "4:1: error: there is no \"Sub\" to end here");
     CHECK(MessagesOf(host, "While False\nPrint \"x\"\nEnd While\nPrint 5") ==
           "3:1: error: expected \"Wend\", found \"End\"; "
           "4:7: error: \"Print\" takes a String, this is Integer; use Str");
