@@ -132,7 +132,7 @@ Status Perform(const CommandLine& line) {
         status = RunProgram(host, *source, types, line);
     } else if (line.task == Task::Prompt) {
         SetLimits(host, line);
-        RunPrompt(host, types, line);
+        status = static_cast<Status>(RunPrompt(host, types, line));
     } else {
         WriteOutput(line.task == Task::List
                         ? language::ListClasses(host, types, line.file.value_or(""))

@@ -90,7 +90,7 @@ bool RunFragment(Host& host, language::Session& session, const Source& fragment)
 
 }  // namespace
 
-void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line) {
+int RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line) {
     const auto documentation = ReadDocumentation(line.documentation);
     process::OnInterrupt(language::Machine::Interrupt);
     language::Session session(host, types, process::WriteLine, line.maximumSteps);
@@ -121,21 +121,26 @@ void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& 
     for (std::string next; readLine(next);) {
         const auto words = Trim(next);
         if (fragment.empty() && SameName(words, "Quit")) {
-            return;
+            return 0;
         }
         if (fragment.empty() && words.starts_with('?')) {
             Answer(documentation, words.substr(1));
             continue;
         }
         fragment += next + "\n";
-        if (RunFragment(host, session, Source("input", fragment))) {
-            fragment.clear();
+        try {
+            if (RunFragment(host, session, Source("input", fragment))) {
+                fragment.clear();
+            }
+        } catch (const language::Ended& end) {
+            return end.status();
         }
     }
     if (!fragment.empty()) {
         WriteError("The input ended before this was whole:\n" + fragment);
     }
     WriteOutput(line.showsPrompts ? "\n" : "");
+    return 0;
 }
 
 }  // namespace standin

@@ -11,7 +11,8 @@
 namespace standin {
 
 /// Reads lines from standard input until it ends or one says Quit. Mistakes and exceptions are
-/// reported and do not end it. Throws UsageError when the documentation cannot be read.
-void RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line);
+/// reported and do not end it. Returns the exit status: 0, or what a Quit was given. Throws
+/// UsageError when the documentation cannot be read.
+int RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line);
 
 }  // namespace standin

@@ -289,6 +289,8 @@ class CommandsTest(unittest.TestCase):
             (["--", "two"], "\"two\" is no argument for a script"),
             (["one.xojo_project", "two", "three"], "cannot read the program one.xojo_project"),
             (["missing.xojo_script"], "cannot read the program missing.xojo_script"),
+            (["/"], "/ is a folder; name the project in it"),
+            (["App.xojo_code"], "App.xojo_code is one file of a project; name the project"),
         ):
             with self.subTest(words=words):
                 self.assert_refused(self.run_command("run", *words), phrase, "./run --help tells more")

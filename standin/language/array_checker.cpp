@@ -6,6 +6,7 @@
 
 #include "standin/language/array_members.hpp"
 #include "standin/language/code_arrays.hpp"
+#include "standin/language/dictionary.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/parser.hpp"
 
@@ -166,6 +167,22 @@ Checked ExpressionChecker::CheckArrayCall(const syntax::Call& call, std::optiona
             at,
             {},
             false};
+}
+
+Checked ExpressionChecker::CheckElements(const syntax::Expression& expression) {
+    auto value = Check(expression);
+    if (value.type.kind == Kind::Instance && value.type.model->name() == DictionaryClass) {
+        return {MakeHostCall(MakeDictionaryEntries, {std::move(value), nullptr}, {}),
+                Type::ArrayOf({Kind::Variant}),
+                expression.at,
+                {},
+                false};
+    }
+    if (value.type.kind != Kind::Array) {
+        throw ProgramError(
+            value.at, "\"For Each\" takes an array or a Dictionary, this is " + NameOf(value.type));
+    }
+    return value;
 }
 
 }  // namespace standin::language

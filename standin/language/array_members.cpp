@@ -62,7 +62,7 @@ Value AddAt(const Arguments& arguments, const Machine& machine) {
     return {};
 }
 
-/// Takes an element out of an array and answers it.
+/// Takes an element out of an array and returns it.
 Value Take(Array& array, std::int64_t index, const Machine& machine) {
     auto taken = std::move(RequireElement(array, index, machine));
     array.items.erase(array.items.begin() + static_cast<std::ptrdiff_t>(index));

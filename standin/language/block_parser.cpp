@@ -44,7 +44,19 @@ syntax::Statement::Node StatementParser::ParseSingleLineIf(syntax::ExpressionPtr
 
 void StatementParser::ExpectEnd(TokenKind what) {
     cursor_.Expect(TokenKind::End);
-    cursor_.Expect(what);
+    if (cursor_.TryTake(what)) {
+        return;
+    }
+    errors_.Try([&] { cursor_.Expect(what); });
+    SkipToEndOfLine();
+}
+
+void StatementParser::ExpectLoopEnd(TokenKind what) {
+    if (cursor_.TryTake(what)) {
+        return;
+    }
+    errors_.Try([&] { cursor_.Expect(what); });
+    SkipToEndOfLine();
 }
 
 syntax::Statement::Node StatementParser::ParseSelect() {
@@ -141,7 +153,7 @@ syntax::Statement::Node StatementParser::ParseForEach(Position at) {
 
 syntax::Block StatementParser::ParseForBody(const std::string& variable, Position at) {
     auto body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
-    cursor_.Take();
+    ExpectLoopEnd(TokenKind::Next);
     if (cursor_.IsAt(TokenKind::Name)) {
         const auto name = cursor_.Take();
         if (!SameName(name.text, variable)) {
@@ -156,7 +168,7 @@ syntax::Statement::Node StatementParser::ParseWhile() {
     const Position at = cursor_.Take().at;
     auto condition = expressions_.ParseExpression();
     auto body = ParseBlock({TokenKind::Wend}, TokenKind::While, at);
-    cursor_.Take();
+    ExpectLoopEnd(TokenKind::Wend);
     return syntax::While{std::move(condition), std::move(body)};
 }
 
@@ -165,7 +177,7 @@ syntax::Statement::Node StatementParser::ParseDo() {
     syntax::Do loop;
     loop.before = ParseLoopTest();
     loop.body = ParseBlock({TokenKind::Loop}, TokenKind::Do, at);
-    cursor_.Take();
+    ExpectLoopEnd(TokenKind::Loop);
     loop.after = ParseLoopTest();
     return loop;
 }
@@ -179,14 +191,18 @@ syntax::Do::Test StatementParser::ParseLoopTest() {
     return {expressions_.ParseExpression(), isWhile};
 }
 
-LoopKind StatementParser::ParseLoopKind() {
+syntax::LoopTarget StatementParser::ParseLoopTarget() {
     if (cursor_.TryTake(TokenKind::For)) {
-        return LoopKind::For;
+        syntax::LoopTarget target{LoopKind::For, {}};
+        if (cursor_.IsAt(TokenKind::Name)) {
+            target.variable = cursor_.Take().text;
+        }
+        return target;
     }
     if (cursor_.TryTake(TokenKind::While)) {
-        return LoopKind::While;
+        return {LoopKind::While, {}};
     }
-    return cursor_.TryTake(TokenKind::Do) ? LoopKind::Do : LoopKind::Any;
+    return {cursor_.TryTake(TokenKind::Do) ? LoopKind::Do : LoopKind::Any, {}};
 }
 
 syntax::Statement::Node StatementParser::ParseTry() {
@@ -194,18 +210,7 @@ syntax::Statement::Node StatementParser::ParseTry() {
     const auto ends = {TokenKind::Catch, TokenKind::Finally, TokenKind::End};
     syntax::Try result;
     result.body = ParseBlock(ends, TokenKind::Try, at);
-    while (cursor_.IsAt(TokenKind::Catch)) {
-        syntax::Try::Catch handler{{}, cursor_.Take().at, {}, {}};
-        if (cursor_.IsAt(TokenKind::Name)) {
-            handler.at = cursor_.At();
-            handler.name = cursor_.Take().text;
-            if (cursor_.TryTake(TokenKind::As)) {
-                handler.type = expressions_.ParseTypeName();
-            }
-        }
-        handler.body = ParseBlock(ends, TokenKind::Try, at);
-        result.catches.push_back(std::move(handler));
-    }
+    result.catches = ParseHandlers(TokenKind::Catch, ends, TokenKind::Try, at);
     const bool hasFinally = cursor_.TryTake(TokenKind::Finally);
     if (hasFinally) {
         result.finally = ParseBlock({TokenKind::End}, TokenKind::Try, at);
@@ -215,6 +220,24 @@ syntax::Statement::Node StatementParser::ParseTry() {
     }
     ExpectEnd(TokenKind::Try);
     return result;
+}
+
+std::vector<syntax::Try::Catch> StatementParser::ParseHandlers(
+    TokenKind word, std::initializer_list<TokenKind> ends, TokenKind opener, Position openerAt) {
+    std::vector<syntax::Try::Catch> handlers;
+    while (cursor_.IsAt(word)) {
+        syntax::Try::Catch handler{{}, cursor_.Take().at, {}, {}};
+        if (cursor_.IsAt(TokenKind::Name)) {
+            handler.at = cursor_.At();
+            handler.name = cursor_.Take().text;
+            if (cursor_.TryTake(TokenKind::As)) {
+                handler.type = expressions_.ParseTypeName();
+            }
+        }
+        handler.body = ParseBlock(ends, opener, openerAt);
+        handlers.push_back(std::move(handler));
+    }
+    return handlers;
 }
 
 syntax::Routine StatementParser::ParseRoutine() {
@@ -230,11 +253,30 @@ syntax::Routine StatementParser::ParseRoutine() {
                                                     : "a Sub returns nothing");
     }
     cursor_.ExpectEndOfLine();
-    routine.body = ParseBlock({TokenKind::End}, head.kind, head.at);
+    const auto ends = {TokenKind::Exception, TokenKind::Finally, TokenKind::End};
+    routine.body = ParseBlock(ends, head.kind, head.at);
+    if (!cursor_.IsAt(TokenKind::End)) {
+        GuardBody(routine, head);
+    }
     ExpectEnd(head.kind);
     cursor_.ExpectEndOfLine();
     constants_ = outside;
     return routine;
+}
+
+void StatementParser::GuardBody(syntax::Routine& routine, const Token& head) {
+    const Position at = cursor_.At();
+    syntax::Try guarded;
+    guarded.body = std::move(routine.body);
+    guarded.catches = ParseHandlers(TokenKind::Exception,
+                                    {TokenKind::Exception, TokenKind::Finally, TokenKind::End},
+                                    head.kind, head.at);
+    if (cursor_.TryTake(TokenKind::Finally)) {
+        guarded.finally = ParseBlock({TokenKind::End}, head.kind, head.at);
+    }
+    routine.body.clear();
+    routine.body.push_back(
+        std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(guarded)}));
 }
 
 }  // namespace standin::language

@@ -34,7 +34,7 @@ struct BuiltIn {
 /// All functions of the language.
 std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types);
 
-/// The function that answers a value of that kind as text; null where there is none.
+/// The function that returns a value of that kind as text; null where there is none.
 BuiltInFunction FindTextFunction(Kind kind);
 
 /// The module whose members are the text encodings.

@@ -2,12 +2,28 @@
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
+#include "standin/language/hints.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
 namespace {
 
 constexpr std::string_view ConstructorName = "Constructor";
+
+/// Throws where a function of the language takes no object like the first argument, and the object
+/// has something in its place.
+void RefuseObject(const std::string& name, const Candidates& candidates,
+                  const std::vector<Checked>& arguments, Position at) {
+    if (arguments.empty() || arguments.front().type.kind != Kind::Instance ||
+        FindOverload(candidates, arguments).outcome != Overload::Outcome::NoneFits) {
+        return;
+    }
+    const auto& model = *arguments.front().type.model;
+    const auto hint = FunctionHint(model, *candidates.front());
+    if (!hint.empty()) {
+        throw ProgramError(at, Quoted(name) + " takes no " + model.name() + hint);
+    }
+}
 
 }  // namespace
 
@@ -37,7 +53,11 @@ Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
                 return std::move(*result);
             }
         }
-        auto receiver = CheckReceiver(*member->object);
+        if (const auto* model = FindQualifiedType(*call.callee);
+            model && call.arguments.size() == 1) {
+            return CastTo(Check(*call.arguments.front()), *types_.Find(model->name()), at);
+        }
+        auto receiver = CheckReceiver(*member->object, member->name);
         if (receiver.value) {
             if (auto sort = TrySortBy(*receiver.value, member->name, call.arguments, at)) {
                 return std::move(*sort);
@@ -92,6 +112,7 @@ std::optional<Checked> ExpressionChecker::TryBuiltIn(const std::string& name, Ar
     if (candidates.empty()) {
         return std::nullopt;
     }
+    RefuseObject(name, candidates, arguments, at);
     const auto index = RequireOverload(name, candidates, arguments, at);
     const auto& signature = *candidates[index];
     return Checked{std::make_unique<code::BuiltInCall>(

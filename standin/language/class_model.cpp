@@ -7,6 +7,7 @@
 #include "standin/language/host_members.hpp"
 #include "standin/language/parser.hpp"
 #include "standin/language/suggestions.hpp"
+#include "standin/language/unsupported.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -49,13 +50,13 @@ const Property* Named(const std::vector<Property>& properties, std::string_view 
     return found == properties.end() ? nullptr : &*found;
 }
 
-/// The first class, from `model` to its ancestors, for which `find` has an answer.
+/// The first class, from `model` to its ancestors, for which `find` returns something.
 template <typename Find>
 auto FirstAnswer(const ClassModel* model, Find find) -> decltype(find(*model)) {
     for (; model != nullptr; model = model->super()) {
-        auto answer = find(*model);
-        if (answer != decltype(find(*model)){}) {
-            return answer;
+        auto found = find(*model);
+        if (found != decltype(find(*model)){}) {
+            return found;
         }
     }
     return {};
@@ -66,45 +67,6 @@ bool HasArray(const Signature& signature) {
            std::ranges::any_of(signature.parameters, [](const Parameter& parameter) {
                return parameter.type.kind == Kind::Array;
            });
-}
-
-/// Types of the host that programs of other kinds use.
-constexpr std::string_view UnsupportedTypes[] = {"BinaryStream",
-                                                 "Color",
-                                                 "Database",
-                                                 "DateInterval",
-                                                 "Delegate",
-                                                 "FolderItem",
-                                                 "Graphics",
-                                                 "JSONItem",
-                                                 "Mutex",
-                                                 "Picture",
-                                                 "Ptr",
-                                                 "RegEx",
-                                                 "Semaphore",
-                                                 "Shell",
-                                                 "TextInputStream",
-                                                 "TextOutputStream",
-                                                 "Thread",
-                                                 "Timer",
-                                                 "WString",
-                                                 "CString",
-                                                 "Xojo",
-                                                 "TCPSocket",
-                                                 "URLConnection",
-                                                 "Text",
-                                                 "CGFloat",
-                                                 "Auto",
-                                                 "Window",
-                                                 "DesktopWindow",
-                                                 "DictionaryEntry"};
-
-/// Throws for a type that the host has, but that is not supported here.
-void RefuseHostType(const syntax::TypeName& name) {
-    if (std::ranges::any_of(UnsupportedTypes,
-                            [&name](std::string_view type) { return SameName(type, name.name); })) {
-        throw ProgramError(name.at, "the type " + Quoted(name.name) + " is not supported here");
-    }
 }
 
 /// Reads the entries of a table that programs can name: hidden ones, too, unless the host is wrong
@@ -183,8 +145,9 @@ TypeTable::TypeTable(const Host& host) : constants_(HostConstants(host)) {
             AddClass(*info);
         }
     }
-    AddClass(Host::Current().ProgramClass(std::string(PairClass)));
-    AddClass(Host::Current().ProgramClass(std::string(DictionaryClass)));
+    for (const auto name : {PairClass, DictionaryClass, DictionaryEntryClass}) {
+        AddClass(Host::Current().ProgramClass(std::string(name)));
+    }
     for (const auto* info : host.RegisteredClasses()) {
         AddClass(*info);
     }
@@ -273,14 +236,9 @@ Property TypeTable::ReadProperty(const PropertyInfo& info) const {
     return property;
 }
 
-Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
-                             std::optional<Type> element) const {
-    const auto resolve = [this, element](const syntax::TypeName& name) {
-        if (element && name.name == ElementPlaceholder) {
-            return name.dimensions == 0 ? *element : Type::ArrayOf(*element, name.dimensions);
-        }
-        return Require(name);
-    };
+template <typename ResolveType>
+Signature TypeTable::ResolveWith(syntax::Signature syntax, std::string declaration,
+                                 ResolveType resolve) {
     Signature signature;
     signature.name = std::move(syntax.name);
     signature.declaration = std::move(declaration);
@@ -294,6 +252,24 @@ Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
         signature.result = resolve(*syntax.result);
     }
     return signature;
+}
+
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
+                             std::optional<Type> element) const {
+    return ResolveWith(
+        std::move(syntax), std::move(declaration), [this, element](const syntax::TypeName& name) {
+            if (element && name.name == ElementPlaceholder) {
+                return name.dimensions == 0 ? *element : Type::ArrayOf(*element, name.dimensions);
+            }
+            return Require(name);
+        });
+}
+
+Signature TypeTable::Resolve(syntax::Signature syntax, std::string declaration,
+                             const ErrorList& errors) const {
+    return ResolveWith(
+        std::move(syntax), std::move(declaration),
+        [this, &errors](const syntax::TypeName& name) { return Require(name, errors); });
 }
 
 std::optional<Type> TypeTable::Find(std::string_view name) const {
@@ -349,12 +325,44 @@ std::vector<std::string_view> TypeTable::Names() const {
     return names;
 }
 
+std::optional<Type> TypeTable::Find(std::string_view name, std::string_view module) const {
+    const auto type = Find(name);
+    const bool isThere =
+        type &&
+        (module.empty() || (type->model != nullptr && SameName(type->model->module, module)));
+    return isThere ? type : std::nullopt;
+}
+
+void TypeTable::FailWithoutType(const syntax::TypeName& name) const {
+    const auto written = name.module.empty() ? name.name : name.module + "." + name.name;
+    if (IsUnsupported(std::string_view(written).substr(0, written.find('.')))) {
+        throw ProgramError(name.at, "the type " + Quoted(written) + " is not supported here");
+    }
+    const auto elsewhere = Find(name.name);
+    std::string suggestion;
+    if (!elsewhere) {
+        suggestion = SuggestionFor(name.name, Names());
+    } else {
+        const bool isInModule = elsewhere->model != nullptr && !elsewhere->model->module.empty();
+        suggestion =
+            "; there is " +
+            Quoted(isInModule ? elsewhere->model->module + "." + NameOf(*elsewhere) : name.name);
+    }
+    throw ProgramError(name.at, "there is no type " + Quoted(written) + suggestion);
+}
+
+Type TypeTable::Require(const syntax::TypeName& name, const ErrorList& errors) const {
+    const bool isDoubtful = errors.IsDoubtful(name.name) || errors.IsDoubtful(name.module);
+    if (isDoubtful && !Find(name.name, name.module)) {
+        throw FollowingError(name.at, "the declaration of the type has an error");
+    }
+    return Require(name);
+}
+
 Type TypeTable::Require(const syntax::TypeName& name) const {
-    const auto type = Find(name.name);
+    const auto type = Find(name.name, name.module);
     if (!type) {
-        RefuseHostType(name);
-        throw ProgramError(
-            name.at, "there is no type " + Quoted(name.name) + SuggestionFor(name.name, Names()));
+        FailWithoutType(name);
     }
     return name.dimensions == 0 ? *type : Type::ArrayOf(*type, name.dimensions);
 }

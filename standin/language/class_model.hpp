@@ -12,6 +12,7 @@
 
 #include "standin/language/code.hpp"
 #include "standin/language/constants.hpp"
+#include "standin/language/errors.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/syntax.hpp"
 #include "standin/language/types.hpp"
@@ -49,7 +50,7 @@ struct Signature {
     std::string problem;
 };
 
-/// What answers for a member of one of the host's own classes; null in a plug-in's members.
+/// The functions behind a member of one of the host's own classes; null in a plug-in's members.
 struct HostAccess {
     BuiltInFunction function = nullptr;
     BuiltInFunction setter = nullptr;
@@ -85,7 +86,7 @@ struct Property {
 };
 
 /// One class. Members are looked up from the class to its ancestors; the nearest class that has
-/// the name answers.
+/// the name counts.
 class ClassModel {
 public:
     /// What the program declares: a class of its own, or an `Enum`.
@@ -113,6 +114,10 @@ public:
     std::vector<Property> sharedProperties;
     /// The values of an `Enum`.
     std::vector<syntax::Enumeration::Item> items;
+    /// Whether a part of a program's class has an error, so that it may lack what it is asked for.
+    bool isIncomplete = false;
+    /// Of a type of the program: the module that it belongs to; empty outside of modules.
+    std::string module;
     /// Of a class of the program: what gives the fields of a new object their first values.
     const code::Routine* initialiser = nullptr;
 
@@ -124,6 +129,11 @@ private:
     const ClassModel* super_;
     Origin origin_;
 };
+
+/// Whether errors about values of the type may follow from an error in its class.
+inline bool IsIncomplete(Type type) {
+    return type.model != nullptr && type.model->isIncomplete;
+}
 
 /// Every type by its name.
 class TypeTable {
@@ -152,15 +162,28 @@ public:
     std::vector<std::string_view> Names() const;
 
     std::optional<Type> Find(std::string_view name) const;
+    /// The same of one that belongs to a module; to any where that is empty.
+    std::optional<Type> Find(std::string_view name, std::string_view module) const;
     const ClassModel* FindClass(std::string_view name) const;
     /// The type of a written name; throws ProgramError when there is none.
     Type Require(const syntax::TypeName& name) const;
+    /// The same in a program with errors: throws FollowingError where one of them may be the
+    /// reason.
+    Type Require(const syntax::TypeName& name, const ErrorList& errors) const;
     /// Fills a signature from its syntax. An unknown type throws ProgramError. Where `element` is
     /// given, it takes the place of the type "Element".
     Signature Resolve(syntax::Signature syntax, std::string declaration,
                       std::optional<Type> element = std::nullopt) const;
+    /// The same for a routine of a program with errors.
+    Signature Resolve(syntax::Signature syntax, std::string declaration,
+                      const ErrorList& errors) const;
 
 private:
+    /// Fills a signature, `resolve` giving the types.
+    template <typename ResolveType>
+    static Signature ResolveWith(syntax::Signature syntax, std::string declaration,
+                                 ResolveType resolve);
+    [[noreturn]] void FailWithoutType(const syntax::TypeName& name) const;
     ClassModel& AddClass(const ClassInfo& info);
     void AddMembers(ClassModel& model) const;
     void AddHostMembers(ClassModel& model) const;

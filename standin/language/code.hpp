@@ -55,6 +55,18 @@ public:
     const char* what() const noexcept override { return "interrupted"; }
 };
 
+/// The program ends itself; no Catch and no Finally of it sees that.
+class Ended : public std::exception {
+public:
+    explicit Ended(int status) : status_(status) {}
+    /// Its exit status.
+    int status() const { return status_; }
+    const char* what() const noexcept override { return "the program ended itself"; }
+
+private:
+    int status_;
+};
+
 /// Statements that a program may take, each turn of a loop and each branch counted as one more.
 inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_t>::max();
 
@@ -153,7 +165,7 @@ public:
     Expression(const Expression&) = delete;
     Expression& operator=(const Expression&) = delete;
 
-    /// The value; a node that returns nothing answers a value that nobody reads.
+    /// The value; of a node that returns nothing, a value that nobody reads.
     virtual Value Evaluate(Frame& frame) const = 0;
     /// Where the value of a variable is kept; null for every other expression.
     virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }

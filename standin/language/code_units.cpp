@@ -1,6 +1,7 @@
 #include "standin/language/code_units.hpp"
 
 #include <memory>
+#include <optional>
 
 #include "standin/language/code_expressions.hpp"
 #include "standin/language/native_data.hpp"
@@ -53,6 +54,19 @@ Value NewProgramObject::Evaluate(Frame& frame) const {
         CallRoutine(*constructor_, std::move(arguments), frame);
     }
     return object;
+}
+
+Flow GuardedApplication::Execute(Frame& frame) const {
+    std::optional<Thrown> unhandled;
+    try {
+        return body_.Execute(frame);
+    } catch (const Thrown& thrown) {
+        unhandled = thrown;
+    }
+    if (!CallRoutine(handler_, {unhandled->exception()}, frame).IsTrue()) {
+        throw Thrown(*unhandled);
+    }
+    return Flow::Return;
 }
 
 Flow InitialiseOnce::Execute(Frame& frame) const {

@@ -55,6 +55,19 @@ private:
     std::vector<Argument> arguments_;
 };
 
+/// The statements of an application. An exception that leaves them goes to a routine, which returns
+/// whether it took care of it.
+class GuardedApplication final : public Statement {
+public:
+    GuardedApplication(Position at, Block body, const Routine& handler)
+        : Statement(at), body_(std::move(body)), handler_(handler) {}
+    Flow Execute(Frame& frame) const override;
+
+private:
+    Block body_;
+    const Routine& handler_;
+};
+
 /// Gives a static variable its first value, once.
 class InitialiseOnce final : public Statement {
 public:

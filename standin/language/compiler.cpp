@@ -4,19 +4,20 @@
 #include <string>
 #include <utility>
 
+#include "standin/language/application.hpp"
 #include "standin/language/code_statements.hpp"
+#include "standin/language/code_units.hpp"
 #include "standin/language/parser.hpp"
 
 namespace standin::language {
 namespace {
 
-constexpr std::string_view RunName = "Run";
 /// No program can write this name.
 constexpr auto InitialiserName = "(fields)";
 
 /// The head of a routine with the names of its types resolved. The routine keeps the names, which
 /// its body needs; only the defaults move.
-Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
+Signature Resolve(syntax::Signature& syntax, const TypeTable& types, const ErrorList& errors) {
     syntax::Signature head{syntax.name, syntax.at, {}, syntax.result};
     std::string declaration;
     const auto brackets = [](const syntax::TypeName& type) {
@@ -37,7 +38,7 @@ Signature Resolve(syntax::Signature& syntax, const TypeTable& types) {
     if (syntax.result) {
         declaration += " As " + syntax.result->name + brackets(*syntax.result);
     }
-    return types.Resolve(std::move(head), std::move(declaration));
+    return types.Resolve(std::move(head), std::move(declaration), errors);
 }
 
 bool HaveSameHead(const Signature& left, const Signature& right) {
@@ -73,6 +74,23 @@ void AppendFirstValue(syntax::Block& block, const std::string& owner,
     block.push_back(std::make_unique<syntax::Statement>(syntax::Statement{at, std::move(node)}));
 }
 
+/// `Return App.Run(Array(words))`.
+syntax::StatementPtr MakeStart(const syntax::Unit& application,
+                               const std::vector<std::string>& words) {
+    const Position at = application.at;
+    auto run =
+        Make(at, syntax::Member{Make(at, syntax::Name{application.name}), std::string(RunEvent)});
+    syntax::Expressions texts;
+    for (const auto& word : words) {
+        texts.push_back(Make(at, syntax::TextLiteral{word}));
+    }
+    syntax::Expressions arguments;
+    arguments.push_back(Make(at, syntax::Call{Make(at, syntax::Name{"Array"}), std::move(texts)}));
+    auto call = Make(at, syntax::Call{std::move(run), std::move(arguments)});
+    return std::make_unique<syntax::Statement>(
+        syntax::Statement{at, syntax::Return{std::move(call)}});
+}
+
 }  // namespace
 
 Compiler::Compiler(const TypeTable& types) : types_(&types), callables_{MakeBuiltIns(types)} {}
@@ -84,33 +102,36 @@ code::Block Compiler::Compile(syntax::Program program, ErrorList& errors) {
 code::Block Compiler::CompileProject(syntax::Program program, const std::vector<std::string>& words,
                                      ErrorList& errors) {
     const auto application = std::ranges::find(program.units, true, &syntax::Unit::isApplication);
+    for (auto& unit : program.units) {
+        CheckEvents(unit, errors);
+    }
+    constexpr Type StatusType{IntegerKind};
     if (application == program.units.end()) {
         if (errors.empty()) {
             errors.Add(ProgramError(
                 0,
                 "no class of the project inherits from ConsoleApplication, so nothing can start"));
         }
-    } else if (std::ranges::none_of(application->routines, [](const syntax::Routine& routine) {
-                   return SameName(routine.signature.name, RunName);
-               })) {
+        return CompileAll(program, errors, StatusType);
+    }
+    if (errors.empty() && FindEvent(*application, RunEvent) == nullptr) {
         errors.Add(ProgramError(
             application->at, Quoted(application->name) + " has no Function Run(args() As String)"));
-    } else {
-        const Position at = application->at;
-        auto run = Make(
-            at, syntax::Member{Make(at, syntax::Name{application->name}), std::string(RunName)});
-        syntax::Expressions texts;
-        for (const auto& word : words) {
-            texts.push_back(Make(at, syntax::TextLiteral{word}));
-        }
-        syntax::Expressions arguments;
-        arguments.push_back(
-            Make(at, syntax::Call{Make(at, syntax::Name{"Array"}), std::move(texts)}));
-        auto call = Make(at, syntax::Call{std::move(run), std::move(arguments)});
-        program.main.push_back(std::make_unique<syntax::Statement>(
-            syntax::Statement{at, syntax::Return{std::move(call)}}));
+    } else if (errors.empty()) {
+        program.main.push_back(MakeStart(*application, words));
     }
-    return CompileAll(program, errors, Type{IntegerKind});
+    auto block = CompileAll(program, errors, StatusType);
+    if (FindEvent(*application, UnhandledEvent) == nullptr) {
+        return block;
+    }
+    const auto handler = std::ranges::find_if(callables_.routines, [&](const auto& routine) {
+        return SameName(routine.unit, application->name) &&
+               SameName(routine.signature.name, UnhandledEvent);
+    });
+    code::Block guarded;
+    guarded.statements.push_back(std::make_unique<code::GuardedApplication>(
+        application->at, std::move(block), *handler->code));
+    return guarded;
 }
 
 code::Block Compiler::CompileAll(syntax::Program& program, ErrorList& errors,
@@ -123,7 +144,9 @@ code::Block Compiler::CompileAll(syntax::Program& program, ErrorList& errors,
     }
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : program.routines) {
-        errors.Try([&] { DeclareRoutine(routine, {}, siblings); });
+        if (!errors.Try([&] { DeclareRoutine(routine, {}, siblings, errors); })) {
+            errors.Doubt(routine.signature.name);
+        }
     }
     for (const auto& pending : pending_) {
         CheckDefaults(pending.signature, errors);
@@ -186,6 +209,7 @@ void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
             auto& model =
                 types_.Declare(enumeration.name, ClassModel::Origin::Enumeration, enumeration.at);
             model.items = enumeration.items;
+            model.module = enumeration.module;
         });
     }
     for (const auto& unit : program.units) {
@@ -198,7 +222,8 @@ void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
                 callables_.application = unit.name;
             }
             if (unit.isClass) {
-                types_.Declare(unit.name, ClassModel::Origin::Program, unit.at);
+                types_.Declare(unit.name, ClassModel::Origin::Program, unit.at).module =
+                    unit.module;
             }
         });
     }
@@ -235,7 +260,7 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
     };
     syntax::Block start;
     for (auto& field : unit.fields) {
-        errors.Try([&] {
+        const auto declare = [&] {
             const auto isSame = [&](const UnitVariable& other) {
                 return SameName(other.name, field.declarator.name) &&
                        SameName(other.unit, unit.name);
@@ -244,26 +269,31 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
                 throw ProgramError(field.declarator.at,
                                    Quoted(field.declarator.name) + " is declared already");
             }
-            const auto type = types_.Require(field.declarator.type);
+            const auto type = types_.Require(field.declarator.type, errors);
             const Variable variable{type, globals_.size(), code::VariableKind::Global};
             globals_.push_back(type);
             callables_.variables.push_back(
                 {field.declarator.name, variable, unit.name, seen(field.visibility)});
             AppendFirstValue(start, unit.name, field.declarator);
-        });
+        };
+        if (!errors.Try(declare)) {
+            errors.Doubt(field.declarator.name);
+        }
     }
     starts_.emplace_back(Surroundings{unit.name, nullptr}, std::move(start));
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : unit.routines) {
         routine.visibility = seen(routine.visibility);
-        errors.Try([&] { DeclareRoutine(routine, unit.name, siblings); });
+        if (!errors.Try([&] { DeclareRoutine(routine, unit.name, siblings, errors); })) {
+            errors.Doubt(routine.signature.name);
+        }
     }
 }
 
 void Compiler::DeclareRoutine(syntax::Routine& routine, const std::string& unit,
-                              std::vector<DeclaredRoutine>& siblings) {
+                              std::vector<DeclaredRoutine>& siblings, const ErrorList& errors) {
     auto& code = NewRoutine();
-    const DeclaredRoutine declared{Resolve(routine.signature, types_), &code, unit,
+    const DeclaredRoutine declared{Resolve(routine.signature, types_, errors), &code, unit,
                                    routine.visibility};
     const auto isSame = [&](const DeclaredRoutine& other) { return AreSame(other, declared); };
     if (std::ranges::any_of(siblings, isSame)) {
@@ -284,16 +314,17 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
     }
     // The table hands out constant models; this one is its program's own.
     auto& model = types_.OwnModel(unit.name);
+    model.isIncomplete = unit.isIncomplete;
     auto initialiser = std::make_unique<syntax::Routine>();
     initialiser->signature.name = InitialiserName;
     initialiser->signature.at = unit.at;
     for (auto& field : unit.fields) {
-        errors.Try([&] {
+        const auto declare = [&] {
             const auto& declarator = field.declarator;
             if (model.FindProperty(declarator.name) != nullptr) {
                 throw ProgramError(declarator.at, Quoted(declarator.name) + " is declared already");
             }
-            const auto type = types_.Require(declarator.type);
+            const auto type = types_.Require(declarator.type, errors);
             model.properties.push_back(
                 {.name = declarator.name,
                  .type = type,
@@ -303,10 +334,16 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
                  .field = model.properties.size(),
                  .isPrivate = field.visibility != syntax::Visibility::Global});
             AppendFirstValue(initialiser->body, std::string(SelfName), field.declarator);
-        });
+        };
+        if (!errors.Try(declare)) {
+            errors.Doubt(field.declarator.name);
+            model.isIncomplete = true;
+        }
     }
     for (auto& routine : unit.routines) {
-        errors.Try([&] { DeclareMethod(model, routine); });
+        if (!errors.Try([&] { DeclareMethod(model, routine, errors); })) {
+            model.isIncomplete = true;
+        }
     }
     if (!initialiser->body.empty()) {
         auto& code = NewRoutine();
@@ -318,7 +355,7 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
     }
 }
 
-void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
+void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine, const ErrorList& errors) {
     const auto& name = routine.signature.name;
     const Position at = routine.signature.at;
     constexpr std::string_view Operator = "Operator_";
@@ -328,7 +365,7 @@ void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine) {
     if (SameName(name, "Destructor")) {
         throw ProgramError(at, "Destructors are not supported here");
     }
-    auto signature = Resolve(routine.signature, types_);
+    auto signature = Resolve(routine.signature, types_, errors);
     for (const auto& method : model.methods) {
         if (HaveSameHead(method.signature, signature)) {
             throw ProgramError(at, Quoted(name) + " is declared already");

@@ -70,10 +70,10 @@ private:
     void DeclareUnit(syntax::Unit& unit, ErrorList& errors);
     void DeclareModule(syntax::Unit& unit, ErrorList& errors);
     void DeclareClass(syntax::Unit& unit, ErrorList& errors);
-    void DeclareMethod(ClassModel& model, syntax::Routine& routine);
+    void DeclareMethod(ClassModel& model, syntax::Routine& routine, const ErrorList& errors);
     /// Throws when one of the siblings, those of the same text and module, is the same.
     void DeclareRoutine(syntax::Routine& routine, const std::string& unit,
-                        std::vector<DeclaredRoutine>& siblings);
+                        std::vector<DeclaredRoutine>& siblings, const ErrorList& errors);
     code::Routine& NewRoutine();
     void CheckDefaults(const Signature& signature, ErrorList& errors) const;
     /// Statements of the main frame.

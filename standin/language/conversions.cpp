@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "standin/language/code_expressions.hpp"
+#include "standin/language/errors.hpp"
+#include "standin/language/hints.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -65,7 +67,7 @@ const Method* FindConversionIn(const Checked& value, const ClassModel& model) {
     return best;
 }
 
-/// The Operator_Convert that answers an object as a value of that type.
+/// The Operator_Convert that returns an object as a value of that type.
 const Method* FindConversionOut(Type from, Type to) {
     if (from.kind != Kind::Instance ||
         (from.model->info().record != nullptr && IsWrongAbout("compiles-conversion-out"))) {
@@ -172,19 +174,6 @@ Checked ConvertPlain(Checked value, Type to) {
     return {std::move(value.code), to, value.at, {}, false};
 }
 
-std::string HintFor(Type from, Type to) {
-    if (IsNumber(from.kind) && to.kind == Kind::Text) {
-        return "; use Str";
-    }
-    if (from.kind == Kind::Text && IsNumber(to.kind)) {
-        return "; use Val";
-    }
-    if (from.kind == Kind::Instance && to.kind == Kind::Instance && to.model->IsA(*from.model)) {
-        return "; use CType";
-    }
-    return {};
-}
-
 }  // namespace
 
 Fit FitOf(const Checked& value, Type to) {
@@ -216,8 +205,11 @@ Checked ConvertTo(Checked value, Type to) {
     if (const auto* method = FindConversionOut(value.type, to)) {
         return ConvertOut(std::move(value), to, *method);
     }
+    if (IsIncomplete(value.type) || IsIncomplete(to)) {
+        throw FollowingError(value.at, "the class has an error");
+    }
     throw ProgramError(value.at, "expected " + NameOf(to) + ", this is " + NameOf(value.type) +
-                                     HintFor(value.type, to));
+                                     ConversionHint(value, to));
 }
 
 void RequireUsable(const std::string& declaration, const std::string& problem, Position at) {

@@ -183,7 +183,18 @@ Value All(const Arguments& arguments, const Machine& machine) {
     return array;
 }
 
+template <const Value& (*Side)(const Value&, const Machine&)>
+Value SideOfEntry(const Arguments& arguments, const Machine& machine) {
+    return Side(arguments[0], machine);
+}
+
+Value MakeEntry(const Arguments& arguments, const Machine& machine) {
+    return MakePairOf(DictionaryEntryClass, arguments[0], arguments[1], machine);
+}
+
 constexpr auto Properties = std::to_array<HostMember>({
+    {DictionaryEntryClass, "Key As Variant", SideOfEntry<LeftOf>, nullptr},
+    {DictionaryEntryClass, "Value As Variant", SideOfEntry<RightOf>, nullptr},
     {DictionaryClass, "Count As Integer", Count, nullptr},
     {DictionaryClass, "KeyCount As Integer", Count, nullptr},
 });
@@ -202,9 +213,20 @@ constexpr auto Methods = std::to_array<HostMember>({
 
 constexpr auto Factories = std::to_array<HostMember>({
     {DictionaryClass, "Constructor(ParamArray entries As Pair)", MakeDictionary, nullptr},
+    {DictionaryEntryClass, "Constructor(key As Variant, value As Variant)", MakeEntry, nullptr},
 });
 
 }  // namespace
+
+Value MakeDictionaryEntries(const std::vector<Value>& arguments, const Machine& machine) {
+    const auto& entries = EntriesOf(arguments, machine);
+    auto array = Value::DefaultOf(Type::ArrayOf({Kind::Variant}));
+    for (std::size_t i = 0; i < entries.count(); ++i) {
+        const auto& [key, value] = entries.At(i);
+        array.array()->items.push_back(MakePairOf(DictionaryEntryClass, key, value, machine));
+    }
+    return array;
+}
 
 std::span<const HostMember> DictionaryProperties() {
     return Properties;

@@ -80,6 +80,8 @@ public:
     code::ExpressionPtr CheckAs(const syntax::Expression& expression, Type type);
     /// An expression for what it does, which may return nothing.
     Checked CheckCall(const syntax::Expression& expression);
+    /// What a For Each goes through: an array, or the entries of a Dictionary as one.
+    Checked CheckElements(const syntax::Expression& expression);
     /// A value as text, as Print takes it.
     code::ExpressionPtr CheckAsText(const syntax::Expression& expression);
     /// A value of any type that has a text form, as the prompt shows it.
@@ -129,7 +131,8 @@ private:
     static Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at);
     static Checked MakeReal(const syntax::RealLiteral& literal, bool isNegative, Position at);
     Arguments CheckArguments(const syntax::Expressions& expressions);
-    Receiver CheckReceiver(const syntax::Expression& expression);
+    /// `member` is what is wanted of it.
+    Receiver CheckReceiver(const syntax::Expression& expression, const std::string& member);
     Checked CheckMember(Receiver receiver, const std::string& name, Position at);
     Checked CheckMemberCall(Receiver receiver, const std::string& name, Arguments arguments,
                             Position at);
@@ -232,7 +235,17 @@ private:
     bool IsArrayProperty(const Receiver& receiver, const std::string& name) const;
     void RequireAccess(bool isPrivate, const ClassModel& model, const std::string& name,
                        Position at) const;
+    /// A type of the program with the name of its module before it; null for any other expression.
+    const ClassModel* FindQualifiedType(const syntax::Expression& expression) const;
     [[noreturn]] void FailWithoutName(const std::string& name, Position at) const;
+    /// `unit` is a module or class of the program.
+    [[noreturn]] void FailWithoutUnitMember(const std::string& unit, const std::string& name,
+                                            Position at) const;
+    /// A member of a value that is no object.
+    [[noreturn]] void FailWithoutValueMember(Type type, const std::string& name, Position at) const;
+    /// The functions of the language that bear a name, or whose names begin so.
+    std::vector<const BuiltIn*> BuiltInsNamed(std::string_view name) const;
+    std::vector<std::string_view> BuiltInsOf(std::string_view module) const;
     [[noreturn]] void FailWithoutMember(const ClassModel& model, const std::string& name,
                                         Position at) const;
 

@@ -315,8 +315,13 @@ syntax::TypeName ExpressionParser::ParseTypeName() {
     if (!IsWord(cursor_.Current())) {
         cursor_.Fail("the name of a type");
     }
-    const auto name = cursor_.Take();
-    return {name.text, name.at};
+    const auto first = cursor_.Take();
+    syntax::TypeName type{first.text, first.at};
+    while (cursor_.TryTake(TokenKind::Dot)) {
+        type.module += (type.module.empty() ? "" : ".") + type.name;
+        type.name = cursor_.ExpectWord().text;
+    }
+    return type;
 }
 
 syntax::Signature ExpressionParser::ParseSignature() {

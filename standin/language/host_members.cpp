@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -165,10 +166,6 @@ Value SetBytes(const Arguments& arguments, const Machine& machine) {
 
 // Date and DateTime ------------------------------------------------------------------------------
 
-Value MakeDate(const Arguments& arguments, const Machine& machine) {
-    return RequireMade(machine.host().MakeDate(arguments[0].Get<double>()), "Date", machine);
-}
-
 Value MakeDateTime(const Arguments& arguments, const Machine& machine) {
     return RequireMade(machine.host().MakeDateTime(arguments[0].Get<double>()), "DateTime",
                        machine);
@@ -183,11 +180,40 @@ Value SetSeconds(const Arguments& arguments, const Machine& machine) {
     return {};
 }
 
-/// The time now: seconds from the beginning of 1904, as the host's Dates count them.
+/// A Date counts its seconds from the beginning of 1904.
+constexpr double SecondsFrom1904To1970 = 2082844800.0;
+
 Value MakeDateNow(const Arguments& /*arguments*/, const Machine& machine) {
-    constexpr double SecondsFrom1904To1970 = 2082844800.0;
     const auto now = static_cast<double>(std::time(nullptr));
     return RequireMade(machine.host().MakeDate(SecondsFrom1904To1970 + now), "Date", machine);
+}
+
+Value CopyDate(const Arguments& arguments, const Machine& machine) {
+    machine.RequireObject(arguments[0]);
+    const double seconds = machine.host().Seconds(arguments[0].object());
+    return RequireMade(machine.host().MakeDate(seconds), "Date", machine);
+}
+
+/// Year, month, day, hour, minute, second. Months and days beyond their ends count on.
+Value MakeDateOf(const Arguments& arguments, const Machine& machine) {
+    const auto part = [&arguments](std::size_t index) {
+        return static_cast<std::int64_t>(arguments[index].Get<std::int32_t>());
+    };
+    const std::int64_t months = part(0) * 12 + part(1) - 1;
+    const std::int64_t year = (months - (months % 12 + 12) % 12) / 12;
+    const auto month = static_cast<unsigned>((months % 12 + 12) % 12 + 1);
+    constexpr std::int64_t LargestYear = 32767;
+    if (year < -LargestYear || year > LargestYear) {
+        machine.Raise("OutOfBoundsException", "A Date has no such year.");
+    }
+    using namespace std::chrono;
+    const sys_days firstOfMonth =
+        std::chrono::year(static_cast<int>(year)) / std::chrono::month(month) / 1;
+    const std::int64_t days = firstOfMonth.time_since_epoch().count() + part(2) - 1;
+    const std::int64_t seconds = ((days * 24 + part(3)) * 60 + part(4)) * 60 + part(5);
+    return RequireMade(
+        machine.host().MakeDate(SecondsFrom1904To1970 + static_cast<double>(seconds)), "Date",
+        machine);
 }
 
 // Variant ----------------------------------------------------------------------------------------
@@ -276,7 +302,12 @@ constexpr auto Constructors = std::to_array<HostMember>({
 constexpr auto Factories = std::to_array<HostMember>({
     {"MemoryBlock", "Constructor(size As Integer)", MakeMemoryBlock, nullptr},
     {"Date", "Constructor()", MakeDateNow, nullptr},
-    {"Date", "Constructor(totalSeconds As Double)", MakeDate, nullptr},
+    {"Date", "Constructor(other As Date)", CopyDate, nullptr},
+    {"Date",
+     "Constructor(year As Int32, month As Int32, day As Int32, hour As Int32 = 0, minute As Int32 "
+     "= 0, "
+     "second As Int32 = 0)",
+     MakeDateOf, nullptr},
     {"DateTime", "Constructor(secondsFrom1970 As Double)", MakeDateTime, nullptr},
 });
 

@@ -62,6 +62,7 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"ElseIf", TokenKind::ElseIf},
     {"End", TokenKind::End},
     {"Enum", TokenKind::Enum},
+    {"Exception", TokenKind::Exception},
     {"Exit", TokenKind::Exit},
     {"Extends", TokenKind::Extends},
     {"False", TokenKind::False},
@@ -374,8 +375,13 @@ private:
             if (!SameName(tag.substr(0, name.size()), name)) {
                 continue;
             }
+            const auto tagStart = tokens_.back().at - start_;
             while (offset_ < text_.size() && !AtEndOfTag(name)) {
                 offset_ += std::max<std::size_t>(LineEndSize(), 1);
+            }
+            if (offset_ == text_.size()) {
+                throw ProgramError(tagStart,
+                                   "this \"#tag " + std::string(name) + "\" is never closed");
             }
             SkipLine();
             return;

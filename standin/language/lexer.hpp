@@ -70,6 +70,7 @@ enum class TokenKind : std::uint8_t {
     ElseIf,
     End,
     Enum,
+    Exception,
     Exit,
     Extends,
     False,

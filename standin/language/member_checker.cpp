@@ -2,10 +2,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "standin/language/array_members.hpp"
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
-#include "standin/language/suggestions.hpp"
 #include "standin/language/wrong_overloads.hpp"
 
 namespace standin::language {
@@ -42,27 +40,22 @@ Checked ExpressionChecker::CheckNode(const syntax::Member& member, Position at) 
             return std::move(*value);
         }
     }
-    return CheckMember(CheckReceiver(*member.object), member.name, at);
+    return CheckMember(CheckReceiver(*member.object, member.name), member.name, at);
 }
 
-ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expression& expression) {
+ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expression& expression,
+                                                             const std::string& member) {
     const auto* name = std::get_if<syntax::Name>(&expression.node);
-    const auto* member = std::get_if<syntax::Member>(&expression.node);
     if (name != nullptr && scope_.Find(name->name) == nullptr) {
         if (const auto* model = types_.FindClass(name->name)) {
             return {std::nullopt, model};
         }
         if (callables_.units.contains(name->name)) {
-            throw ProgramError(expression.at, "the module " + Quoted(name->name) +
-                                                  " has no such member that is seen here");
+            FailWithoutUnitMember(name->name, member, expression.at);
         }
     }
-    // An Enum may bear the name of its module before it.
-    if (member != nullptr && FindUnit(*member->object) != nullptr) {
-        const auto* model = types_.FindClass(member->name);
-        if (model != nullptr && model->origin() == ClassModel::Origin::Enumeration) {
-            return {std::nullopt, model};
-        }
+    if (const auto* model = FindQualifiedType(expression)) {
+        return {std::nullopt, model};
     }
     auto value = Check(expression);
     // Values that are no objects have methods, but no class.
@@ -140,26 +133,15 @@ Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& na
     if (auto result = TryArrayMember(value, name, arguments, at)) {
         return std::move(*result);
     }
-    const std::string type = NameOf(value.type);
+    const Type type = value.type;
     if (auto result = TryExtension(value, name, arguments, at)) {
         return std::move(*result);
     }
-    const bool isArray = value.type.kind == Kind::Array;
     arguments.insert(arguments.begin(), std::move(value));
     if (auto result = TryBuiltIn(name, arguments, at)) {
         return std::move(*result);
     }
-    std::vector<std::string_view> names;
-    if (isArray) {
-        for (const auto& member : ArrayMembers()) {
-            names.push_back(member.declaration.substr(0, member.declaration.find('(')));
-        }
-    } else {
-        for (const auto& builtIn : callables_.builtIns) {
-            names.emplace_back(builtIn.signature.name);
-        }
-    }
-    throw ProgramError(at, type + " has no member " + Quoted(name) + SuggestionFor(name, names));
+    FailWithoutValueMember(type, name, at);
 }
 
 Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& property, bool isShared,
@@ -193,7 +175,8 @@ Checked ExpressionChecker::CallMethod(Receiver receiver, const std::vector<const
                                       bool isShared, Arguments arguments, Position at) {
     const auto& name = methods.front()->signature.name;
     RequireUnambiguous(*receiver.model, name, at);
-    const auto& method = *methods[RequireOverload(name, SignaturesOf(methods), arguments, at)];
+    const auto& method =
+        *methods[RequireOverload(name, SignaturesOf(methods), arguments, at, receiver.model)];
     if (method.routine != nullptr) {
         RequireAccess(method.isPrivate, *receiver.model, name, at);
         auto filled = Fill(method.signature, std::move(arguments), at, *this);

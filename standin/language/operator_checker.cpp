@@ -1,9 +1,10 @@
 // The operators of the expression checker: which of them are the language's, and which a class has.
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
+#include "standin/language/hints.hpp"
+#include "standin/language/operators.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -11,37 +12,9 @@ namespace {
 
 using syntax::BinaryOperator;
 
-constexpr std::string_view CompareOperator = "Operator_Compare";
 constexpr std::string_view NegateOperator = "Operator_Negate";
 constexpr std::string_view NotOperator = "Operator_Not";
 constexpr std::string_view RightSuffix = "Right";
-
-struct OperatorRow {
-    BinaryOperator operation;
-    std::string_view sign;
-    /// The operator that a class may have; comparisons share one, identity is nobody's.
-    std::string_view method;
-};
-
-constexpr auto Operators = std::to_array<OperatorRow>({
-    {BinaryOperator::Power, "^", "Operator_Power"},
-    {BinaryOperator::Multiply, "*", "Operator_Multiply"},
-    {BinaryOperator::Divide, "/", "Operator_Divide"},
-    {BinaryOperator::IntegerDivide, "\\", "Operator_IntegerDivide"},
-    {BinaryOperator::Modulo, "Mod", "Operator_Modulo"},
-    {BinaryOperator::Add, "+", "Operator_Add"},
-    {BinaryOperator::Subtract, "-", "Operator_Subtract"},
-    {BinaryOperator::Equal, "=", CompareOperator},
-    {BinaryOperator::NotEqual, "<>", CompareOperator},
-    {BinaryOperator::Less, "<", CompareOperator},
-    {BinaryOperator::LessEqual, "<=", CompareOperator},
-    {BinaryOperator::Greater, ">", CompareOperator},
-    {BinaryOperator::GreaterEqual, ">=", CompareOperator},
-    {BinaryOperator::Is, "Is", {}},
-    {BinaryOperator::And, "And", "Operator_And"},
-    {BinaryOperator::Or, "Or", "Operator_Or"},
-    {BinaryOperator::Xor, "Xor", "Operator_XOr"},
-});
 
 const OperatorRow& RowOf(BinaryOperator operation) {
     return *std::ranges::find(Operators, operation, &OperatorRow::operation);
@@ -65,6 +38,9 @@ bool HaveIdentity(const Checked& left, const Checked& right) {
 /// Why an operator cannot stand between two operands.
 [[noreturn]] void FailOperator(BinaryOperator operation, const Checked& left, const Checked& right,
                                Position at) {
+    if (IsIncomplete(left.type) || IsIncomplete(right.type)) {
+        throw FollowingError(at, "the class has an error");
+    }
     const auto& row = RowOf(operation);
     std::string message = Quoted(row.sign) + " cannot stand between " + NameOf(left.type) +
                           " and " + NameOf(right.type);
@@ -81,6 +57,10 @@ bool HaveIdentity(const Checked& left, const Checked& right) {
     const bool isNumber = IsNumber(left.type.kind) || IsNumber(right.type.kind);
     if (isText && isNumber && operation == BinaryOperator::Add) {
         message += "; use Str";
+    } else if (left.type.kind == Kind::Instance) {
+        message += ConversionHint(right, left.type);
+    } else if (right.type.kind == Kind::Instance) {
+        message += ConversionHint(left, right.type);
     }
     throw ProgramError(at, message);
 }

@@ -6,6 +6,7 @@
 
 #include "standin/language/code_arrays.hpp"
 #include "standin/language/code_expressions.hpp"
+#include "standin/language/hints.hpp"
 #include "standin/language/wrong_overloads.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
@@ -84,17 +85,20 @@ std::string WantedType(const Parameter& parameter) {
 
 /// Why the only candidate does not take the arguments.
 [[noreturn]] void FailOnly(const std::string& name, const Signature& signature,
-                           const std::vector<Checked>& arguments, Position at) {
+                           const std::vector<Checked>& arguments, Position at,
+                           const ClassModel* model) {
     RequireUsable(signature.declaration, signature.problem, at);
     const auto& parameters = signature.parameters;
     for (std::size_t i = 0; i < std::min(arguments.size(), parameters.size()); ++i) {
         if (!parameters[i].isParamArray && FitOf(arguments[i], parameters[i]) == Fit::None) {
-            throw ProgramError(arguments[i].at,
-                               Quoted(signature.declaration) + " expects " +
-                                   WantedType(parameters[i]) + " for " +
-                                   Quoted(parameters[i].name) + ", this is " +
-                                   (arguments[i].isVariable ? "" : "a value of type ") +
-                                   NameOf(arguments[i].type));
+            throw ProgramError(
+                arguments[i].at,
+                Quoted(signature.declaration) + " expects " + WantedType(parameters[i]) + " for " +
+                    Quoted(parameters[i].name) + ", this is " +
+                    (arguments[i].isVariable ? "" : "a value of type ") +
+                    NameOf(arguments[i].type) +
+                    (parameters[i].byRef ? std::string()
+                                         : ConversionHint(arguments[i], parameters[i].type)));
         }
     }
     throw ProgramError(at, Quoted(name) + " has " + std::to_string(arguments.size()) +
@@ -102,7 +106,8 @@ std::string WantedType(const Parameter& parameter) {
                                Quoted(signature.declaration) + " takes " +
                                (arguments.size() > parameters.size()    ? "fewer"
                                 : arguments.size() == parameters.size() ? "others"
-                                                                        : "more"));
+                                                                        : "more") +
+                               (model == nullptr ? "" : ParameterHint(*model, name)));
 }
 
 }  // namespace
@@ -140,7 +145,8 @@ Overload FindOverload(const Candidates& candidates, const std::vector<Checked>& 
 }
 
 std::size_t RequireOverload(const std::string& name, const Candidates& candidates,
-                            const std::vector<Checked>& arguments, Position at) {
+                            const std::vector<Checked>& arguments, Position at,
+                            const ClassModel* model) {
     const auto overload = FindOverload(candidates, arguments);
     switch (overload.outcome) {
         case Overload::Outcome::One:
@@ -152,8 +158,13 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
         case Overload::Outcome::NoneFits:
             break;
     }
+    const bool isDoubtful = std::ranges::any_of(
+        arguments, [](const Checked& argument) { return IsIncomplete(argument.type); });
+    if (isDoubtful || (model != nullptr && model->isIncomplete)) {
+        throw FollowingError(at, "the class has an error");
+    }
     if (candidates.size() == 1) {
-        FailOnly(name, *candidates.front(), arguments, at);
+        FailOnly(name, *candidates.front(), arguments, at, model);
     }
     std::vector<std::size_t> all;
     for (std::size_t i = 0; i < candidates.size(); ++i) {

@@ -30,9 +30,11 @@ struct Overload {
 Overload FindOverload(const Candidates& candidates, const std::vector<Checked>& arguments);
 
 /// The index of the candidate that is meant. Throws ProgramError that names the candidates when
-/// none fits or several fit equally well; `name` is what the user called.
+/// none fits or several fit equally well; `name` is what the user called, a member of `model` if
+/// that is given.
 std::size_t RequireOverload(const std::string& name, const Candidates& candidates,
-                            const std::vector<Checked>& arguments, Position at);
+                            const std::vector<Checked>& arguments, Position at,
+                            const ClassModel* model = nullptr);
 
 /// Turns literals that stand as defaults into checked expressions.
 class DefaultSource {

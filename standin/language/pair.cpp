@@ -47,14 +47,7 @@ const Sides& SidesOf(const Value& pair, const Machine& machine) {
 }
 
 Value MakePair(const Arguments& arguments, const Machine& machine) {
-    Host& host = machine.host();
-    const auto& info = host.ProgramClass(std::string(PairClass));
-    auto made =
-        Value::Adopt(host.MakeObject(info, std::make_unique<Sides>(arguments[0], arguments[1])));
-    if (made.object() == nullptr) {
-        machine.Raise("OutOfMemoryException", "There is no memory for a new Pair.");
-    }
-    return made;
+    return MakePairOf(PairClass, arguments[0], arguments[1], machine);
 }
 
 template <const Value& (*Side)(const Value&, const Machine&)>
@@ -79,6 +72,18 @@ std::span<const HostMember> PairProperties() {
 
 std::span<const HostMember> PairFactories() {
     return Factories;
+}
+
+Value MakePairOf(std::string_view className, const Value& left, const Value& right,
+                 const Machine& machine) {
+    Host& host = machine.host();
+    const auto& info = host.ProgramClass(std::string(className));
+    auto made = Value::Adopt(host.MakeObject(info, std::make_unique<Sides>(left, right)));
+    if (made.object() == nullptr) {
+        machine.Raise("OutOfMemoryException",
+                      "There is no memory for a new " + std::string(className) + ".");
+    }
+    return made;
 }
 
 const Value& LeftOf(const Value& pair, const Machine& machine) {

@@ -35,6 +35,7 @@ syntax::Program ParseProgram(std::string_view text, Constants& constants, ErrorL
     syntax::Program program;
     UnitParser(text, 0, constants, errors).CollectConstants();
     UnitParser(text, 0, constants, errors).ParseScript(program);
+    errors.EndParsing();
     return program;
 }
 
@@ -49,8 +50,9 @@ syntax::Program ParseProject(const Source& source, Constants& constants, ErrorLi
         UnitParser(textOf(file), file.start, constants, errors).CollectConstants();
     }
     for (const auto& file : files) {
-        UnitParser(textOf(file), file.start, constants, errors).ParseProjectFile(program);
+        UnitParser(textOf(file), file.start, constants, errors).ParseProjectFile(program, file);
     }
+    errors.EndParsing();
     return program;
 }
 

@@ -42,7 +42,11 @@ int Program::Run(Host& host, const Machine::Output& print, std::uint64_t maximum
     Machine machine(host, print, maximumSteps);
     AddGlobals(compiler_.globals(), machine);
     Frame frame(machine, compiler_.slotCount());
-    RunStatements(main_, frame);
+    try {
+        RunStatements(main_, frame);
+    } catch (const Ended& end) {
+        return end.status();
+    }
     return static_cast<int>(frame.result.Get<std::int64_t>());
 }
 

@@ -27,10 +27,10 @@ public:
     Program(const Source& source, const TypeTable& types,
             const std::vector<std::string>& arguments = {});
 
-    /// Runs the program from its first statement and returns its exit status, which only the
-    /// application of a project tells; else it is 0. Throws Thrown for an exception that nothing
-    /// caught, OutOfObjects, and ProgramError when it takes more steps or more memory than it may.
-    /// Every reference is given back by then, but the exception's own.
+    /// Runs the program from its first statement and returns its exit status: what the application
+    /// of a project returns, or what Quit was given; else it is 0. Throws Thrown for an exception
+    /// that nothing caught, OutOfObjects, and ProgramError when it takes more steps or more memory
+    /// than it may. Every reference is given back by then, but the exception's own.
     int Run(Host& host, const Machine::Output& print,
             std::uint64_t maximumSteps = UnlimitedSteps) const;
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "standin/language/errors.hpp"
@@ -56,8 +58,14 @@ struct Item {
     std::string_view kind;
     std::string_view name;
     std::string_view path;
+    /// The id of the item around it.
+    std::string_view parent;
     Position at;
 };
+
+/// The parts of an item.
+constexpr std::size_t ItemParts = 5;
+constexpr std::string_view ModuleKind = "Module";
 
 class ProjectReader {
 public:
@@ -67,6 +75,9 @@ public:
         const std::string text(source_.text());
         const auto lines = LinesOf(text);
         bool isFirst = true;
+        for (const auto& line : lines) {
+            RememberModule(line.text);
+        }
         for (const auto& line : lines) {
             if (line.text.find_first_not_of(" \t") == std::string_view::npos) {
                 continue;
@@ -83,6 +94,18 @@ public:
     }
 
 private:
+    /// Modules can stand behind the classes in them.
+    void RememberModule(std::string_view line) {
+        const auto equals = line.find('=');
+        if (equals == std::string_view::npos || !SameName(line.substr(0, equals), ModuleKind)) {
+            return;
+        }
+        const auto parts = Parts(line.substr(equals + 1), ';');
+        if (parts.size() == ItemParts) {
+            modules_.emplace(parts[2], parts[0]);
+        }
+    }
+
     void Read(const Line& line, bool isFirst) {
         const auto equals = line.text.find('=');
         const auto key = line.text.substr(0, equals);
@@ -102,13 +125,12 @@ private:
             }
             return;
         }
-        constexpr std::size_t ItemParts = 5;
         const auto parts = Parts(value, ';');
         const bool isSilent = std::ranges::any_of(
             SilentItems, [key](std::string_view kind) { return SameName(kind, key); });
-        const bool hasCode = SameName(key, "Class") || SameName(key, "Module");
+        const bool hasCode = SameName(key, "Class") || SameName(key, ModuleKind);
         if (parts.size() == ItemParts && !isSilent) {
-            Add({key, parts[0], parts[1], line.at}, hasCode);
+            Add({key, parts[0], parts[1], parts[3], line.at}, hasCode);
         } else if (hasCode) {
             throw ProgramError(line.at, "an item is written Kind=Name;Path;&hID;&hParentID;false");
         }
@@ -129,11 +151,16 @@ private:
             throw ProgramError(item.at,
                                "cannot read the file " + name + " of " + Quoted(item.name));
         }
-        source_.Add(name, *text);
+        const auto module = modules_.find(item.parent);
+        source_.Add(name, *text,
+                    {std::string(item.kind), std::string(item.name),
+                     module == modules_.end() ? std::string() : module->second});
     }
 
     Source& source_;
     const FileReader& read_;
+    /// The names of the modules by their ids.
+    std::map<std::string, std::string, NameLess> modules_;
     ErrorList errors_;
 };
 

@@ -22,15 +22,22 @@ void Scope::ShareAll() {
 void Scope::LeaveBlock(code::Block& block) {
     block.firstSlot = levels_.back().firstSlot;
     block.endSlot = nextSlot_;
-    nextSlot_ = block.firstSlot;
-    levels_.pop_back();
+    DropLevel();
 }
 
 void Scope::LeaveTo(std::size_t depth) {
     while (levels_.size() > depth) {
-        nextSlot_ = levels_.back().firstSlot;
-        levels_.pop_back();
+        DropLevel();
     }
+}
+
+void Scope::DropLevel() {
+    // A routine that runs before the declaration of a variable of the main program must not find in
+    // its slot what belonged to a block.
+    if (main_ != nullptr) {
+        nextSlot_ = levels_.back().firstSlot;
+    }
+    levels_.pop_back();
 }
 
 std::vector<std::string_view> Scope::Names() const {

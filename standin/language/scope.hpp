@@ -23,7 +23,7 @@ struct Variable {
 };
 
 /// The blocks around a place, from the routine's parameters to the innermost block. Variables of
-/// blocks that follow each other share slots.
+/// blocks that follow each other share slots in a routine, but not in the main program.
 class Scope {
 public:
     /// `main` holds the main program's variables, which a routine sees behind its own; null in
@@ -58,6 +58,8 @@ private:
         std::map<std::string, Variable, NameLess> variables;
         std::size_t firstSlot;
     };
+
+    void DropLevel();
 
     std::vector<Level> levels_;
     /// The variables that routines see behind their own.

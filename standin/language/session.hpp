@@ -17,7 +17,7 @@ public:
             std::uint64_t maximumSteps = UnlimitedSteps);
 
     /// Runs a fragment of whole lines: statements and routines, or one expression, whose value is
-    /// printed. Answers false, and has done nothing, when more lines must follow. Throws what
+    /// printed. Returns false, and has done nothing, when more lines must follow. Throws what
     /// Program's constructor and Run throw.
     bool Run(const Source& fragment);
 

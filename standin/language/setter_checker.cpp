@@ -27,7 +27,7 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
         throw ProgramError(target.at, "this cannot be assigned to");
     }
     const auto& name = isOwn ? ownName->name : member->name;
-    auto receiver = isOwn ? OwnReceiver(at) : CheckReceiver(*member->object);
+    auto receiver = isOwn ? OwnReceiver(at) : CheckReceiver(*member->object, member->name);
     if (receiver.model == nullptr) {
         throw ProgramError(at, Quoted(name) + " cannot be assigned to");
     }

@@ -1,6 +1,7 @@
 #include "standin/language/source.hpp"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "standin/language/unicode.hpp"
@@ -64,14 +65,15 @@ Source::Source(const std::string& name, const std::string& text) {
     Add(name, text);
 }
 
-const Source::File& Source::Add(const std::string& name, const std::string& text) {
+const Source::File& Source::Add(const std::string& name, const std::string& text,
+                                const Item& item) {
     if (!files_.empty()) {
         text_ += '\n';
     }
     const bool hasMark = text.starts_with(ByteOrderMark);
     const auto start = text_.size();
     text_ += std::string_view(text).substr(hasMark ? ByteOrderMark.size() : 0);
-    files_.push_back({.name = name, .start = start, .end = text_.size()});
+    files_.push_back({.name = name, .start = start, .end = text_.size(), .item = item});
     return files_.back();
 }
 
@@ -112,13 +114,11 @@ std::string Source::Describe(const ProgramError& error) const {
     std::string report = DescribeOne(error);
     std::size_t shown = 1;
     std::size_t more = 0;
-    auto lastLine = NameLine(error.position());
+    std::set<std::string> lines{NameLine(error.position())};
     for (const auto& next : error.further()) {
-        auto line = NameLine(next.position());
-        if (line == lastLine) {
+        if (!lines.insert(NameLine(next.position())).second) {
             continue;
         }
-        lastLine = std::move(line);
         if (shown == MaximumShownErrors) {
             ++more;
             continue;

@@ -54,18 +54,28 @@ inline constexpr std::size_t MaximumShownErrors = 20;
 /// other, so that a position tells the file as well.
 class Source {
 public:
+    /// What a project says of one of its files: what kind of item it is, its name, and the module
+    /// around it.
+    struct Item {
+        std::string kind;
+        std::string name;
+        /// Empty outside of modules.
+        std::string module;
+    };
     /// Where a file stands in the text.
     struct File {
         std::string name;
         Position start;
         Position end;
+        /// Empty where no project lists the file.
+        Item item;
     };
 
     /// Takes UTF-8 text; a byte-order mark at its beginning is dropped.
     Source(const std::string& name, const std::string& text);
 
     /// Adds another file of the program and returns where it stands.
-    const File& Add(const std::string& name, const std::string& text);
+    const File& Add(const std::string& name, const std::string& text, const Item& item = {});
 
     /// The name of the first file.
     const std::string& name() const { return files_.front().name; }

@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "standin/language/code_arrays.hpp"
 #include "standin/language/code_units.hpp"
+#include "standin/language/names.hpp"
 
 namespace standin::language {
 namespace {
@@ -76,8 +76,9 @@ code::Block StatementChecker::CheckBlock(const syntax::Block& block) {
     return CheckBlock(block, [] {});
 }
 
-code::Block StatementChecker::CheckLoopBody(const syntax::Block& block, LoopKind kind) {
-    loops_.push_back(kind);
+code::Block StatementChecker::CheckLoopBody(const syntax::Block& block,
+                                            const syntax::LoopTarget& loop) {
+    loops_.push_back(loop);
     auto code = CheckBlock(block);
     loops_.pop_back();
     return code;
@@ -110,13 +111,9 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Dim& dim, Posit
         const bool isRight = errors_.Try([&] {
             if (dim.isStatic) {
                 DeclareStatic(block, declarator, at);
-                return;
+            } else {
+                Declare(block, declarator, at);
             }
-            const auto type = expressions_.RequireType(declarator.type);
-            // The value cannot see the variable yet.
-            auto value = CheckInitialValue(declarator, type);
-            const auto variable = scope_.Declare(declarator.name, type, declarator.at);
-            AppendAssign(block, at, variable, std::move(value));
         });
         if (!isRight) {
             errors_.Doubt(declarator.name);
@@ -124,10 +121,21 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Dim& dim, Posit
     }
 }
 
+void StatementChecker::Declare(code::Block& block, const syntax::Declarator& declarator,
+                               Position at) {
+    const auto type = expressions_.RequireType(declarator.type);
+    // The value cannot see the variable yet.
+    code::ExpressionPtr value;
+    errors_.Try([&] { value = CheckInitialValue(declarator, type); });
+    const auto variable = scope_.Declare(declarator.name, type, declarator.at);
+    AppendAssign(block, at, variable, std::move(value));
+}
+
 void StatementChecker::DeclareStatic(code::Block& block, const syntax::Declarator& declarator,
                                      Position at) {
     const auto type = expressions_.RequireType(declarator.type);
-    auto value = CheckInitialValue(declarator, type);
+    code::ExpressionPtr value;
+    errors_.Try([&] { value = CheckInitialValue(declarator, type); });
     const auto slot = globals_.size();
     globals_.push_back(type);
     globals_.push_back({Kind::Boolean});
@@ -149,13 +157,17 @@ code::ExpressionPtr StatementChecker::CheckInitialValue(const syntax::Declarator
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant, Position at) {
-    errors_.Doubt(constant.name);
-    auto value = expressions_.Check(*constant.value);
-    if (constant.type) {
-        value = ConvertTo(std::move(value), expressions_.RequireType(*constant.type));
+    const auto declare = [&] {
+        auto value = expressions_.Check(*constant.value);
+        if (constant.type) {
+            value = ConvertTo(std::move(value), expressions_.RequireType(*constant.type));
+        }
+        const auto variable = scope_.Declare(constant.name, value.type, at, true);
+        AppendAssign(block, at, variable, std::move(value.code));
+    };
+    if (!errors_.Try(declare)) {
+        errors_.Doubt(constant.name);
     }
-    const auto variable = scope_.Declare(constant.name, value.type, at, true);
-    AppendAssign(block, at, variable, std::move(value.code));
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Assignment& assignment,
@@ -208,19 +220,17 @@ void StatementChecker::AddNode(code::Block& block, const syntax::If& statement, 
 void StatementChecker::AddNode(code::Block& block, const syntax::Select& select, Position at) {
     code::Block code;
     scope_.EnterBlock();
-    auto subject = expressions_.Check(*select.subject);
-    const auto variable = scope_.Declare(HiddenName, subject.type, at);
-    AppendAssign(code, at, variable, std::move(subject.code));
+    std::optional<Variable> variable;
+    errors_.Try([&] {
+        auto subject = expressions_.Check(*select.subject);
+        variable = scope_.Declare(HiddenName, subject.type, at);
+        AppendAssign(code, at, *variable, std::move(subject.code));
+    });
     std::vector<code::Branches::Branch> branches;
     for (const auto& branch : select.branches) {
         code::ExpressionPtr condition;
-        for (const auto& test : branch.tests) {
-            auto fulfilled = CheckCaseTest(test, variable);
-            if (condition) {
-                fulfilled = std::make_unique<code::ShortCircuit>(true, std::move(condition),
-                                                                 std::move(fulfilled));
-            }
-            condition = std::move(fulfilled);
+        if (variable) {
+            errors_.Try([&] { condition = CheckCase(branch, *variable); });
         }
         branches.push_back({std::move(condition), CheckBlock(branch.body)});
     }
@@ -230,6 +240,20 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Select& select,
     Append<code::Branches>(code, at, std::move(branches));
     scope_.LeaveBlock(code);
     Append<code::Compound>(block, at, std::move(code));
+}
+
+code::ExpressionPtr StatementChecker::CheckCase(const syntax::Select::Branch& branch,
+                                                const Variable& subject) {
+    code::ExpressionPtr condition;
+    for (const auto& test : branch.tests) {
+        auto fulfilled = CheckCaseTest(test, subject);
+        if (condition) {
+            fulfilled = std::make_unique<code::ShortCircuit>(true, std::move(condition),
+                                                             std::move(fulfilled));
+        }
+        condition = std::move(fulfilled);
+    }
+    return condition;
 }
 
 code::ExpressionPtr StatementChecker::CheckCaseTest(const syntax::Select::Test& test,
@@ -252,24 +276,47 @@ code::ExpressionPtr StatementChecker::CheckCaseTest(const syntax::Select::Test& 
 void StatementChecker::AddNode(code::Block& block, const syntax::For& loop, Position at) {
     code::Block code;
     scope_.EnterBlock();
+    // The first value cannot see the variable that the loop declares.
+    std::optional<Checked> first;
+    errors_.Try([&] { first = expressions_.Check(*loop.first); });
+    const auto variable = TryLoopVariable(loop.variable, loop.type, loop.variableAt);
+    std::optional<code::ForParts> parts;
+    if (first && variable) {
+        errors_.Try([&] { parts = CheckCounting(loop, std::move(*first), *variable); });
+    }
+    auto body = CheckLoopBody(loop.body, {LoopKind::For, loop.variable});
+    if (parts) {
+        parts->body = std::move(body);
+        code.statements.push_back(code::MakeForLoop(at, variable->type.kind, std::move(*parts)));
+    }
+    scope_.LeaveBlock(code);
+    Append<code::Compound>(block, at, std::move(code));
+}
+
+code::ForParts StatementChecker::CheckCounting(const syntax::For& loop, Checked first,
+                                               const Variable& variable) {
     code::ForParts parts;
     parts.isDownward = loop.isDownward;
-    // The first value cannot see the variable that the loop declares.
-    auto first = expressions_.Check(*loop.first);
-    const auto variable = LoopVariable(loop.variable, loop.type, loop.variableAt);
     parts.first = ConvertTo(std::move(first), variable.type).code;
     if (!IsNumber(variable.type.kind) || variable.isConstant) {
         throw ProgramError(loop.variableAt, "a loop counts in a variable of a number type");
     }
-    parts.variable = ExpressionChecker::MakeVariable(variable, loop.variableAt).code;
+    const Position at = loop.variableAt;
+    parts.variable = ExpressionChecker::MakeVariable(variable, at).code;
     parts.last = expressions_.CheckAs(*loop.last, variable.type);
     const auto one =
         std::make_unique<syntax::Expression>(syntax::Expression{at, 1, syntax::IntegerLiteral{1}});
     parts.step = expressions_.CheckAs(loop.step ? *loop.step : *one, variable.type);
-    parts.body = CheckLoopBody(loop.body, LoopKind::For);
-    code.statements.push_back(code::MakeForLoop(at, variable.type.kind, std::move(parts)));
-    scope_.LeaveBlock(code);
-    Append<code::Compound>(block, at, std::move(code));
+    return parts;
+}
+
+std::optional<Variable> StatementChecker::TryLoopVariable(
+    const std::string& name, const std::optional<syntax::TypeName>& type, Position at) {
+    std::optional<Variable> variable;
+    if (!errors_.Try([&] { variable = LoopVariable(name, type, at); })) {
+        errors_.Doubt(name);
+    }
+    return variable;
 }
 
 Variable StatementChecker::LoopVariable(const std::string& name,
@@ -290,36 +337,48 @@ Variable StatementChecker::LoopVariable(const std::string& name,
 void StatementChecker::AddNode(code::Block& block, const syntax::ForEach& loop, Position at) {
     code::Block code;
     scope_.EnterBlock();
-    auto array = expressions_.Check(*loop.array);
-    if (array.type.kind != Kind::Array) {
-        throw ProgramError(array.at, "\"For Each\" takes an array, this is " + NameOf(array.type));
+    std::optional<Checked> array;
+    errors_.Try([&] { array = expressions_.CheckElements(*loop.array); });
+    const auto variable = TryLoopVariable(loop.variable, loop.type, loop.variableAt);
+    std::optional<code::ForEachParts> parts;
+    if (array && variable) {
+        errors_.Try([&] { parts = CheckElements(loop, std::move(*array), *variable); });
     }
-    const auto variable = LoopVariable(loop.variable, loop.type, loop.variableAt);
+    auto body = CheckLoopBody(loop.body, {LoopKind::For, loop.variable});
+    if (parts) {
+        parts->body = std::move(body);
+        Append<code::ForEachLoop>(code, at, std::move(*parts));
+    }
+    scope_.LeaveBlock(code);
+    Append<code::Compound>(block, at, std::move(code));
+}
+
+code::ForEachParts StatementChecker::CheckElements(const syntax::ForEach& loop, Checked array,
+                                                   const Variable& variable) {
+    const Position at = loop.variableAt;
     if (variable.isConstant) {
-        throw ProgramError(loop.variableAt, "a constant cannot be assigned to");
+        throw ProgramError(at, "a constant cannot be assigned to");
     }
     const auto element = scope_.Declare(HiddenElement, array.type.ElementType(), at);
     code::ForEachParts parts;
     parts.array = std::move(array.code);
     parts.element = ExpressionChecker::MakeVariable(element, at).code;
     parts.variable = ExpressionChecker::MakeVariable(variable, at).code;
-    auto value = ExpressionChecker::MakeVariable(element, loop.variableAt);
+    auto value = ExpressionChecker::MakeVariable(element, at);
     parts.converted = ConvertTo(std::move(value), variable.type).code;
-    parts.body = CheckLoopBody(loop.body, LoopKind::For);
-    Append<code::ForEachLoop>(code, at, std::move(parts));
-    scope_.LeaveBlock(code);
-    Append<code::Compound>(block, at, std::move(code));
+    return parts;
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::While& loop, Position at) {
     auto condition = TryCondition(loop.condition);
     Append<code::ConditionalLoop>(block, at, code::LoopTest{std::move(condition), true},
-                                  CheckLoopBody(loop.body, LoopKind::While), code::LoopTest{});
+                                  CheckLoopBody(loop.body, {LoopKind::While, {}}),
+                                  code::LoopTest{});
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Do& loop, Position at) {
     code::LoopTest before{TryCondition(loop.before.condition), loop.before.wanted};
-    auto body = CheckLoopBody(loop.body, LoopKind::Do);
+    auto body = CheckLoopBody(loop.body, {LoopKind::Do, {}});
     code::LoopTest after{TryCondition(loop.after.condition), loop.after.wanted};
     Append<code::ConditionalLoop>(block, at, std::move(before), std::move(body), std::move(after));
 }
@@ -332,13 +391,17 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Continue& state
     block.statements.push_back(MakeLeave(Flow::Continue, statement.loop, at));
 }
 
-code::StatementPtr StatementChecker::MakeLeave(Flow flow, LoopKind kind, Position at) const {
-    const auto found =
-        kind == LoopKind::Any ? loops_.rbegin() : std::find(loops_.rbegin(), loops_.rend(), kind);
+code::StatementPtr StatementChecker::MakeLeave(Flow flow, const syntax::LoopTarget& target,
+                                               Position at) const {
+    const auto isMeant = [&target](const syntax::LoopTarget& loop) {
+        return (target.kind == LoopKind::Any || target.kind == loop.kind) &&
+               (target.variable.empty() || SameName(target.variable, loop.variable));
+    };
+    const auto found = std::find_if(loops_.rbegin(), loops_.rend(), isMeant);
     if (found == loops_.rend()) {
-        throw ProgramError(at, kind == LoopKind::Any
-                                   ? "there is no loop around this"
-                                   : "there is no " + NameOf(kind) + " loop around this");
+        const auto kind = target.kind == LoopKind::Any ? "" : NameOf(target.kind) + " ";
+        const auto name = target.variable.empty() ? "" : " over " + Quoted(target.variable);
+        throw ProgramError(at, "there is no " + kind + "loop" + name + " around this");
     }
     return std::make_unique<code::LeaveLoop>(at, flow, static_cast<int>(found - loops_.rbegin()));
 }
@@ -354,14 +417,20 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Try& statement,
 }
 
 code::Try::Catch StatementChecker::CheckCatch(const syntax::Try::Catch& handler) {
-    const auto type = expressions_.RequireType(
-        handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
-    if (type.kind != Kind::Instance || !type.model->IsException()) {
-        throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
+    Type type;
+    const bool isRight = errors_.Try([&] {
+        type = expressions_.RequireType(
+            handler.type.value_or(syntax::TypeName{"RuntimeException", handler.at}));
+        if (type.kind != Kind::Instance || !type.model->IsException()) {
+            throw ProgramError(handler.type->at, NameOf(type) + " is not an exception");
+        }
+    });
+    if (!isRight) {
+        errors_.Doubt(handler.name);
     }
-    code::Try::Catch result{{}, &type.model->info(), {}};
+    code::Try::Catch result{{}, isRight ? &type.model->info() : nullptr, {}};
     result.body = CheckBlock(handler.body, [&] {
-        if (!handler.name.empty()) {
+        if (isRight && !handler.name.empty()) {
             result.slot = scope_.Declare(handler.name, type, handler.at).slot;
         }
     });

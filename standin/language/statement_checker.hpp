@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "standin/language/code_arrays.hpp"
 #include "standin/language/code_statements.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/scope.hpp"
@@ -41,7 +42,7 @@ private:
     code::Block CheckBlock(const syntax::Block& block, Before before);
     code::Block CheckBlock(const syntax::Block& block);
     /// The body of a loop, from which Exit and Continue can lead.
-    code::Block CheckLoopBody(const syntax::Block& block, syntax::LoopKind kind);
+    code::Block CheckLoopBody(const syntax::Block& block, const syntax::LoopTarget& loop);
     code::ExpressionPtr CheckCondition(const syntax::ExpressionPtr& condition);
 
     void Add(code::Block& block, const syntax::Statement& statement);
@@ -62,16 +63,28 @@ private:
     void AddNode(code::Block& block, const syntax::Raise& raise, Position at);
     void AddNode(code::Block& block, const syntax::Return& statement, Position at);
 
+    /// Declares a variable, also when its first value has an error.
+    void Declare(code::Block& block, const syntax::Declarator& declarator, Position at);
     void DeclareStatic(code::Block& block, const syntax::Declarator& declarator, Position at);
     /// What is right of a statement's parts, so that more than one error in it is found.
     code::ExpressionPtr TryCondition(const syntax::ExpressionPtr& condition);
     code::ExpressionPtr CheckInitialValue(const syntax::Declarator& declarator, Type type);
+    /// The code that gives the variable of a counting loop its values.
+    code::ForParts CheckCounting(const syntax::For& loop, Checked first, const Variable& variable);
+    code::ForEachParts CheckElements(const syntax::ForEach& loop, Checked array,
+                                     const Variable& variable);
+    /// The variable of a loop; none when there is an error in it, and then its name is doubtful.
+    std::optional<Variable> TryLoopVariable(const std::string& name,
+                                            const std::optional<syntax::TypeName>& type,
+                                            Position at);
+    /// The test of one branch of a Select Case.
+    code::ExpressionPtr CheckCase(const syntax::Select::Branch& branch, const Variable& subject);
     /// The variable of a loop: a new one where it has a type, else one that is there.
     Variable LoopVariable(const std::string& name, const std::optional<syntax::TypeName>& type,
                           Position at);
     code::ExpressionPtr CheckCaseTest(const syntax::Select::Test& test, const Variable& subject);
     code::Try::Catch CheckCatch(const syntax::Try::Catch& handler);
-    code::StatementPtr MakeLeave(Flow flow, syntax::LoopKind kind, Position at) const;
+    code::StatementPtr MakeLeave(Flow flow, const syntax::LoopTarget& target, Position at) const;
 
     Scope& scope_;
     GlobalTypes& globals_;
@@ -79,7 +92,7 @@ private:
     ExpressionChecker expressions_;
     std::optional<Type> result_;
     /// The loops around the current statement, the innermost last.
-    std::vector<syntax::LoopKind> loops_;
+    std::vector<syntax::LoopTarget> loops_;
 };
 
 }  // namespace standin::language

@@ -17,6 +17,8 @@ struct Unsupported {
     std::string_view name;
 };
 
+constexpr std::string_view SharedWord = "Shared";
+
 constexpr auto UnsupportedWords = std::to_array<Unsupported>({
     {"AddHandler", "Event handlers are"},
     {"RemoveHandler", "Event handlers are"},
@@ -30,7 +32,7 @@ constexpr auto UnsupportedWords = std::to_array<Unsupported>({
     {"Interface", "Interfaces are"},
     {"Namespace", "Namespaces are"},
     {"Property", "Computed properties are"},
-    {"Shared", "Shared members are"},
+    {SharedWord, "Shared members are"},
     {"Structure", "Structures are"},
     {"Using", "\"Using\" is"},
 });
@@ -38,13 +40,54 @@ constexpr auto UnsupportedWords = std::to_array<Unsupported>({
 /// Words that begin the last line of a block.
 constexpr auto Closers = {TokenKind::End, TokenKind::Next, TokenKind::Wend, TokenKind::Loop};
 /// Words that begin another part of a block.
-constexpr auto Dividers = {TokenKind::ElseIf, TokenKind::Else, TokenKind::Case, TokenKind::Catch,
-                           TokenKind::Finally};
+constexpr auto Dividers = {TokenKind::ElseIf, TokenKind::Else,    TokenKind::Case,
+                           TokenKind::Catch,  TokenKind::Finally, TokenKind::Exception};
 /// Words that begin a block.
 constexpr auto Openers = {TokenKind::If,       TokenKind::Select, TokenKind::For,
                           TokenKind::While,    TokenKind::Do,     TokenKind::Try,
                           TokenKind::Function, TokenKind::Sub,    TokenKind::Class,
                           TokenKind::Module,   TokenKind::Enum};
+/// Words that begin what cannot stand among statements.
+constexpr auto UnitHeads = {TokenKind::Function, TokenKind::Sub, TokenKind::Class,
+                            TokenKind::Module};
+constexpr auto RoutineHeads = {TokenKind::Function, TokenKind::Sub};
+
+struct Modifier {
+    std::string_view word;
+    syntax::Visibility visibility;
+};
+
+constexpr auto Modifiers = std::to_array<Modifier>({
+    {"Global", syntax::Visibility::Global},
+    {"Public", syntax::Visibility::Global},
+    {"Protected", syntax::Visibility::Qualified},
+    {"Private", syntax::Visibility::Private},
+});
+
+/// The first and last words of the loops.
+struct LoopWords {
+    TokenKind opener;
+    TokenKind end;
+};
+
+constexpr auto Loops = std::to_array<LoopWords>({
+    {TokenKind::For, TokenKind::Next},
+    {TokenKind::While, TokenKind::Wend},
+    {TokenKind::Do, TokenKind::Loop},
+});
+
+bool IsLoop(TokenKind opener) {
+    return std::ranges::find(Loops, opener, &LoopWords::opener) != Loops.end();
+}
+
+/// Whether an `End` with that word ends nothing in a routine or a loop: any other may be meant for
+/// it.
+bool IsStrayEnd(TokenKind word, TokenKind opener) {
+    const bool isRoutine = std::ranges::find(RoutineHeads, opener) != RoutineHeads.end();
+    const bool endsBranches =
+        word == TokenKind::If || word == TokenKind::Select || word == TokenKind::Try;
+    return (endsBranches && (isRoutine || IsLoop(opener))) || (isRoutine && IsLoop(word));
+}
 
 const Unsupported* FindUnsupported(const Token& token) {
     const auto* found = std::ranges::find_if(UnsupportedWords, [&token](const Unsupported& row) {
@@ -74,6 +117,13 @@ std::optional<BinaryOperator> CompoundOperator(TokenKind kind) {
 
 }  // namespace
 
+std::optional<syntax::Visibility> VisibilityOf(const Token& token) {
+    const auto* found = std::ranges::find_if(Modifiers, [&token](const Modifier& row) {
+        return token.kind == TokenKind::Name && SameName(row.word, token.text);
+    });
+    return found == Modifiers.end() ? std::nullopt : std::optional(found->visibility);
+}
+
 void StatementParser::ParseInto(syntax::Block& block) {
     const auto start = cursor_.Mark();
     const bool isRight = errors_.Try([&] {
@@ -88,14 +138,13 @@ void StatementParser::ParseInto(syntax::Block& block) {
 
 void StatementParser::Recover(std::size_t start) {
     // What the line declares is not known now.
-    const auto end = cursor_.EndOfLine(start);
-    for (auto mark = start; mark <= end; ++mark) {
-        if (cursor_.TokenAt(mark).kind == TokenKind::Name) {
-            errors_.Doubt(cursor_.TokenAt(mark).text);
-        }
-    }
+    DoubtNames(start);
     const auto line =
         cursor_.StartOfLine(cursor_.IsAt(TokenKind::EndOfText) ? start : cursor_.Mark());
+    if (line > start && (IsOutsideOfStatements(line) || EndsOpenBlock(line, open_.size()))) {
+        cursor_.Rewind(line);
+        return;
+    }
     const auto word = cursor_.TokenAt(line).kind;
     const bool isInside = OpensBlock(start) && (line <= start || IsOneOf(word, Dividers));
     cursor_.SkipLine();
@@ -106,12 +155,94 @@ void StatementParser::Recover(std::size_t start) {
     }
 }
 
-bool StatementParser::OpensBlock(std::size_t start) const {
-    const auto kind = cursor_.TokenAt(start).kind;
-    if (kind == TokenKind::If) {
-        return cursor_.TokenAt(cursor_.EndOfLine(start)).kind == TokenKind::Then;
+void StatementParser::DoubtNames(std::size_t start) {
+    const auto end = cursor_.EndOfLine(start);
+    for (auto mark = start; mark <= end; ++mark) {
+        if (cursor_.TokenAt(mark).kind == TokenKind::Name) {
+            errors_.Doubt(cursor_.TokenAt(mark).text);
+        }
     }
-    return IsOneOf(kind, Openers);
+}
+
+void StatementParser::SkipDoubtfulLine() {
+    DoubtNames(cursor_.Mark());
+    cursor_.SkipLine();
+}
+
+void StatementParser::SkipToEndOfLine() {
+    while (!cursor_.IsAtAny({TokenKind::EndOfLine, TokenKind::EndOfText})) {
+        cursor_.Take();
+    }
+}
+
+TokenKind StatementParser::HeadOf(std::size_t line) const {
+    auto mark = line;
+    while (VisibilityOf(cursor_.TokenAt(mark)) ||
+           (cursor_.TokenAt(mark).kind == TokenKind::Name &&
+            SameName(cursor_.TokenAt(mark).text, SharedWord))) {
+        ++mark;
+    }
+    const auto kind = cursor_.TokenAt(mark).kind;
+    return IsOneOf(kind, UnitHeads) ? kind : cursor_.TokenAt(line).kind;
+}
+
+bool StatementParser::OpensBlock(std::size_t start) const {
+    const auto kind = HeadOf(start);
+    if (kind != TokenKind::If) {
+        return IsOneOf(kind, Openers);
+    }
+    // What stands behind "Then" makes it an If of one line.
+    const auto end = cursor_.EndOfLine(start);
+    for (auto mark = start; mark < end; ++mark) {
+        if (cursor_.TokenAt(mark).kind == TokenKind::Then) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool StatementParser::BelongsTo(std::size_t line, TokenKind opener) const {
+    const auto word = cursor_.TokenAt(line).kind;
+    switch (word) {
+        case TokenKind::End:
+            return cursor_.TokenAt(line + 1).kind == opener;
+        case TokenKind::Else:
+            return opener == TokenKind::If || opener == TokenKind::Select;
+        case TokenKind::ElseIf:
+            return opener == TokenKind::If;
+        case TokenKind::Case:
+            return opener == TokenKind::Select;
+        case TokenKind::Catch:
+            return opener == TokenKind::Try;
+        case TokenKind::Finally:
+            return opener == TokenKind::Try || IsOneOf(opener, RoutineHeads);
+        case TokenKind::Exception:
+            return IsOneOf(opener, RoutineHeads);
+        default:
+            return std::ranges::any_of(Loops, [word, opener](const LoopWords& row) {
+                return row.end == word && row.opener == opener;
+            });
+    }
+}
+
+bool StatementParser::EndsOpenBlock(std::size_t line, std::size_t count) const {
+    return std::any_of(open_.begin(), open_.begin() + static_cast<std::ptrdiff_t>(count),
+                       [this, line](TokenKind opener) { return BelongsTo(line, opener); });
+}
+
+bool StatementParser::IsOutsideOfStatements(std::size_t line) const {
+    return IsOneOf(HeadOf(line), UnitHeads) || cursor_.TokenAt(line).kind == TokenKind::HashTag;
+}
+
+void StatementParser::FailUnclosed(TokenKind opener, Position openerAt) {
+    const std::string message = "this " + Describe(opener) + " is not closed before ";
+    if (unclosedBefore_ == cursor_.Mark()) {
+        throw FollowingError(openerAt, message + "the end of a block around it");
+    }
+    unclosedBefore_ = cursor_.Mark();
+    const bool isEnd = cursor_.IsAt(TokenKind::End);
+    throw ProgramError(openerAt, message + (isEnd ? "\"End " + cursor_.Following().text + '"'
+                                                  : Describe(HeadOf(cursor_.Mark()))));
 }
 
 void StatementParser::SkipBlock() {
@@ -150,14 +281,39 @@ void StatementParser::RefuseUnsupported() const {
 syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends, TokenKind opener,
                                           Position openerAt) {
     const NestingGuard guard(depth_, cursor_.At());
+    const OpenBlock open(*this, opener);
     syntax::Block block;
-    for (SkipToCode(); !cursor_.IsAtAny(ends); SkipToCode()) {
+    for (SkipToCode(); !StopsBlock(ends, opener); SkipToCode()) {
         if (cursor_.IsAt(TokenKind::EndOfText)) {
             throw UnclosedError(openerAt, "this " + Describe(opener) + " is never closed");
+        }
+        const auto line = cursor_.Mark();
+        const bool endsOuter = !BelongsTo(line, opener) && EndsOpenBlock(line, open_.size() - 1);
+        if (endsOuter || IsOutsideOfStatements(line)) {
+            FailUnclosed(opener, openerAt);
         }
         ParseInto(block);
     }
     return block;
+}
+
+void StatementParser::RefuseEnd() {
+    errors_.Add(ProgramError(cursor_.At(),
+                             "there is no " + Describe(cursor_.Following().kind) + " to end here"));
+    cursor_.SkipLine();
+}
+
+bool StatementParser::StopsBlock(std::initializer_list<TokenKind> ends, TokenKind opener) {
+    const auto line = cursor_.Mark();
+    if (EndsOpenBlock(line, open_.size() - 1) && !BelongsTo(line, opener)) {
+        return false;
+    }
+    if (cursor_.IsAt(TokenKind::End) && IsStrayEnd(cursor_.Following().kind, opener)) {
+        RefuseEnd();
+        SkipToCode();
+        return StopsBlock(ends, opener);
+    }
+    return cursor_.IsAtAny(ends) || (IsLoop(opener) && cursor_.IsAtAny(Closers));
 }
 
 syntax::Statement::Node StatementParser::ParseNode() {
@@ -180,10 +336,10 @@ syntax::Statement::Node StatementParser::ParseNode() {
             return ParseDo();
         case TokenKind::Exit:
             cursor_.Take();
-            return syntax::Exit{ParseLoopKind()};
+            return syntax::Exit{ParseLoopTarget()};
         case TokenKind::Continue:
             cursor_.Take();
-            return syntax::Continue{ParseLoopKind()};
+            return syntax::Continue{ParseLoopTarget()};
         case TokenKind::Try:
             return ParseTry();
         case TokenKind::Raise:
@@ -200,10 +356,6 @@ syntax::Statement::Node StatementParser::ParseNode() {
         case TokenKind::Call:
             cursor_.Take();
             return syntax::CallStatement{expressions_.ParsePostfix(), true};
-        case TokenKind::Function:
-        case TokenKind::Sub:
-        case TokenKind::Module:
-        case TokenKind::Class:
         case TokenKind::Enum:
             throw ProgramError(cursor_.At(), "a " + Describe(cursor_.Kind()) +
                                                  " cannot stand inside another block");

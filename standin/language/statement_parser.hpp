@@ -41,18 +41,57 @@ public:
     void ParseDeclarators(std::vector<syntax::Declarator>& declarators);
     /// `Const name [As Type] = value`; the value is known to `#If` from then on.
     syntax::Const ParseConst();
+    /// Steps past the `End` of a block. Another word behind it than that of the block is an error,
+    /// but ends the block as well.
     void ExpectEnd(TokenKind what);
-    /// After an error in what began with token `start`: goes behind the end of that.
+    /// Adds an error for an `End` of something that is not open, and steps past its line.
+    void RefuseEnd();
+    /// After an error in what began with token `start`: goes behind the end of that, or to the line
+    /// that ends a block around it.
     void Recover(std::size_t start);
+    /// Makes all names of the current line doubtful, and goes to the next one.
+    void SkipDoubtfulLine();
     /// Throws when the line begins with a part of the host's language that there is not.
     void RefuseUnsupported() const;
+
+    /// While it lives, a block of that kind is open.
+    class OpenBlock {
+    public:
+        OpenBlock(StatementParser& parser, TokenKind opener) : open_(parser.open_) {
+            open_.push_back(opener);
+        }
+        ~OpenBlock() { open_.pop_back(); }
+        OpenBlock(const OpenBlock&) = delete;
+        OpenBlock& operator=(const OpenBlock&) = delete;
+
+    private:
+        std::vector<TokenKind>& open_;
+    };
 
 private:
     using Node = syntax::Statement::Node;
 
-    /// Statements up to a word that ends the block, which is left for the caller.
+    /// Statements up to a word that ends the block, which is left for the caller. Throws where the
+    /// end is missing: where the end of a block around it stands, or the head of a routine.
     syntax::Block ParseBlock(std::initializer_list<TokenKind> ends, TokenKind opener,
                              Position openerAt);
+    /// Whether the block stops here: at one of its ends, or for a loop at that of any loop. An
+    /// `End` that belongs to nothing is an error in a routine and stepped over.
+    bool StopsBlock(std::initializer_list<TokenKind> ends, TokenKind opener);
+    /// Throws that a block is not closed; once for all blocks that are not closed before one place.
+    [[noreturn]] void FailUnclosed(TokenKind opener, Position openerAt);
+    /// Whether the line that begins with a token ends a block of that kind, or begins another part
+    /// of it.
+    bool BelongsTo(std::size_t line, TokenKind opener) const;
+    /// Whether the line ends one of the first `count` blocks that are open.
+    bool EndsOpenBlock(std::size_t line, std::size_t count) const;
+    /// Whether the line can stand in no block of statements: the head of a routine or a module, or
+    /// a tag.
+    bool IsOutsideOfStatements(std::size_t line) const;
+    /// Steps past what is left of the line, its end excepted.
+    void SkipToEndOfLine();
+    /// Steps past the word that ends a loop; another one is an error, but ends the loop as well.
+    void ExpectLoopEnd(TokenKind what);
     /// A statement without the end of its line.
     syntax::StatementPtr ParseUnended();
     Node ParseNode();
@@ -80,11 +119,22 @@ private:
     Node ParseWhile();
     Node ParseDo();
     syntax::Do::Test ParseLoopTest();
-    syntax::LoopKind ParseLoopKind();
+    syntax::LoopTarget ParseLoopTarget();
     Node ParseTry();
+    /// The handlers of an exception, each up to one of the ends.
+    std::vector<syntax::Try::Catch> ParseHandlers(TokenKind word,
+                                                  std::initializer_list<TokenKind> ends,
+                                                  TokenKind opener, Position openerAt);
 
+    /// `Exception` and `Finally` at the end of a routine: its body becomes that of a Try with them.
+    void GuardBody(syntax::Routine& routine, const Token& head);
+
+    /// The word that a line begins with, what may stand before the head of a routine left out.
+    TokenKind HeadOf(std::size_t line) const;
     /// Whether a block begins with the line that begins with token `start`.
     bool OpensBlock(std::size_t start) const;
+    /// Makes the names of the line that begins with token `start` doubtful.
+    void DoubtNames(std::size_t start);
     /// Steps past the lines of a block and its end.
     void SkipBlock();
     /// Steps past the block of something unsupported, where it has an end.
@@ -97,6 +147,13 @@ private:
     Constants constants_;
     Directives directives_;
     std::size_t depth_ = 0;
+    /// The blocks around the place, the innermost last.
+    std::vector<TokenKind> open_;
+    /// The token before which a block was last found not to be closed.
+    std::optional<std::size_t> unclosedBefore_;
 };
+
+/// Who sees what is declared behind a word such as `Private`; nothing for any other word.
+std::optional<syntax::Visibility> VisibilityOf(const Token& token);
 
 }  // namespace standin::language

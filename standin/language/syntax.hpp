@@ -26,6 +26,8 @@ struct TypeName {
     Position at = 0;
     /// Of an array of the type; 0 when none is meant.
     std::size_t dimensions = 0;
+    /// What stands before the name with a dot between; empty for none.
+    std::string module = {};
 };
 
 // Expressions ------------------------------------------------------------------------------------
@@ -160,10 +162,14 @@ enum class Visibility : std::uint8_t {
     Private,
 };
 
+/// What the tag around a routine of a project's file says that it is.
+enum class RoutineTag : std::uint8_t { None, Method, Event };
+
 struct Routine {
     Signature signature;
     Block body;
     Visibility visibility = Visibility::Global;
+    RoutineTag tag = RoutineTag::None;
 };
 
 // Statements -------------------------------------------------------------------------------------
@@ -263,11 +269,18 @@ struct Do {
 
 enum class LoopKind : std::uint8_t { Any, For, While, Do };
 
+/// The loop that an Exit or Continue means: the innermost of a kind, or a For by its variable.
+struct LoopTarget {
+    LoopKind kind = LoopKind::Any;
+    /// Empty where none is named.
+    std::string variable;
+};
+
 struct Exit {
-    LoopKind loop;
+    LoopTarget loop;
 };
 struct Continue {
-    LoopKind loop;
+    LoopTarget loop;
 };
 struct Try {
     struct Catch {
@@ -317,6 +330,8 @@ struct Enumeration {
     std::string name;
     Position at = 0;
     std::vector<Item> items;
+    /// The module or class that it belongs to; empty outside of those.
+    std::string module = {};
 };
 
 /// A variable of a module, or a field of the objects of a class.
@@ -334,6 +349,10 @@ struct Unit {
     std::vector<Field> fields;
     std::vector<Constant> constants;
     std::vector<Routine> routines;
+    /// Whether a part of it has an error and was left out.
+    bool isIncomplete = false;
+    /// The module that a class belongs to; empty outside of modules.
+    std::string module = {};
 };
 
 struct Program {

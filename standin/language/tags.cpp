@@ -4,12 +4,15 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <iterator>
 #include <span>
 #include <utility>
+#include <vector>
 
 #include "standin/language/constants.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/parser.hpp"
+#include "standin/language/suggestions.hpp"
 
 namespace standin::language {
 namespace {
@@ -49,6 +52,103 @@ constexpr auto ForeignMembers = std::to_array<Foreign>({
     {"Using", "\"Using\" clauses"},
 });
 
+constexpr std::string_view EndWord = "End";
+
+/// The tags that are supported. The lexer steps past all that stands in a Note and a ViewBehavior,
+/// their ends included.
+constexpr std::string_view OwnTags[] = {"Class",    "Module",   "Method", "Event",
+                                        "Property", "Constant", "Enum"};
+/// Parts of tags that are not.
+constexpr std::string_view ForeignParts[] = {"Getter", "Setter", "WindowCode"};
+/// Tags without an end of their own.
+constexpr std::string_view SingleTags[] = {"Note", "ViewBehavior", "Instance"};
+
+/// The names of all tags that have an end.
+std::vector<std::string_view> ClosedTags() {
+    std::vector<std::string_view> names(std::begin(OwnTags), std::end(OwnTags));
+    names.insert(names.end(), std::begin(ForeignParts), std::end(ForeignParts));
+    for (const auto rows :
+         {std::span<const Foreign>(ForeignItems), std::span<const Foreign>(ForeignMembers)}) {
+        for (const auto& row : rows) {
+            names.push_back(row.tag);
+        }
+    }
+    return names;
+}
+
+bool IsAmong(std::span<const std::string_view> names, std::string_view wanted) {
+    return std::ranges::any_of(names,
+                               [wanted](std::string_view name) { return SameName(name, wanted); });
+}
+
+/// How messages show a tag.
+std::string Shown(std::string_view name) {
+    return Quoted("#tag " + std::string(name));
+}
+
+/// Pairs the tags of a file with their ends.
+class TagChecker {
+public:
+    explicit TagChecker(ErrorList& errors) : errors_(errors), names_(ClosedTags()) {}
+
+    void Take(const Tag& tag) {
+        if (IsEnd(tag)) {
+            TakeEnd(tag);
+        } else if (IsAmong(names_, tag.name())) {
+            open_.push_back(tag);
+        } else if (!IsAmong(SingleTags, tag.name())) {
+            errors_.Add(ProgramError(
+                tag.at(), "there is no " + Shown(tag.name()) + SuggestionFor(tag.name(), names_)));
+        }
+    }
+    void Finish() {
+        while (!open_.empty()) {
+            DropUnclosed();
+        }
+    }
+
+private:
+    static bool IsEnd(const Tag& tag) {
+        return SameName(tag.name().substr(0, EndWord.size()), EndWord);
+    }
+    void TakeEnd(const Tag& end) {
+        const auto name = end.name().substr(EndWord.size());
+        if (!IsAmong(names_, name)) {
+            errors_.Add(ProgramError(
+                end.at(), "there is no " + Shown(end.name()) +
+                              (open_.empty() ? ""
+                                             : "; " + Shown(open_.back().name()) + " ends with " +
+                                                   EndOf(open_.back()))));
+            if (!open_.empty()) {
+                open_.pop_back();
+            }
+            return;
+        }
+        const bool isOpen =
+            std::ranges::any_of(open_, [&end](const Tag& tag) { return tag.IsEndedBy(end); });
+        if (!isOpen) {
+            errors_.Add(ProgramError(end.at(), "there is no " + Shown(name) + " before this"));
+            return;
+        }
+        while (!open_.back().IsEndedBy(end)) {
+            DropUnclosed();
+        }
+        open_.pop_back();
+    }
+    void DropUnclosed() {
+        errors_.Add(ProgramError(open_.back().at(), "this " + Shown(open_.back().name()) +
+                                                        " has no " + EndOf(open_.back())));
+        open_.pop_back();
+    }
+    static std::string EndOf(const Tag& tag) {
+        return Shown(std::string(EndWord) + std::string(tag.name()));
+    }
+
+    ErrorList& errors_;
+    std::vector<std::string_view> names_;
+    std::vector<Tag> open_;
+};
+
 void Refuse(const Token& token, std::span<const Foreign> rows) {
     const Tag tag(token);
     for (const auto& row : rows) {
@@ -87,7 +187,11 @@ std::string Unescaped(std::string_view text) {
 Tag::Tag(const Token& token) : text_(Trim(token.text)), at_(token.at) {}
 
 bool Tag::Is(std::string_view name) const {
-    return SameName(text_.substr(0, text_.find_first_of(", \t")), name);
+    return SameName(this->name(), name);
+}
+
+bool Tag::IsEndedBy(const Tag& other) const {
+    return SameName(std::string(EndWord) + std::string(name()), other.name());
 }
 
 std::optional<std::string_view> Tag::Text(std::string_view key) const {
@@ -148,8 +252,29 @@ syntax::Constant Tag::ReadConstant() const {
     return constant;
 }
 
-void RefuseForeignItem(const Token& token) {
-    Refuse(token, ForeignItems);
+void CheckTags(const TokenCursor& cursor, ErrorList& errors) {
+    TagChecker checker(errors);
+    auto previous = TokenKind::EndOfLine;
+    for (std::size_t mark = 0; cursor.TokenAt(mark).kind != TokenKind::EndOfText; ++mark) {
+        const auto& token = cursor.TokenAt(mark);
+        if (token.kind == TokenKind::HashTag) {
+            checker.Take(Tag(token));
+        } else if (token.kind == TokenKind::Mistake && previous == TokenKind::HashTag) {
+            // What the tag swallows holds the ends of the others.
+            errors.Add(ProgramError(token.at, token.text));
+            return;
+        }
+        previous = token.kind;
+    }
+    checker.Finish();
+}
+
+void RefuseForeignItem(const TokenCursor& cursor) {
+    for (std::size_t mark = 0; cursor.TokenAt(mark).kind != TokenKind::EndOfText; ++mark) {
+        if (cursor.TokenAt(mark).kind == TokenKind::HashTag) {
+            Refuse(cursor.TokenAt(mark), ForeignItems);
+        }
+    }
 }
 
 void RefuseForeignMember(const Token& token) {

@@ -6,8 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "standin/language/errors.hpp"
 #include "standin/language/lexer.hpp"
 #include "standin/language/syntax.hpp"
+#include "standin/language/token_cursor.hpp"
 
 namespace standin::language {
 
@@ -18,6 +20,12 @@ public:
     explicit Tag(const Token& token);
 
     bool Is(std::string_view name) const;
+    /// Whether another tag is the end of this one: `EndMethod` of `Method`.
+    bool IsEndedBy(const Tag& other) const;
+    /// The word that it begins with.
+    std::string_view name() const { return text_.substr(0, text_.find_first_of(", \t")); }
+    /// Where it stands.
+    Position at() const { return at_; }
     /// The value of a key; none when it is not there.
     std::optional<std::string_view> Text(std::string_view key) const;
     /// The same of one that is written as `&h21` or `33`. None when it is no number.
@@ -30,8 +38,12 @@ private:
     Position at_;
 };
 
-/// Throws ProgramError for a tag of an item, or of a member of one, that is not supported.
-void RefuseForeignItem(const Token& token);
+/// Adds an error for each tag that there is not, that is not closed, or that closes nothing.
+void CheckTags(const TokenCursor& cursor, ErrorList& errors);
+
+/// Throws ProgramError for a file that holds an item that is not supported.
+void RefuseForeignItem(const TokenCursor& cursor);
+/// The same for the tag of a member of an item.
 void RefuseForeignMember(const Token& token);
 
 }  // namespace standin::language

@@ -184,13 +184,22 @@ FieldList Fields(std::string_view text, std::string_view delimiter) {
     return fields;
 }
 
-Value Split(const Arguments& arguments, const Machine& machine) {
-    const auto text = Utf8Of(arguments[0], machine);
+Value MakeArray(const FieldList& fields, const Machine& machine) {
     auto parts = Value::DefaultOf(Type::ArrayOf({Kind::Text}));
-    for (const auto field : Fields(text, Utf8Of(arguments[1], machine))) {
+    for (const auto field : fields) {
         parts.array()->items.push_back(machine.MakeText(field));
     }
     return parts;
+}
+
+Value Split(const Arguments& arguments, const Machine& machine) {
+    const auto text = Utf8Of(arguments[0], machine);
+    return MakeArray(Fields(text, Utf8Of(arguments[1], machine)), machine);
+}
+
+Value Characters(const Arguments& arguments, const Machine& machine) {
+    const auto text = Utf8Of(arguments[0], machine);
+    return MakeArray(Fields(text, {}), machine);
 }
 
 Value JoinParts(const Arguments& arguments, const Machine& machine) {
@@ -230,6 +239,92 @@ Value CompareBytes(const Arguments& arguments, const Machine& machine) {
     return Value::Of((order > 0) - (order < 0));
 }
 
+// Bytes as text ----------------------------------------------------------------------------------
+
+constexpr std::string_view HexDigits = "0123456789ABCDEF";
+constexpr std::string_view Base64Digits =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+constexpr char Padding = '=';
+
+std::string BytesOf(const Value& text, const Machine& machine) {
+    return machine.host().Bytes(text.text());
+}
+
+/// Two digits a byte, with a space between the bytes where that is wanted.
+Value EncodeHex(const Arguments& arguments, const Machine& machine) {
+    const auto bytes = BytesOf(arguments[0], machine);
+    const std::string_view separator = arguments[1].IsTrue() ? " " : "";
+    MemoryBudget::Require(bytes.size() * 3);
+    std::string text;
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        text += text.empty() ? "" : separator;
+        text += HexDigits[code >> 4U];
+        text += HexDigits[code & 0xFU];
+    }
+    return machine.MakeText(text);
+}
+
+/// The bytes that digits of so many bits each tell one after the other. All other characters are
+/// passed over, and so are bits at the end that make up no byte.
+template <unsigned Bits>
+std::string Decoded(std::string_view text, std::string_view digits, bool foldsCase) {
+    std::string bytes;
+    std::uint32_t pending = 0;
+    unsigned count = 0;
+    for (const char character : text) {
+        const auto digit = digits.find(foldsCase ? RaiseCase(character) : character);
+        if (digit == std::string_view::npos) {
+            continue;
+        }
+        pending = pending << Bits | static_cast<std::uint32_t>(digit);
+        count += Bits;
+        if (count >= 8) {
+            count -= 8;
+            bytes += static_cast<char>(pending >> count & 0xFFU);
+        }
+    }
+    return bytes;
+}
+
+Value DecodeHex(const Arguments& arguments, const Machine& machine) {
+    return machine.MakeText(Decoded<4>(BytesOf(arguments[0], machine), HexDigits, true),
+                            HostTextEncoding::Unknown);
+}
+
+/// Four digits for three bytes, in lines of a length; in one line where that is 0.
+Value EncodeBase64(const Arguments& arguments, const Machine& machine) {
+    const auto bytes = BytesOf(arguments[0], machine);
+    const auto lineLength =
+        static_cast<std::size_t>(std::max<Integer>(arguments[1].Get<Integer>(), 0));
+    MemoryBudget::Require(bytes.size() * 4);
+    std::string text;
+    std::size_t lineStart = 0;
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        std::uint32_t group = 0;
+        const auto size = std::min<std::size_t>(bytes.size() - i, 3);
+        for (std::size_t j = 0; j < 3; ++j) {
+            group = group << 8U | (j < size ? static_cast<unsigned char>(bytes[i + j]) : 0U);
+        }
+        if (lineLength > 0 && text.size() - lineStart >= lineLength) {
+            text += "\r\n";
+            lineStart = text.size();
+        }
+        for (std::size_t j = 0; j < 4; ++j) {
+            text += j <= size ? Base64Digits[group >> (18U - 6U * j) & 0x3FU] : Padding;
+        }
+    }
+    return machine.MakeText(text);
+}
+
+Value DecodeBase64(const Arguments& arguments, const Machine& machine) {
+    const auto text = BytesOf(arguments[0], machine);
+    const auto encoding = static_cast<HostTextEncoding>(arguments[1].Get<std::uint32_t>());
+    return machine.MakeText(
+        Decoded<6>(std::string_view(text).substr(0, text.find(Padding)), Base64Digits, false),
+        encoding);
+}
+
 constexpr auto Functions = std::to_array<BuiltInRow>({
     {"Uppercase(text As String) As String", ChangeCase<RaiseCase>},
     {"Lowercase(text As String) As String", ChangeCase<FoldCase>},
@@ -251,6 +346,11 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"ToArray(text As String, delimiter As String = \",\") As String()", Split},
     {"FromArray(parts() As String, delimiter As String = \"\") As String", JoinParts, "String"},
     {"Join(parts() As String, delimiter As String = \" \") As String", JoinParts},
+    {"Characters(text As String) As String()", Characters},
+    {"EncodeHex(bytes As String, hasSpaces As Boolean = False) As String", EncodeHex},
+    {"DecodeHex(text As String) As String", DecodeHex},
+    {"EncodeBase64(bytes As String, lineLength As Integer = 76) As String", EncodeBase64},
+    {"DecodeBase64(text As String, encoding As TextEncoding = Nil) As String", DecodeBase64},
     {"CountFields(text As String, delimiter As String) As Integer", CountFields},
     {"StrComp(left As String, right As String, mode As Integer) As Integer", CompareBytes},
     {"NthField(text As String, delimiter As String, number As Integer) As String", NthField},

@@ -31,7 +31,7 @@ public:
         return std::ranges::find(kinds, Kind()) != kinds.end();
     }
 
-    /// Answers the token stood on and steps past it.
+    /// Returns the token stood on and steps past it.
     Token Take() {
         Token token = Current();
         if (!IsAt(TokenKind::EndOfText)) {

@@ -2,9 +2,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/language/application.hpp"
+#include "standin/language/array_members.hpp"
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
+#include "standin/language/hints.hpp"
 #include "standin/language/suggestions.hpp"
+#include "standin/language/unsupported.hpp"
 
 namespace standin::language {
 namespace {
@@ -14,10 +18,7 @@ constexpr std::string_view ConstructorName = "Constructor";
 }  // namespace
 
 Type ExpressionChecker::RequireType(const syntax::TypeName& name) const {
-    if (!types_.Find(name.name) && errors_.IsDoubtful(name.name)) {
-        throw FollowingError(name.at, "the declaration of the type has an error");
-    }
-    return types_.Require(name);
+    return types_.Require(name, errors_);
 }
 
 template <typename Declared>
@@ -214,7 +215,8 @@ Checked ExpressionChecker::ConstructOwn(const ClassModel& model, Arguments argum
 }
 
 void ExpressionChecker::FailWithoutName(const std::string& name, Position at) const {
-    if (errors_.IsDoubtful(name)) {
+    const bool isInIncomplete = surroundings_.self != nullptr && surroundings_.self->isIncomplete;
+    if (errors_.IsDoubtful(name) || isInIncomplete) {
         throw FollowingError(at, "the declaration has an error");
     }
     auto names = scope_.Names();
@@ -232,16 +234,112 @@ void ExpressionChecker::FailWithoutName(const std::string& name, Position at) co
     }
     const auto types = types_.Names();
     names.insert(names.end(), types.begin(), types.end());
+    const auto members = BuiltInsOf(name);
+    if (!members.empty()) {
+        std::string list;
+        for (const auto member : members) {
+            list += (list.empty() ? "" : ", ") + std::string(member);
+        }
+        throw ProgramError(at, "of " + Quoted(name) + " only this is supported here: " + list);
+    }
+    if (IsUnsupported(name)) {
+        throw ProgramError(at, Quoted(name) + " is not supported here");
+    }
     throw ProgramError(at, "there is nothing named " + Quoted(name) + SuggestionFor(name, names));
+}
+
+std::vector<const BuiltIn*> ExpressionChecker::BuiltInsNamed(std::string_view name) const {
+    std::vector<const BuiltIn*> found;
+    for (const auto& builtIn : callables_.builtIns) {
+        if (SameName(builtIn.signature.name, name)) {
+            found.push_back(&builtIn);
+        }
+    }
+    return found;
+}
+
+std::vector<std::string_view> ExpressionChecker::BuiltInsOf(std::string_view module) const {
+    std::vector<std::string_view> names;
+    const auto prefix = std::string(module) + ".";
+    for (const auto& builtIn : callables_.builtIns) {
+        const std::string_view name = builtIn.signature.name;
+        if (SameName(name.substr(0, prefix.size()), prefix) &&
+            std::ranges::find(names, name) == names.end()) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+const ClassModel* ExpressionChecker::FindQualifiedType(const syntax::Expression& expression) const {
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    const auto* unit = member == nullptr ? nullptr : FindUnit(*member->object);
+    const auto type = unit == nullptr ? std::nullopt : types_.Find(member->name, *unit);
+    return type ? type->model : nullptr;
+}
+
+void ExpressionChecker::FailWithoutUnitMember(const std::string& unit, const std::string& name,
+                                              Position at) const {
+    if (errors_.IsDoubtful(name)) {
+        throw FollowingError(at, "the declaration has an error");
+    }
+    const bool isApplication = SameName(unit, callables_.application);
+    if (isApplication && IsUnsupportedMember(ApplicationBase, name)) {
+        throw ProgramError(at, Quoted(unit + "." + name) + " is not supported here");
+    }
+    std::vector<std::string_view> names;
+    const auto collect = [&](const auto& declared, const std::string& declaredName) {
+        if (SameName(declared.unit, unit) && IsVisible(declared, true)) {
+            names.emplace_back(declaredName);
+        }
+    };
+    for (const auto& routine : callables_.routines) {
+        collect(routine, routine.signature.name);
+    }
+    for (const auto& variable : callables_.variables) {
+        collect(variable, variable.name);
+    }
+    for (const auto& constant : callables_.constants) {
+        collect(constant, constant.name);
+    }
+    throw ProgramError(at, (isApplication ? "" : "the module ") + Quoted(unit) + " has no member " +
+                               Quoted(name) + " that is seen here" + SuggestionFor(name, names));
+}
+
+void ExpressionChecker::FailWithoutValueMember(Type type, const std::string& name,
+                                               Position at) const {
+    const bool isArray = type.kind == Kind::Array;
+    if (IsUnsupportedMember(isArray ? "Array" : NameOf(type), name)) {
+        throw ProgramError(at, Quoted(name) + " of " + NameOf(type) + " is not supported here");
+    }
+    std::vector<std::string_view> names;
+    if (isArray) {
+        for (const auto& member : ArrayMembers()) {
+            names.push_back(member.declaration.substr(0, member.declaration.find('(')));
+        }
+    } else {
+        for (const auto& builtIn : callables_.builtIns) {
+            names.emplace_back(builtIn.signature.name);
+        }
+    }
+    throw ProgramError(
+        at, NameOf(type) + " has no member " + Quoted(name) + SuggestionFor(name, names));
 }
 
 void ExpressionChecker::FailWithoutMember(const ClassModel& model, const std::string& name,
                                           Position at) const {
-    if (model.origin() != ClassModel::Origin::Host && errors_.IsDoubtful(name)) {
+    const bool isDoubtful = model.isIncomplete || errors_.IsDoubtful(name);
+    if (model.origin() != ClassModel::Origin::Host && isDoubtful) {
         throw FollowingError(at, "the declaration has an error");
     }
+    for (const auto* type = &model; type != nullptr; type = type->super()) {
+        if (IsUnsupportedMember(type->name(), name)) {
+            throw ProgramError(at, Quoted(name) + " of " + model.name() + " is not supported here");
+        }
+    }
     throw ProgramError(at, model.name() + " has no member " + Quoted(name) +
-                               SuggestionFor(name, model.MemberNames()));
+                               SuggestionFor(name, model.MemberNames()) +
+                               MemberHint(model, name, BuiltInsNamed(name)));
 }
 
 }  // namespace standin::language

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "standin/language/application.hpp"
 #include "standin/language/names.hpp"
 #include "standin/language/tags.hpp"
 
@@ -14,31 +15,23 @@ namespace {
 
 using syntax::Visibility;
 
-/// The class whose only object is the application.
-constexpr std::string_view ApplicationBase = "ConsoleApplication";
-
-struct Modifier {
-    std::string_view word;
-    Visibility visibility;
-};
-
-constexpr auto ModifierWords = std::to_array<Modifier>({
-    {"Global", Visibility::Global},
-    {"Public", Visibility::Global},
-    {"Protected", Visibility::Qualified},
-    {"Private", Visibility::Private},
-});
-
 /// Words that can stand where a statement of the main program ends a routine or block by mistake.
 constexpr auto StrayWords = {TokenKind::End,  TokenKind::Next,  TokenKind::Wend,
                              TokenKind::Loop, TokenKind::Else,  TokenKind::ElseIf,
                              TokenKind::Case, TokenKind::Catch, TokenKind::Finally};
 
-const Modifier* FindModifier(const Token& token) {
-    const auto* found = std::ranges::find_if(ModifierWords, [&token](const Modifier& row) {
-        return token.kind == TokenKind::Name && SameName(row.word, token.text);
-    });
-    return found == ModifierWords.end() ? nullptr : found;
+bool IsNamed(const Token& token, std::string_view name) {
+    return token.kind == TokenKind::Name && SameName(token.text, name);
+}
+
+/// Throws when a project's file holds something else than the project says.
+void RequireItem(const syntax::Unit& unit, const Source::File& file) {
+    const std::string_view kind = unit.isClass || unit.isApplication ? "Class" : "Module";
+    const auto& item = file.item;
+    if (!SameName(unit.name, item.name) || !SameName(kind, item.kind)) {
+        throw ProgramError(
+            unit.at, "the project calls this file the " + item.kind + " " + Quoted(item.name));
+    }
 }
 
 }  // namespace
@@ -59,7 +52,7 @@ void UnitParser::ParseTopLevel(syntax::Program& program) {
         cursor_.SkipLine();
         return;
     }
-    if (FindModifier(cursor_.Current()) != nullptr && IsWord(cursor_.Following())) {
+    if (VisibilityOf(cursor_.Current()) && IsWord(cursor_.Following())) {
         TakeModifiers({});
     }
     switch (cursor_.Kind()) {
@@ -69,10 +62,10 @@ void UnitParser::ParseTopLevel(syntax::Program& program) {
             break;
         case TokenKind::Module:
         case TokenKind::Class:
-            TryParse([&] { ParseUnit(program); });
+            TryParse([&] { ParseUnit(program, {}); });
             break;
         case TokenKind::Enum:
-            TryParse([&] { ParseEnumeration(program); });
+            TryParse([&] { ParseEnumeration(program, {}); });
             break;
         default:
             statements_.ParseInto(program.main);
@@ -80,55 +73,89 @@ void UnitParser::ParseTopLevel(syntax::Program& program) {
     }
 }
 
-void UnitParser::ParseProjectFile(syntax::Program& program) {
-    const auto count = program.units.size();
+void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& file) {
+    std::optional<std::size_t> unit;
+    const auto errorsBefore = errors_.count();
+    if (!errors_.Try([&] { RefuseForeignItem(cursor_); })) {
+        return;
+    }
+    CheckTags(cursor_, errors_);
     try {
         for (statements_.SkipToCode(); !cursor_.IsAt(TokenKind::EndOfText);
              statements_.SkipToCode()) {
             if (cursor_.IsAt(TokenKind::HashTag)) {
-                TryParse([&] {
-                    RefuseForeignItem(cursor_.Current());
-                    cursor_.SkipLine();
-                });
+                cursor_.SkipLine();
                 continue;
             }
             TryParse([&] {
-                if (FindModifier(cursor_.Current()) != nullptr) {
-                    TakeModifiers({});
-                }
+                TakeModifiers({});
                 statements_.RefuseUnsupported();
                 if (!cursor_.IsAtAny({TokenKind::Module, TokenKind::Class})) {
                     cursor_.Fail("a module or a class");
                 }
-                ParseUnit(program);
+                ParseUnit(program, file.item.module);
+                unit = unit.value_or(program.units.size() - 1);
             });
         }
     } catch (const UnclosedError& error) {
-        errors_.AddUnclosed(error);
+        // What ends nowhere may have swallowed the rest because of another error.
+        if (errors_.count() == errorsBefore) {
+            errors_.AddUnclosed(error);
+        }
+        DoubtAll();
     }
-    if (errors_.empty() && program.units.size() == count) {
+    if (unit) {
+        if (!errors_.Try([&] { RequireItem(program.units[*unit], file); })) {
+            errors_.Doubt(file.item.name);
+        }
+    } else if (errors_.count() == errorsBefore) {
         errors_.Add(ProgramError(cursor_.At(), "the file holds no module and no class"));
     }
 }
 
-void UnitParser::ParseUnit(syntax::Program& program) {
+void UnitParser::DoubtAll() {
+    for (cursor_.Rewind(0); !cursor_.IsAt(TokenKind::EndOfText);) {
+        statements_.SkipDoubtfulLine();
+    }
+}
+
+void UnitParser::ParseUnit(syntax::Program& program, const std::string& module) {
     const auto head = cursor_.Take();
     syntax::Unit unit;
     unit.isClass = head.kind == TokenKind::Class;
+    unit.module = module;
     const auto name = cursor_.ExpectName();
     unit.name = name.text;
     unit.at = name.at;
     cursor_.ExpectEndOfLine();
-    tagged_ = {};
-    for (statements_.SkipToCode(); !cursor_.IsAt(TokenKind::End); statements_.SkipToCode()) {
-        if (cursor_.IsAt(TokenKind::EndOfText)) {
-            throw UnclosedError(head.at, "this " + Describe(head.kind) + " is never closed");
-        }
-        TryParse([&] { ParseMember(unit, program); });
-    }
+    ParseMembers(unit, head, program);
     statements_.ExpectEnd(head.kind);
     cursor_.ExpectEndOfLine();
     program.units.push_back(std::move(unit));
+}
+
+void UnitParser::ParseMembers(syntax::Unit& unit, const Token& head, syntax::Program& program) {
+    const StatementParser::OpenBlock open(statements_, head.kind);
+    tagged_ = {};
+    for (statements_.SkipToCode();; statements_.SkipToCode()) {
+        if (cursor_.IsAt(TokenKind::EndOfText)) {
+            throw UnclosedError(head.at, "this " + Describe(head.kind) + " is never closed");
+        }
+        const auto word = cursor_.Following().kind;
+        const bool endsUnit = word == TokenKind::Class || word == TokenKind::Module ||
+                              word == TokenKind::EndOfLine || word == TokenKind::Name;
+        if (!cursor_.IsAt(TokenKind::End)) {
+            const bool isRight = TryParse([&] { ParseMember(unit, program); });
+            unit.isIncomplete = unit.isIncomplete || !isRight;
+        } else if (endsUnit) {
+            return;
+        } else if (errors_.empty()) {
+            statements_.RefuseEnd();
+        } else {
+            // It ended something that has an error.
+            cursor_.SkipLine();
+        }
+    }
 }
 
 void UnitParser::ParseBase(syntax::Unit& unit) {
@@ -146,11 +173,13 @@ void UnitParser::ParseBase(syntax::Unit& unit) {
 }
 
 UnitParser::Modifiers UnitParser::TakeModifiers(Modifiers modifiers) {
-    const auto* modifier = FindModifier(cursor_.Current());
-    for (; modifier != nullptr && IsWord(cursor_.Following());
-         modifier = FindModifier(cursor_.Current())) {
+    while (IsWord(cursor_.Following())) {
+        const auto visibility = VisibilityOf(cursor_.Current());
+        if (!visibility) {
+            break;
+        }
         cursor_.Take();
-        modifiers.visibility = modifier->visibility;
+        modifiers.visibility = *visibility;
     }
     return modifiers;
 }
@@ -161,9 +190,12 @@ void UnitParser::ParseMember(syntax::Unit& unit, syntax::Program& program) {
         return;
     }
     const auto modifiers = TakeModifiers(std::exchange(tagged_, {}));
-    if (cursor_.IsAt(TokenKind::Name) && SameName(cursor_.Current().text, "Inherits")) {
+    if (IsNamed(cursor_.Current(), "Inherits")) {
         ParseBase(unit);
         return;
+    }
+    if (IsNamed(cursor_.Current(), "Property") && IsWord(cursor_.Following())) {
+        TakeProperty();
     }
     statements_.RefuseUnsupported();
     switch (cursor_.Kind()) {
@@ -171,6 +203,7 @@ void UnitParser::ParseMember(syntax::Unit& unit, syntax::Program& program) {
         case TokenKind::Sub: {
             auto routine = statements_.ParseRoutine();
             routine.visibility = modifiers.visibility;
+            routine.tag = modifiers.tag;
             unit.routines.push_back(std::move(routine));
             return;
         }
@@ -183,8 +216,16 @@ void UnitParser::ParseMember(syntax::Unit& unit, syntax::Program& program) {
             return;
         }
         case TokenKind::Enum:
-            ParseEnumeration(program);
+            ParseEnumeration(program, unit.name);
             return;
+        case TokenKind::Class:
+            if (!unit.isClass && !unit.isApplication) {
+                ParseUnit(program, unit.name);
+                return;
+            }
+            throw ProgramError(cursor_.At(), "Classes within classes are not supported here");
+        case TokenKind::Module:
+            throw ProgramError(cursor_.At(), "Modules within others are not supported here");
         case TokenKind::Dim:
         case TokenKind::Var:
             cursor_.Take();
@@ -208,8 +249,16 @@ void UnitParser::ParseMember(syntax::Unit& unit, syntax::Program& program) {
 void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
     const auto token = cursor_.Current();
     const Tag tag(token);
-    RefuseForeignMember(token);
     tagged_ = {};
+    if (!errors_.Try([&] { RefuseForeignMember(token); })) {
+        cursor_.SkipLine();
+        SkipTag(tag);
+        unit.isIncomplete = true;
+        return;
+    }
+    tagged_.tag = tag.Is("Event")    ? syntax::RoutineTag::Event
+                  : tag.Is("Method") ? syntax::RoutineTag::Method
+                                     : syntax::RoutineTag::None;
     if (const auto flags = tag.Number("Flags")) {
         constexpr std::uint64_t Private = 0x20;
         constexpr std::uint64_t Protected = 0x1;
@@ -218,14 +267,16 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
                                                          : Visibility::Global;
     }
     if (tag.Is("Constant")) {
-        auto constant = tag.ReadConstant();
+        if (!errors_.Try([&] { AddConstant(unit, tag.ReadConstant()); })) {
+            errors_.Doubt(std::string(tag.Text("Name").value_or("")));
+        }
         cursor_.SkipLine();
-        AddConstant(unit, std::move(constant));
         return;
     }
     cursor_.SkipLine();
     if (tag.Is("Enum")) {
-        syntax::Enumeration enumeration{std::string(tag.Text("Name").value_or("")), token.at, {}};
+        syntax::Enumeration enumeration{
+            std::string(tag.Text("Name").value_or("")), token.at, {}, unit.name};
         // A declaration in words may stand in place of the bare values.
         if (cursor_.IsAt(TokenKind::Enum)) {
             return;
@@ -235,15 +286,48 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
     }
 }
 
+void UnitParser::SkipTag(const Tag& tag) {
+    bool isInside = true;
+    while (isInside && !cursor_.IsAt(TokenKind::EndOfText)) {
+        const auto word = cursor_.Following().kind;
+        if (cursor_.IsAt(TokenKind::End) &&
+            (word == TokenKind::Class || word == TokenKind::Module)) {
+            return;
+        }
+        const auto line = cursor_.Current();
+        isInside = line.kind != TokenKind::HashTag || !tag.IsEndedBy(Tag(line));
+        statements_.SkipDoubtfulLine();
+    }
+}
+
+void UnitParser::TakeProperty() {
+    const auto property = cursor_.Mark();
+    cursor_.SkipLine();
+    cursor_.SkipEmptyLines();
+    const bool isComputed = IsNamed(cursor_.Current(), "Get") || IsNamed(cursor_.Current(), "Set");
+    cursor_.Rewind(property);
+    if (!isComputed) {
+        // `X As Type`
+        std::string declaration = cursor_.Following().text;
+        for (auto mark = property + 2; mark < property + 4 && mark <= cursor_.EndOfLine(property);
+             ++mark) {
+            declaration += " " + cursor_.TokenAt(mark).text;
+        }
+        errors_.Add(ProgramError(
+            cursor_.At(), "a property is written " + Quoted(declaration) + ", without this word"));
+        cursor_.Take();
+    }
+}
+
 void UnitParser::AddConstant(syntax::Unit& unit, syntax::Constant constant) {
     constants_.Set(constant.name, constant.value);
     constants_.Set(unit.name + "." + constant.name, constant.value);
     unit.constants.push_back(std::move(constant));
 }
 
-void UnitParser::ParseEnumeration(syntax::Program& program) {
+void UnitParser::ParseEnumeration(syntax::Program& program, const std::string& module) {
     const auto at = cursor_.Take().at;
-    syntax::Enumeration enumeration{cursor_.ExpectName().text, at, {}};
+    syntax::Enumeration enumeration{cursor_.ExpectName().text, at, {}, module};
     if (cursor_.TryTake(TokenKind::As)) {
         statements_.expressions().ParseTypeName();
     }

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "standin/language/statement_parser.hpp"
+#include "standin/language/tags.hpp"
 
 namespace standin::language {
 
@@ -21,8 +23,8 @@ public:
 
     /// Statements, routines, modules and classes in any order.
     void ParseScript(syntax::Program& program);
-    /// The one module or class of a project's file.
-    void ParseProjectFile(syntax::Program& program);
+    /// The one module or class of a project's file, and what that file has to be.
+    void ParseProjectFile(syntax::Program& program, const Source::File& file);
     /// Makes the constants of the text's modules known, which other texts may need before it is
     /// parsed. Mistakes are left for the parsing.
     void CollectConstants();
@@ -31,26 +33,37 @@ private:
     /// What can stand before a member.
     struct Modifiers {
         syntax::Visibility visibility = syntax::Visibility::Global;
+        syntax::RoutineTag tag = syntax::RoutineTag::None;
     };
 
     void ParseTopLevel(syntax::Program& program);
-    void ParseUnit(syntax::Program& program);
+    /// A module or class; `module` is the module around it.
+    void ParseUnit(syntax::Program& program, const std::string& module);
+    void ParseMembers(syntax::Unit& unit, const Token& head, syntax::Program& program);
     void ParseBase(syntax::Unit& unit);
     void ParseMember(syntax::Unit& unit, syntax::Program& program);
     /// `#tag ...` with what it says of the member that follows.
     void ParseTag(syntax::Unit& unit, syntax::Program& program);
-    void ParseTaggedConstant(syntax::Unit& unit);
-    void ParseEnumeration(syntax::Program& program);
+    /// Steps past all that a tag stands around, and its end.
+    void SkipTag(const Tag& tag);
+    /// Steps past `Property`, with which the host's scripts begin computed properties only.
+    void TakeProperty();
+    void ParseEnumeration(syntax::Program& program, const std::string& module);
     void ParseEnumerationItems(syntax::Enumeration& enumeration, TokenKind end);
     void AddConstant(syntax::Unit& unit, syntax::Constant constant);
     Modifiers TakeModifiers(Modifiers modifiers);
-    /// Runs an action that parses something; after an error in it goes behind that.
+    /// Makes all names of the text doubtful.
+    void DoubtAll();
+    /// Runs an action that parses something; after an error in it goes behind that. Tells whether
+    /// there was none.
     template <typename Action>
-    void TryParse(Action action) {
+    bool TryParse(Action action) {
         const auto start = cursor_.Mark();
-        if (!errors_.Try(action)) {
+        const bool isRight = errors_.Try(action);
+        if (!isRight) {
             statements_.Recover(start);
         }
+        return isRight;
     }
 
     TokenCursor cursor_;

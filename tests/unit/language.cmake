@@ -1,9 +1,11 @@
 # The tests of the host's language, and of the command, with a sample plug-in.
 add_unit_tests(language_tests
   SOURCES
+    language_application_tests.cpp
     language_array_tests.cpp
     language_function_tests.cpp
     language_lexer_tests.cpp
+    language_message_tests.cpp
     language_parser_tests.cpp
     language_plugin_tests.cpp
     language_project_tests.cpp

@@ -98,7 +98,7 @@ TEST_CASE("mistakes with arrays are told") {
     SampleHost host;
     CHECK(host.Run("Dim a() As Integer\na.Append(\"x\")") ==
           "2:10: \"Append(value As Element)\" expects Integer for \"value\", this is a value of "
-          "type String");
+          "type String; use Val");
     CHECK(host.Run("Dim a() As Integer\nPrint a") ==
           "2:7: \"Print\" takes a String, this is Integer()");
     CHECK(host.Run("Dim a() As Integer\nPrint a(1, 2)") == "2:7: an array takes one index");
@@ -118,9 +118,16 @@ TEST_CASE("mistakes with arrays are told") {
     CHECK(host.Run("Redim a") ==
           "1:1: \"Redim\" takes an array with its last index in parentheses");
     CHECK(host.Run("For Each n As Integer In 5\nNext") ==
-          "1:26: \"For Each\" takes an array, this is Integer");
+          "1:26: \"For Each\" takes an array or a Dictionary, this is Integer");
     CHECK(host.Run("For Each n As Sample In Array(5)\nNext") ==
-          "1:10: expected Sample, this is Integer");
+          "1:10: expected Sample, this is Integer; write New Sample(...)");
+}
+
+TEST_CASE("a routine finds nothing in an array of the main program before its declaration") {
+    SampleHost host;
+    CHECK(host.Run("Sub Fill()\nnumbers.Append(1)\nEnd Sub\nFor i As Integer = 1 To 2\nFill\nNext\n"
+                   "Dim numbers() As Integer") ==
+          "Unhandled NilObjectException: An array was used before its declaration. (line 2)\n");
 }
 
 TEST_CASE("For Each goes over the elements there are") {

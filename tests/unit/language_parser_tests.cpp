@@ -133,7 +133,7 @@ TEST_CASE("mistakes are told where they are") {
     CHECK(MistakeIn("Dim a") == "1:6: expected \"As\", found the end of the line");
     CHECK(MistakeIn("Dim a As 5") == "1:10: expected the name of a type, found \"5\"");
     CHECK(MistakeIn("\n  While a\nPrint 1") == "2:3: this \"While\" is never closed");
-    CHECK(MistakeIn("For i = 1 To 2\nPrint i\nEnd") == "1:1: this \"For\" is never closed");
+    CHECK(MistakeIn("For i = 1 To 2\nPrint i\nEnd") == "3:1: expected \"Next\", found \"End\"");
     CHECK(MistakeIn("For i = 1\nNext") ==
           "1:10: expected \"To\" or \"DownTo\", found the end of "
           "the line");
@@ -144,7 +144,7 @@ TEST_CASE("mistakes are told where they are") {
     CHECK(MistakeIn("Function F()\nEnd Function") == "1:13: a Function needs \"As\" and its type");
     CHECK(MistakeIn("Sub F() As Integer\nEnd Sub") == "1:19: a Sub returns nothing");
     CHECK(MistakeIn("If a Then\nSub F()\nEnd Sub\nEnd If") ==
-          "2:1: a \"Sub\" cannot stand inside another block");
+          "1:1: this \"If\" is not closed before \"Sub\"");
     CHECK(MistakeIn("Loop") == "1:1: expected a statement, found \"Loop\"");
     CHECK(MistakeIn("5 = x") == "1:1: expected a statement, found \"5\"");
     CHECK(MistakeIn("f(1,)") == "1:5: expected an expression, found \")\"");

@@ -175,7 +175,7 @@ TEST_CASE("overloads") {
           "1:23: \"OfUInt32(value as UInt32) as Integer\" expects " +
               PerWidth("UInteger", "UInt32") +
               " for \"value\", this is "
-              "a value of type String");
+              "a value of type String; use Val");
 }
 
 TEST_CASE("objects are made") {
@@ -211,7 +211,8 @@ TEST_CASE("text converts in and out") {
     CHECK(host.Run("Dim s As Sample\nPrint s") == "Sample -1\n");
     CHECK(host.Run("Function F() As Sample\nReturn \"7\"\nEnd Function\nPrint Str(F().Value)") ==
           "7\n");
-    CHECK(host.Run("Dim s As Sample = 5") == "1:19: expected Sample, this is Integer");
+    CHECK(host.Run("Dim s As Sample = 5") ==
+          "1:19: expected Sample, this is Integer; write \"5\" or New Sample(5)");
     CHECK(host.Run("Dim s As New Sample\nPrint Str(Len(s))") == "8\n");
     CHECK(host.Run("Dim s As Sample = \"bad\"") ==
           "Unhandled SampleException: bad text (line 1)\n");
@@ -244,10 +245,10 @@ TEST_CASE("operators of classes") {
     CHECK(show("5 + a") ==
           "2:9: \"+\" cannot stand between Integer and Sample; there is "
           "\"Operator_Add(other as Sample) as Sample\"; there is "
-          "\"Operator_Add(other as Integer) as Sample\"");
+          "\"Operator_Add(other as Integer) as Sample\"; write \"5\" or New Sample(5)");
     CHECK(show("a < 5") ==
           "2:9: \"<\" cannot stand between Sample and Integer; there is "
-          "\"Operator_Compare(other as Sample) as Integer\"");
+          "\"Operator_Compare(other as Sample) as Integer\"; write \"5\" or New Sample(5)");
     CHECK(show("Not a") == "2:7: \"Not\" cannot stand before Sample");
     CHECK(show("a Is 5") == "2:9: \"Is\" stands between objects");
 }

@@ -162,13 +162,32 @@ TEST_CASE("what is wrong with a project is told with its line") {
     CHECK(NamesAPlace(Run(host, With(ModuleName, "kHello +", "\xFF +"))));
 }
 
+TEST_CASE("a file is what the project says, and its tags are closed") {
+    SampleHost host;
+    CHECK(Run(host, With(ModuleName, "Module Words", "Module Wards")) ==
+          "Words.xojo_code:2:18: error: the project calls this file the Module \"Words\"");
+    CHECK(Run(host, With(ProjectName, "Module=", "Class=")) ==
+          "Words.xojo_code:2:18: error: the project calls this file the Class \"Words\"");
+    CHECK(Run(host, With(ModuleName, "Private mSign",
+                         "Private Class Inner\nEnd Class\nPrivate mSign")) == Output);
+    CHECK(Run(host, With(ModuleName, "\t#tag EndMethod\n", "")) ==
+          "Words.xojo_code:3:2: error: this \"#tag Method\" has no \"#tag EndMethod\"");
+    CHECK(Run(host, With(ModuleName, "#tag EndModule\n", "")) ==
+          "Words.xojo_code:1:1: error: this \"#tag Module\" has no \"#tag EndModule\"");
+    CHECK(Run(host, With(ModuleName, "#tag Method", "#tag Metod")) ==
+          "Words.xojo_code:3:2: error: there is no \"#tag Metod\"; did you mean \"Method\"?");
+    CHECK(Run(host, With(AppName, "#tag EndViewBehavior\n", "")) ==
+          "App.xojo_code:11:2: error: this \"#tag ViewBehavior\" is never closed");
+}
+
 TEST_CASE("a project without an application, or without its Run, says so") {
     SampleHost host;
     const auto withoutApp = With(
         ProjectName, "Class=App;App.xojo_code;&h0000000000000001;&h0000000000000000;false\n", "");
     CHECK(Run(host, withoutApp).find("inherits from ConsoleApplication") != std::string::npos);
     CHECK(Run(host, With(AppName, "Function Run(", "Function Start(")) ==
-          "App.xojo_code:2:17: error: \"App\" has no Function Run(args() As String)");
+          "App.xojo_code:5:12: error: a ConsoleApplication has no event \"Start\"; it has Run and "
+          "UnhandledException");
 }
 
 TEST_CASE("a project whose files end anywhere runs or names a place") {

@@ -103,6 +103,17 @@ private:
     std::unique_ptr<standin::language::TypeTable> types_;
 };
 
+/// All errors of a text, as the command shows them.
+inline std::string ErrorsIn(SampleHost& sample, const std::string& text) {
+    const standin::language::Source source("p", text);
+    try {
+        const standin::language::Program program(source, sample.types());
+    } catch (const standin::language::ProgramError& error) {
+        return source.Describe(error);
+    }
+    return "none";
+}
+
 /// What the project of that name prints, with its exit status, its files being these and no others;
 /// or the first line of its errors.
 inline std::string RunProject(SampleHost& sample, const std::string& project,

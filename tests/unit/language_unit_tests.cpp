@@ -3,25 +3,12 @@
 
 #include "tests/unit/language_support.hpp"
 
+using language_tests::ErrorsIn;
 using language_tests::RunProject;
 using language_tests::SampleHost;
 using standin::language::MaximumShownErrors;
-using standin::language::Program;
-using standin::language::ProgramError;
-using standin::language::Source;
 
 namespace {
-
-/// All errors of a text, as the command shows them.
-std::string ErrorsIn(SampleHost& sample, const std::string& text) {
-    const Source source("p", text);
-    try {
-        const Program program(source, sample.types());
-    } catch (const ProgramError& error) {
-        return source.Describe(error);
-    }
-    return "none";
-}
 
 constexpr auto Head = "Type=Console\nClass=App;App.xojo_code;&h1;&h0;false\n";
 
@@ -36,7 +23,9 @@ TEST_CASE("modules hold variables, constants and routines") {
     CHECK(host.Run(module + "Grow\nM.Grow\nPrint Str(n) + \" \" + Str(M.n)\nPrint Str(M.Inner)\n"
                             "Print Str(kOne + M.kOne)") == "7 7\n107\n2\n");
     CHECK(host.Run(module + "Print Str(Inner)").starts_with("13:11: there is nothing named"));
-    CHECK(host.Run(module + "Print Str(M.hidden)").find("no such member") != std::string::npos);
+    CHECK(host.Run(module + "Print Str(M.hidden)")
+              .find("the module \"M\" has no member \"hidden\" that is seen here") !=
+          std::string::npos);
     CHECK(host.Run("Dim s As Sample\nModule A\nDim x As New Sample(3)\nEnd Module\n"
                    "Print Str(A.x.Value)") == "3\n");
 }
@@ -189,7 +178,8 @@ TEST_CASE("all errors are told, the first of each line") {
     const auto errors = ErrorsIn(host,
                                  "Print 5\nDim s As New Sample(1)\nPrint s.Vlaue\ns.PlusOne(\n"
                                  "For i As Integer = 1 To lenth\nPrint Str(j)\nNext\n");
-    CHECK(errors.find("p:1:7: error: \"Print\" takes a String, this is Integer; use Str") == 0);
+    CHECK(errors.find("p:1:7: error: \"Print\" takes a String, this is Integer; use Str") !=
+          std::string::npos);
     CHECK(errors.find("p:3:9: error: Sample has no member \"Vlaue\"; did you mean \"Value\"?") !=
           std::string::npos);
     CHECK(errors.find("p:4:") != std::string::npos);

@@ -46,7 +46,7 @@ TEST_CASE("VarType tells what a Variant holds") {
               "Print Str(VarType(1.5))\nPrint Str(VarType(\"x\"))\nPrint Str(VarType(True))\n"
               "Print Str(VarType(New Sample))\nDim c As Currency, s As Single\nPrint "
               "Str(VarType(c))\n"
-              "Print Str(VarType(s))\nPrint Str(VarType(New Date(0)))\nPrint Str(VarType(New "
+              "Print Str(VarType(s))\nPrint Str(VarType(New Date))\nPrint Str(VarType(New "
               "DateTime(0)))") == "0\n" + PerWidth("2", "3") + "\n3\n5\n8\n11\n9\n6\n4\n7\n38\n");
 }
 
@@ -110,10 +110,10 @@ TEST_CASE("memory blocks") {
 
 TEST_CASE("dates know their seconds") {
     SampleHost host;
-    CHECK(
-        host.Run("Dim d As New Date(3600.5)\nPrint Str(d.TotalSeconds)\nDim t As New DateTime(60)\n"
-                 "Print Str(t.SecondsFrom1970)") == "3600.5\n60\n");
-    CHECK(host.Run("Dim d As New Date(1)\nd.TotalSeconds = 2.5\nPrint Str(d.TotalSeconds)") ==
+    CHECK(host.Run("Dim d As New Date\nd.TotalSeconds = 3600.5\nPrint Str(d.TotalSeconds)\nDim t "
+                   "As New DateTime(60)\n"
+                   "Print Str(t.SecondsFrom1970)") == "3600.5\n60\n");
+    CHECK(host.Run("Dim d As New Date\nd.TotalSeconds = 2.5\nPrint Str(d.TotalSeconds)") ==
           "2.5\n");
     CHECK(host.Run("Dim d As New Date\nPrint Str(d.TotalSeconds > 3800000000)") == "True\n");
     CHECK(host.Run("Dim t As New DateTime(0)\nt.SecondsFrom1970 = 1") ==
@@ -133,7 +133,8 @@ TEST_CASE("a Variant has its value in every type") {
             "Dim v As Variant\nPrint Str(v.IntegerValue)\nPrint v.StringValue\nPrint Str(v.Type)\n"
             "Print Str(v.IsNull)\nPrint Str(v.ObjectValue Is Nil)") == "0\n\n0\nTrue\nTrue\n");
     CHECK(host.Run("Dim s As New Sample, v As Variant = s\nPrint Str(v.ObjectValue Is s)\n"
-                   "v = New Date(7)\nPrint Str(v.DateValue.TotalSeconds)\nv = New DateTime(8)\n"
+                   "v = New Date(1904, 1, 1, 0, 0, 7)\nPrint Str(v.DateValue.TotalSeconds)\nv = "
+                   "New DateTime(8)\n"
                    "Print Str(v.DateTimeValue.SecondsFrom1970)\nPrint Str(v.Type)") ==
           "True\n7\n8\n38\n");
     CHECK(host.Run("Dim v As Variant = 5\nDim o As Object = v.ObjectValue") ==

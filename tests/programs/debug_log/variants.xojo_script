@@ -1,6 +1,8 @@
 ' In both precisions: what the conversions from and to Variants write to the debug log.
 
 ' An exponent that neither precision has.
+Dim hundred As New Date
+hundred.TotalSeconds = 100.5
 Dim huge As String = "1e"
 For i As Integer = 1 To 160
   huge = huge + "9"
@@ -38,7 +40,7 @@ For i As Integer = 1 To 15
   Case 9
     value = amount
   Case 10
-    value = New Date(100.5)
+    value = hundred
   Case 11
     value = New DateTime(-100.5)
   Case 12

@@ -18,6 +18,8 @@ Sub Show(label As String, value As Variant)
   End Try
 End Sub
 
+Dim hundred As New Date
+hundred.TotalSeconds = 100.5
 Dim u32 As UInt32 = 4294967295
 Dim u64 As UInt64 = 18446744073709551615
 Dim d As Double = 0.1
@@ -28,6 +30,6 @@ Show("UInt64", u64)
 Show("Double", d)
 Show("Currency", amount)
 Show("String", "12.5")
-Show("Date", New Date(100.5))
+Show("Date", hundred)
 Show("DateTime", New DateTime(-100.5))
 Show("a number", New BigNumberVQZ("2.5"))

@@ -97,8 +97,10 @@ amount = amount - 0.5808
 Show("Currency", amount)
 
 Print "-- dates"
-Show("Date", New Date(3847219200.5))
-Show("Date", New Date(0))
+Dim day As New Date(2025, 11, 29)
+day.TotalSeconds = day.TotalSeconds + 0.5
+Show("Date", day)
+Show("Date", New Date(1904, 1, 1))
 Show("DateTime", New DateTime(1637496000.25))
 Show("DateTime", New DateTime(-1))
 

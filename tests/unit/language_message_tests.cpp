@@ -1,0 +1,169 @@
+// What is said of a wrong program: the cause and nothing that follows from it, what is not
+// supported by its name, and what there is in place of what was written.
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "tests/unit/language_support.hpp"
+
+using language_tests::ErrorsIn;
+using language_tests::SampleHost;
+
+namespace {
+
+/// The errors of a program without the lines that they show, one behind the other.
+std::string MessagesOf(SampleHost& sample, const std::string& text) {
+    std::string messages;
+    std::string_view rest;
+    const auto errors = ErrorsIn(sample, text);
+    for (rest = errors; !rest.empty();) {
+        const auto end = rest.find('\n');
+        const auto line = rest.substr(0, end);
+        if (line.starts_with("p:")) {
+            messages += (messages.empty() ? "" : "; ") + std::string(line.substr(2));
+        }
+        rest.remove_prefix(end + 1);
+    }
+    return messages;
+}
+
+}  // namespace
+
+TEST_CASE("errors of the grammar come first") {
+    SampleHost host;
+    CHECK(MessagesOf(host, "Print missing\nIf 1 = 1 The\nPrint \"x\"\nEnd If\nPrint lost") ==
+          "2:10: error: expected \"Then\", found \"The\"; "
+          "1:7: error: there is nothing named \"missing\"; "
+          "5:7: error: there is nothing named \"lost\"");
+}
+
+TEST_CASE("a variable whose first value is wrong is there nevertheless") {
+    SampleHost host;
+    CHECK(MessagesOf(host, "Dim n As Integer = \"a\"\nn = n + 1\nStatic s As String = 5\ns = n") ==
+          "1:20: error: expected Integer, this is String; use Val; "
+          "3:22: error: expected String, this is Integer; use Str; "
+          "4:5: error: expected String, this is Integer; use Str");
+    CHECK(MessagesOf(host, "Dim x As Nowhere\nx.Anything\nDim y As Integer = x.Value\ny = 1") ==
+          "1:10: error: there is no type \"Nowhere\"");
+    CHECK(MessagesOf(host, "Const k = nothing\nPrint Str(k)") ==
+          "1:11: error: there is nothing named \"nothing\"");
+}
+
+TEST_CASE("what stands in a block with a wrong head is looked at") {
+    SampleHost host;
+    CHECK(MessagesOf(host, "For i As Integer = 1 To lost\nPrint Str(i)\nPrint 5\nNext") ==
+          "1:25: error: there is nothing named \"lost\"; "
+          "3:7: error: \"Print\" takes a String, this is Integer; use Str");
+    CHECK(MessagesOf(host, "For Each s As String In 5\nPrint s\nPrint 5\nNext") ==
+          "1:25: error: \"For Each\" takes an array or a Dictionary, this is Integer; "
+          "3:7: error: \"Print\" takes a String, this is Integer; use Str");
+    CHECK(MessagesOf(host, "Select Case lost\nCase 1, 2\nPrint 5\nEnd Select") ==
+          "1:13: error: there is nothing named \"lost\"; "
+          "3:7: error: \"Print\" takes a String, this is Integer; use Str");
+    CHECK(MessagesOf(host,
+                     "Try\nPrint \"x\"\nCatch e As Nowhere\nPrint e.Message\nPrint 5\nEnd Try") ==
+          "3:12: error: there is no type \"Nowhere\"; "
+          "5:7: error: \"Print\" takes a String, this is Integer; use Str");
+}
+
+TEST_CASE("a wrong or a missing end is one error") {
+    SampleHost host;
+    const std::string use = "Print Str(F + G)";
+    const std::string g = "Function G() As Integer\nReturn 1\nEnd Function\n";
+    CHECK(MessagesOf(host, "Function F() As Integer\nReturn 1\nEnd Sub\n" + g + use) ==
+          "3:5: error: expected \"Function\", found \"Sub\"");
+    CHECK(MessagesOf(host,
+                     "Function F() As Integer\nFor i As Integer = 1 To 3\nReturn i\n"
+                     "End Function\n" +
+                         g + use) ==
+          "2:1: error: this \"For\" is not closed before \"End Function\"");
+    CHECK(MessagesOf(host, "Function F() As Integer\nIf True Then\nReturn 1\n" + g + use) ==
+          "2:1: error: this \"If\" is not closed before \"Function\"");
+    CHECK(MessagesOf(host, "Function F() As Integer\nReturn 1\nEnd If\nReturn 2\nEnd Function\n" +
+                               g + use) == "3:1: error: there is no \"If\" to end here");
+    CHECK(
+        MessagesOf(host, "Module M\nSub A()\nEnd Sub\nEnd Sub\nSub B()\nEnd Sub\nEnd Module\nB") ==
+        "4:1: error: there is no \"Sub\" to end here");
+    CHECK(MessagesOf(host, "While False\nPrint \"x\"\nEnd While\nPrint 5") ==
+          "3:1: error: expected \"Wend\", found \"End\"; "
+          "4:7: error: \"Print\" takes a String, this is Integer; use Str");
+    CHECK(MessagesOf(host,
+                     "Class C\nPrivate Function F(a As) As Integer\nReturn 1\nEnd Function\n"
+                     "Function H() As Integer\nReturn F\nEnd Function\nEnd Class\n"
+                     "Dim c As New C\nPrint Str(c.H + c.F)") ==
+          "2:24: error: expected the name of a type, found \")\"");
+}
+
+TEST_CASE("a class with an error is not blamed for what it lacks") {
+    SampleHost host;
+    CHECK(MessagesOf(host,
+                     "Class A\nInherits B\nSub F()\nSuper.F\nOther = 1\nEnd Sub\nEnd Class\n"
+                     "Class B\nOther As Integer\nEnd Class\nDim b As B = New A\n"
+                     "Dim a As New A\na.Other = 2") ==
+          "2:10: error: Classes that inherit from \"B\" are not supported here");
+    CHECK(MessagesOf(host,
+                     "Class A\nFunction Operator_Add(a As A) As A\nReturn a\nEnd Function\n"
+                     "End Class\nDim a As New A\na = a + a") ==
+          "2:10: error: Operators of classes are not supported here");
+    CHECK(MessagesOf(host,
+                     "Class A\nShared Function Make() As A\nReturn New A\nEnd Function\n"
+                     "Shared n As Integer\nEnd Class\nDim a As A = A.Make\nPrint Str(A.n)") ==
+          "2:1: error: Shared members are not supported here; "
+          "5:1: error: Shared members are not supported here");
+    CHECK(MessagesOf(host, "Module M\nSub F(a As Nowhere)\nEnd Sub\nEnd Module\nM.F(1)\nF(2)") ==
+          "2:12: error: there is no type \"Nowhere\"");
+    CHECK(MessagesOf(host, "Delegate Sub D()\nSub F(d As D)\nEnd Sub\nF(1)") ==
+          "1:1: error: Delegates are not supported here");
+}
+
+TEST_CASE("how a property of a class is written") {
+    SampleHost host;
+    CHECK(MessagesOf(host, "Class C\nProperty X As Integer\nEnd Class\nDim c As New C\nc.X = 1") ==
+          "2:1: error: a property is written \"X As Integer\", without this word");
+    CHECK(MessagesOf(host,
+                     "Class C\nProperty X As Integer\nGet\nReturn 1\nEnd Get\nEnd Property\n"
+                     "End Class\nDim c As New C\nc.X = 1") ==
+          "2:1: error: Computed properties are not supported here");
+}
+
+TEST_CASE("what the host has is refused by its name") {
+    SampleHost host;
+    CHECK(host.Run("Print System.Random.InRange(1, 6)") ==
+          "1:7: of \"System\" only this is supported here: System.DebugLog");
+    CHECK(host.Run("StdOut.Write(\"x\")") ==
+          "1:1: of \"StdOut\" only this is supported here: StdOut.WriteLine");
+    CHECK(host.Run("StdErr.WriteLine(\"x\")") == "1:1: \"StdErr\" is not supported here");
+    CHECK(host.Run("Dim r As New Random") == "1:14: the type \"Random\" is not supported here");
+    CHECK(host.Run("Dim t As Introspection.TypeInfo") ==
+          "1:10: the type \"Introspection.TypeInfo\" is not supported here");
+    CHECK(host.Run("Dim d As New Xojo.Core.Dictionary") ==
+          "1:14: the type \"Xojo.Core.Dictionary\" is not supported here");
+    CHECK(host.Run("Print CurrentMethodName") ==
+          "1:7: \"CurrentMethodName\" is not supported here");
+    CHECK(host.Run("Dim d As New Date\nPrint Str(d.Year)") ==
+          "2:13: \"Year\" of Date is not supported here");
+    CHECK(host.Run("Dim m As New MemoryBlock(4)\nm = m.MidB(0, 2)") ==
+          "2:7: \"MidB\" of MemoryBlock is not supported here");
+    CHECK(host.Run("Dim a() As Integer\na.Shuffle") ==
+          "2:3: \"Shuffle\" of Integer() is not supported here");
+    CHECK(host.Run("Dim s As String\nPrint s.LeftBytes(2)") ==
+          "2:9: \"LeftBytes\" of String is not supported here");
+    // A name of the program's own goes first.
+    CHECK(host.Run("Function Random() As String\nReturn \"mine\"\nEnd Function\nPrint Random") ==
+          "mine\n");
+}
+
+TEST_CASE("what to write where an object or a number stands in the other's place") {
+    SampleHost host;
+    CHECK(host.Run("Dim s As Sample\ns = 5") ==
+          "2:5: expected Sample, this is Integer; write \"5\" or New Sample(5)");
+    CHECK(host.Run("Dim n As Integer = 5\nDim s As Sample = n") ==
+          "2:19: expected Sample, this is Integer; write New Sample(...)");
+    CHECK(host.Run("Dim s As New Sample(1)\nDim b As Boolean = s") ==
+          "2:20: expected Boolean, this is Sample; use its IsOdd");
+    // There are several properties of that type, and none of them is named like it.
+    CHECK(host.Run("Dim s As New Sample(1)\nDim n As Integer = s") ==
+          "2:20: expected Integer, this is Sample");
+    CHECK(host.Run("Dim s As New Sample(1)\ns = s.Multiply(2)") ==
+          "2:7: Sample has no member \"Multiply\"; write a * b");
+}
