@@ -69,6 +69,8 @@ class ReleaseTest(unittest.TestCase):
     def test_names(self) -> None:
         number = (self.source / "VERSION").read_text().split()[0]
         self.assertEqual(self.release.name, f"BigNumberVQZ-{number}.zip")
+        settings = (self.unpacked / "SelfTest/Settings.xojo_code").read_text()
+        self.assertIn(f'Name = kLibraryVersion, Type = String, Dynamic = False, Default = \\"{number}"', settings)
 
     def test_entries_tell_nothing_of_their_making(self) -> None:
         with zipfile.ZipFile(self.release) as archive:

@@ -101,7 +101,7 @@ Protected Module Checks
 		  ElseIf e IsA StackOverflowException Then
 		    Return "StackOverflowException"
 		  End If
-		  Return "RuntimeException, or a class of it that the self-test does not know"
+		  Return "RuntimeException or another class of it"
 		End Function
 	#tag EndMethod
 
