@@ -21,20 +21,21 @@ Protected Module HostTexts
 	#tag EndMethod
 
 	#tag Method, Flags = &h21
-		Private Function TextOf12Point5(itsEncoding As TextEncoding, ParamArray accented As Integer) As String
-		  ' The text 12.5 and the bytes of the accented letter, said to be in that encoding.
-		  Dim block As New MemoryBlock(5 + UBound(accented))
-		  block.StringValue(0, 4) = "12.5"
-		  For i As Integer = 0 To UBound(accented)
-		    block.Byte(4 + i) = accented(i)
+		Private Function TextOfBytes(itsEncoding As TextEncoding, ParamArray bytes As Integer) As String
+		  ' Up to eight bytes as a text that is said to be in that encoding.
+		  Dim block As New MemoryBlock(8)
+		  Dim size As Integer = 0
+		  For Each code As Integer In bytes
+		    block.Byte(size) = code
+		    size = size + 1
 		  Next
-		  Return DefineEncoding(block.StringValue(0, block.Size), itsEncoding)
+		  Return DefineEncoding(block.StringValue(0, size), itsEncoding)
 		End Function
 	#tag EndMethod
 
 	#tag Method, Flags = &h21
-		Private Function AccentedLetter() As String
-		  Return DefineEncoding(ChrB(195) + ChrB(169), Encodings.UTF8)
+		Private Function Accented12Point5() As String
+		  Return TextOfBytes(Encodings.UTF8, 49, 50, 46, 53, 195, 169)
 		End Function
 	#tag EndMethod
 
@@ -44,7 +45,7 @@ Protected Module HostTexts
 		  ' such a mark are that large.
 		  Dim converted As String = ConvertEncoding(given, Encodings.UTF16)
 		  If AscB(converted) >= 254 Then
-		    converted = DefineEncoding(MidB(converted, 3), Encodings.UTF16)
+		    converted = DefineEncoding(MidB(converted, 3, LenB(converted) - 2), Encodings.UTF16)
 		  End If
 		  Return converted
 		End Function
@@ -59,7 +60,7 @@ Protected Module HostTexts
 		    Dim wasRead As Boolean
 		    number.SetStringValue(given, 10, rest, wasRead)
 		    CheckText(name, TextOf(number), "12.5")
-		    CheckText(name, rest, AccentedLetter)
+		    CheckText(name, rest, TextOfBytes(Encodings.UTF8, 195, 169))
 		  Catch e As RuntimeException
 		    Unexpected(name, e)
 		  End Try
@@ -69,13 +70,12 @@ Protected Module HostTexts
 	#tag Method, Flags = &h21
 		Private Sub EncodingsIn()
 		  #Pragma BreakOnExceptions False
-		  Dim inUTF8 As String = TextOf12Point5(Encodings.UTF8, 195, 169)
-		  CheckRead("text-in-utf8", inUTF8)
-		  CheckRead("text-in-utf16", InUTF16(inUTF8))
-		  CheckRead("text-in-latin1", TextOf12Point5(Encodings.ISOLatin1, 233))
+		  CheckRead("text-in-utf8", Accented12Point5)
+		  CheckRead("text-in-utf16", InUTF16(Accented12Point5))
+		  CheckRead("text-in-latin1", TextOfBytes(Encodings.ISOLatin1, 49, 50, 46, 53, 233))
 		  Try
 		    CheckText("text-of-unknown-encoding", TextOf(N(DefineEncoding("-12.5", Nil))), "-12.5")
-		    CheckText("text-of-unknown-encoding", TextOf(N(TextOf12Point5(Nil, 195, 169))), "12.5")
+		    CheckText("text-of-unknown-encoding", TextOf(N(DefineEncoding(Accented12Point5, Nil))), "12.5")
 		  Catch e As RuntimeException
 		    Unexpected("text-of-unknown-encoding", e)
 		  End Try
@@ -90,7 +90,7 @@ Protected Module HostTexts
 		    Dim number As New BigNumberVQZ
 		    Dim rest As String
 		    Dim wasRead As Boolean
-		    number.SetStringValue(TextOf12Point5(Encodings.UTF8, 195, 169), 10, rest, wasRead)
+		    number.SetStringValue(Accented12Point5, 10, rest, wasRead)
 		    CheckInteger("text-returned-as-utf8", Len(rest), 1)
 		    CheckText("text-returned-as-utf8", number.GetStringValue(10, False, 15, -1, True, "."), "12.5")
 		  Catch e As RuntimeException
