@@ -72,6 +72,12 @@ class ReleaseTest(unittest.TestCase):
         settings = (self.unpacked / "SelfTest/Settings.xojo_code").read_text()
         self.assertIn(f'Name = kLibraryVersion, Type = String, Dynamic = False, Default = \\"{number}"', settings)
 
+    def test_changes_stand_under_the_version(self) -> None:
+        """Not under a heading for what is still to be released."""
+        number = (self.source / "VERSION").read_text().split()[0]
+        versions = re.findall(r"^## \[(.*?)\]", (self.unpacked / "CHANGELOG.md").read_text(), re.M)
+        self.assertEqual(versions[0], number)
+
     def test_entries_tell_nothing_of_their_making(self) -> None:
         with zipfile.ZipFile(self.release) as archive:
             names = archive.namelist()

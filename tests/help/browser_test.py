@@ -313,6 +313,10 @@ class BrowserTest(unittest.TestCase):
         for width in (PHONE["width"], 320, *WIDTHS):
             page = self.open(PHONE | {"width": width})
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
+            if width in WIDTHS:
+                cut = page.locator(".wide").evaluate_all(
+                    "tables => tables.filter(table => table.scrollWidth > table.clientWidth).length")
+                self.assertEqual(cut, 0)
             page.fill("#search", "number")
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
 
