@@ -37,8 +37,8 @@ def with_places(message: str) -> str:
     return re.sub(r"\b[AB]\b(?=[ .])", r"<var>\g<0></var>", html.escape(message, quote=False))
 
 
-# Code within a text that is no longer stays on one line.
-SHORT = 20
+# Code within a text that is no longer stays on one line on a phone, too.
+SHORT = 26
 
 
 def inline_code(code: str) -> str:
