@@ -49,7 +49,7 @@ class ReleaseTest(unittest.TestCase):
         with zipfile.ZipFile(self.unpacked / "BigNumberVQZ.xojo_plugin") as plugin:
             library = plugin.extract(libraries_like(plugin, self.library)[0], self.unpacked.parent)
         command = [library if word == str(self.library) else word for word in self.command]
-        return subprocess.run([*command, *words], capture_output=True, check=False)
+        return subprocess.run([*command, *words], stdin=subprocess.DEVNULL, capture_output=True, check=False)
 
     def test_contents(self) -> None:
         """All documents, the projects with the files that they list, and nothing else."""
@@ -109,7 +109,8 @@ class ReleaseTest(unittest.TestCase):
         self.assertEqual(result.stdout.decode(), output)
 
     def test_an_example_of_the_project(self) -> None:
-        result = self.run_with_plugin(self.unpacked / "Examples/Examples.xojo_project", "tour")
+        result = self.run_with_plugin("--built-application",
+                                      self.unpacked / "Examples/Examples.xojo_project", "tour")
         self.assertEqual((result.returncode, result.stderr), (0, b""))
         self.assertEqual(result.stdout, (self.source / "examples/tour.expected").read_bytes())
 

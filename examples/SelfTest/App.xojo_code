@@ -30,7 +30,14 @@ Inherits ConsoleApplication
 		  BiggerNumberChecks.Run
 		  HostObjects.RunLast
 		  
+		  #If DebugBuild Then
+		    Print "Enter closes this window."
+		  #EndIf
 		  Print Str(Checks.Count) + " checks, " + Str(Checks.Failed) + " failed"
+		  #If DebugBuild Then
+		    ' The console window of a program that the IDE runs is gone with the program.
+		    Call Input
+		  #EndIf
 		  If Checks.Failed > 0 Then
 		    Return 1
 		  End If
