@@ -71,6 +71,15 @@ endfunction()
 # How wide the host's Integer is.
 math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
 
+# What a program says that it runs on.
+if(WIN32)
+  set(platform "Windows")
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm)")
+  set(platform "Linux on ARM")
+else()
+  set(platform "Linux")
+endif()
+
 # The words with which a test starts the stand-in host: under Wine where that is needed.
 set(standin_command ${CMAKE_CROSSCOMPILING_EMULATOR} "$<TARGET_FILE:standin>"
   --library "$<TARGET_FILE:BigNumberVQZ>")
@@ -92,7 +101,7 @@ function(add_program_tests folder)
     endif()
     add_project_test(NAME "${folder}/${stem}"
       COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/run_program.py" --bits ${bits}
-        "${program}" -- ${standin_command})
+        --platform "${platform}" "${program}" -- ${standin_command})
   endforeach()
 endfunction()
 

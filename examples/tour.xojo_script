@@ -66,10 +66,10 @@ Catch e As BigNumberErrorExceptionVQZ
 End Try
 
 Print "-- Nil reads as not a number"
-Dim nothing As BigNumberVQZ
-Print "nothing.IsNan: " + Str(nothing.IsNan)
+Dim unassigned As BigNumberVQZ
 Try
-  Print one + nothing
-Catch e As BigNumberErrorExceptionVQZ
+  Print "unassigned.IsNan: " + Str(unassigned.IsNan)
+  Print one + unassigned
+Catch e As RuntimeException
   Print e.Message
 End Try

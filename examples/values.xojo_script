@@ -2,7 +2,8 @@
 ' the same conversions.
 
 Print "-- Integers are exact, from the smallest to the largest"
-Dim most As UInt64 = 18446744073709551615
+Dim most As UInt64 = 9223372036854775807         ' the largest literal of every version of Xojo
+most = most + most + 1
 Dim least As Int64 = -9223372036854775807 - 1
 Dim x As New BigNumberVQZ(most)
 Print x.GetStringValue(10, False, 20)            ' written out up to 10^20, not as 1.8...e+19

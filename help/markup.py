@@ -37,9 +37,23 @@ def with_places(message: str) -> str:
     return re.sub(r"\b[AB]\b(?=[ .])", r"<var>\g<0></var>", html.escape(message, quote=False))
 
 
+# Code within a text that is no longer stays on one line on a phone, too.
+SHORT = 26
+
+
+def inline_code(code: str) -> str:
+    """Code within a text. Where it is narrow, a long name may break in front of its capitals."""
+    shown = html.escape(code, quote=False)
+    if len(code) <= SHORT:
+        return f'<code class="short">{shown}</code>'
+    return f"<code>{re.sub('(?<=[a-z])(?=[A-Z])', '<wbr>', shown)}</code>"
+
+
 def with_code(text: str) -> str:
     """A text in which words between backticks are code."""
-    return re.sub(r"`([^`]+)`", r"<code>\1</code>", html.escape(text, quote=False))
+    texts = re.split(r"`([^`]+)`", text)
+    return "".join(inline_code(part) if index % 2 else html.escape(part, quote=False)
+                   for index, part in enumerate(texts))
 
 
 LABELS = {
@@ -65,6 +79,10 @@ def anchor_of(text: str) -> str:
     return re.sub(r"\W+", "-", text.lower()).strip("-")
 
 
+# The characters that a summary has at the most, but for a first sentence that is longer.
+SUMMARY = 170
+
+
 class Part:
     """What stands below one heading of a guide; the first part of a guide is what stands above all
     other headings. `html` is set once the examples have been run."""
@@ -77,11 +95,18 @@ class Part:
 
     @property
     def summary(self) -> str:
-        """The first sentence, as plain text."""
+        """The first sentences, as many as fit into two lines of a search result, as plain text."""
         paragraph = next((token for token in self.tokens if token.type == "inline"), None)
         words = "".join(" " if child.type == "softbreak" else child.content
                         for child in paragraph.children) if paragraph else ""
-        return re.split(r"(?<=[.?!])\s", " ".join(words.split()))[0].rstrip(":")
+        first, *others = re.split(r"(?<=[.?!])\s", " ".join(words.split()))
+        shown = first
+        for sentence in others:
+            if len(shown) + len(sentence) >= SUMMARY:
+                break
+            shown += " " + sentence
+        # A colon leads to what stands below the paragraph.
+        return re.sub(":$", ".", shown)
 
     def mentions(self, name: str) -> bool:
         """Whether the text, apart from its programs, has this name between backticks."""
@@ -126,9 +151,7 @@ class Guide:
 
     @staticmethod
     def _code_inline(tokens, index, _options, _env) -> str:
-        """Where it is narrow, a long name may break in front of its capitals."""
-        code = html.escape(tokens[index].content, quote=False)
-        return f"<code>{re.sub('(?<=[a-z])(?=[A-Z])', '<wbr>', code)}</code>"
+        return inline_code(tokens[index].content)
 
     def render(self) -> None:
         """Sets the HTML of the parts; their examples have been run."""

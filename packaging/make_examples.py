@@ -44,6 +44,8 @@ UseBuildsFolder=True
 WindowsBuildArchitecture=1
 WindowsName={NAME}.exe
 """
+# What the project prints last where the IDE runs it.
+LAST_LINE = "Enter closes this window."
 ROUTINE = re.compile(r"(Function|Sub) (\w+)")
 CONSTANT = re.compile(r"Const (\w+) = (\d+)")
 CATCHES = re.compile(r"\s*Try\b")
@@ -145,6 +147,11 @@ def application_text(examples: list[Example]) -> str:
             *(f"    Print \"  {example.script}\"" for example in examples),
             "    Return 1",
             "  End If",
+            "  #If DebugBuild Then",
+            "    ' The console window of a program that the IDE runs is gone with the program.",
+            f"    Print \"{LAST_LINE}\"",
+            "    Call Input",
+            "  #EndIf",
             "  Return 0",
             "End Function"]
     return (f"#tag Class\nProtected Class App\nInherits ConsoleApplication\n{tagged('Event', run)}"

@@ -49,7 +49,7 @@ class ReleaseTest(unittest.TestCase):
         with zipfile.ZipFile(self.unpacked / "BigNumberVQZ.xojo_plugin") as plugin:
             library = plugin.extract(libraries_like(plugin, self.library)[0], self.unpacked.parent)
         command = [library if word == str(self.library) else word for word in self.command]
-        return subprocess.run([*command, *words], capture_output=True, check=False)
+        return subprocess.run([*command, *words], stdin=subprocess.DEVNULL, capture_output=True, check=False)
 
     def test_contents(self) -> None:
         """All documents, the projects with the files that they list, and nothing else."""
@@ -69,6 +69,14 @@ class ReleaseTest(unittest.TestCase):
     def test_names(self) -> None:
         number = (self.source / "VERSION").read_text().split()[0]
         self.assertEqual(self.release.name, f"BigNumberVQZ-{number}.zip")
+        settings = (self.unpacked / "SelfTest/Settings.xojo_code").read_text()
+        self.assertIn(f'Name = kLibraryVersion, Type = String, Dynamic = False, Default = \\"{number}"', settings)
+
+    def test_changes_stand_under_the_version(self) -> None:
+        """Not under a heading for what is still to be released."""
+        number = (self.source / "VERSION").read_text().split()[0]
+        versions = re.findall(r"^## \[(.*?)\]", (self.unpacked / "CHANGELOG.md").read_text(), re.M)
+        self.assertEqual(versions[0], number)
 
     def test_entries_tell_nothing_of_their_making(self) -> None:
         with zipfile.ZipFile(self.release) as archive:
@@ -101,7 +109,8 @@ class ReleaseTest(unittest.TestCase):
         self.assertEqual(result.stdout.decode(), output)
 
     def test_an_example_of_the_project(self) -> None:
-        result = self.run_with_plugin(self.unpacked / "Examples/Examples.xojo_project", "tour")
+        result = self.run_with_plugin("--built-application",
+                                      self.unpacked / "Examples/Examples.xojo_project", "tour")
         self.assertEqual((result.returncode, result.stderr), (0, b""))
         self.assertEqual(result.stdout, (self.source / "examples/tour.expected").read_bytes())
 

@@ -1,12 +1,13 @@
 """Runs a program in the host's language and compares what it does with the files beside it.
 
-usage: run_program.py [--bits 32|64] PROGRAM -- COMMAND...
+usage: run_program.py [--bits 32|64] [--platform NAME] PROGRAM -- COMMAND...
 
 PROGRAM is a script, NAME.xojo_script, or a project, NAME.xojo_project.
 
 The files bear the program's name, and lie beside it or in a folder `expected` there:
 
-  .expected   standard output, byte for byte
+  .expected   standard output, byte for byte, with PLATFORM where a program prints the system that it runs on,
+              whose name --platform tells
   .status     the exit status, where it is not 0
   .stderr     lines, or parts of lines, that standard error holds in this order
   .log        standard error, line for line, with ADDRESS for the address that a line of the debug
@@ -84,8 +85,9 @@ class Expectation:
 class Companions:
     """The files that belong to a program, or to a variant of its runs, on hosts of that many bits."""
 
-    def __init__(self, program: pathlib.Path, bits: int):
+    def __init__(self, program: pathlib.Path, bits: int, platform: str):
         self.bits = bits
+        self.platform = platform
         self.folders = [program.parent, program.parent / "expected"]
         self.stem = program.stem
 
@@ -124,7 +126,8 @@ class Companions:
         if output is None:
             sys.exit(f"{self.stem} has no expected output beside it")
         status = int(own_or_plain(".status") or 0)
-        return Expectation(output, status, own_or_plain(".stderr"), own_or_plain(".log"))
+        return Expectation(output.replace("PLATFORM", self.platform), status,
+                           own_or_plain(".stderr"), own_or_plain(".log"))
 
 
 def settings_and_words(line: str) -> tuple[dict[str, str], list[str]]:
@@ -154,10 +157,11 @@ def main() -> None:
     command = sys.argv[separator + 1:]
     parser = argparse.ArgumentParser(usage=__doc__.split("usage: ")[1])
     parser.add_argument("--bits", type=int, choices=(32, 64), default=32)
+    parser.add_argument("--platform", default="PLATFORM")
     parser.add_argument("program", type=pathlib.Path)
     given = parser.parse_args(sys.argv[1:separator])
     program = given.program
-    companions = Companions(program, given.bits)
+    companions = Companions(program, given.bits, given.platform)
     text = program.read_bytes()
     runs = {variant: companions.options(variant) for variant in companions.variants()}
     if given.bits == 64 and (AT_32_BITS_ONLY.search(text.decode(**output_check.ENCODING))

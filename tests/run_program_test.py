@@ -22,13 +22,14 @@ sys.exit(3 if fails else 0)
 """
 
 
-def outcome(files: dict[str, str], bits: int = 32) -> subprocess.CompletedProcess:
+def outcome(files: dict[str, str], bits: int = 32, platform: str = "Linux") -> subprocess.CompletedProcess:
     """Runs the program p.xojo_script of these files, named by what follows its "p"."""
     with tempfile.TemporaryDirectory() as folder:
         for name, text in files.items():
             (pathlib.Path(folder) / f"p{name}").write_text(text, encoding="utf-8")
         program = pathlib.Path(folder) / "p.xojo_script"
-        command = [sys.executable, RUNNER, "--bits", str(bits), program, "--", sys.executable, "-c", ECHO]
+        command = [sys.executable, RUNNER, "--bits", str(bits), "--platform", platform, program, "--",
+                   sys.executable, "-c", ECHO]
         return subprocess.run(command, capture_output=True, text=True, check=False)
 
 
@@ -46,6 +47,11 @@ class RunProgram(unittest.TestCase):
         self.assert_good({".xojo_script": "a\n", ".expected": "a\n"})
         self.assert_bad({".xojo_script": "a\n", ".expected": "a"}, "+a")
         self.assert_bad({".xojo_script": "a\n", ".expected": "a\r\n"}, "+++ actual")
+
+    def test_the_platform_stands_in_what_is_expected(self):
+        files = {".xojo_script": "on Windows\n", ".expected": "on PLATFORM\n"}
+        self.assertEqual(outcome(files, platform="Windows").returncode, 0)
+        self.assertEqual(outcome(files, platform="Linux").returncode, 1)
 
     def test_a_program_without_expected_output_is_an_error(self):
         self.assert_bad({".xojo_script": "a\n"}, "no expected output")

@@ -69,6 +69,11 @@ Inherits ConsoleApplication
 		    Print "  values"
 		    Return 1
 		  End If
+		  #If DebugBuild Then
+		    ' The console window of a program that the IDE runs is gone with the program.
+		    Print "Enter closes this window."
+		    Call Input
+		  #EndIf
 		  Return 0
 		End Function
 	#tag EndEvent

@@ -38,9 +38,14 @@ Protected Module ErrorsExample
 		  Next
 		  
 		  Section("NaN and Nil: both say IsNan, and computing with them fails")
-		  Dim nothing As BigNumberVQZ
-		  Print "NaN: " + Str(BigNumberVQZ.Nan.IsNan) + ", Nil: " + Str(nothing.IsNan)
-		  For Each x As BigNumberVQZ In Array(BigNumberVQZ.Nan, nothing)
+		  Print "NaN: " + Str(BigNumberVQZ.Nan.IsNan)
+		  Dim unassigned As BigNumberVQZ
+		  Try
+		    Print "Nil: " + Str(unassigned.IsNan)
+		  Catch e As NilObjectException
+		    Print "Nil: this version of Xojo calls no methods of it"
+		  End Try
+		  For Each x As BigNumberVQZ In Array(BigNumberVQZ.Nan, unassigned)
 		    Try
 		      Print seven + x
 		    Catch e As BigNumberErrorExceptionVQZ

@@ -406,8 +406,8 @@ Protected Module BigNumberChecks
 		      CheckFailed("BigNumberVQZ.DataMantissa too big", e, "OutOfBoundsException", "The parameter MemoryBlock.Size to method DataMantissa is too big. Range is " + size + " to " + size + ", but value is 999.")
 		    End Try
 		    Try
-		      Dim nothing As MemoryBlock
-		      x.DataMantissa = nothing
+		      Dim noBlock As MemoryBlock
+		      x.DataMantissa = noBlock
 		      MissFailure("BigNumberVQZ.DataMantissa Nil")
 		    Catch e As RuntimeException
 		      CheckFailed("BigNumberVQZ.DataMantissa Nil", e, "NilObjectException", "MemoryBlock is nil")
@@ -441,8 +441,8 @@ Protected Module BigNumberChecks
 		      CheckFailed("BigNumberVQZ.DataExponent too big", e, "OutOfBoundsException", "The parameter MemoryBlock.Size to method DataMantissa is too big. Range is " + size + " to " + size + ", but value is 999.")
 		    End Try
 		    Try
-		      Dim nothing As MemoryBlock
-		      x.DataExponent = nothing
+		      Dim noBlock As MemoryBlock
+		      x.DataExponent = noBlock
 		      MissFailure("BigNumberVQZ.DataExponent Nil")
 		    Catch e As RuntimeException
 		      CheckFailed("BigNumberVQZ.DataExponent Nil", e, "NilObjectException", "MemoryBlock is nil")
@@ -1157,18 +1157,18 @@ Protected Module BigNumberChecks
 		  Try
 		    Dim whole As Integer = -5
 		    CheckText("BigNumberVQZ.NumberWithInteger", Shown(BigNumberVQZ.NumberWithInteger(whole)), "-5")
-		    Dim wide As Int64 = -9007199254740993
-		    CheckText("BigNumberVQZ.NumberWithInt64", Shown(BigNumberVQZ.NumberWithInt64(wide)), "-9007199254740993")
 		    Dim narrow As Int32 = -2147483647
 		    CheckText("BigNumberVQZ.NumberWithInt32", Shown(BigNumberVQZ.NumberWithInt32(narrow)), "-2147483647")
-		    Dim wideUnsigned As UInt64 = 9007199254740993
-		    CheckText("BigNumberVQZ.NumberWithUInt64", Shown(BigNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
+		    Dim wide As Int64 = -9007199254740993
+		    CheckText("BigNumberVQZ.NumberWithInt64", Shown(BigNumberVQZ.NumberWithInt64(wide)), "-9007199254740993")
 		    Dim narrowUnsigned As UInt32 = 4294967295
 		    CheckText("BigNumberVQZ.NumberWithUInt32", Shown(BigNumberVQZ.NumberWithUInt32(narrowUnsigned)), "4294967295")
-		    Dim shortReal As Single = 0.1
-		    CheckText("BigNumberVQZ.NumberWithSingle", Shown(BigNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
+		    Dim wideUnsigned As UInt64 = 9007199254740993
+		    CheckText("BigNumberVQZ.NumberWithUInt64", Shown(BigNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
 		    Dim real As Double = 0.1
 		    CheckText("BigNumberVQZ.NumberWithDouble", Shown(BigNumberVQZ.NumberWithDouble(real)), "0.1000000000000000055511151231257827021181583404541015625")
+		    Dim shortReal As Single = 0.1
+		    CheckText("BigNumberVQZ.NumberWithSingle", Shown(BigNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
 		    Dim amount As Currency = 12.5
 		    CheckText("BigNumberVQZ.NumberWithCurrency", Shown(BigNumberVQZ.NumberWithCurrency(amount)), "12.5")
 		    CheckText("BigNumberVQZ.NumberWithString", Shown(BigNumberVQZ.NumberWithString("-12.25")), "-12.25")

@@ -406,8 +406,8 @@ Protected Module BiggerNumberChecks
 		      CheckFailed("BiggerNumberVQZ.DataMantissa too big", e, "OutOfBoundsException", "The parameter MemoryBlock.Size to method DataMantissa is too big. Range is " + size + " to " + size + ", but value is 999.")
 		    End Try
 		    Try
-		      Dim nothing As MemoryBlock
-		      x.DataMantissa = nothing
+		      Dim noBlock As MemoryBlock
+		      x.DataMantissa = noBlock
 		      MissFailure("BiggerNumberVQZ.DataMantissa Nil")
 		    Catch e As RuntimeException
 		      CheckFailed("BiggerNumberVQZ.DataMantissa Nil", e, "NilObjectException", "MemoryBlock is nil")
@@ -441,8 +441,8 @@ Protected Module BiggerNumberChecks
 		      CheckFailed("BiggerNumberVQZ.DataExponent too big", e, "OutOfBoundsException", "The parameter MemoryBlock.Size to method DataMantissa is too big. Range is " + size + " to " + size + ", but value is 999.")
 		    End Try
 		    Try
-		      Dim nothing As MemoryBlock
-		      x.DataExponent = nothing
+		      Dim noBlock As MemoryBlock
+		      x.DataExponent = noBlock
 		      MissFailure("BiggerNumberVQZ.DataExponent Nil")
 		    Catch e As RuntimeException
 		      CheckFailed("BiggerNumberVQZ.DataExponent Nil", e, "NilObjectException", "MemoryBlock is nil")
@@ -1157,18 +1157,18 @@ Protected Module BiggerNumberChecks
 		  Try
 		    Dim whole As Integer = -5
 		    CheckText("BiggerNumberVQZ.NumberWithInteger", Shown(BiggerNumberVQZ.NumberWithInteger(whole)), "-5")
-		    Dim wide As Int64 = -9007199254740993
-		    CheckText("BiggerNumberVQZ.NumberWithInt64", Shown(BiggerNumberVQZ.NumberWithInt64(wide)), "-9007199254740993")
 		    Dim narrow As Int32 = -2147483647
 		    CheckText("BiggerNumberVQZ.NumberWithInt32", Shown(BiggerNumberVQZ.NumberWithInt32(narrow)), "-2147483647")
-		    Dim wideUnsigned As UInt64 = 9007199254740993
-		    CheckText("BiggerNumberVQZ.NumberWithUInt64", Shown(BiggerNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
+		    Dim wide As Int64 = -9007199254740993
+		    CheckText("BiggerNumberVQZ.NumberWithInt64", Shown(BiggerNumberVQZ.NumberWithInt64(wide)), "-9007199254740993")
 		    Dim narrowUnsigned As UInt32 = 4294967295
 		    CheckText("BiggerNumberVQZ.NumberWithUInt32", Shown(BiggerNumberVQZ.NumberWithUInt32(narrowUnsigned)), "4294967295")
-		    Dim shortReal As Single = 0.1
-		    CheckText("BiggerNumberVQZ.NumberWithSingle", Shown(BiggerNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
+		    Dim wideUnsigned As UInt64 = 9007199254740993
+		    CheckText("BiggerNumberVQZ.NumberWithUInt64", Shown(BiggerNumberVQZ.NumberWithUInt64(wideUnsigned)), "9007199254740993")
 		    Dim real As Double = 0.1
 		    CheckText("BiggerNumberVQZ.NumberWithDouble", Shown(BiggerNumberVQZ.NumberWithDouble(real)), "0.1000000000000000055511151231257827021181583404541015625")
+		    Dim shortReal As Single = 0.1
+		    CheckText("BiggerNumberVQZ.NumberWithSingle", Shown(BiggerNumberVQZ.NumberWithSingle(shortReal)), "0.100000001490116119384765625")
 		    Dim amount As Currency = 12.5
 		    CheckText("BiggerNumberVQZ.NumberWithCurrency", Shown(BiggerNumberVQZ.NumberWithCurrency(amount)), "12.5")
 		    CheckText("BiggerNumberVQZ.NumberWithString", Shown(BiggerNumberVQZ.NumberWithString("-12.25")), "-12.25")

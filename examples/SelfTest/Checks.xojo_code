@@ -94,8 +94,23 @@ Protected Module Checks
 		    Return "OutOfBoundsException"
 		  ElseIf e IsA UnsupportedOperationException Then
 		    Return "UnsupportedOperationException"
+		  ElseIf e IsA OutOfMemoryException Then
+		    Return "OutOfMemoryException"
+		  ElseIf e IsA IllegalCastException Then
+		    Return "IllegalCastException"
+		  ElseIf e IsA StackOverflowException Then
+		    Return "StackOverflowException"
 		  End If
-		  Return "RuntimeException"
+		  Return "RuntimeException or another class of it"
+		End Function
+	#tag EndMethod
+
+	#tag Method, Flags = &h0
+		Function IntegerHas64Bits() As Boolean
+		  ' Found out while it runs: old hosts have no constant for it.
+		  Dim wide As Int64 = 4294967296
+		  Dim whole As Integer = wide
+		  Return whole <> 0
 		End Function
 	#tag EndMethod
 

@@ -66,26 +66,24 @@ Protected Module HostValues
 		    unsigned = unsigned + unsigned + 1
 		    CheckText("argument-uint64", TextOf(BigNumberVQZ.NumberWithUInt64(unsigned)), "18446744073709551615")
 		    CheckTrue("result-uint64", N("18446744073709551615").UInt64Value = unsigned)
-		    #If Target64Bit Then
-		      Dim whole As Integer = -9007199254740993
-		      Dim wholeDigits As String = "-9007199254740993"
-		    #Else
-		      Dim whole As Integer = -2147483647
-		      Dim wholeDigits As String = "-2147483647"
-		    #EndIf
+		    Dim whole As Integer = -2147483647
+		    Dim wholeDigits As String = "-2147483647"
+		    If IntegerHas64Bits Then
+		      whole = signed
+		      wholeDigits = "-9007199254740993"
+		    End If
 		    CheckText("argument-integer", TextOf(BigNumberVQZ.NumberWithInteger(whole)), wholeDigits)
 		    CheckTrue("result-integer", N(wholeDigits).IntegerValue = whole)
 		    Dim changed As New BigNumberVQZ
 		    changed.IntegerValue = whole
 		    CheckText("argument-integer", TextOf(changed), wholeDigits)
 		    #If RBVersion >= 2015 Then
-		      #If Target64Bit Then
-		        Dim unsignedWhole As UInteger = 9223372036854775807
-		        Dim unsignedDigits As String = "9223372036854775807"
-		      #Else
-		        Dim unsignedWhole As UInteger = 4294967295
-		        Dim unsignedDigits As String = "4294967295"
-		      #EndIf
+		      Dim unsignedWhole As UInteger = 4294967295
+		      Dim unsignedDigits As String = "4294967295"
+		      If IntegerHas64Bits Then
+		        unsignedWhole = unsigned
+		        unsignedDigits = "18446744073709551615"
+		      End If
 		      CheckText("argument-uinteger", TextOf(BigNumberVQZ.NumberWithUInteger(unsignedWhole)), unsignedDigits)
 		    #EndIf
 		  Catch e As RuntimeException

@@ -49,11 +49,11 @@ Protected Module HostVariants
 		  wideUnsigned = wideUnsigned + wideUnsigned + 1
 		  CheckVariant("variant-of-uint64", wideUnsigned, "18446744073709551615")
 		  Dim whole As Integer = -5
-		  #If Target64Bit Then
+		  If IntegerHas64Bits Then
 		    CheckVariant("variant-of-int64", whole, "-5")
-		  #Else
+		  Else
 		    CheckVariant("variant-of-int32", whole, "-5")
-		  #EndIf
+		  End If
 		End Sub
 	#tag EndMethod
 
@@ -76,10 +76,10 @@ Protected Module HostVariants
 		  CheckVariant("variant-of-string", "-12.5 metres", "-12.5")
 		  CheckVariant("variant-of-color", RGB(1, 2, 3), "66051")
 		  Try
-		    Dim nothing As Variant
-		    CheckTrue("variant-of-nil", BigNumberVQZ.NumberWithVariant(nothing) Is Nil)
+		    Dim unassigned As Variant
+		    CheckTrue("variant-of-nil", BigNumberVQZ.NumberWithVariant(unassigned) Is Nil)
 		    Dim number As BigNumberVQZ = N("77")
-		    number.VariantValue = nothing
+		    number.VariantValue = unassigned
 		    CheckText("variant-of-nil", TextOf(number), "0")
 		  Catch e As RuntimeException
 		    Unexpected("variant-of-nil", e)

@@ -6,7 +6,7 @@
 const MOST_HITS = 30;
 // How much a word of the query is worth by the place where it is found.
 const WORTH = {
-  name: 100, title: 80, synonym: 70, nameStart: 60, titleStart: 50, synonymStart: 40,
+  name: 100, title: 80, synonym: 70, synonymWord: 65, nameStart: 60, titleStart: 50, synonymStart: 40,
   summary: 30, summaryStart: 20, text: 8, textStart: 5, inside: 1,
 };
 // What the whole query is worth when it is all of a name, of a title or of a synonym, when it starts a
@@ -43,10 +43,7 @@ const entries = [...document.querySelectorAll("[data-anchor]")].map((element) =>
     names: names.split("|").filter(Boolean),
     wholeTitle: plain(title),
     titleWords: wordsOf(plain(title)),
-    synonymWords: [
-      ...synonyms.flatMap((synonym) => [synonym, ...wordsOf(synonym)]),
-      ...inner.split("|").filter(Boolean),
-    ],
+    synonymWords: [...synonyms.flatMap(wordsOf), ...inner.split("|").filter(Boolean)],
     summaryWords: wordsOf(plain(summary)),
     text: plain(element.textContent),
   };
@@ -62,7 +59,8 @@ function worthOf(word, entry) {
   const starts = (other) => other.startsWith(stem(word));
   if (entry.names.includes(word)) return WORTH.name;
   if (entry.titleWords.includes(word)) return WORTH.title;
-  if (entry.synonymWords.includes(word)) return WORTH.synonym;
+  if (entry.synonyms.includes(word)) return WORTH.synonym;
+  if (entry.synonymWords.includes(word)) return WORTH.synonymWord;
   if (!/[\p{L}\p{N}]/u.test(word)) return entry.text.includes(word) ? WORTH.inside : 0;
   if (entry.names.some(starts)) return WORTH.nameStart;
   if (entry.titleWords.some(starts)) return WORTH.titleStart;
@@ -147,10 +145,10 @@ function find(text) {
   const isCorrected = corrected.some((word, place) => word !== words[place]);
   found = ranked(corrected.join(" "), corrected, true);
   if (found.length > 0) {
-    return {found, instead: `Nothing has “${text.trim()}”. These have “${corrected.join(" ")}”:`};
+    return {found, instead: `No result for “${text.trim()}”. These are the results for “${corrected.join(" ")}”:`};
   }
   found = ranked(corrected.join(" "), corrected, false);
-  return {found, instead: found.length > 0 ? `Nothing has all of the words. These have some of “${
+  return {found, instead: found.length > 0 ? `No result has all of the words. These have some of “${
     isCorrected ? corrected.join(" ") : text.trim()}”:` : ""};
 }
 
@@ -188,7 +186,8 @@ function search() {
   instead.textContent = explanation;
   hits.replaceChildren(...found.slice(0, MOST_HITS).map(hitElement));
   more.hidden = found.length <= MOST_HITS;
-  more.textContent = `${found.length - MOST_HITS} more go less well with it.`;
+  more.textContent =
+    `These are the best ${MOST_HITS} of ${found.length} results. One more word leads to fewer.`;
   noHit.hidden = found.length > 0;
   count.textContent = found.length === 1 ? "1 result" : `${found.length} results`;
   showResults(true);

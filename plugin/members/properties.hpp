@@ -43,8 +43,8 @@ Print Str(balance.IsNegative))"}},
                      .summary = "Whether this is not a number; also true of Nil.",
                      .details = "Comparing cannot tell: NaN compares as equal to 0.",
                      .example = R"(
-Dim nothing As BigNumberVQZ
-Print Str(nothing.IsNan)
+Dim unassigned As BigNumberVQZ
+Print Str(unassigned.IsNan)
 Print Str(BigNumberVQZ.Zero.IsNan))"}},
         Row{.name = "IsInteger",
             .type = "Boolean",
@@ -223,8 +223,8 @@ number.DataMantissa = New MemoryBlock(31)
 Dim number As BigNumberVQZ = "1"
 number.DataMantissa = Nil
 
-Dim nothing As BigNumberVQZ
-Print Str(nothing.DataMantissa.Size))"}},
+Dim unassigned As BigNumberVQZ
+Print Str(unassigned.DataMantissa.Size))"}},
         Row{.name = "DataExponent",
             .type = "MemoryBlock",
             .getter = GetPart<Value, &Value::exponent>(),
@@ -248,8 +248,8 @@ number.DataExponent = New MemoryBlock(9)
 Dim number As BigNumberVQZ = "1"
 number.DataExponent = Nil
 
-Dim nothing As BigNumberVQZ
-Print Str(nothing.DataExponent.Size))"}},
+Dim unassigned As BigNumberVQZ
+Print Str(unassigned.DataExponent.Size))"}},
         Row{.name = "DataFlags",
             .type = "Integer",
             .getter = GetFlags<Value>(),
@@ -264,8 +264,8 @@ Dim debt As BigNumberVQZ = "-5"
 Print Str(debt.DataFlags)
 Print Str(BigNumberVQZ.Nan.DataFlags))",
                      .failing = R"(
-Dim nothing As BigNumberVQZ
-Print Str(nothing.DataFlags))"}},
+Dim unassigned As BigNumberVQZ
+Print Str(unassigned.DataFlags))"}},
     };
 }
 

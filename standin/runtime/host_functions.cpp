@@ -96,11 +96,12 @@ String BuildStringAs(const char* bytes, std::int32_t length, HostTextEncoding en
     if (length == 0) {
         return nullptr;
     }
-    const bool isWrong =
-        (encoding == HostTextEncoding::Utf8 && IsWrongAbout("text-returned-as-utf8")) ||
-        (encoding == HostTextEncoding::Ascii && IsWrongAbout("text-returned-as-ascii"));
-    return Current().strings.Make({bytes, static_cast<std::size_t>(length)},
-                                  isWrong ? HostTextEncoding::MacRoman : encoding);
+    if (encoding == HostTextEncoding::Utf8 && IsWrongAbout("text-returned-as-utf8")) {
+        encoding = HostTextEncoding::MacRoman;
+    } else if (encoding == HostTextEncoding::Ascii && IsWrongAbout("text-returned-as-ascii")) {
+        encoding = HostTextEncoding::Unknown;
+    }
+    return Current().strings.Make({bytes, static_cast<std::size_t>(length)}, encoding);
 }
 
 String BuildString(const char* bytes, std::int32_t length) noexcept {

@@ -160,12 +160,26 @@ class BrowserTest(unittest.TestCase):
         self.assertEqual(self.hits(page)[:2], ["acos", "acosh"])
         self.assertNotIn("asin", self.hits(page))
 
+    def test_ways_to_hexadecimal_text(self) -> None:
+        """Beside the best hit, the members that take the base as a parameter."""
+        page = self.open(DESKTOP)
+        for query in ("hex", "hexadecimal", "binary", "octal"):
+            with self.subTest(query=query):
+                page.fill("#search", query)
+                self.assertLessEqual({"getstringvalue", "setstringvalue"}, set(self.hits(page)[:6]))
+
+    def test_a_hit_shows_whole_sentences(self) -> None:
+        page = self.open(DESKTOP)
+        summaries = page.locator("[data-summary]").evaluate_all(
+            "entries => entries.map(entry => entry.dataset.summary)")
+        self.assertEqual([text for text in summaries if not re.search(r"[.?!]$", text)], [])
+
     def test_misspelt_and_missing_words(self) -> None:
         page = self.open(DESKTOP)
         for query, anchor, instead in (
-            ("sqrtt", "sqrt", "These have “sqrt”"),
-            ("hexadezimal", "stringvalue-integer", "These have “hexadecimal”"),
-            ("hex zzzzzz", "stringvalue-integer", "Nothing has all of the words."),
+            ("sqrtt", "sqrt", "the results for “sqrt”"),
+            ("hexadezimal", "stringvalue-integer", "the results for “hexadecimal”"),
+            ("hex zzzzzz", "stringvalue-integer", "No result has all of the words."),
         ):
             page.fill("#search", query)
             self.assertEqual(self.hits(page)[0], anchor)
@@ -219,6 +233,19 @@ class BrowserTest(unittest.TestCase):
                   return inner.top >= outer.top && inner.bottom <= outer.bottom;
                 }""")
             self.assertTrue(inside, anchor)
+
+    def test_marking_the_place_moves_nothing(self) -> None:
+        page = self.open(DESKTOP)
+        moved = page.locator("nav a").evaluate_all(
+            """links => links.filter(link => {
+              const sizes = [true, false].map(marked => {
+                link.toggleAttribute("aria-current", marked);
+                const box = link.getBoundingClientRect();
+                return `${box.width} ${box.height}`;
+              });
+              return sizes[0] !== sizes[1];
+            }).length""")
+        self.assertEqual(moved, 0)
 
     def test_contents_fold_on_a_phone(self) -> None:
         page = self.open(PHONE)
@@ -286,6 +313,10 @@ class BrowserTest(unittest.TestCase):
         for width in (PHONE["width"], 320, *WIDTHS):
             page = self.open(PHONE | {"width": width})
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
+            if width in WIDTHS:
+                cut = page.locator(".wide").evaluate_all(
+                    "tables => tables.filter(table => table.scrollWidth > table.clientWidth).length")
+                self.assertEqual(cut, 0)
             page.fill("#search", "number")
             self.assertEqual(page.evaluate("document.documentElement.scrollWidth"), width)
 

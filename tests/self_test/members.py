@@ -147,6 +147,29 @@ def constant(name: str, value: Callable[[], Decimal]) -> Member:
     return Member(f"Of{name}", f"$.{name}", [Inexact(f"$.{name}", f"$.{name}", value, 1)])
 
 
+# A value of each numeric type of the host but Integer: the type, a variable's name, the literal, the number
+# that it is.
+HOST_VALUES = (
+    ("Int32", "narrow", "-2147483647", -2147483647),
+    ("Int64", "wide", "-9007199254740993", -9007199254740993),
+    ("UInt32", "narrowUnsigned", "4294967295", 4294967295),
+    ("UInt64", "wideUnsigned", "9007199254740993", 9007199254740993),
+    ("Double", "real", "0.1", Fraction(0.1)),
+    ("Single", "shortReal", "0.1", Fraction(13421773, 2 ** 27)),
+    ("Currency", "amount", "12.5", "12.5"),
+)
+
+
+def of_host_values(name: str, expression: str) -> list[Statement | Exact]:
+    """A number made of each of them; # stands for the type, ~ for the variable."""
+    checks = []
+    for kind, variable, literal, value in HOST_VALUES:
+        checks += [Statement(name.replace("#", kind), f"Dim {variable} As {kind} = {literal}"),
+                   Exact(name.replace("#", kind),
+                         expression.replace("#", kind).replace("~", variable), value)]
+    return checks
+
+
 TWO_THIRDS = Fraction(2, 3)
 GUARDED = "kConstructorOfValue"
 BLOCK_MESSAGE = ("The parameter MemoryBlock.Size to method DataMantissa is too {word}. Range is {size} to "
@@ -166,7 +189,7 @@ def block_property(name: str) -> Member:
         Statement(of, f"CheckText(@, HexOf(x.{name}), HexOf(block))"),
         Fails(f"{of} too small", f"x.{name} = New MemoryBlock(3)", small, "OutOfBoundsException"),
         Fails(f"{of} too big", f"x.{name} = New MemoryBlock(999)", big, "OutOfBoundsException"),
-        Fails(f"{of} Nil", f"Dim nothing As MemoryBlock\nx.{name} = nothing",
+        Fails(f"{of} Nil", f"Dim noBlock As MemoryBlock\nx.{name} = noBlock",
               '"MemoryBlock is nil"', "NilObjectException"),
     ])
 
@@ -346,39 +369,13 @@ MEMBERS = [
               '"Constructor operation failed with number nil."'),
     ], "kConstructorOfString"),
     Member("OfConstructorOfValue", "$.Constructor", [
-        Statement("$.Constructor(Int32)", "Dim narrow As Int32 = -2147483647"),
-        Exact("$.Constructor(Int32)", "New $(narrow)", -2147483647),
-        Statement("$.Constructor(Int64)", "Dim wide As Int64 = -9007199254740993"),
-        Exact("$.Constructor(Int64)", "New $(wide)", -9007199254740993),
-        Statement("$.Constructor(UInt32)", "Dim narrowUnsigned As UInt32 = 4294967295"),
-        Exact("$.Constructor(UInt32)", "New $(narrowUnsigned)", 4294967295),
-        Statement("$.Constructor(UInt64)", "Dim wideUnsigned As UInt64 = 9007199254740993"),
-        Exact("$.Constructor(UInt64)", "New $(wideUnsigned)", 9007199254740993),
-        Statement("$.Constructor(Double)", "Dim real As Double = 0.1"),
-        Exact("$.Constructor(Double)", "New $(real)", Fraction(0.1)),
-        Statement("$.Constructor(Single)", "Dim shortReal As Single = 0.1"),
-        Exact("$.Constructor(Single)", "New $(shortReal)", Fraction(13421773, 2 ** 27)),
-        Statement("$.Constructor(Currency)", "Dim amount As Currency = 12.5"),
-        Exact("$.Constructor(Currency)", "New $(amount)", "12.5"),
+        *of_host_values("$.Constructor(#)", "New $(~)"),
         Exact("$.Constructor(other)", 'New $(N("-2.5"))', "-2.5"),
     ], GUARDED),
     Member("OfNumberWith", "$.NumberWith", [
         Statement("$.NumberWithInteger", "Dim whole As Integer = -5"),
         Exact("$.NumberWithInteger", "$.NumberWithInteger(whole)", -5),
-        Statement("$.NumberWithInt64", "Dim wide As Int64 = -9007199254740993"),
-        Exact("$.NumberWithInt64", "$.NumberWithInt64(wide)", -9007199254740993),
-        Statement("$.NumberWithInt32", "Dim narrow As Int32 = -2147483647"),
-        Exact("$.NumberWithInt32", "$.NumberWithInt32(narrow)", -2147483647),
-        Statement("$.NumberWithUInt64", "Dim wideUnsigned As UInt64 = 9007199254740993"),
-        Exact("$.NumberWithUInt64", "$.NumberWithUInt64(wideUnsigned)", 9007199254740993),
-        Statement("$.NumberWithUInt32", "Dim narrowUnsigned As UInt32 = 4294967295"),
-        Exact("$.NumberWithUInt32", "$.NumberWithUInt32(narrowUnsigned)", 4294967295),
-        Statement("$.NumberWithSingle", "Dim shortReal As Single = 0.1"),
-        Exact("$.NumberWithSingle", "$.NumberWithSingle(shortReal)", Fraction(13421773, 2 ** 27)),
-        Statement("$.NumberWithDouble", "Dim real As Double = 0.1"),
-        Exact("$.NumberWithDouble", "$.NumberWithDouble(real)", Fraction(0.1)),
-        Statement("$.NumberWithCurrency", "Dim amount As Currency = 12.5"),
-        Exact("$.NumberWithCurrency", "$.NumberWithCurrency(amount)", "12.5"),
+        *of_host_values("$.NumberWith#", "$.NumberWith#(~)"),
         Exact("$.NumberWithString", '$.NumberWithString("-12.25")', "-12.25"),
         Fails("$.NumberWithString of 1e999...", 'x = $.NumberWithString("1e" + ManyNines())',
               '"Constructor operation failed."'),
