@@ -4,8 +4,8 @@ include_guard()
 # build_quickly(target [HEADERS header...])
 #
 # Reads the standard library's headers, and those named, once for all files of the target, and
-# optimises less. Sources include what they use nevertheless: the lint reads each of them without the
-# precompiled headers, and so do Clang and the coverage build.
+# optimises less. Sources include what they use nevertheless: tests/source_rules.py looks for that, and Clang,
+# the lint and the coverage build read each of them without the precompiled headers.
 function(build_quickly target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS")
   target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)

@@ -3,7 +3,8 @@
 usage: source_rules.py SOURCE_FOLDER
 
 Every folder of the plug-in is a layer: a file includes files of its own folder and of lower ones. The
-stand-in host and the plug-in know the binary interface and nothing of each other.
+stand-in host and the plug-in know the binary interface and nothing of each other. A file that is compiled with
+precompiled headers includes what it uses of them, itself or by way of the project's other files.
 """
 
 import pathlib
@@ -31,6 +32,27 @@ STANDIN_LAYERS = [INTERFACE, "standin/runtime", "standin/language", "standin"]
 # The one header that includes ttmath, and the folders that hold no sources of the project.
 TTMATH_HEADER = "number/kernels/specialisations.hpp"
 NOT_OURS = {".deps", ".git", "build"}
+
+# The file that lists the precompiled headers, the folders of what is compiled with them, and what each header has:
+# names that no other header is sure to bring along, though not all of them.
+PRECOMPILED_LIST = "cmake/QuickBuild.cmake"
+PRECOMPILED_FOR = ["standin", "tests"]
+PRECOMPILED = {
+    "algorithm": r"std::(?:min|max|clamp|ranges::(?:\w*(?:find|sort|copy|fill|count|equal|replace|transform|bound)\w*"
+                 r"|(?:any|all|none)_of|(?:min|max)_element|for_each|reverse|contains|unique))\b",
+    "array": r"std::(?:array|to_array)\b",
+    "cstdint": r"std::u?int(?:8|16|32|64|ptr)_t\b",
+    "functional": r"std::(?:function|less<>|invoke)\b",
+    "map": r"std::(?:multi)?map\b",
+    "memory": r"std::(?:unique_ptr|shared_ptr|make_unique|make_shared)\b",
+    "optional": r"std::(?:optional|nullopt)\b",
+    "string": r"std::(?:string|to_string|stoi|stoul|getline)\b",
+    "string_view": r"std::string_view\b",
+    "utility": r"std::(?:move|pair|exchange|swap|forward|in_range|cmp_\w+)\b",
+    "variant": r"std::(?:variant|get_if|holds_alternative|visit|monostate)\b",
+    "vector": r"std::vector\b",
+}
+COMMENT_OR_TEXT = re.compile(r'//.*|"(?:\\.|[^"\\\n])*"')
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 PLATFORM_TEST = re.compile(r"^\s*#.*\b(_WIN32|__MINGW32__|__linux__|__unix__)\b")
@@ -132,7 +154,37 @@ def missing_guards(sources: Sources):
             yield f"{name}: lacks #pragma once"
 
 
-RULES = [unknown_includes, wrong_directions, cycles, platform_leaks, includes_of_ttmath, missing_guards]
+def included(root: pathlib.Path, name: str, seen: set[str]) -> set[str]:
+    """The headers of the system that a file includes, itself or by way of the project's files."""
+    path = root / name
+    if name in seen or not path.exists():
+        return set()
+    seen.add(name)
+    headers = set()
+    for match in filter(None, map(INCLUDE.match, path.read_text(encoding="utf-8").splitlines())):
+        headers |= {match[2]} if match[1] == "<" else included(root, match[2], seen)
+    return headers
+
+
+def hidden_includes(sources: Sources):
+    """A missing include of a precompiled header is noticed where the headers are not precompiled only."""
+    listed = sources.root / PRECOMPILED_LIST
+    if listed.exists():
+        names = set(re.findall(r"^ +<(\w+)>$", listed.read_text(encoding="utf-8"), re.MULTILINE))
+        yield from (f"{PRECOMPILED_LIST}: <{name}> has no names in source_rules.py, or no line in this file"
+                    for name in sorted(names ^ PRECOMPILED.keys()))
+    for folder in PRECOMPILED_FOR:
+        for path in sorted((sources.root / folder).rglob("*.[ch]pp")):
+            name = path.relative_to(sources.root).as_posix()
+            text = COMMENT_OR_TEXT.sub("", path.read_text(encoding="utf-8"))
+            headers = included(sources.root, name, set())
+            for header, pattern in PRECOMPILED.items():
+                if header not in headers and (used := re.search(pattern, text)):
+                    yield f"{name}: include <{header}> for {used[0]}"
+
+
+RULES = [unknown_includes, wrong_directions, cycles, platform_leaks, includes_of_ttmath, missing_guards,
+         hidden_includes]
 
 
 def main() -> None:

@@ -87,6 +87,21 @@ class SourceRules(unittest.TestCase):
     def test_a_header_is_guarded(self):
         self.assertIn("lacks", *problems_of(source_rules.missing_guards, {"host/a.hpp": "\n"}))
 
+    def test_a_file_includes_what_it_uses_of_the_precompiled_headers(self):
+        files = {
+            "tests/a.cpp": "#include <vector>\nstd::vector<std::string> names;  // no std::map\n",
+            "tests/b.cpp": '#include "tests/b.hpp"\nstd::string text = "std::optional";\n',
+            "tests/b.hpp": "#pragma once\n#include <string>\n",
+        }
+        self.assertEqual(problems_of(source_rules.hidden_includes, files),
+                         ["tests/a.cpp: include <string> for std::string"])
+
+    def test_each_precompiled_header_has_its_names(self):
+        files = {"cmake/QuickBuild.cmake": "".join(f"      <{name}>\n" for name in source_rules.PRECOMPILED)}
+        self.assertEqual(problems_of(source_rules.hidden_includes, files), [])
+        files["cmake/QuickBuild.cmake"] += "      <span>\n"
+        self.assertIn("<span>", *problems_of(source_rules.hidden_includes, files))
+
 
 if __name__ == "__main__":
     unittest.main()

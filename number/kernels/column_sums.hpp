@@ -1,8 +1,8 @@
-// The column sums of a product with vectors of any width. `Lanes` is a traits class of the vector
-// width.
+// The column sums of a product with vectors of any width.
 #pragma once
 
 #include "number/kernels/limbs.hpp"
+#include "number/kernels/vector_traits.hpp"
 
 namespace vqz::kernels {
 
@@ -13,7 +13,7 @@ static_assert(ColumnStep <= LimbPadding);
 /// One step: `Vectors` vectors of neighbouring columns from column k on. Each left limb is
 /// multiplied by the run of right limbs that falls in these columns; where the run leaves the
 /// factor it meets the padding.
-template <typename Lanes, int Stride, int Vectors>
+template <VectorLanes Lanes, int Stride, int Vectors>
 inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
                            int k, DoubleWord* sums) {
     typename Lanes::Vector totals[Vectors] = {};
@@ -41,7 +41,7 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
 /// `first` to before `last`; up to ColumnStep - 1 sums more are written. At most 2^8 products fall
 /// in a column. `right` has LimbPadding zero limbs below and above its own. Steps are of four
 /// vectors, which share each broadcast limb, and at the end of two.
-template <typename Lanes, int Stride = 1>
+template <VectorLanes Lanes, int Stride = 1>
 inline void ColumnSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
                        int first, int last, DoubleWord* sums) {
     constexpr int Step = 4 * Lanes::Count;

@@ -1,5 +1,4 @@
-// How the quotient of two long mantissas is computed with vectors of any width. `Lanes` is
-// a traits class of the vector width.
+// How the quotient of two long mantissas is computed with vectors of any width.
 //
 // It is schoolbook division with limbs as digits, rearranged in two ways.
 //
@@ -49,11 +48,12 @@
 #include BIGNUMBER_PROCESSOR_WORD_DIVISION
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/limbs.hpp"
+#include "number/kernels/vector_traits.hpp"
 
 namespace vqz::kernels {
 
 /// The quotient of mantissas of W words.
-template <typename Lanes, int W>
+template <VectorLanes Lanes, int W>
 class LimbDivision {
 public:
     /// See SizedVectorKernels::divide.

@@ -1,16 +1,16 @@
-// How the product of two long mantissas is computed with vectors of any width. `Lanes` is a
-// traits class of the vector width.
+// How the product of two long mantissas is computed with vectors of any width.
 #pragma once
 
 #include <algorithm>
 
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/limbs.hpp"
+#include "number/kernels/vector_traits.hpp"
 
 namespace vqz::kernels {
 
 /// The highest columns of a product, summed up as words that end before `productEnd`.
-template <typename Lanes, int W>
+template <VectorLanes Lanes, int W>
 void MultiplyLimbs(const LimbBuffer<W>& left, const LimbBuffer<W>& right, int columns,
                    Word* productEnd) {
     // Column k is limb k + 1 of the product; limb 0 is the carry out of column 0. A 0 is behind the

@@ -20,10 +20,13 @@
 
 #include BIGNUMBER_PROCESSOR_PAIR
 #include "number/kernels/instruction_set.hpp"
+#include "number/kernels/vector_traits.hpp"
 #include "number/kernels/words.hpp"
 
 namespace vqz::kernels {
 inline namespace BIGNUMBER_INSTRUCTION_SET {
+
+static_assert(VectorPair<Pair>, "vector_traits.hpp says what it lacks");
 
 /// A limb in the form that the multiplication takes: in the low 28 bits of a lane.
 using Limb = std::uint64_t;

@@ -1,14 +1,15 @@
 // How the tail of a series is computed with vectors of any width; series_tail.hpp explains what
-// is computed. `Lanes` is a traits class of the vector width.
+// is computed.
 #pragma once
 
 #include "number/kernels/column_sums.hpp"
 #include "number/kernels/series_tail.hpp"
+#include "number/kernels/vector_traits.hpp"
 
 namespace vqz::kernels {
 
 /// The tail of one series, whose numbers have W words.
-template <int W, typename Lanes>
+template <int W, VectorLanes Lanes>
 class SeriesTail {
 public:
     explicit SeriesTail(const TailStart& start)

@@ -7,10 +7,13 @@
 #include "number/kernels/limb_division.hpp"
 #include "number/kernels/limb_multiplication.hpp"
 #include "number/kernels/series_tail_steps.hpp"
+#include "number/kernels/vector_traits.hpp"
 
 namespace vqz::kernels {
 inline namespace BIGNUMBER_INSTRUCTION_SET {
 namespace {
+
+static_assert(VectorLanes<Lanes>, "vector_traits.hpp says what it lacks");
 
 template <int W>
 [[maybe_unused]] void Multiply(const Word* leftEnd, int leftCount, const Word* rightEnd,

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "standin/language/names.hpp"
 

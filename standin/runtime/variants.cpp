@@ -1,5 +1,6 @@
 #include "standin/runtime/variants.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>

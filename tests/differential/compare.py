@@ -10,12 +10,14 @@ cache, if there is one, for the next variants and runs. A thorough run takes an 
     compare.py --basic 1000000 --function 20000 --composed 2000 --text 20000 --cache build/differential
                build/linux-x86/bin/differential_{stock,kernels,sse2,forced}
 
-With a library, the variants are programs that call its members (plugin_differential.cpp); an emulator
-runs programs for Windows:
+With a library, the variants are programs that call its members (plugin_differential.cpp). An emulator
+runs the programs that are not for this machine:
 
     compare.py --basic 100000 --function 2000 --composed 200 --text 2000 --emulator scripts/wine
                --library build/windows-x86/BigNumberVQZ.dll
                build/linux-x86/bin/differential_stock build/windows-x86/bin/plugin_differential.exe
+    compare.py --basic 100000 --function 2000 --composed 200 --text 2000 --emulator scripts/qemu
+               build/linux-x86_64/bin/differential_stock build/linux-arm64/bin/differential_kernels
 """
 
 import argparse
@@ -28,11 +30,26 @@ import sys
 
 GROUPS = ["basic", "function", "composed", "text"]
 PRECISIONS = [256, 2048]
+# Processors as ELF files name them.
+I386, X86_64 = b"\x03\x00", b"\x3e\x00"
+
+
+def machine(program: pathlib.Path) -> bytes | None:
+    """The processor that an ELF file names; None for a file of another format, as of Windows."""
+    with program.open("rb") as file:
+        head = file.read(20)
+    return head[18:20] if head.startswith(b"\x7fELF") else None
+
+
+def is_foreign(program: pathlib.Path) -> bool:
+    """Whether this machine needs an emulator for the program. An x86-64 runs those for 32 bits as well."""
+    here = machine(pathlib.Path(sys.executable))
+    return machine(program) not in ([here, I386] if here == X86_64 else [here])
 
 
 def compute(options: argparse.Namespace, program: pathlib.Path, words: list[str]) -> list[str]:
     command = [str(program.resolve()), *words]
-    if options.emulator and program.suffix == ".exe":
+    if options.emulator and is_foreign(program):
         command.insert(0, options.emulator)
     return subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
 

@@ -12,7 +12,8 @@ hosts are tried, drawn with that seed; with --without only current ones that lac
 
 Hosts of 64 bits are of fewer ages. They show other things and are asked for other functions: for them
 FOLDER/missing-functions-64.txt takes the place of the first file. The lines of the log are the same ones
-there, in another order, since an Integer literal calls the overload for Int64.
+there, in another order, since an Integer literal calls the overload for Int64. widths_test.py says by which rules
+the two files differ.
 
 Where the environment variable STANDIN_CALL_RECORD names a file, the calls are recorded there as well.
 

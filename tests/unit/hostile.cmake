@@ -14,3 +14,5 @@ add_unit_tests(hostile_tests
     hostile/output_tests.cpp
   LIBRARIES hostile_test_support table_test_support unit_test_support standin_runtime)
 add_dependencies(hostile_tests BigNumberVQZ)
+target_compile_definitions(hostile_tests
+  PRIVATE "ARCHITECTURE_DOCUMENTATION=\"${PROJECT_SOURCE_DIR}/docs/ARCHITECTURE.md\"")

@@ -2,9 +2,11 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "standin_support.hpp"

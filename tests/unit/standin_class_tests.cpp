@@ -1,6 +1,7 @@
 // How the stand-in host reads the records of a plug-in, in both forms of their tables.
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "standin_support.hpp"

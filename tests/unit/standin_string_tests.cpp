@@ -2,6 +2,7 @@
 // handles them wrongly.
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>

@@ -4,10 +4,14 @@
 
 #include <algorithm>
 #include <bit>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 #include <doctest/doctest.h>
 
@@ -49,6 +53,17 @@ struct Size {
     static NumberType Fraction(const Mantissa& mantissa, std::int64_t exponent = 0,
                                std::uint8_t info = 0) {
         return Make(mantissa, exponent - Bits, info);
+    }
+    /// A number as the programs of tests/differential/ print it: flags, exponent and mantissa in
+    /// hexadecimal digits, the highest word first. Zeros at the mantissa's end may be left out.
+    static NumberType Printed(std::string_view line) {
+        NumberType number;
+        REQUIRE(line.size() > 3 + 8 * E);
+        REQUIRE((line[2] == ' ' && line[3 + 8 * E] == ' '));
+        number.info = static_cast<std::uint8_t>(FromHex(line.substr(0, 2)));
+        ReadWords(number.exponent, line.substr(3, 8 * E));
+        ReadWords(number.mantissa, line.substr(4 + 8 * E));
+        return number;
     }
     static NumberType Integer(Word value) {
         Mantissa mantissa{};
@@ -108,6 +123,23 @@ struct Size {
     static Output<E, W> Compute(Call call, const NumberType& first, const NumberType& second = {}) {
         const Input<E, W> input = {.first = first, .second = second, .word = 0, .text = {}};
         return with_kernels::Compute(call, input);
+    }
+
+private:
+    static Word FromHex(std::string_view digits) {
+        Word word = 0;
+        const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), word, 16);
+        REQUIRE((read.ec == std::errc() && read.ptr == digits.data() + digits.size()));
+        return word;
+    }
+    /// The words of `digits`, the highest first; the last digits and words may be missing.
+    static void ReadWords(std::span<Word> words, std::string_view digits) {
+        REQUIRE(digits.size() <= 8 * words.size());
+        for (std::size_t at = 0; at < digits.size(); at += 8) {
+            std::string word(digits.substr(at, 8));
+            word.resize(8, '0');
+            words[words.size() - 1 - at / 8] = FromHex(word);
+        }
     }
 };
 

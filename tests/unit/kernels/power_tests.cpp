@@ -9,6 +9,17 @@ constexpr auto PowerCalls = {Call::Pow, Call::PowInt, Call::PowUInt};
 
 }  // namespace
 
+TEST_CASE(
+    "an integer power whose exponent has the zero flag, with the operands as they are printed") {
+    const auto base = Small::Printed("00 FFFFFFFFFFFA51C6 8F28");
+    const auto power = Small::Printed("20 FFFFFFFFFFFFFF06 BC000000");
+    CHECK(base.mantissa == Small::Leading({0x8F280000}));
+    CHECK(base.exponent == Small::Make({}, -372282).exponent);
+    for (const Call call : PowerCalls) {
+        CHECK(Small::CheckLikePlain(call, base, power).number.mantissa == base.mantissa);
+    }
+}
+
 TEST_CASE_TEMPLATE("an integer power", S, Small, Large) {
     SUBCASE("whose exponent has the zero flag and a mantissa other than 0") {
         // The units bit is set, and ttmath multiplies once: the result is the base.

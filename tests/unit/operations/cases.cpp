@@ -5,6 +5,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "tests/unit/operations/number_building.hpp"
 

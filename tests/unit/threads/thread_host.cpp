@@ -1,9 +1,11 @@
 #include "tests/unit/threads/thread_host.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <cstring>
 #include <iterator>
 #include <memory>
+#include <thread>
 
 namespace host_interface {
 
@@ -76,10 +78,58 @@ void Lend(String text, std::uint32_t encoding, StringData* out) {
             .hostWord = 0};
 }
 
+/// How many threads meet at a lookup; 0 for none.
+std::atomic<int> meetingSize = 0;
+
+/// Where threads that look up one name meet. It orders nothing for ThreadSanitizer: all is relaxed.
+class Meeting {
+public:
+    void Join() {
+        const int size = meetingSize.load(std::memory_order_relaxed);
+        if (size == 0) {
+            return;
+        }
+        arrived_.fetch_add(1, std::memory_order_relaxed);
+        // Far longer than a busy machine takes.
+        const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(5);
+        while (arrived_.load(std::memory_order_relaxed) < size) {
+            if (std::chrono::steady_clock::now() > end) {
+                wasMissed_.store(true, std::memory_order_relaxed);
+                return;
+            }
+            std::this_thread::yield();
+        }
+        wasComplete_.store(true, std::memory_order_relaxed);
+    }
+
+    bool wasComplete() const { return wasComplete_.load(std::memory_order_relaxed); }
+    bool wasMissed() const { return wasMissed_.load(std::memory_order_relaxed); }
+
+private:
+    std::atomic<int> arrived_ = 0;
+    std::atomic<bool> wasComplete_ = false;
+    std::atomic<bool> wasMissed_ = false;
+};
+
 struct NamedFunction {
     const char* name;
     void* address;
 };
+
+/// What is looked up by other names than those of functions, and then kept.
+constexpr const char* VarTypeDeclaration = "VarType(value As Variant) As Integer";
+constexpr const char* KeptNames[] = {VarTypeDeclaration, "_VariantUInt32", "_VariantUInt64"};
+
+Meeting meetingsAtNames[std::size(KeptNames)];
+
+/// Meets other threads that look up this name, if it is one of `KeptNames`.
+void MeetAt(const char* name) {
+    for (std::size_t index = 0; index < std::size(KeptNames); ++index) {
+        if (std::strcmp(KeptNames[index], name) == 0) {
+            meetingsAtNames[index].Join();
+        }
+    }
+}
 
 /// A function of the host by the type that the plug-in calls it with.
 template <typename Type>
@@ -130,6 +180,7 @@ const NamedFunction Offered[] = {
     Offer<functions::REALUnlockObject>("REALUnlockObject", [](Object object) { Drop(object); }),
     Offer<functions::pluginObjectType>("pluginObjectType",
                                        [](const char* className) -> ClassReference {
+                                           MeetAt(className);
                                            for (ClassDefinition* definition : classes) {
                                                if (std::strcmp(definition->name, className) == 0) {
                                                    return reinterpret_cast<ClassReference>(
@@ -178,7 +229,8 @@ const NamedFunction Offered[] = {
     Offer<functions::REALSetPropValueInteger>(
         "REALSetPropValueInteger", [](Object, const char*, Integer) { return BooleanWord{1}; }),
     Offer<functions::REALLoadGlobalMethod>("REALLoadGlobalMethod",
-                                           [](const char*, const char*) -> void* {
+                                           [](const char*, const char* declaration) -> void* {
+                                               MeetAt(declaration);
                                                functions::VarType* const varType =
                                                    [](Object variant) {
                                                        return static_cast<Integer>(
@@ -190,6 +242,8 @@ const NamedFunction Offered[] = {
                                            }),
 };
 
+Meeting meetingsAtFunctions[std::size(Offered)];
+
 /// Drops a reference; true when it was the last one.
 template <typename Record>
 bool DropsLast(Record* record) {
@@ -199,12 +253,36 @@ bool DropsLast(Record* record) {
 }  // namespace
 
 void* Resolve(const char* name) {
-    for (const NamedFunction& function : Offered) {
-        if (std::strcmp(function.name, name) == 0) {
-            return function.address;
+    for (std::size_t index = 0; index < std::size(Offered); ++index) {
+        if (std::strcmp(Offered[index].name, name) == 0) {
+            meetingsAtFunctions[index].Join();
+            return Offered[index].address;
         }
     }
     return nullptr;
+}
+
+void MeetAtLookups(int threadCount) {
+    meetingSize.store(threadCount, std::memory_order_relaxed);
+}
+
+Meetings MeetingsAtLookups() {
+    Meetings all;
+    const auto add = [&](const char* name, const Meeting& meeting) {
+        if (meeting.wasComplete()) {
+            all.complete.emplace_back(name);
+        }
+        if (meeting.wasMissed()) {
+            all.missed.emplace_back(name);
+        }
+    };
+    for (std::size_t index = 0; index < std::size(Offered); ++index) {
+        add(Offered[index].name, meetingsAtFunctions[index]);
+    }
+    for (std::size_t index = 0; index < std::size(KeptNames); ++index) {
+        add(KeptNames[index], meetingsAtNames[index]);
+    }
+    return all;
 }
 
 const std::vector<ClassDefinition*>& Classes() {

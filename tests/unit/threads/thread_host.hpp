@@ -1,5 +1,6 @@
 // A host that runs code on several threads at once. It takes no locks and shares nothing between
-// objects, so that it puts nothing that threads of the plug-in do into an order.
+// objects, so that it puts nothing that threads of the plug-in do into an order: not even where
+// they wait for each other.
 #pragma once
 
 #include <atomic>
@@ -17,6 +18,18 @@ using host_interface::String;
 
 /// What `REALPluginMain` gets.
 void* Resolve(const char* name);
+
+/// Lets threads meet at each lookup whose result the plug-in keeps, of a function, a global method
+/// or a class: the lookup returns once that many threads ask for the same name. So each of them
+/// finds the result not yet kept, and keeps it itself. 0 ends that.
+void MeetAtLookups(int threadCount);
+
+/// The names that so many threads asked for at once, and those that some waited for in vain.
+struct Meetings {
+    std::vector<std::string> complete;
+    std::vector<std::string> missed;
+};
+Meetings MeetingsAtLookups();
 
 /// The records of the classes that the plug-in registered, in their order.
 const std::vector<host_interface::ClassDefinition*>& Classes();

@@ -321,9 +321,10 @@ TEST_CASE("Eight threads call every member on objects of their own and read one 
         const std::string sharedBefore = ValueBytes(*type, shared);
         REQUIRE(sharedBefore != "Nil");
 
-        constexpr std::size_t ThreadCount = 8;
+        constexpr int ThreadCount = 8;
         std::array<std::string, ThreadCount> seen;
         std::latch start(ThreadCount);
+        MeetAtLookups(ThreadCount);
         {
             std::vector<std::jthread> threads;
             threads.reserve(ThreadCount);
@@ -334,6 +335,7 @@ TEST_CASE("Eight threads call every member on objects of their own and read one 
                 });
             }
         }
+        MeetAtLookups(0);
         const std::string alone = CallEverything(*type, shared);
         for (const std::string& result : seen) {
             CHECK(result == alone);
@@ -343,6 +345,16 @@ TEST_CASE("Eight threads call every member on objects of their own and read one 
         Drop(shared);
     }
     CHECK(CountNow().alive == aliveBefore);
+
+    // Everything that is looked up once and kept was looked up by all threads at once: without
+    // that, the first one is usually done before another one asks.
+    const Meetings meetings = MeetingsAtLookups();
+    CHECK(meetings.missed == std::vector<std::string>{});
+    for (const std::string name : {"_VariantUInt32", "_VariantUInt64", "VariantToInt64",
+                                   "VariantToDouble", "VarType(value As Variant) As Integer"}) {
+        CAPTURE(name);
+        CHECK(std::ranges::count(meetings.complete, name) == 1);
+    }
 }
 
 TEST_CASE("The debug log can be switched while other threads compute") {
