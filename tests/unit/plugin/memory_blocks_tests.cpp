@@ -1,8 +1,10 @@
 // Making MemoryBlocks and looking into them.
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <new>
 #include <string>
+#include <vector>
 
 #include <doctest/doctest.h>
 
@@ -52,6 +54,17 @@ host_interface::Object ThrowOnce(const char* className) {
 host_interface::BooleanWord WriteAndFail(host_interface::Object, const char*, double* value) {
     *value = 7.5;
     return 0;
+}
+
+/// The host that `NoteWhatLives` looks at, and what lived there at its call.
+const standin::Host* watchedHost = nullptr;
+std::vector<std::string> living;
+
+/// "PluginNewInstance" that notes what lives when it is called.
+host_interface::Object NoteWhatLives(const char* className) {
+    living = watchedHost->Leaks();
+    using Function = host_interface::functions::PluginNewInstance;
+    return reinterpret_cast<Function*>(standin::Host::Resolve("PluginNewInstance"))(className);
 }
 
 host_interface::Object MakeNoBlock(std::int32_t) {
@@ -132,9 +145,17 @@ TEST_CASE("A native exception while the missing block is reported is the same er
     CHECK(TakeRaised(host) == OutOfMemory("3000000000"));
 }
 
-TEST_CASE("A block without data is given back") {
+TEST_CASE("A block without data is given back before the error is made") {
     DirectHost host(standin::HostOptions{.blocksWithoutData = true});
+    watchedHost = &host;
+    const Rebound newInstance(vqz::host::PluginNewInstance, &NoteWhatLives);
+    living = {"nothing was noted"};
     CHECK_FALSE(vqz::REALBuildMemoryblock("abc", 3));
+    CHECK_MESSAGE(std::ranges::none_of(living,
+                                       [](const std::string& line) {
+                                           return line.find("MemoryBlock") != std::string::npos;
+                                       }),
+                  tests::Joined(living));
     CHECK(TakeRaised(host) == OutOfMemory("3"));
 }
 
