@@ -63,4 +63,14 @@ EXPLAINED = [
         "while (getrandom(&value, sizeof value, (0+1)) != static_cast<ssize_t>(sizeof value)) {",
         "Nothing calls this function; it is there for the linker.",
     ),
+    Explained(
+        "Reset();",
+        "/*Reset();*/",
+        "The destructor's last step; nobody may look at the text after it.",
+    ),
+    Explained(
+        "if (factor != std::numeric_limits<std::int32_t>::min()) {",
+        "if (factor > std::numeric_limits<std::int32_t>::min()) {",
+        "No factor is less than the least one.",
+    ),
 ]
