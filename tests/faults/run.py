@@ -55,16 +55,22 @@ class Mutant:
     before: str
     after: str
 
+    def sound_lines(self) -> list[str]:
+        return (ROOT / self.file).read_text(encoding="utf-8").splitlines(keepends=True)
+
     def faulty_text(self) -> str:
-        lines = (ROOT / self.file).read_text(encoding="utf-8").splitlines(keepends=True)
+        lines = self.sound_lines()
         lines[self.line - 1] = self.after
         return "".join(lines)
 
     def reason_to_survive(self) -> str | None:
         """Why no test can notice it, if that is known."""
-        change = (self.before.strip(), self.after.strip())
-        reasons = [known.reason for known in EXPLAINED if (known.before, known.after) == change]
-        return reasons[0] if reasons else None
+        above = "".join(self.sound_lines()[: self.line - 1][-1:]).strip()
+        for known in EXPLAINED:
+            is_same = (known.before, known.after) == (self.before.strip(), self.after.strip())
+            if is_same and known.above in (None, above):
+                return known.reason
+        return None
 
     def __str__(self) -> str:
         return f"{self.file}:{self.line}: {self.before.strip()!r} -> {self.after.strip()!r}"

@@ -6,11 +6,13 @@ import dataclasses
 @dataclasses.dataclass(frozen=True)
 class Explained:
     """A line of a source file and what a mutant makes of it, both without the blanks around them,
-    and why no test can distinguish them."""
+    and why no test can distinguish them. Where the same line stands elsewhere, too, the one above it says
+    which is meant."""
 
     before: str
     after: str
     reason: str
+    above: str | None = None
 
 
 EXPLAINED = [
@@ -67,6 +69,7 @@ EXPLAINED = [
         "Reset();",
         "/*Reset();*/",
         "The destructor's last step; nobody may look at the text after it.",
+        above="}",
     ),
     Explained(
         "if (factor != std::numeric_limits<std::int32_t>::min()) {",
