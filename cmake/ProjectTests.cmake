@@ -131,11 +131,11 @@ endfunction()
 
 # add_prompt_test()
 #
-# The interactive prompt, with and without a terminal.
+# The interactive prompt, with and without a terminal, and that this build tree makes what it shows.
 function(add_prompt_test)
   add_project_test(NAME prompt AREAS prompt
     COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/prompt_test.py"
-      "${PROJECT_SOURCE_DIR}" -- ${standin_command})
+      "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}" -- ${standin_command})
 endfunction()
 
 # add_golden_tests(folder)

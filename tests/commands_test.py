@@ -253,6 +253,15 @@ class CommandsTest(unittest.TestCase):
                          ["windows-x86_64 BigNumberVQZ", "linux-x86_64 BigNumberVQZ",
                           "linux-arm64 BigNumberVQZ", "windows-x86 xojo_plugin release standin"])
 
+    def test_the_prompt_builds_the_help_of_its_target(self) -> None:
+        """That each target can build it is tested with the prompt."""
+        self.configure()
+        (self.project / "scripts/setup").write_text("#!/bin/bash\n")
+        for target in ("windows-x86_64", "linux-x86_64", "linux-arm64", "linux-x86"):
+            self.run_command("run", "--target", target, "-i")
+            self.assertEqual([line.partition("/build/")[2] for line in self.noted("built")],
+                             [f"{target} standin BigNumberVQZ help_page"])
+
     def test_a_test_of_the_package_makes_it(self) -> None:
         self.offer_tests()
         (self.project / "scripts/package").write_text('#!/bin/bash\necho made >>package\n')

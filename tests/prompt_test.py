@@ -1,6 +1,6 @@
 """The interactive prompt: what it prints for lines from a file, and for keys on a terminal.
 
-usage: prompt_test.py SOURCE_FOLDER -- COMMAND...
+usage: prompt_test.py SOURCE_FOLDER BUILD_FOLDER -- COMMAND...
 
 COMMAND starts the stand-in host with its library.
 """
@@ -64,7 +64,16 @@ class Terminal:
 
 class PromptTest(unittest.TestCase):
     source: pathlib.Path
+    build: pathlib.Path
     command: list[str]
+
+    def test_this_target_makes_what_the_prompt_needs(self) -> None:
+        """`./run -i` builds these for each of its targets."""
+        for name in ("standin", "BigNumberVQZ", "help_page"):
+            result = subprocess.run(
+                ["ninja", "-C", self.build, "-t", "query", name], capture_output=True, text=True
+            )
+            self.assertEqual(result.returncode, 0, result.stderr)
 
     def test_lines_from_a_file(self) -> None:
         folder = self.source / "tests/prompt"
@@ -144,7 +153,7 @@ class PromptTest(unittest.TestCase):
 
 
 def main() -> None:
-    PromptTest.source = pathlib.Path(sys.argv[1])
+    PromptTest.source, PromptTest.build = map(pathlib.Path, sys.argv[1:3])
     PromptTest.command = sys.argv[sys.argv.index("--") + 1 :]
     unittest.main(argv=sys.argv[:1])
 
