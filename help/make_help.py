@@ -1,4 +1,4 @@
-"""Makes the help: index.html, one page that needs nothing else, and members.txt, a plain text.
+"""Makes the help: index.html, one page that needs nothing else, and members.txt, a plain text for the prompt.
 
 usage: make_help.py MEMBERS.json VERSION OUTPUT_FOLDER -- COMMAND...
 
@@ -70,14 +70,22 @@ def links_of(member: Member, labels: dict[str, Link], guides: list[markup.Guide]
     return [link for link in related if link.is_code], guides_of
 
 
-def indented(text: str) -> str:
-    return textwrap.indent(text, "    ") + "\n"
+def other_words(anchor: str, data: PageData) -> list[str]:
+    """The line of members.txt with other words to find a block by, where there are any."""
+    return [f"? {', '.join(data.words[anchor])}"] if anchor in data.words else []
 
 
-def plain_text(member: Member) -> str:
+def guide_text(guide: markup.Guide, part: markup.Part, data: PageData) -> str:
+    """The block of members.txt for a part of a guide."""
+    place = part.title if part is guide.parts[0] else f"{guide.title}: {part.title}"
+    lines = [f"=== {part.title}", *other_words(part.anchor, data), place, ""]
+    return "\n".join(lines) + "\n" + part.text + "\n"
+
+
+def plain_text(member: Member, data: PageData) -> str:
     """A member's block of members.txt."""
     notes = f"  ({', '.join(member.notes)})" if member.notes else ""
-    lines = [f"== {member.name}", member.declaration + notes, ""]
+    lines = [f"== {member.name}", *other_words(member.anchor, data), member.declaration + notes, ""]
     lines += textwrap.wrap(f"{member.summary} {member.details}".replace("`", ""), 78)
     lines += [f"Units: {member.units}"] if member.units else []
     lines += [f"Range: {member.range}"] if member.range else []
@@ -85,8 +93,8 @@ def plain_text(member: Member) -> str:
         lines += textwrap.wrap(f"Fails for {member.fails}.", 78)
     lines += [f'Message: "{message}"' for message in member.messages]
     lines += [f"Debug log: {', '.join(member.log_names) or 'nothing'}"]
-    text = "\n".join(lines) + "\n\nExample:\n" + indented(member.example.code)
-    return text + "Prints:\n" + indented(member.example.output) + "\n"
+    text = "\n".join(lines) + "\n\nExample:\n" + markup.indented(member.example.code)
+    return text + "Prints:\n" + markup.indented(member.example.output) + "\n"
 
 
 def by_name(members: list[Member]) -> list[Member]:
@@ -144,8 +152,9 @@ def main() -> None:
         script=(HERE / "page" / "script.js").read_text(encoding="utf-8"))
     output = pathlib.Path(folder)
     (output / "index.html").write_text(page, encoding="utf-8", newline="\n")
-    (output / "members.txt").write_text("".join(map(plain_text, by_name(members))), encoding="utf-8",
-                                        newline="\n")
+    blocks = [plain_text(member, data) for member in by_name(members)]
+    blocks += [guide_text(guide, part, data) for guide in guides for part in guide.parts if part.text]
+    (output / "members.txt").write_text("".join(blocks), encoding="utf-8", newline="\n")
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 
 import html
 import re
+import textwrap
 
 from markdown_it import MarkdownIt
 
@@ -72,6 +73,11 @@ def example(shown: Example) -> str:
         f"<pre><samp>{html.escape(shown.output, quote=False)}</samp></pre></div></div>\n")
 
 
+def indented(text: str) -> str:
+    """A program or its output within a plain text."""
+    return textwrap.indent(text, "    ") + "\n"
+
+
 KINDS = {"prints": Kind.PRINTS, "raises": Kind.RAISES, "logs": Kind.LOGS, "rejected": Kind.REJECTED}
 
 
@@ -85,13 +91,14 @@ SUMMARY = 170
 
 class Part:
     """What stands below one heading of a guide; the first part of a guide is what stands above all
-    other headings. `html` is set once the examples have been run."""
+    other headings. `html`, and `text` for a terminal, are set once the examples have been run."""
 
     def __init__(self, title: str, anchor: str):
         self.title = title
         self.anchor = anchor
         self.tokens = []
         self.html = ""
+        self.text = ""
 
     @property
     def summary(self) -> str:
@@ -126,6 +133,7 @@ class Guide:
     def __init__(self, text: str, runner: ExampleRunner):
         self.markdown = MarkdownIt("commonmark", {"typographer": False}).enable("table")
         tokens = self.markdown.parse(text)
+        self.lines = text.splitlines()
         self.title = tokens[1].content
         self.anchor = anchor_of(self.title)
         self.examples = {}
@@ -154,11 +162,29 @@ class Guide:
         return inline_code(tokens[index].content)
 
     def render(self) -> None:
-        """Sets the HTML of the parts; their examples have been run."""
+        """Sets the HTML and the text of the parts; their examples have been run."""
         for part in self.parts:
             shown = self.markdown.renderer.render(part.tokens, self.markdown.options, {})
             part.html = re.sub(r"<table>.*?</table>", r'<div class="wide">\g<0></div>', shown,
                                flags=re.DOTALL)
+            part.text = self._plain_text(part)
+
+    def _plain_text(self, part: Part) -> str:
+        blocks = []
+        for token in part.tokens:
+            shown = self.examples.get(id(token))
+            if shown:
+                output = f"{LABELS[shown.kind]}:\n{indented(shown.output)}"
+                blocks.append(indented(shown.code) + output)
+            elif token.type == "fence":
+                blocks.append(indented(token.content.rstrip("\n")))
+            elif token.level == 0 and token.map:
+                source = "\n".join(self.lines[slice(*token.map)]).rstrip("\n")
+                words = re.sub(r"\[([^]]+)\]\([^)]+\)", r"\1", source).replace("`", "").replace("**", "")
+                words = re.sub(r"\*(?=\w)([^*]+)(?<=\w)\*", r"\1", words)
+                is_prose = token.type == "paragraph_open"
+                blocks.append((textwrap.fill(words, 78) if is_prose else words) + "\n")
+        return "\n".join(blocks)
 
     def append(self, other: "Guide") -> None:
         """Puts another guide, already rendered, below this one and under its title."""

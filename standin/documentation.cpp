@@ -43,52 +43,94 @@ std::vector<std::string_view> WordsOf(std::string_view text) {
     return words;
 }
 
-/// The first line of prose: one that ends like a sentence.
+/// The first sentence of the paragraph after the first empty line.
 std::string Summary(std::string_view text) {
+    while (!text.empty() && !TakeLine(text).empty()) {
+    }
+    std::string paragraph;
     while (!text.empty()) {
-        auto line = TakeLine(text);
-        line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-        if (line.ends_with('.')) {
-            return std::string(line);
+        const auto line = TakeLine(text);
+        if (line.empty()) {
+            break;
+        }
+        paragraph.append(paragraph.empty() ? "" : " ").append(line);
+        const auto end = paragraph.find(". ");
+        if (end != std::string::npos || line.ends_with('.')) {
+            return paragraph.substr(0, end == std::string::npos ? end : end + 1);
         }
     }
-    return {};
+    // A colon leads to what stands below the paragraph.
+    if (paragraph.ends_with(':')) {
+        paragraph.back() = '.';
+    }
+    return paragraph;
+}
+
+/// Whether a list with commas has the item, in any letter case.
+bool HasItem(std::string_view list, std::string_view item) {
+    constexpr std::string_view Separator = ", ";
+    while (!list.empty()) {
+        const auto end = list.find(Separator);
+        if (language::SameName(list.substr(0, end), item)) {
+            return true;
+        }
+        list.remove_prefix(end == std::string_view::npos ? list.size() : end + Separator.size());
+    }
+    return false;
 }
 
 }  // namespace
 
 Documentation::Documentation(std::string_view text) {
-    constexpr std::string_view Heading = "== ";
-    std::string* current = nullptr;
+    constexpr std::string_view MemberHeading = "== ";
+    constexpr std::string_view GuideHeading = "=== ";
+    constexpr std::string_view OtherWords = "? ";
+    Topic* current = nullptr;
     while (!text.empty()) {
         const auto line = TakeLine(text);
-        if (line.starts_with(Heading)) {
-            current = &texts_[std::string(line.substr(Heading.size()))];
-        } else if (current != nullptr) {
-            *current += std::string(line) + "\n";
+        if (line.starts_with(MemberHeading)) {
+            current = &topics_[std::string(line.substr(MemberHeading.size()))];
+        } else if (line.starts_with(GuideHeading)) {
+            current = &topics_[std::string(line.substr(GuideHeading.size()))];
+            current->subject = Subject::Guide;
+        } else if (current == nullptr) {
+            continue;
+        } else if (line.starts_with(OtherWords)) {
+            current->otherWords.append(current->otherWords.empty() ? "" : ", ")
+                .append(line.substr(OtherWords.size()));
+        } else {
+            current->text.append(line).append("\n");
         }
     }
 }
 
 std::string_view Documentation::Find(std::string_view name) const {
-    const auto found = texts_.find(name);
-    return found == texts_.end() ? std::string_view() : found->second;
+    const auto found = topics_.find(name);
+    return found == topics_.end() ? std::string_view() : found->second.text;
 }
 
-std::string Documentation::Matching(std::string_view question) const {
+bool Documentation::Fits(const std::string& name, const Topic& topic, std::string_view question) {
+    if (HasItem(topic.otherWords, question)) {
+        return true;
+    }
+    std::string all = name + " " + topic.otherWords;
+    if (topic.subject == Subject::Member) {
+        all.append(" ").append(topic.text);
+    }
+    const auto there = WordsOf(all);
     const auto words = WordsOf(question);
-    std::string found;
-    for (const auto& [name, text] : texts_) {
-        std::string all = name;
-        all.append(" ").append(text);
-        const auto there = WordsOf(all);
-        const bool fits = std::ranges::all_of(words, [&there](std::string_view word) {
-            return std::ranges::any_of(there, [word](std::string_view candidate) {
-                return language::SameName(candidate.substr(0, word.size()), word);
-            });
+    return !words.empty() && std::ranges::all_of(words, [&there](std::string_view word) {
+        return std::ranges::any_of(there, [word](std::string_view candidate) {
+            return language::SameName(candidate.substr(0, word.size()), word);
         });
-        if (fits && !words.empty()) {
-            found += "  " + name + ": " + Summary(text) + "\n";
+    });
+}
+
+std::string Documentation::Matching(std::string_view question, Subject subject) const {
+    std::string found;
+    for (const auto& [name, topic] : topics_) {
+        if (topic.subject == subject && Fits(name, topic, question)) {
+            found += "  " + name + ": " + Summary(topic.text) + "\n";
         }
     }
     return found;
@@ -96,7 +138,7 @@ std::string Documentation::Matching(std::string_view question) const {
 
 std::string Documentation::NamesWith(std::string_view part) const {
     std::string names;
-    for (const auto& [name, text] : texts_) {
+    for (const auto& [name, topic] : topics_) {
         if (ContainsName(name, part)) {
             names += "  " + name + "\n";
         }

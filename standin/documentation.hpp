@@ -9,24 +9,40 @@
 
 namespace standin {
 
-/// Texts by the names of members.
+/// What a text of the documentation is about.
+enum class Subject { Member, Guide };
+
+/// Texts by the names of members and by the titles of guides.
 class Documentation {
 public:
     Documentation() = default;
-    /// Reads a file's text: after each line `== Name` follows the text about that member. If
-    /// a name has several texts, they are shown in their order.
+    /// Reads a file's text: after each line `== Name` follows the text about that member, after
+    /// `=== Title` that of a guide. A line `? word, words` holds other words to find the text by.
+    /// Of a text, the paragraph after the first empty line begins with a summary. If a name has
+    /// several texts, they are shown in their order.
     explicit Documentation(std::string_view text);
 
-    /// The text of a member, in any letter case; empty when there is none.
+    bool IsEmpty() const { return topics_.empty(); }
+    /// The text of a member or guide, in any letter case; empty when there is none.
     std::string_view Find(std::string_view name) const;
-    /// Members whose texts hold all words of a question, in any letter case and with any ending: a
-    /// line each, with the first line that tells about it.
-    std::string Matching(std::string_view question) const;
+    /// Members or guides that a question is about, in any letter case: a line each, with the first
+    /// sentence of the text. They have the question among their other words, or hold all words of
+    /// the question with any ending: members in the whole text, guides in the title and the other
+    /// words.
+    std::string Matching(std::string_view question, Subject subject) const;
     /// The names that contain `part` in any letter case, each in a line of its own.
     std::string NamesWith(std::string_view part) const;
 
 private:
-    std::map<std::string, std::string, language::NameLess> texts_;
+    struct Topic {
+        Subject subject = Subject::Member;
+        std::string text;
+        std::string otherWords;
+    };
+
+    static bool Fits(const std::string& name, const Topic& topic, std::string_view question);
+
+    std::map<std::string, Topic, language::NameLess> topics_;
 };
 
 }  // namespace standin

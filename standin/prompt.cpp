@@ -25,8 +25,9 @@ constexpr std::string_view HelpText =
   Dim a As BigNumberVQZ = "1.5"
   a.Multiply("2e30")
 If, For, Function and the like run when their End is there.
-? NAME tells about a member, such as ? Sqrt, and ? WORDS finds members by what they do, such as
-? rounding. Ctrl-C stops what runs or what was typed; Quit or Ctrl-D ends.
+? NAME tells about a member, such as ? Sqrt, or shows a guide, such as ? Five traps; ? WORDS finds
+members, guides and recipes by what they are about, such as ? rounding. Ctrl-C stops what runs or
+what was typed; Quit or Ctrl-D ends.
 )";
 
 std::string_view Trim(std::string_view text) {
@@ -61,10 +62,17 @@ void Answer(const Documentation& documentation, std::string_view question) {
         WriteOutput(text);
         return;
     }
+    if (documentation.IsEmpty()) {
+        WriteOutput("There is no documentation to look in; ./run -i makes it and gives it.\n");
+        return;
+    }
     const auto similar = documentation.NamesWith(name);
-    const auto matching = documentation.Matching(words);
-    if (!matching.empty()) {
-        WriteOutput("Members that are about \"" + std::string(words) + "\":\n" + matching);
+    const auto members = documentation.Matching(words, Subject::Member);
+    const auto guides = documentation.Matching(words, Subject::Guide);
+    const auto about = " about \"" + std::string(words) + "\":\n";
+    WriteOutput(members.empty() ? "" : "Members that are" + about + members);
+    WriteOutput(guides.empty() ? "" : "Guides and recipes" + about + guides);
+    if (!members.empty() || !guides.empty()) {
         return;
     }
     WriteOutput("Nothing is known about \"" + std::string(name) + "\"" +

@@ -88,6 +88,12 @@ class PromptTest(unittest.TestCase):
         self.assertEqual(output_check.difference(expected, result.stdout), "")
         self.assertEqual(result.returncode, 0)
 
+    def test_no_documentation(self) -> None:
+        """The name may be right; it is the documentation that is missing."""
+        result = subprocess.run([*self.command, "-i"], input=b"? Sqrt\n", capture_output=True)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertIn(b"There is no documentation to look in", result.stdout)
+
     def test_input_that_ends_inside_a_block(self) -> None:
         result = subprocess.run(
             [*self.command, "-i"], input=b"If True Then\n", capture_output=True

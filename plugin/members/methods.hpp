@@ -81,11 +81,13 @@ Print BigNumberVQZ.Nan.Floor)"}},
                  "With `scientific` every number has an exponent; without it only where it is "
                  "above `scientificFrom` or below its negative. `round` is the number of "
                  "digits after the point, -1 for all of them; `TrimZeros` drops zeros at "
-                 "their end. `comma` gives the decimal mark by its first character. In base 10 "
-                 "the text is rounded to at most 77 significant digits (BiggerNumberVQZ: 617); "
-                 "zeros "
-                 "stand in the places of an integer after them. Base 16 shows all that the "
-                 "number holds. A failure is reported under the name DoubleValue.",
+                 "their end. A number that is 0 is always written as 0, without places; one "
+                 "that is rounded to 0 keeps its places and its sign, as in 0.00 and -0.00, or -0 "
+                 "with `TrimZeros`. `comma` gives the decimal mark by its first character. In "
+                 "base 10 the text is rounded to at most 77 significant digits "
+                 "(BiggerNumberVQZ: 617); zeros stand in the places of an integer after them. "
+                 "Base 16 shows all that the number holds. A failure is reported under the name "
+                 "DoubleValue.",
              .fails = "a base outside of 2 to 16, which gives an empty text",
              .example = R"(
 Dim third As BigNumberVQZ = "100"
