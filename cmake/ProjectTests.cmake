@@ -231,19 +231,24 @@ function(add_package_tests)
       "${package}" "$<TARGET_FILE:BigNumberVQZ>" "${PROJECT_SOURCE_DIR}" -- ${standin_command})
 endfunction()
 
+# add_help_contents_test()
+#
+# What the help says compared with what the library registers, and the help made a second time.
+function(add_help_contents_test)
+  add_project_test(NAME help/contents TARGETS help_page
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/help/contents_test.py"
+      "${PROJECT_BINARY_DIR}/help" "${PROJECT_VERSION}" -- ${standin_command})
+endfunction()
+
 # add_help_tests()
 #
-# What the help says compared with what the library registers, the help made a second time, what
-# its making refuses, and the page that is delivered in a browser.
+# The contents of the help, what its making refuses, and the page that is delivered in a browser.
 function(add_help_tests)
   set(tests "${PROJECT_SOURCE_DIR}/tests/help")
-  set(folder "${PROJECT_BINARY_DIR}/help")
-  add_project_test(NAME help/contents TARGETS help_page
-    COMMAND Python3::Interpreter "${tests}/contents_test.py"
-      "${folder}" "${PROJECT_VERSION}" -- ${standin_command})
+  add_help_contents_test()
   if(WIN32)
     add_project_test(NAME help/browser TARGETS help_page
-      COMMAND ${python_for_checks} "${tests}/browser_test.py" "${folder}/index.html")
+      COMMAND ${python_for_checks} "${tests}/browser_test.py" "${PROJECT_BINARY_DIR}/help/index.html")
   else()
     add_project_test(NAME help/examples
       COMMAND Python3::Interpreter "${tests}/examples_test.py" ${standin_command})

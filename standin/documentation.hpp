@@ -1,4 +1,4 @@
-// The documentation of the members, for people at the prompt.
+// The documentation of the members and the guides, for people at the prompt.
 #pragma once
 
 #include <map>

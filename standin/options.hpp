@@ -59,7 +59,7 @@ What kind of host to be:
 
 What ./run gives to the stand-in host:
   --library FILE       the plug-in library to load
-  --documentation FILE what -i tells about the members, and its guides
+  --documentation FILE the members and guides that ? shows at the prompt
   --prompts            -i shows where a line is expected
 
 Exit status: 0; 1 for an exception nobody caught; 2 for an error in the program or in the call;

@@ -76,7 +76,7 @@ Print Str(price.IntegerValue)
 price.IntegerValue = 20
 Print price)",
                      .failing = R"(
-Dim large As BigNumberVQZ = "2147483648"
+Dim large As BigNumberVQZ = "1e19"
 Print Str(large.IntegerValue)
 
 Dim loss As BigNumberVQZ = "-0.4"
