@@ -73,7 +73,7 @@ Status RunProgram(Host& host, Source& source, const language::TypeTable& types,
         }
         const language::Program program(source, types, line.arguments);
         SetLimits(host, line);
-        return static_cast<Status>(program.Run(host, process::WriteLine, line.maximumSteps));
+        return static_cast<Status>(program.Run(host, process::WriteAtOnce, line.maximumSteps));
     } catch (const language::ProgramError& error) {
         WriteError(source.Describe(error));
         return Status::Wrong;

@@ -21,8 +21,8 @@ std::string ReadStandardInput();
 void WriteOutput(std::string_view bytes);
 void WriteError(std::string_view bytes);
 void FlushOutput();
-/// Writes a line at once, after everything that was kept back.
-void WriteLine(std::string_view line);
+/// Writes bytes to standard output at once, after everything that was kept back.
+void WriteAtOnce(std::string_view bytes);
 
 /// From now on Ctrl-C calls `action` instead of ending the process; it may do no more than a signal
 /// handler. A read of standard input that waits fails then where the system lets it.

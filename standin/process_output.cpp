@@ -25,9 +25,8 @@ void FlushOutput() {
     kept.clear();
 }
 
-void WriteLine(std::string_view line) {
-    WriteOutput(line);
-    WriteOutput("\n");
+void WriteAtOnce(std::string_view bytes) {
+    WriteOutput(bytes);
     FlushOutput();
 }
 

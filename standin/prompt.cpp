@@ -101,7 +101,7 @@ bool RunFragment(Host& host, language::Session& session, const Source& fragment)
 int RunPrompt(Host& host, const language::TypeTable& types, const CommandLine& line) {
     const auto documentation = ReadDocumentation(line.documentation);
     process::OnInterrupt(language::Machine::Interrupt);
-    language::Session session(host, types, process::WriteLine, line.maximumSteps);
+    language::Session session(host, types, process::WriteAtOnce, line.maximumSteps);
     std::string fragment;
     const auto readLine = [&](std::string& text) {
         if (line.showsPrompts) {

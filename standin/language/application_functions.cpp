@@ -1,4 +1,5 @@
 // Functions that ask the application and the system, and those that read numbers strictly.
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <concepts>
@@ -11,7 +12,9 @@
 #include <type_traits>
 
 #include "standin/language/builtins.hpp"
+#include "standin/language/constants.hpp"
 #include "standin/language/operations.hpp"
+#include "standin/language/text.hpp"
 #include "standin/language/unicode.hpp"
 #include "standin/runtime/platform.hpp"
 
@@ -19,12 +22,33 @@ namespace standin::language {
 namespace {
 
 using Arguments = std::vector<Value>;
+using HostInteger = std::intptr_t;
 
 /// A message is a line of the output.
 Value ShowMessage(const Arguments& arguments, const Machine& machine) {
     machine.Print(machine.host().Utf8(arguments[0].text()));
     return {};
 }
+
+Value WriteText(const Arguments& arguments, const Machine& machine) {
+    machine.Write(machine.host().Utf8(arguments[0].text()));
+    return {};
+}
+
+/// All output appears at once.
+Value Flush(const Arguments& /*arguments*/, const Machine& /*machine*/) {
+    return {};
+}
+
+template <char... Characters>
+Value Constant(const Arguments& /*arguments*/, const Machine& machine) {
+    constexpr std::array Text{Characters...};
+    return machine.MakeText(std::string_view(Text.data(), Text.size()));
+}
+
+constexpr BuiltInFunction UnixEndOfLine = Constant<'\n'>;
+constexpr BuiltInFunction WindowsEndOfLine = Constant<'\r', '\n'>;
+constexpr BuiltInFunction ClassicEndOfLine = Constant<'\r'>;
 
 Value ObjectCount(const Arguments& /*arguments*/, const Machine& machine) {
     return Value::Of(machine.host().Counts().objectsAlive);
@@ -87,11 +111,31 @@ Value ParsedBits(const Arguments& arguments, const Machine& machine) {
     return Value::Of(bits.template Get<T>());
 }
 
+/// The number that a text begins with, else 0; whole digits exactly.
+template <typename T>
+Value Leading(const Arguments& arguments, const Machine& machine) {
+    const auto text = machine.host().Utf8(arguments[0].text());
+    if constexpr (std::integral<T>) {
+        const auto digits =
+            std::string_view(text).substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+        T number{};
+        const auto* const end = digits.data() + digits.size();
+        const auto result = std::from_chars(digits.data(), end, number);
+        const bool goesOn = result.ptr != end &&
+                            std::string_view(".eE").find(*result.ptr) != std::string_view::npos;
+        if (result.ec == std::errc{} && !goesOn) {
+            return Value::Of(number);
+        }
+        constexpr Kind To = sizeof(T) == 4 ? Kind::Int32 : Kind::Int64;
+        return FindConversion(Kind::Double, To)(Value::Of(NumberIn(text)), machine);
+    } else {
+        return Value::Of(NumberIn(text));
+    }
+}
+
 Value IsNumeric(const Arguments& arguments, const Machine& machine) {
     return Value::Of(NumberOf<double>(machine.host().Utf8(arguments[0].text())).has_value());
 }
-
-using HostInteger = std::intptr_t;
 
 constexpr auto Rows = std::to_array<BuiltInRow>({
     {"MessageBox(message As String)", ShowMessage},
@@ -101,6 +145,15 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Input() As String", ReadLine},
     {"ReadLine() As String", ReadLine, "StdIn"},
     {"WriteLine(text As String = \"\")", ShowMessage, "StdOut"},
+    {"Write(text As String)", WriteText, "StdOut"},
+    {"Flush()", Flush, "StdOut"},
+    {"EndOfLine() As String", IsWindows ? WindowsEndOfLine : UnixEndOfLine},
+    {"Windows() As String", WindowsEndOfLine, "EndOfLine"},
+    {"CRLF() As String", WindowsEndOfLine, "EndOfLine"},
+    {"UNIX() As String", UnixEndOfLine, "EndOfLine"},
+    {"LF() As String", UnixEndOfLine, "EndOfLine"},
+    {"Macintosh() As String", ClassicEndOfLine, "EndOfLine"},
+    {"CR() As String", ClassicEndOfLine, "EndOfLine"},
     {"ObjectCount() As Integer", ObjectCount, "Runtime"},
     {"MemoryUsed() As Integer", MemoryUsed, "Runtime"},
     {"FromString(text As String) As Integer", Parsed<HostInteger>, "Integer"},
@@ -117,9 +170,9 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"FromOctal(text As String) As Integer", ParsedBits<HostInteger, 8>, "Integer"},
     {"FromBinary(text As String) As Integer", ParsedBits<HostInteger, 2>, "Integer"},
     {"IsNumeric(text As String) As Boolean", IsNumeric},
-    {"ToInteger(text As String) As Integer", Parsed<HostInteger>},
-    {"ToInt64(text As String) As Int64", Parsed<std::int64_t>},
-    {"ToDouble(text As String) As Double", Parsed<double>},
+    {"ToInteger(text As String) As Integer", Leading<HostInteger>},
+    {"ToInt64(text As String) As Int64", Leading<std::int64_t>},
+    {"ToDouble(text As String) As Double", Leading<double>},
 });
 
 }  // namespace

@@ -27,7 +27,7 @@ syntax::Statement::Node StatementParser::ParseIf() {
     if (cursor_.TryTake(TokenKind::Else)) {
         result.otherwise = ParseBlock({TokenKind::End}, TokenKind::If, at);
     }
-    ExpectEnd(TokenKind::If);
+    ExpectBlockEnd(TokenKind::If);
     return result;
 }
 
@@ -49,6 +49,14 @@ void StatementParser::ExpectEnd(TokenKind what) {
     }
     errors_.Try([&] { cursor_.Expect(what); });
     SkipToEndOfLine();
+}
+
+void StatementParser::ExpectBlockEnd(TokenKind what) {
+    if (cursor_.IsAt(TokenKind::End) && cursor_.Following().kind == TokenKind::EndOfLine) {
+        cursor_.Take();
+        return;
+    }
+    ExpectEnd(what);
 }
 
 void StatementParser::ExpectLoopEnd(TokenKind what) {
@@ -76,7 +84,7 @@ syntax::Statement::Node StatementParser::ParseSelect() {
     if (cursor_.TryTake(TokenKind::Else)) {
         select.otherwise = ParseBlock({TokenKind::End}, TokenKind::Select, at);
     }
-    ExpectEnd(TokenKind::Select);
+    ExpectBlockEnd(TokenKind::Select);
     return select;
 }
 
@@ -218,7 +226,7 @@ syntax::Statement::Node StatementParser::ParseTry() {
     if (result.catches.empty() && !hasFinally) {
         cursor_.Fail(R"("Catch" or "Finally")");
     }
-    ExpectEnd(TokenKind::Try);
+    ExpectBlockEnd(TokenKind::Try);
     return result;
 }
 

@@ -13,6 +13,7 @@
 #include "standin/language/parser.hpp"
 #include "standin/language/text.hpp"
 #include "standin/language/unicode.hpp"
+#include "standin/language/variant_operations.hpp"
 
 namespace standin::language {
 namespace {
@@ -56,6 +57,23 @@ Value Digits(const Arguments& arguments, const Machine& machine) {
         return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
     });
     return machine.MakeText(text);
+}
+
+/// A real number without its fraction.
+template <int Base>
+Value DigitsOfReal(const Arguments& arguments, const Machine& machine) {
+    const auto whole = FindConversion(Kind::Double, Kind::Int64)(arguments[0], machine);
+    return Digits<std::uint64_t, Base>({whole}, machine);
+}
+
+/// As many bits as the value that the Variant holds has.
+template <int Base>
+Value DigitsOfVariant(const Arguments& arguments, const Machine& machine) {
+    const Kind held = HeldKind(arguments[0], machine);
+    const auto whole = FindUnboxing(Kind::Int64)(arguments[0], machine);
+    return held == Kind::Int32 || held == Kind::UInt32
+               ? Digits<std::uint32_t, Base>({whole}, machine)
+               : Digits<std::uint64_t, Base>({whole}, machine);
 }
 
 Value Val(const Arguments& arguments, const Machine& machine) {
@@ -236,6 +254,7 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Str(value As Double, pattern As String) As String", Formatted},
     {"Format(value As Double, pattern As String) As String", Formatted},
     {"Str(value As Boolean) As String", TextOfBoolean},
+    {"Str(value As Variant) As String", Unboxed<Kind::Text>},
     {"VarType(value As Variant) As Integer", VarType},
     {"VariantOfType(typeCode As Integer, value As Variant) As Variant", VariantOfType},
     {"RGB(red As Integer, green As Integer, blue As Integer) As Variant", MakeColor},
@@ -247,14 +266,20 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As Int64) As String", Digits<std::uint64_t, 16>},
     {"Hex(value As UInt64) As String", Digits<std::uint64_t, 16>},
+    {"Hex(value As Double) As String", DigitsOfReal<16>},
+    {"Hex(value As Variant) As String", DigitsOfVariant<16>},
     {"Oct(value As Int32) As String", Digits<std::uint32_t, 8>},
     {"Oct(value As UInt32) As String", Digits<std::uint32_t, 8>},
     {"Oct(value As Int64) As String", Digits<std::uint64_t, 8>},
     {"Oct(value As UInt64) As String", Digits<std::uint64_t, 8>},
+    {"Oct(value As Double) As String", DigitsOfReal<8>},
+    {"Oct(value As Variant) As String", DigitsOfVariant<8>},
     {"Bin(value As Int32) As String", Digits<std::uint32_t, 2>},
     {"Bin(value As UInt32) As String", Digits<std::uint32_t, 2>},
     {"Bin(value As Int64) As String", Digits<std::uint64_t, 2>},
     {"Bin(value As UInt64) As String", Digits<std::uint64_t, 2>},
+    {"Bin(value As Double) As String", DigitsOfReal<2>},
+    {"Bin(value As Variant) As String", DigitsOfVariant<2>},
     {"Len(text As String) As Integer", Length<Unit::Character>},
     {"LenB(text As String) As Integer", Length<Unit::Byte>},
     {"Left(text As String, length As Integer) As String", Left<Unit::Character>},
@@ -337,6 +362,15 @@ std::vector<BuiltIn> MakeBuiltIns(const TypeTable& types) {
                 }
             }
         }
+    }
+    for (auto& builtIn : builtIns) {
+        const auto& signature = builtIn.signature;
+        builtIn.isForVariantsOnly =
+            !signature.parameters.empty() &&
+            signature.parameters.front().type.kind == Kind::Variant &&
+            std::ranges::count_if(builtIns, [&signature](const BuiltIn& other) {
+                return SameName(other.signature.name, signature.name);
+            }) > 1;
     }
     return builtIns;
 }

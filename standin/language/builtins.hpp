@@ -29,6 +29,8 @@ std::span<const BuiltInRow> ApplicationFunctions();
 struct BuiltIn {
     Signature signature;
     BuiltInFunction function;
+    /// Whether it is the overload for Variants, which takes nothing that would become one first.
+    bool isForVariantsOnly = false;
 };
 
 /// All functions of the language.

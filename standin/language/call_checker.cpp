@@ -103,8 +103,10 @@ std::optional<Checked> ExpressionChecker::TryBuiltIn(const std::string& name, Ar
                                                      Position at) {
     Candidates candidates;
     std::vector<BuiltInFunction> functions;
+    const bool isVariant = !arguments.empty() && arguments.front().type.kind == Kind::Variant;
     for (const auto& builtIn : callables_.builtIns) {
-        if (SameName(builtIn.signature.name, name)) {
+        const bool isTaken = isVariant || !builtIn.isForVariantsOnly;
+        if (isTaken && SameName(builtIn.signature.name, name)) {
             candidates.push_back(&builtIn.signature);
             functions.push_back(builtIn.function);
         }

@@ -73,6 +73,7 @@ inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_
 /// What a running program needs around it.
 class Machine {
 public:
+    /// Takes the program's output as it is, with the ends of its lines.
     using Output = std::function<void(std::string_view utf8)>;
 
     Machine(Host& host, Output print, std::uint64_t maximumSteps)
@@ -83,7 +84,8 @@ public:
     Machine& operator=(const Machine&) = delete;
 
     Host& host() const { return host_; }
-    void Print(std::string_view utf8) const { print_(utf8); }
+    void Print(std::string_view line) const { print_(std::string(line) + '\n'); }
+    void Write(std::string_view utf8) const { print_(utf8); }
 
     /// Ends what runs, with Interrupted at its next step. A signal handler may call it.
     static void Interrupt() { interrupted_ = 1; }

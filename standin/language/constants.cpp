@@ -8,6 +8,7 @@
 
 #include "standin/language/operations.hpp"
 #include "standin/language/text.hpp"
+#include "standin/language/unicode.hpp"
 
 namespace standin::language {
 namespace {
@@ -100,9 +101,10 @@ std::optional<ConstantValue> Apply(BinaryOperator operation, const ConstantValue
         }
         const bool isEquality =
             operation == BinaryOperator::Equal || operation == BinaryOperator::NotEqual;
-        return isEquality ? std::optional<ConstantValue>(SameName(*leftText, *rightText) ==
-                                                         (operation == BinaryOperator::Equal))
-                          : std::nullopt;
+        return isEquality
+                   ? std::optional<ConstantValue>((Lowercase(*leftText) == Lowercase(*rightText)) ==
+                                                  (operation == BinaryOperator::Equal))
+                   : std::nullopt;
     }
     const auto leftNumber = NumberOf(left);
     const auto rightNumber = NumberOf(right);
@@ -196,11 +198,6 @@ const ConstantValue* Constants::Find(std::string_view name) const {
 }
 
 Constants HostConstants(const Host& host) {
-#ifdef _WIN32
-    constexpr bool IsWindows = true;
-#else
-    constexpr bool IsWindows = false;
-#endif
     constexpr bool Has64Bits = sizeof(void*) == 8;
 #if defined(__aarch64__) || defined(__arm__)
     constexpr bool IsArm = true;

@@ -14,6 +14,13 @@
 
 namespace standin::language {
 
+/// Whether programs run on Windows.
+#ifdef _WIN32
+inline constexpr bool IsWindows = true;
+#else
+inline constexpr bool IsWindows = false;
+#endif
+
 /// Constants by their names, also by those with a module in front: `Module.Name`.
 class Constants {
 public:

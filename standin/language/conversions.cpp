@@ -208,6 +208,9 @@ Checked ConvertTo(Checked value, Type to) {
     if (IsIncomplete(value.type) || IsIncomplete(to)) {
         throw FollowingError(value.at, "the class has an error");
     }
+    if (value.type.kind == Kind::Array && to.kind == Kind::Variant) {
+        throw ProgramError(value.at, "an array in a Variant is not supported here");
+    }
     throw ProgramError(value.at, "expected " + NameOf(to) + ", this is " + NameOf(value.type) +
                                      ConversionHint(value, to));
 }

@@ -11,10 +11,10 @@
 #include <vector>
 
 #include "standin/language/array_members.hpp"
-#include "standin/language/names.hpp"
 #include "standin/language/native_data.hpp"
 #include "standin/language/pair.hpp"
 #include "standin/language/text.hpp"
+#include "standin/language/unicode.hpp"
 
 namespace standin::language {
 namespace {
@@ -79,15 +79,13 @@ Entries& EntriesOf(const Arguments& arguments, const Machine& machine) {
     return *static_cast<Entries*>(machine.host().Held(arguments[0].object()));
 }
 
-/// Equal keys have the same name: numbers of one value, texts but for the case of ASCII letters, an
+/// Equal keys have the same name: numbers of one value, texts but for letter case, an
 /// object and itself.
 std::string NameOfKey(const Value& key, const Machine& machine) {
     Host& host = machine.host();
     const auto contents = host.VariantContents(key.object());
     if (std::holds_alternative<String>(contents)) {
-        auto text = host.Utf8(std::get<String>(contents));
-        std::ranges::transform(text, text.begin(), FoldCase);
-        return "t" + text;
+        return "t" + Lowercase(host.Utf8(std::get<String>(contents)));
     }
     if (std::holds_alternative<std::monostate>(contents)) {
         return "o" + std::to_string(reinterpret_cast<std::uintptr_t>(key.object()));

@@ -13,6 +13,7 @@
 #include "standin/language/conversions.hpp"
 #include "standin/language/errors.hpp"
 #include "standin/language/names.hpp"
+#include "standin/language/operations.hpp"
 #include "standin/language/overloads.hpp"
 #include "standin/language/scope.hpp"
 #include "standin/language/syntax.hpp"
@@ -186,6 +187,9 @@ private:
 
     Checked ApplyToNumbers(syntax::BinaryOperator operation, Checked left, Checked right,
                            Position at);
+    /// An operator on what Variants hold.
+    static Checked ApplyToVariants(BinaryFunction function, Checked left, Checked right,
+                                   Type result, Position at);
     Checked Compare(syntax::BinaryOperator operation, Checked left, Checked right, Position at);
     Checked CompareIdentity(syntax::BinaryOperator operation, Checked left, Checked right,
                             Position at);

@@ -32,6 +32,16 @@ double Larger(double left, double right) {
     return std::isnan(left) || left > right ? left : right;
 }
 
+/// Of two numbers and all that follow.
+template <double (*Function)(double, double)>
+Value OfAll(const Arguments& arguments, const Machine& /*machine*/) {
+    double result = Function(arguments[0].Get<double>(), arguments[1].Get<double>());
+    for (const auto& more : arguments[2].array()->items) {
+        result = Function(result, more.Get<double>());
+    }
+    return Value::Of(result);
+}
+
 Value Sign(const Arguments& arguments, const Machine& /*machine*/) {
     const auto value = arguments[0].Get<double>();
     return Value::Of((value > 0 ? 1 : 0) - (value < 0 ? 1 : 0));
@@ -72,8 +82,8 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"Exp(value As Double) As Double", Of<std::exp>},
     {"Floor(value As Double) As Double", Of<std::floor>},
     {"Log(value As Double) As Double", Of<std::log>},
-    {"Max(a As Double, b As Double) As Double", Of<Larger>},
-    {"Min(a As Double, b As Double) As Double", Of<Smaller>},
+    {"Max(a As Double, b As Double, ParamArray more As Double) As Double", OfAll<Larger>},
+    {"Min(a As Double, b As Double, ParamArray more As Double) As Double", OfAll<Smaller>},
     {"Pow(base As Double, exponent As Double) As Double", Of<std::pow>},
     {"Round(value As Double) As Double", Of<std::round>},
     {"Sign(value As Double) As Integer", Sign},
@@ -83,6 +93,8 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"Rnd() As Double", Random},
     {"Microseconds() As Double", Microseconds},
     {"Ticks() As Integer", Ticks},
+    {"Microseconds() As Double", Microseconds, "System"},
+    {"Ticks() As Integer", Ticks, "System"},
 });
 
 }  // namespace

@@ -6,10 +6,12 @@
 #include <cstdlib>
 #include <functional>
 #include <limits>
+#include <string>
 #include <utility>
 
 #include "standin/language/names.hpp"
 #include "standin/language/text.hpp"
+#include "standin/language/unicode.hpp"
 
 namespace standin::language {
 namespace {
@@ -255,6 +257,18 @@ Value MakeVariant(VariantTypeCode code, VariantValue contents, const Machine& ma
     return variant;
 }
 
+/// The class of an object; null for Nil and for a Variant that holds a value.
+const ClassInfo* ClassOfObject(const Value& object, const Machine& machine) {
+    if (object.object() == nullptr) {
+        return nullptr;
+    }
+    Host& host = machine.host();
+    const auto& actual = host.ClassOf(object.object());
+    const auto* variant = host.FindClass("Variant");
+    const bool holdsValue = variant != nullptr && actual.IsA(*variant);
+    return holdsValue ? nullptr : &actual;
+}
+
 /// What a number type is called in a Variant. Unsigned ones share the code of the signed ones.
 template <typename T>
 constexpr VariantTypeCode CodeOf = sizeof(T) == 4 ? VariantTypeCode::Int32 : VariantTypeCode::Int64;
@@ -289,6 +303,7 @@ Value BoxText(const Value& value, const Machine& machine) {
 
 template <typename T>
 Value UnboxNumber(const Value& value, const Machine& machine) {
+    RequireHeldValue(value, "number", machine);
     Host& host = machine.host();
     if constexpr (std::floating_point<T>) {
         return Value::Of(static_cast<T>(host.VariantAsDouble(value.object())));
@@ -303,6 +318,7 @@ Value UnboxNumber(const Value& value, const Machine& machine) {
 }
 
 Value UnboxBoolean(const Value& value, const Machine& machine) {
+    RequireHeldValue(value, "Boolean", machine);
     Host& host = machine.host();
     const auto text = Value::Adopt(host.VariantAsString(value.object()));
     return Value::Of(host.VariantAsDouble(value.object()) != 0.0 ||
@@ -310,6 +326,7 @@ Value UnboxBoolean(const Value& value, const Machine& machine) {
 }
 
 Value UnboxText(const Value& value, const Machine& machine) {
+    RequireHeldValue(value, "String", machine);
     return Value::Adopt(machine.host().VariantAsString(value.object()));
 }
 
@@ -330,13 +347,7 @@ Value JoinText(const Value& left, const Value& right, const Machine& machine) {
 
 std::partial_ordering OrderText(const Value& left, const Value& right) {
     Host& host = Host::Current();
-    const auto a = host.Utf8(left.text());
-    const auto b = host.Utf8(right.text());
-    return std::lexicographical_compare_three_way(
-        a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-            return static_cast<unsigned char>(FoldCase(x)) <=>
-                   static_cast<unsigned char>(FoldCase(y));
-        });
+    return Lowercase(host.Utf8(left.text())) <=> Lowercase(host.Utf8(right.text()));
 }
 
 /// Text by text, integers and amounts exactly, everything else as real numbers. Objects are equal
@@ -410,14 +421,16 @@ UnaryFunction FindUnboxing(Kind to) {
 }
 
 bool IsObjectOf(const Value& object, const ClassInfo& info, const Machine& machine) {
-    if (object.object() == nullptr) {
-        return false;
+    const auto* actual = ClassOfObject(object, machine);
+    return actual != nullptr && actual->IsA(info);
+}
+
+void RequireHeldValue(const Value& variant, std::string_view wanted, const Machine& machine) {
+    if (const auto* actual = ClassOfObject(variant, machine)) {
+        machine.Raise("TypeMismatchException",
+                      "The Variant holds an object of " + actual->name + ", which is no " +
+                          std::string(wanted) + "; assign it to a variable of that class first.");
     }
-    Host& host = machine.host();
-    const auto& actual = host.ClassOf(object.object());
-    const auto* variant = host.FindClass("Variant");
-    const bool holdsValue = variant != nullptr && actual.IsA(*variant);
-    return !holdsValue && actual.IsA(info);
 }
 
 void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine) {
@@ -449,6 +462,20 @@ UnaryFunction FindComplement(Kind kind) {
             return nullptr;
         }
     });
+}
+
+Kind WorkingKind(BinaryOperator operation, Kind common) {
+    switch (operation) {
+        case BinaryOperator::Power:
+            return Kind::Double;
+        case BinaryOperator::Divide:
+            return common == Kind::Single ? Kind::Single : Kind::Double;
+        case BinaryOperator::IntegerDivide:
+        case BinaryOperator::Modulo:
+            return IsInteger(common) ? common : Kind::Int64;
+        default:
+            return common;
+    }
 }
 
 BinaryFunction FindOperation(BinaryOperator operation, Kind kind) {

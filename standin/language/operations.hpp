@@ -2,6 +2,7 @@
 #pragma once
 
 #include <compare>
+#include <string_view>
 #include <vector>
 
 #include "standin/language/code.hpp"
@@ -17,9 +18,9 @@ using OrderFunction = std::partial_ordering (*)(const Value&, const Value&);
 /// and stops at the ends of 64 bits, NaN becomes 0; Currency rounds to four places.
 UnaryFunction FindConversion(Kind from, Kind to);
 
-/// A number, Boolean or text into a Variant, and a Variant as one of them. A Variant that is
-/// something else is converted as far as it can be, else 0, False or an empty text. Null for
-/// other kinds.
+/// A number, Boolean or text into a Variant, and a Variant as one of them. What a Variant holds is
+/// converted as far as it can be, else 0, False or an empty text; an object raises
+/// TypeMismatchException. Null for other kinds.
 UnaryFunction FindBoxing(Kind from);
 UnaryFunction FindUnboxing(Kind to);
 
@@ -28,6 +29,10 @@ template <Kind To>
 Value Unboxed(const std::vector<Value>& arguments, const Machine& machine) {
     return FindUnboxing(To)(arguments.front(), machine);
 }
+
+/// Raises TypeMismatchException for a Variant that is an object; `wanted` says what it is not. Nil
+/// passes.
+void RequireHeldValue(const Value& variant, std::string_view wanted, const Machine& machine);
 
 /// Whether an object is one of that class. Nil is of no class, and a Variant that holds a value is
 /// no object to a program.
@@ -40,13 +45,16 @@ UnaryFunction FindNegation(Kind kind);
 /// `Not value`: logical on Booleans, bitwise on integers; null on other kinds.
 UnaryFunction FindComplement(Kind kind);
 
+/// The kind in which the language computes an operator on numbers that meet in `common`.
+Kind WorkingKind(syntax::BinaryOperator operation, Kind common);
+
 /// An operator on two values of one kind: arithmetic (integers wrap; `\` and `Mod` raise a
 /// RuntimeException for a divisor of 0), `And`, `Or` and `Xor`, and `+` of text. Null where the
 /// operator is not one of the kind's.
 BinaryFunction FindOperation(syntax::BinaryOperator operation, Kind kind);
 
-/// How two values are ordered: numbers by value whatever their kinds, text without regard to the
-/// case of ASCII letters, Variants by what they hold. Null for kinds that have no order.
+/// How two values are ordered: numbers by value whatever their kinds, text without regard to
+/// letter case, Variants by what they hold. Null for kinds that have no order.
 OrderFunction FindOrder(Kind left, Kind right);
 
 /// Whether an order fulfils a comparison: Less for `<`, and so on. NaN fulfils `<>` only.

@@ -5,6 +5,7 @@
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/hints.hpp"
 #include "standin/language/operators.hpp"
+#include "standin/language/variant_operations.hpp"
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
@@ -35,6 +36,15 @@ bool HaveIdentity(const Checked& left, const Checked& right) {
     return IsObject(left) && IsObject(right) && (hasNil || !hasVariant);
 }
 
+/// Whether one operand is a Variant and the other one too or what one can hold, but no object.
+bool AreHeld(const Checked& left, const Checked& right) {
+    const auto isHeld = [](const Checked& value) {
+        return value.type.kind == Kind::Variant || FindBoxing(value.type.kind) != nullptr;
+    };
+    const bool hasVariant = left.type.kind == Kind::Variant || right.type.kind == Kind::Variant;
+    return hasVariant && isHeld(left) && isHeld(right);
+}
+
 /// Why an operator cannot stand between two operands.
 [[noreturn]] void FailOperator(BinaryOperator operation, const Checked& left, const Checked& right,
                                Position at) {
@@ -63,21 +73,6 @@ bool HaveIdentity(const Checked& left, const Checked& right) {
         message += ConversionHint(left, right.type);
     }
     throw ProgramError(at, message);
-}
-
-/// The kind in which the language itself computes an operator on numbers.
-Kind WorkingKind(BinaryOperator operation, Kind common) {
-    switch (operation) {
-        case BinaryOperator::Power:
-            return Kind::Double;
-        case BinaryOperator::Divide:
-            return common == Kind::Single ? Kind::Single : Kind::Double;
-        case BinaryOperator::IntegerDivide:
-        case BinaryOperator::Modulo:
-            return IsInteger(common) ? common : Kind::Int64;
-        default:
-            return common;
-    }
 }
 
 bool FitsIn(std::int64_t literal, Kind kind) {
@@ -135,7 +130,10 @@ Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
         isMinus && literal != nullptr) {
         return MakeReal(*literal, true, at);
     }
-    const auto function = isMinus ? FindNegation(type.kind) : FindComplement(type.kind);
+    const bool isMinusVariant = isMinus && type.kind == Kind::Variant;
+    const auto function = isMinusVariant ? NegateVariant
+                          : isMinus      ? FindNegation(type.kind)
+                                         : FindComplement(type.kind);
     if (function == nullptr) {
         throw ProgramError(at, std::string(isMinus ? "\"-\"" : "\"Not\"") +
                                    " cannot stand before " + NameOf(type));
@@ -178,6 +176,10 @@ Checked ExpressionChecker::Apply(BinaryOperator operation, Checked left, Checked
     if (IsNumber(left.type.kind) && IsNumber(right.type.kind)) {
         return ApplyToNumbers(operation, std::move(left), std::move(right), at);
     }
+    if (AreHeld(left, right)) {
+        return ApplyToVariants(FindVariantOperation(operation), std::move(left), std::move(right),
+                               {Kind::Variant}, at);
+    }
     const auto function =
         left.type == right.type ? FindOperation(operation, left.type.kind) : nullptr;
     if (function == nullptr) {
@@ -216,6 +218,19 @@ Checked ExpressionChecker::ApplyToNumbers(BinaryOperator operation, Checked left
             false};
 }
 
+Checked ExpressionChecker::ApplyToVariants(BinaryFunction function, Checked left, Checked right,
+                                           Type result, Position at) {
+    const Type variant{Kind::Variant};
+    auto leftCode = ConvertTo(std::move(left), variant).code;
+    auto rightCode = ConvertTo(std::move(right), variant).code;
+    return {std::make_unique<code::BinaryOperation>(function, std::move(leftCode),
+                                                    std::move(rightCode)),
+            result,
+            at,
+            {},
+            false};
+}
+
 Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Checked right,
                                    Position at) {
     if (auto result = TryCompareOperator(operation, left, right, at)) {
@@ -240,6 +255,10 @@ Checked ExpressionChecker::Compare(BinaryOperator operation, Checked left, Check
             left = ConvertTo(std::move(left), variant);
             right = ConvertTo(std::move(right), variant);
         }
+    }
+    const auto byValue = FindVariantComparison(operation);
+    if (byValue != nullptr && AreHeld(left, right)) {
+        return ApplyToVariants(byValue, std::move(left), std::move(right), {Kind::Boolean}, at);
     }
     const bool isOrdered = isEquality || left.type.kind == Kind::Enumeration ||
                            left.type.kind == Kind::Variant || left.type.kind == Kind::Text ||

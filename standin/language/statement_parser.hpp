@@ -44,6 +44,8 @@ public:
     /// Steps past the `End` of a block. Another word behind it than that of the block is an error,
     /// but ends the block as well.
     void ExpectEnd(TokenKind what);
+    /// The same for the end of a statement, where `End` alone will do.
+    void ExpectBlockEnd(TokenKind what);
     /// Adds an error for an `End` of something that is not open, and steps past its line.
     void RefuseEnd();
     /// After an error in what began with token `start`: goes behind the end of that, or to the line

@@ -8,7 +8,6 @@
 
 #include "standin/language/array_members.hpp"
 #include "standin/language/builtins.hpp"
-#include "standin/language/names.hpp"
 #include "standin/language/unicode.hpp"
 #include "standin/runtime/memory_budget.hpp"
 
@@ -23,6 +22,16 @@ std::string Utf8Of(const Value& text, const Machine& machine) {
     return machine.host().Utf8(text.text());
 }
 
+/// The offset in bytes behind that many characters, at most the end.
+std::size_t OffsetBehind(std::string_view text, Integer characters) {
+    std::size_t offset = 0;
+    for (; characters > 0 && offset < text.size(); --characters) {
+        const auto character = DecodeUtf8(text, offset);
+        offset += character ? character->size : 1;
+    }
+    return offset;
+}
+
 // Letters and blanks -----------------------------------------------------------------------------
 
 constexpr char RaiseCase(char character) {
@@ -30,22 +39,26 @@ constexpr char RaiseCase(char character) {
                                                 : character;
 }
 
-template <char (*Change)(char)>
+template <std::string (*Change)(std::string_view)>
 Value ChangeCase(const Arguments& arguments, const Machine& machine) {
-    auto text = Utf8Of(arguments[0], machine);
-    std::ranges::transform(text, text.begin(), Change);
-    return machine.MakeText(text);
+    return machine.MakeText(Change(Utf8Of(arguments[0], machine)));
 }
 
 /// The first letter of each word is large, the others are small.
 Value MakeTitle(const Arguments& arguments, const Machine& machine) {
-    auto text = Utf8Of(arguments[0], machine);
+    const auto text = Utf8Of(arguments[0], machine);
+    const auto large = Uppercase(text);
+    auto title = Lowercase(text);
     bool isFirst = true;
-    for (auto& character : text) {
-        character = isFirst ? RaiseCase(character) : FoldCase(character);
-        isFirst = Blanks.find(character) != std::string_view::npos;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const auto size = OffsetBehind(std::string_view(text).substr(offset), 1);
+        if (isFirst) {
+            title.replace(offset, size, large, offset, size);
+        }
+        isFirst = Blanks.find(text[offset]) != std::string_view::npos;
+        offset += size;
     }
-    return machine.MakeText(text);
+    return machine.MakeText(title);
 }
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
@@ -67,27 +80,6 @@ Value TrimText(const Arguments& arguments, const Machine& machine) {
 
 // Searching --------------------------------------------------------------------------------------
 
-/// Where `wanted` begins in the text from an offset on, without regard to the case of ASCII
-/// letters; npos without it.
-std::size_t Find(std::string_view text, std::string_view wanted, std::size_t from) {
-    const auto rest = text.substr(std::min(from, text.size()));
-    const auto* const found =
-        std::search(rest.begin(), rest.end(), wanted.begin(), wanted.end(),
-                    [](char a, char b) { return FoldCase(a) == FoldCase(b); });
-    const bool isThere = found != rest.end() || wanted.empty();
-    return isThere ? from + static_cast<std::size_t>(found - rest.begin()) : std::string_view::npos;
-}
-
-/// The offset in bytes behind that many characters, at most the end.
-std::size_t OffsetBehind(std::string_view text, Integer characters) {
-    std::size_t offset = 0;
-    for (; characters > 0 && offset < text.size(); --characters) {
-        const auto character = DecodeUtf8(text, offset);
-        offset += character ? character->size : 1;
-    }
-    return offset;
-}
-
 Integer CharactersIn(std::string_view text) {
     Integer count = 0;
     for (std::size_t offset = 0; offset < text.size(); ++count) {
@@ -98,7 +90,7 @@ Integer CharactersIn(std::string_view text) {
 
 /// The number of the first character of `wanted`, counted from 1; 0 without it.
 Integer NumberOf(std::string_view text, std::string_view wanted, Integer start) {
-    const auto found = Find(text, wanted, OffsetBehind(text, start - 1));
+    const auto found = Lowercase(text).find(Lowercase(wanted), OffsetBehind(text, start - 1));
     return found == std::string_view::npos ? 0 : CharactersIn(text.substr(0, found)) + 1;
 }
 
@@ -123,16 +115,13 @@ Value Contains(const Arguments& arguments, const Machine& machine) {
 }
 
 Value BeginsWith(const Arguments& arguments, const Machine& machine) {
-    const auto text = Utf8Of(arguments[0], machine);
-    const auto wanted = Utf8Of(arguments[1], machine);
-    return Value::Of(SameName(std::string_view(text).substr(0, wanted.size()), wanted));
+    const auto text = Lowercase(Utf8Of(arguments[0], machine));
+    return Value::Of(text.starts_with(Lowercase(Utf8Of(arguments[1], machine))));
 }
 
 Value EndsWith(const Arguments& arguments, const Machine& machine) {
-    const auto text = Utf8Of(arguments[0], machine);
-    const auto wanted = Utf8Of(arguments[1], machine);
-    const auto from = text.size() - std::min(text.size(), wanted.size());
-    return Value::Of(SameName(std::string_view(text).substr(from), wanted));
+    const auto text = Lowercase(Utf8Of(arguments[0], machine));
+    return Value::Of(text.ends_with(Lowercase(Utf8Of(arguments[1], machine))));
 }
 
 // Replacing, and fields between delimiters -------------------------------------------------------
@@ -142,13 +131,15 @@ enum class Times : std::uint8_t { Once, Always };
 template <Times How>
 Value Replace(const Arguments& arguments, const Machine& machine) {
     const auto text = Utf8Of(arguments[0], machine);
-    const auto wanted = Utf8Of(arguments[1], machine);
+    // Both are as long as before.
+    const auto small = Lowercase(text);
+    const auto wanted = Lowercase(Utf8Of(arguments[1], machine));
     const auto substitute = Utf8Of(arguments[2], machine);
     std::string result;
     std::size_t copied = 0;
     while (!wanted.empty()) {
-        const auto found = Find(text, wanted, copied);
-        if (found == std::string_view::npos) {
+        const auto found = small.find(wanted, copied);
+        if (found == std::string::npos) {
             break;
         }
         MemoryBudget::Require(result.size() + substitute.size());
@@ -175,9 +166,11 @@ FieldList Fields(std::string_view text, std::string_view delimiter) {
         }
         return fields;
     }
+    const auto small = Lowercase(text);
+    const auto smallDelimiter = Lowercase(delimiter);
     std::size_t start = text.empty() ? std::string_view::npos : 0;
     while (start != std::string_view::npos) {
-        const auto end = Find(text, delimiter, start);
+        const auto end = small.find(smallDelimiter, start);
         fields.push_back(text.substr(start, end - start));
         start = end == std::string_view::npos ? end : end + delimiter.size();
     }
@@ -326,8 +319,8 @@ Value DecodeBase64(const Arguments& arguments, const Machine& machine) {
 }
 
 constexpr auto Functions = std::to_array<BuiltInRow>({
-    {"Uppercase(text As String) As String", ChangeCase<RaiseCase>},
-    {"Lowercase(text As String) As String", ChangeCase<FoldCase>},
+    {"Uppercase(text As String) As String", ChangeCase<Uppercase>},
+    {"Lowercase(text As String) As String", ChangeCase<Lowercase>},
     {"Titlecase(text As String) As String", MakeTitle},
     {"Trim(text As String) As String", TrimText<WithoutBlanks>},
     {"LTrim(text As String) As String", TrimText<WithoutLeadingBlanks>},

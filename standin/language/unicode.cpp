@@ -1,5 +1,8 @@
 #include "standin/language/unicode.hpp"
 
+#include <algorithm>
+#include <array>
+
 namespace standin::language {
 namespace {
 
@@ -32,6 +35,79 @@ constexpr std::optional<Lead> LeadOf(unsigned char byte) {
         return Lead{4, byte & 0x07U, 0x10000};
     }
     return std::nullopt;
+}
+
+/// Capital letters, every `step`th character of a range, and how far behind each its small one is.
+struct Capitals {
+    char32_t first;
+    char32_t last;
+    char32_t step;
+    char32_t distance;
+
+    constexpr bool Contain(char32_t letter) const {
+        return letter >= first && letter <= last && (letter - first) % step == 0;
+    }
+};
+
+/// Capital and small letter need as many bytes of UTF-8.
+constexpr auto AllCapitals = std::to_array<Capitals>({
+    // Latin.
+    {U'A', U'Z', 1, 32},
+    {0xC0, 0xD6, 1, 32},
+    {0xD8, 0xDE, 1, 32},
+    {0x100, 0x12E, 2, 1},
+    {0x132, 0x136, 2, 1},
+    {0x139, 0x147, 2, 1},
+    {0x14A, 0x176, 2, 1},
+    {0x179, 0x17D, 2, 1},
+    {0x1E00, 0x1E94, 2, 1},
+    {0x1EA0, 0x1EFE, 2, 1},
+    // Greek.
+    {0x386, 0x386, 1, 38},
+    {0x388, 0x38A, 1, 37},
+    {0x38C, 0x38C, 1, 64},
+    {0x38E, 0x38F, 1, 63},
+    {0x391, 0x3A1, 1, 32},
+    {0x3A3, 0x3AB, 1, 32},
+    // Cyrillic.
+    {0x400, 0x40F, 1, 80},
+    {0x410, 0x42F, 1, 32},
+    {0x460, 0x480, 2, 1},
+    {0x48A, 0x4BE, 2, 1},
+    {0x4C1, 0x4CD, 2, 1},
+    {0x4D0, 0x52E, 2, 1},
+    // Armenian.
+    {0x531, 0x556, 1, 48},
+});
+
+char32_t SmallOf(char32_t letter) {
+    const auto* found = std::ranges::find_if(
+        AllCapitals, [letter](const Capitals& row) { return row.Contain(letter); });
+    return found == AllCapitals.end() ? letter : letter + found->distance;
+}
+
+char32_t CapitalOf(char32_t letter) {
+    const auto* found = std::ranges::find_if(
+        AllCapitals, [letter](const Capitals& row) { return row.Contain(letter - row.distance); });
+    return found == AllCapitals.end() ? letter : letter - found->distance;
+}
+
+template <char32_t (*Change)(char32_t)>
+std::string Changed(std::string_view utf8) {
+    std::string result;
+    result.reserve(utf8.size());
+    for (std::size_t offset = 0; offset < utf8.size();) {
+        const auto character = DecodeUtf8(utf8, offset);
+        const auto size = character ? character->size : 1;
+        const auto changed = character ? Change(character->codePoint) : 0;
+        if (character && changed != character->codePoint) {
+            result += EncodeUtf8(changed);
+        } else {
+            result += utf8.substr(offset, size);
+        }
+        offset += size;
+    }
+    return result;
 }
 
 }  // namespace
@@ -83,6 +159,14 @@ std::optional<std::size_t> FindInvalidUtf8(std::string_view text) {
         offset += character->size;
     }
     return std::nullopt;
+}
+
+std::string Lowercase(std::string_view utf8) {
+    return Changed<SmallOf>(utf8);
+}
+
+std::string Uppercase(std::string_view utf8) {
+    return Changed<CapitalOf>(utf8);
 }
 
 }  // namespace standin::language

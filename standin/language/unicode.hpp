@@ -24,4 +24,10 @@ std::string EncodeUtf8(char32_t codePoint);
 /// The offset of the first byte that is not part of well-formed UTF-8, if there is one.
 std::optional<std::size_t> FindInvalidUtf8(std::string_view text);
 
+/// Text with all letters small or capital, in the Latin, Greek, Cyrillic and Armenian alphabets.
+/// The size in bytes stays: letters whose other form has another size, as ß, are left as they are,
+/// and so are bytes that are not well-formed UTF-8.
+std::string Lowercase(std::string_view utf8);
+std::string Uppercase(std::string_view utf8);
+
 }  // namespace standin::language

@@ -121,7 +121,6 @@ constexpr std::string_view Names[] = {
     "DecodeURLComponent",
     "EncodeQuotedPrintable",
     "EncodeURLComponent",
-    "EndOfLine",
     "GenerateJSON",
     "GenerateUUID",
     "GotoURL",

@@ -129,9 +129,11 @@ TEST_CASE("how a property of a class is written") {
 TEST_CASE("what the host has is refused by its name") {
     SampleHost host;
     CHECK(host.Run("Print System.Random.InRange(1, 6)") ==
-          "1:7: of \"System\" only this is supported here: System.DebugLog");
-    CHECK(host.Run("StdOut.Write(\"x\")") ==
-          "1:1: of \"StdOut\" only this is supported here: StdOut.WriteLine");
+          "1:7: of \"System\" only this is supported here: System.Microseconds, System.Ticks, "
+          "System.DebugLog");
+    CHECK(host.Run("StdOut.Close") ==
+          "1:1: of \"StdOut\" only this is supported here: StdOut.WriteLine, StdOut.Write, "
+          "StdOut.Flush");
     CHECK(host.Run("StdErr.WriteLine(\"x\")") == "1:1: \"StdErr\" is not supported here");
     CHECK(host.Run("Dim r As New Random") == "1:14: the type \"Random\" is not supported here");
     CHECK(host.Run("Dim t As Introspection.TypeInfo") ==

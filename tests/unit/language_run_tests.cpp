@@ -345,6 +345,7 @@ TEST_CASE("text") {
     CHECK(host.Show("Hex(255)") == "FF");
     CHECK(host.Show("Hex(-1)") == PerWidth("FFFFFFFF", "FFFFFFFFFFFFFFFF"));
     CHECK(host.Show("Hex(4294967296)") == "100000000");
+    CHECK(host.Show("Hex(15.7) + Oct(-0.5) + Bin(2.9)") == "F010");
     CHECK(host.Show("Bin(5) + Oct(8)") == "10110");
     CHECK(host.Show("Val(\" 12.5e1x\")") == "125");
     CHECK(host.Show("Val(\"-&hFF\")") == "-255");
@@ -400,4 +401,16 @@ TEST_CASE("a million statements take little time") {
     SampleHost host;
     CHECK(host.Run("Dim s As Integer\nFor i As Integer = 1 To 1000000\ns = s + i Mod 7\nNext\n"
                    "Print Str(s)") == "2999998\n");
+}
+
+TEST_CASE("End alone closes a statement") {
+    SampleHost host;
+    CHECK(host.Run("If True Then\nPrint \"if\"\nElse\nPrint \"else\"\nEnd\nSelect Case 1\nCase 1\n"
+                   "Print \"case\"\nEnd\nTry\nPrint \"try\"\nFinally\nPrint \"last\"\nEnd") ==
+          "if\ncase\ntry\nlast\n");
+    CHECK(
+        host.Run("Function F() As Integer\nIf True Then\nReturn 5\nEnd ' of the If\nEnd Function\n"
+                 "Print Str(F)") == "5\n");
+    CHECK(host.Run("Function F() As Integer\nReturn 5\nEnd") ==
+          "3:4: expected \"Function\", found the end of the line");
 }

@@ -80,10 +80,7 @@ private:
         const standin::language::Source source("test", text);
         std::string output;
         try {
-            Way::Run(source, *this, [&output](std::string_view line) {
-                output += line;
-                output += '\n';
-            });
+            Way::Run(source, *this, [&output](std::string_view written) { output += written; });
         } catch (const standin::language::ProgramError& error) {
             const auto place = source.Locate(error.position());
             return std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
@@ -128,9 +125,8 @@ inline std::string RunProject(SampleHost& sample, const std::string& project,
                 return found == files.end() ? std::nullopt : std::optional(found->second);
             });
         const standin::language::Program program(source, sample.types(), arguments);
-        const int status = program.Run(sample.host(), [&output](std::string_view line) {
-            output += std::string(line) + "\n";
-        });
+        const int status =
+            program.Run(sample.host(), [&output](std::string_view written) { output += written; });
         return output + std::to_string(status);
     } catch (const standin::language::ProgramError& error) {
         const auto report = source.Describe(error);

@@ -58,12 +58,78 @@ TEST_CASE("a plug-in takes, changes and returns Variants") {
           "12\ntext\nTrue\nTrue\n7\n");
 }
 
+TEST_CASE("Variants are computed with by what they hold") {
+    SampleHost host;
+    CHECK(host.Run("Dim d As New Dictionary\nd.Value(\"a\") = 1\n"
+                   "d.Value(\"a\") = d.Value(\"a\") + 1\nd.Value(\"a\") += 1\n"
+                   "Print d.Value(\"a\")\nPrint d.Lookup(\"b\", 0) - 1") == "3\n-1\n");
+    const std::string three = "Dim v As Variant = 3\n";
+    CHECK(host.Run(three + "Print v * 2.5\nPrint Str(1 / v > 0.3)\nPrint 7 \\ v\nPrint 7 Mod v\n"
+                           "Print v ^ 2\nPrint -v\nPrint v Or 4\nPrint v + \"4\"\nPrint v + "
+                           "True") == "7.5\nTrue\n2\n1\n9\n-3\n7\n34\n4\n");
+    CHECK(host.Run(three + "Print Str(VarType(v + 1))\nPrint Str(VarType(v / 1))") ==
+          PerWidth("2", "3") + "\n5\n");
+    // Text joins text only; with a number it is the number that it begins with, and Nil is 0.
+    CHECK(host.Run("Dim v As Variant = \"5\", w As Variant = \"6\"\nPrint v + w\nPrint v + 6\n"
+                   "Print v * w\nv = Nil\nPrint v + 6") == "56\n11\n30\n6\n");
+    CHECK(host.Run("Dim v As Variant = True\nPrint v And False\nPrint v Xor False") ==
+          "False\nTrue\n");
+    CHECK(host.Run("Dim c As Currency = 0.1, v As Variant = c\nPrint v + v + v\nPrint "
+                   "Str(VarType(v + c))\nDim u As UInt64 = 18446744073709551614\nv = u\nPrint v + "
+                   "1\nDim i As Int64 = 3000000000\nv = i\nPrint v * 4") ==
+          "0.3\n6\n18446744073709551615\n12000000000\n");
+    CHECK(host.Run("Dim v As Variant = 1\nv = v \\ 0") ==
+          "Unhandled RuntimeException: Division by zero. (line 2)\n");
+    CHECK(host.Run("Dim v As Variant = \"1\"\nv = v And 1") ==
+          "Unhandled TypeMismatchException: \"And\" cannot stand between Variants that hold String "
+          "and Integer. (line 2)\n");
+}
+
+TEST_CASE("an object in a Variant is no value") {
+    SampleHost host;
+    const std::string make = "Dim v As Variant = New Sample(3)\n";
+    const auto message = [](const std::string& wanted) {
+        return "Unhandled TypeMismatchException: The Variant holds an object of Sample, which is "
+               "no " +
+               wanted + "; assign it to a variable of that class first. (line 2)\n";
+    };
+    CHECK(host.Run(make + "Print v") == message("String"));
+    CHECK(host.Run(make + "Print \"is \" + v") == message("String"));
+    CHECK(host.Run(make + "Print v.StringValue") == message("String"));
+    CHECK(host.Run(make + "Print Str(v)") == message("String"));
+    CHECK(host.Run(make + "Print CStr(v)") == message("String"));
+    CHECK(host.Run(make + "Print Str(v.DoubleValue)") == message("number"));
+    CHECK(host.Run(make + "Dim i As Integer = v") == message("number"));
+    CHECK(host.Run(make + "If v Then Print \"yes\"") == message("Boolean"));
+    CHECK(host.Run(make + "Print Str(v > 2)") == message("value to compute with"));
+    CHECK(host.Run(make + "Print v + 2") == message("value to compute with"));
+    CHECK(host.Run(make + "Print -v") == message("value to compute with"));
+    CHECK(host.Run(make + "Print Str(v = 3)\nPrint Str(v <> Nil)\nDim s As Sample = v\nPrint "
+                          "Str(s.Value)") == "False\nTrue\n3\n");
+}
+
+TEST_CASE("what a Variant holds as text and as digits") {
+    SampleHost host;
+    CHECK(host.Run("Dim v As Variant = 15\nPrint Str(v) + Hex(v) + v.StringValue\nv = 15.7\n"
+                   "Print Str(v) + Hex(v)\nv = \"9\"\nPrint Str(v) + Oct(v)\nDim i As Int32 = "
+                   "-1\nv = i\nPrint Hex(v)") == "15F15\n15.7F\n911\nFFFFFFFF\n");
+    // Only a Variant is taken as one: nothing becomes one to fit.
+    CHECK(host.Run("Print Hex(True)").starts_with("1:7: \"Hex\" does not take (Boolean)"));
+    CHECK(host.Run("Print Str(\"x\")").starts_with("1:7: \"Str\" does not take (String)"));
+}
+
 TEST_CASE("what cannot be done with Variants is told") {
     SampleHost host;
-    CHECK(host.Run("Dim v As Variant = 1\nPrint v + 1") ==
-          "2:9: \"+\" cannot stand between Variant and Integer");
+    CHECK(host.Run("Dim v As Variant = 1\nPrint v + Nil") ==
+          "2:9: \"+\" cannot stand between Variant and Nil");
+    CHECK(host.Run("Dim v As Variant = 1\nPrint v + New Date")
+              .starts_with("2:9: \"+\" cannot stand between Variant and Date"));
+    CHECK(host.Run("Dim v As Variant = 1\nPrint Not v") ==
+          "2:7: \"Not\" cannot stand before Variant");
     CHECK(host.Run("Dim v As Variant\nPrint v = Encodings.UTF8") ==
           "2:9: \"=\" cannot stand between Variant and TextEncoding");
+    CHECK(host.Run("Dim d As New Dictionary\nd.Value(1) = Array(1, 2)") ==
+          "2:14: an array in a Variant is not supported here");
     CHECK(host.Run("Dim v As Variant = Encodings.UTF8") ==
           "1:30: expected Variant, this is TextEncoding");
 }
