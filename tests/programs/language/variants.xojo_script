@@ -15,3 +15,21 @@ Print Str(exponent.Size)
 exponent.Int64Value(0) = exponent.Int64Value(0) + 1
 a.DataExponent = exponent
 Print a
+' A number in a Variant is an object there: it is assigned before it is used.
+Dim counts As New Dictionary
+counts.Value("seen") = 1
+counts.Value("seen") = counts.Value("seen") + 1
+Print counts.Value("seen")
+v = BigNumberVQZ.NumberWithString("2.5")
+Try
+  Print v + 1
+Catch e As TypeMismatchException
+  Print e.Message
+End
+Try
+  Print v
+Catch e As TypeMismatchException
+  Print e.Message
+End
+a = v
+Print a + "1"
