@@ -19,7 +19,7 @@ void RefuseObject(const std::string& name, const Candidates& candidates,
         return;
     }
     const auto& model = *arguments.front().type.model;
-    const auto hint = FunctionHint(model, *candidates.front());
+    const auto hint = FunctionHint(model, candidates);
     if (!hint.empty()) {
         throw ProgramError(at, Quoted(name) + " takes no " + model.name() + hint);
     }
@@ -144,7 +144,7 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
         return {std::make_unique<code::NewObject>(model.info(), std::nullopt), type, at, {}, false};
     }
     const auto index =
-        RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at);
+        RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at, &model);
     const auto& method = *constructors[index];
     if (const auto function = method.host.function) {
         auto filled = Fill(method.signature, std::move(arguments), at, *this);

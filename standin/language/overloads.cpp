@@ -153,8 +153,8 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
             return CalledOverload(name, candidates, overload.best.front(), arguments, at);
         case Overload::Outcome::Tie:
             throw ProgramError(
-                at, Quoted(name) + " with " + TypesOf(arguments) +
-                        " fits several equally well: " + ListOf(candidates, overload.best));
+                at, Quoted(name) + " with " + TypesOf(arguments) + " fits several equally well: " +
+                        ListOf(candidates, overload.best) + TieHint(model, candidates, arguments));
         case Overload::Outcome::NoneFits:
             break;
     }

@@ -167,3 +167,27 @@ TEST_CASE("what to write where an object or a number stands in the other's place
     CHECK(host.Run("Dim s As New Sample(1)\ns = s.Multiply(2)") ==
           "2:7: Sample has no member \"Multiply\"; write a * b");
 }
+
+TEST_CASE("what to write where an operator takes the object first") {
+    SampleHost host;
+    const std::string make = "Dim s As New Sample(1)\n";
+    // A text on the left of `-` would be subtracted from.
+    CHECK(host.Run(make + "s = 5 - s").ends_with("; write New Sample(5)"));
+    CHECK(host.Run(make + "s = 5 * s").ends_with("; write \"5\" or New Sample(5)"));
+    CHECK(host.Run("Print \"3\" + 1").ends_with("; use Str to join texts, Val to add numbers"));
+    // No text is a way to an operator that the class has not.
+    CHECK(host.Run(make + "s = s And 1") == "2:7: \"And\" cannot stand between Sample and Integer");
+}
+
+TEST_CASE("what to write where a member of objects is called on their class") {
+    SampleHost host;
+    CHECK(host.Run("Print Sample.Greet(\"a\")") ==
+          "1:14: \"Greet\" needs an object of Sample; write value.Greet(name, times, loud, factor, "
+          "end)");
+    CHECK(host.Run("Print Str(Sample.Value)") ==
+          "1:18: \"Value\" needs an object of Sample; write value.Value");
+    CHECK(host.Run("Dim s As New Sample(1)\nPrint Str(Max(s, s))") ==
+          "2:11: \"Max\" takes no Sample; write If(a > b, a, b)");
+    CHECK(host.Run("Dim l As Int64\nPrint Str(Sample.Twice(1.5))")
+              .ends_with("; assign the value to a variable of the type that is meant first"));
+}

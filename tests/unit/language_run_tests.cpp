@@ -110,7 +110,9 @@ TEST_CASE("comparisons") {
           "False\nTrue\nFalse\n");
     CHECK(host.Show("True < False") == "1:12: \"<\" cannot stand between Boolean and Boolean");
     CHECK(host.Show("1 = \"1\"") == "1:9: \"=\" cannot stand between Integer and String");
-    CHECK(host.Show("1 + \"1\"") == "1:9: \"+\" cannot stand between Integer and String; use Str");
+    CHECK(host.Show("1 + \"1\"") ==
+          "1:9: \"+\" cannot stand between Integer and String; use Str to join texts, Val to add "
+          "numbers");
 }
 
 TEST_CASE("And and Or leave out what cannot matter") {
