@@ -5,6 +5,7 @@
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/hints.hpp"
+#include "standin/language/unsupported.hpp"
 #include "standin/language/wrong_overloads.hpp"
 
 namespace standin::language {
@@ -158,6 +159,10 @@ Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& na
     const Type type = value.type;
     if (auto result = TryExtension(value, name, arguments, at)) {
         return std::move(*result);
+    }
+    // A function of that name takes something else.
+    if (IsUnsupportedMember(NameOf(type), name)) {
+        FailWithoutValueMember(type, name, at);
     }
     arguments.insert(arguments.begin(), std::move(value));
     if (auto result = TryBuiltIn(name, arguments, at)) {

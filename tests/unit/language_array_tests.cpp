@@ -107,7 +107,7 @@ TEST_CASE("mistakes with arrays are told") {
     CHECK(host.Run("Dim a() As Integer\nPrint a(1, 2)") == "2:7: an array takes one index");
     CHECK(host.Run("Dim a() As Integer = 5") == "1:22: expected Integer(), this is Integer");
     CHECK(host.Run("Dim a As Integer\nPrint a(1)") ==
-          "2:7: this is not something that takes arguments");
+          "2:7: \"a\" is a variable of type Integer here, and takes no arguments");
     CHECK(host.Run("Dim a As Integer\na(1) = 2") ==
           "2:1: this is not something that takes arguments");
     CHECK(host.Run("Dim a() As Integer\na.Count = 2") == "2:3: \"Count\" cannot be assigned to");

@@ -262,7 +262,7 @@ TEST_CASE("routines") {
     CHECK(host.Run("Sub S(n As Integer)\nEnd Sub\nS(1, 2)") ==
           "3:1: \"S\" has 2 arguments, but \"S(n As Integer)\" takes fewer");
     CHECK(host.Run("Dim v As Integer\nPrint v(1)") ==
-          "2:7: this is not something that takes arguments");
+          "2:7: \"v\" is a variable of type Integer here, and takes no arguments");
 }
 
 TEST_CASE("endless recursion ends in an exception") {
@@ -355,7 +355,8 @@ TEST_CASE("text") {
     CHECK(host.Show("Val(\"-.5\")") == "-0.5");
     CHECK(host.Show("Val(Str(1 / 0))") == "inf");
     CHECK(host.Show("Str(True)") == "True");
-    CHECK(host.Run("Print") == "\n");
+    CHECK(host.Run("Print") == "1:6: expected an expression, found the end of the line");
+    CHECK(host.Run("Print \"\"") == "\n");
     CHECK(host.Show("Len(\"a\" + Chr(0) + \"b\")") == "3");
 }
 
