@@ -175,7 +175,7 @@ std::string ConversionHint(const Checked& value, Type to, TextOffer text) {
 }
 
 std::string ClassesHint(const Checked& left, const Checked& right) {
-    const auto hint = ConversionHint(right, left.type);
+    auto hint = ConversionHint(right, left.type);
     const bool areRelated =
         left.type.model->IsA(*right.type.model) || right.type.model->IsA(*left.type.model);
     if (areRelated || !IsConstructedOf(*left.type.model, right) ||
@@ -227,7 +227,7 @@ std::string FunctionHint(const ClassModel& model, std::string_view name) {
 
 std::string FunctionHint(const ClassModel& model, const Candidates& functions) {
     const auto& function = *functions.front();
-    const auto method = FunctionHint(model, function.name);
+    auto method = FunctionHint(model, function.name);
     if (!method.empty() || !TakesNumber(function)) {
         return method;
     }
@@ -272,8 +272,8 @@ std::string TieHint(const ClassModel* model, const Candidates& candidates,
         const auto& argument = arguments.front();
         const bool isConstructed =
             argument.type.kind != Kind::Instance && IsConstructedOf(*model, argument);
-        const auto hint = isConstructed ? ConversionHint(argument, {Kind::Instance, model})
-                                        : FactoryHint(*model, argument.type);
+        auto hint = isConstructed ? ConversionHint(argument, {Kind::Instance, model})
+                                  : FactoryHint(*model, argument.type);
         if (!hint.empty()) {
             return hint;
         }

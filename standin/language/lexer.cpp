@@ -327,7 +327,7 @@ private:
                                             " are not supported here");
         }
         throw ProgramError(offset_,
-                           "\"&\" begins a number in the forms &h, &o and &b; \"+\" joins texts");
+                           R"("&" begins a number in the forms &h, &o and &b; "+" joins texts)");
     }
 
     void ReadPrefixedInteger() {
