@@ -40,6 +40,16 @@ std::vector<code::ExpressionPtr> ConvertAll(std::vector<Checked> values, Type ty
     return converted;
 }
 
+/// Throws where an array cannot order its elements by itself.
+void RequireOrder(Type element, Position at) {
+    if (!IsNumber(element.kind) && element.kind != Kind::Text) {
+        throw ProgramError(at, "an array of " + NameOf(element) +
+                                   " has no order of its own; write Sort(AddressOf Routine), with "
+                                   "a Function that takes two " +
+                                   NameOf(element) + " and returns an Integer");
+    }
+}
+
 const ArrayMember* FindArrayMember(std::string_view name) {
     const auto members = ArrayMembers();
     const auto member = std::ranges::find_if(members, [name](const ArrayMember& candidate) {
@@ -104,6 +114,9 @@ std::optional<Checked> ExpressionChecker::TryArrayMember(Checked& array, const s
         if (member->function != FindArrayMember("Ubound")->function) {
             throw ProgramError(at, "an array of several dimensions has no " + Quoted(name));
         }
+    }
+    if (member->function == FindArrayMember("Sort")->function && arguments.empty()) {
+        RequireOrder(array.type.ElementType(), at);
     }
     const auto signature =
         types_.Resolve(ParseDeclaration(member->declaration), std::string(member->declaration),

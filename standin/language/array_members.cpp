@@ -106,10 +106,6 @@ Value IndexOf(const Arguments& arguments, const Machine& machine) {
 Value Sort(const Arguments& arguments, const Machine& machine) {
     auto& array = RequireArray(arguments[0], machine);
     const auto order = OrderOf(array);
-    if (order == nullptr || !(IsNumber(array.element.kind) || array.element.kind == Kind::Text)) {
-        machine.Raise("UnsupportedOperationException",
-                      "An array of " + NameOf(array.element) + " has no order.");
-    }
     const auto isNumber = [order](const Value& item) { return order(item, item) == 0; };
     const auto numbersEnd = std::stable_partition(array.items.begin(), array.items.end(), isNumber);
     std::stable_sort(array.items.begin(), numbersEnd,

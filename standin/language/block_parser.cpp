@@ -128,7 +128,7 @@ syntax::Statement::Node StatementParser::ParseFor() {
     if (cursor_.TryTake(TokenKind::Each)) {
         return ParseForEach(at);
     }
-    const auto variable = cursor_.ExpectName();
+    const auto variable = cursor_.ExpectNewName();
     syntax::For loop{variable.text, variable.at, {}, {}, {}, {}, false, {}};
     if (cursor_.TryTake(TokenKind::As)) {
         loop.type = expressions_.ParseTypeName();
@@ -148,7 +148,7 @@ syntax::Statement::Node StatementParser::ParseFor() {
 }
 
 syntax::Statement::Node StatementParser::ParseForEach(Position at) {
-    const auto variable = cursor_.ExpectName();
+    const auto variable = cursor_.ExpectNewName();
     syntax::ForEach loop{variable.text, variable.at, {}, {}, {}};
     if (cursor_.TryTake(TokenKind::As)) {
         loop.type = expressions_.ParseTypeName();
@@ -253,8 +253,12 @@ syntax::Routine StatementParser::ParseRoutine() {
     if (!cursor_.IsAt(TokenKind::Name)) {
         cursor_.Fail("a name");
     }
+    RequireNewName(cursor_.Current().text, cursor_.At());
     const auto outside = constants_;
     syntax::Routine routine{expressions_.ParseSignature(), {}};
+    for (const auto& parameter : routine.signature.parameters) {
+        RequireNewName(parameter.name, parameter.at);
+    }
     const bool isFunction = head.kind == TokenKind::Function;
     if (isFunction != routine.signature.result.has_value()) {
         throw ProgramError(cursor_.At(), isFunction ? "a Function needs \"As\" and its type"

@@ -1,4 +1,5 @@
 // The calls of the expression checker: of functions and routines by name, and of constructors.
+#include <algorithm>
 #include <utility>
 
 #include "standin/language/expression_checker.hpp"
@@ -19,7 +20,7 @@ void RefuseObject(const std::string& name, const Candidates& candidates,
         return;
     }
     const auto& model = *arguments.front().type.model;
-    const auto hint = FunctionHint(model, *candidates.front());
+    const auto hint = FunctionHint(model, candidates);
     if (!hint.empty()) {
         throw ProgramError(at, Quoted(name) + " takes no " + model.name() + hint);
     }
@@ -36,11 +37,28 @@ ExpressionChecker::Arguments ExpressionChecker::CheckArguments(
     return arguments;
 }
 
+void ExpressionChecker::RequireArray(const syntax::Call& call, Type type, Position at) const {
+    const auto* name = std::get_if<syntax::Name>(&call.callee->node);
+    if (type.kind == Kind::Array || name == nullptr) {
+        return;
+    }
+    const bool hidesFunction =
+        !BuiltInsNamed(name->name).empty() ||
+        std::ranges::any_of(callables_.routines, [name](const auto& routine) {
+            return SameName(routine.signature.name, name->name);
+        });
+    throw ProgramError(at,
+                       Quoted(name->name) + " is a variable of type " + NameOf(type) +
+                           " here, and takes no arguments" +
+                           (hidesFunction ? "; rename it to call the function of that name" : ""));
+}
+
 Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
     if (IsArrayFunction(call)) {
         return CheckArrayCall(call, std::nullopt, at);
     }
     if (const auto variable = FindVariable(*call.callee)) {
+        RequireArray(call, variable->type, at);
         return CheckElement(MakeVariable(*variable, at), CheckArguments(call.arguments), at);
     }
     if (const auto* member = std::get_if<syntax::Member>(&call.callee->node)) {
@@ -146,7 +164,7 @@ Checked ExpressionChecker::Construct(const ClassModel& model, Arguments argument
         return {std::make_unique<code::NewObject>(model.info(), std::nullopt), type, at, {}, false};
     }
     const auto index =
-        RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at);
+        RequireOverload("New " + model.name(), SignaturesOf(constructors), arguments, at, &model);
     const auto& method = *constructors[index];
     if (const auto function = method.host.function) {
         auto filled = Fill(method.signature, std::move(arguments), at, *this);

@@ -132,6 +132,8 @@ private:
     static Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at);
     static Checked MakeReal(const syntax::RealLiteral& literal, bool isNegative, Position at);
     Arguments CheckArguments(const syntax::Expressions& expressions);
+    /// Throws where something is called that is a variable, but no array.
+    void RequireArray(const syntax::Call& call, Type type, Position at) const;
     /// `member` is what is wanted of it.
     Receiver CheckReceiver(const syntax::Expression& expression, const std::string& member);
     Checked CheckMember(Receiver receiver, const std::string& name, Position at);

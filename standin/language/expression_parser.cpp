@@ -151,8 +151,22 @@ ExpressionPtr ExpressionParser::ParseBinary(int level) {
         if (row == nullptr || row->level < level) {
             return left;
         }
+        RefuseStep();
         const Position at = cursor_.Take().at;
         left = MakeBinary(at, row->operation, std::move(left), ParseBinary(row->level + 1));
+    }
+}
+
+void ExpressionParser::RefuseStep() const {
+    const auto& sign = cursor_.Current();
+    if (!cursor_.IsAtAny({TokenKind::Plus, TokenKind::Minus}) ||
+        cursor_.Following().kind != sign.kind) {
+        return;
+    }
+    const auto behind = cursor_.TokenAt(cursor_.Mark() + 2).kind;
+    if (behind == TokenKind::EndOfLine || behind == TokenKind::EndOfText) {
+        throw ProgramError(sign.at, "there is no " + Quoted(sign.text + sign.text) + "; write a " +
+                                        sign.text + "= 1");
     }
 }
 
@@ -371,6 +385,10 @@ syntax::Parameter ExpressionParser::ParseParameter() {
         parameter.isOptional = parameter.isOptional || word == TokenKind::Optional;
         parameter.isParamArray = parameter.isParamArray || word == TokenKind::ParamArray;
         parameter.isExtended = parameter.isExtended || word == TokenKind::Extends;
+    }
+    if (SameName(cursor_.Current().text, "Assigns") && IsWord(cursor_.Following()) &&
+        cursor_.Following().kind != TokenKind::As) {
+        throw ProgramError(cursor_.At(), "\"Assigns\" is not supported here");
     }
     const auto name = cursor_.ExpectWord();
     parameter.name = name.text;

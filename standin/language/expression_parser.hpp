@@ -38,6 +38,8 @@ public:
     syntax::ExpressionPtr ParseExpression();
     /// A name, literal, `New` or parenthesis with the members and arguments that follow it.
     syntax::ExpressionPtr ParsePostfix();
+    /// Throws ProgramError at a `++` or `--` that ends the line: there are no such operators.
+    void RefuseStep() const;
     /// Expressions with commas between them, at least one.
     syntax::Expressions ParseExpressions();
     /// Arguments in parentheses; none when no parenthesis is there.

@@ -4,6 +4,7 @@
 
 #include "standin/language/names.hpp"
 #include "standin/language/operators.hpp"
+#include "standin/language/overloads.hpp"
 #include "standin/language/text.hpp"
 
 namespace standin::language {
@@ -35,13 +36,31 @@ std::string PropertyHint(const ClassModel& model, Type type) {
     return property == nullptr ? std::string() : "; use its " + property->name;
 }
 
-/// Whether a class has a constructor that takes the value without loss.
+/// Whether a class has exactly one constructor that fits the value best, and takes it without loss.
 bool IsConstructedOf(const ClassModel& model, const Checked& value) {
-    return std::ranges::any_of(model.FindMethods("Constructor"), [&value](const Method* method) {
-        const auto& parameters = method->signature.parameters;
-        return method->signature.problem.empty() && parameters.size() == 1 &&
-               FitOf(value, parameters.front()) < Fit::Narrowing;
+    const auto candidates = SignaturesOf(model.FindMethods("Constructor"));
+    std::vector<Checked> arguments;
+    arguments.push_back({nullptr, value.type, value.at, value.literal, false, value.amount});
+    const auto overload = FindOverload(candidates, arguments);
+    return overload.outcome == Overload::Outcome::One &&
+           FitOf(value, candidates[overload.best.front()]->parameters.front()) < Fit::Narrowing;
+}
+
+/// The shared method that makes an object of the class of one value of that very type.
+const Method* FindFactory(const ClassModel& model, Type type) {
+    const auto found = std::ranges::find_if(model.sharedMethods, [&](const Method& method) {
+        const auto& signature = method.signature;
+        return signature.problem.empty() && signature.parameters.size() == 1 &&
+               signature.parameters.front().type == type &&
+               signature.result == Type{Kind::Instance, &model};
     });
+    return found == model.sharedMethods.end() ? nullptr : &*found;
+}
+
+std::string FactoryHint(const ClassModel& model, Type type) {
+    const auto* factory = FindFactory(model, type);
+    return factory == nullptr ? std::string()
+                              : "; write " + model.name() + "." + factory->signature.name + "(...)";
 }
 
 /// A literal as it is written; empty for any other value.
@@ -53,12 +72,26 @@ std::string LiteralIn(const Checked& value) {
 }
 
 /// A literal as a text, where that becomes an object by itself, and `New Class(5)`.
-std::string ConstructionHint(const Checked& value, Type to) {
+std::string ConstructionHint(const Checked& value, Type to, TextOffer text) {
     const auto literal = LiteralIn(value);
-    const Checked text{nullptr, {Kind::Text}, value.at, {}, false};
-    const bool takesText = !literal.empty() && FitOf(text, to) != Fit::None;
+    const Checked asText{nullptr, {Kind::Text}, value.at, {}, false};
+    const bool takesText =
+        text == TextOffer::Allowed && !literal.empty() && FitOf(asText, to) != Fit::None;
     return "; write " + (takesText ? Quoted(literal) + " or " : "") + "New " + NameOf(to) + "(" +
            (literal.empty() ? "..." : literal) + ")";
+}
+
+bool IsInstanceOf(Type type, const ClassModel& model) {
+    return type.kind == Kind::Instance && model.IsA(*type.model);
+}
+
+/// The names of a method's parameters in parentheses; nothing where there are none.
+std::string ParametersOf(const Signature& signature) {
+    std::string names;
+    for (const auto& parameter : signature.parameters) {
+        names += (names.empty() ? "" : ", ") + parameter.name;
+    }
+    return names.empty() ? names : "(" + names + ")";
 }
 
 /// Whether a function makes something of a number, as the object is one.
@@ -66,9 +99,62 @@ bool TakesNumber(const Signature& function) {
     return !function.parameters.empty() && IsNumber(function.parameters.front().type.kind);
 }
 
+/// The property in which a function of the language finds the object as a number: as the integer
+/// that it takes, or else as what it returns.
+std::string NumberHint(const ClassModel& model, const Candidates& functions) {
+    const bool takesInteger = std::ranges::all_of(functions, [](const Signature* function) {
+        return !function->parameters.empty() && IsInteger(function->parameters.front().type.kind);
+    });
+    return PropertyHint(model, takesInteger ? functions.front()->parameters.front().type
+                                            : functions.front()->result);
+}
+
+/// Names that other types and languages have, and what is meant by them.
+enum class Meaning : std::uint8_t { ToText, FromText };
+
+struct ForeignName {
+    std::string_view name;
+    Meaning meaning;
+};
+
+constexpr ForeignName ForeignNames[] = {
+    {"AsString", Meaning::ToText},     {"AsText", Meaning::ToText},
+    {"Text", Meaning::ToText},         {"ToStr", Meaning::ToText},
+    {"ToText", Meaning::ToText},       {"Value", Meaning::ToText},
+    {"FromString", Meaning::FromText}, {"FromText", Meaning::FromText},
+    {"Parse", Meaning::FromText},
+};
+
+/// Long names of functions, and how the language calls these.
+struct LongName {
+    std::string_view name;
+    std::string_view shortName;
+};
+
+constexpr LongName LongNames[] = {
+    {"AbsoluteValue", "Abs"}, {"Ceiling", "Ceil"},    {"Exponential", "Exp"},
+    {"Logarithm", "Log"},     {"SquareRoot", "Sqrt"},
+};
+
+/// What there is in place of a member with a name that is used elsewhere.
+std::string ForeignNameHint(const ClassModel& model, std::string_view name) {
+    for (const auto& row : ForeignNames) {
+        if (SameName(row.name, name)) {
+            return row.meaning == Meaning::ToText ? PropertyHint(model, {Kind::Text})
+                                                  : FactoryHint(model, {Kind::Text});
+        }
+    }
+    for (const auto& row : LongNames) {
+        if (SameName(row.name, name)) {
+            return FunctionHint(model, row.shortName);
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
-std::string ConversionHint(const Checked& value, Type to) {
+std::string ConversionHint(const Checked& value, Type to, TextOffer text) {
     const Type from = value.type;
     if (IsNumber(from.kind) && to.kind == Kind::Text) {
         return "; use Str";
@@ -83,9 +169,20 @@ std::string ConversionHint(const Checked& value, Type to) {
         return "; use CType";
     }
     if (to.kind == Kind::Instance && IsConstructedOf(*to.model, value)) {
-        return ConstructionHint(value, to);
+        return ConstructionHint(value, to, text);
     }
     return from.kind == Kind::Instance ? PropertyHint(*from.model, to) : std::string();
+}
+
+std::string ClassesHint(const Checked& left, const Checked& right) {
+    auto hint = ConversionHint(right, left.type);
+    const bool areRelated =
+        left.type.model->IsA(*right.type.model) || right.type.model->IsA(*left.type.model);
+    if (areRelated || !IsConstructedOf(*left.type.model, right) ||
+        !IsConstructedOf(*right.type.model, left)) {
+        return hint;
+    }
+    return hint + " or New " + NameOf(right.type) + "(...), of the class that loses nothing";
 }
 
 std::string MemberHint(const ClassModel& model, std::string_view name,
@@ -96,17 +193,92 @@ std::string MemberHint(const ClassModel& model, std::string_view name,
     if (found != Operators.end() && !model.FindMethods(method).empty()) {
         return "; write a " + std::string(found->sign) + " b";
     }
-    return functions.empty() || !TakesNumber(functions.front()->signature)
-               ? std::string()
-               : PropertyHint(model, functions.front()->signature.result);
+    if (functions.empty() || !TakesNumber(functions.front()->signature)) {
+        return ForeignNameHint(model, name);
+    }
+    Candidates candidates;
+    for (const auto* function : functions) {
+        candidates.push_back(&function->signature);
+    }
+    return NumberHint(model, candidates);
 }
 
-std::string FunctionHint(const ClassModel& model, const Signature& function) {
-    const auto methods = model.FindMethods(function.name);
-    if (!methods.empty()) {
+std::string OperatorHint(const ClassModel& model, std::string_view operatorMethod) {
+    const auto word = operatorMethod.substr(operatorMethod.find('_') + 1);
+    const Signature* shortest = nullptr;
+    for (const auto& method : model.methods) {
+        const auto& signature = method.signature;
+        const bool isNamed = signature.name.ends_with(word) && signature.name != operatorMethod;
+        if (isNamed && signature.parameters.size() == 1 &&
+            IsInstanceOf(signature.parameters.front().type, model) &&
+            (shortest == nullptr || signature.name.size() < shortest->name.size())) {
+            shortest = &signature;
+        }
+    }
+    return shortest == nullptr ? std::string() : "; write a." + shortest->name + "(b)";
+}
+
+std::string FunctionHint(const ClassModel& model, std::string_view name) {
+    if (const auto methods = model.FindMethods(name); !methods.empty()) {
         return "; write value." + methods.front()->signature.name;
     }
-    return TakesNumber(function) ? PropertyHint(model, function.result) : std::string();
+    return SharedMethodHint(model, model.FindSharedMethods(name), 0);
+}
+
+std::string FunctionHint(const ClassModel& model, const Candidates& functions) {
+    const auto& function = *functions.front();
+    auto method = FunctionHint(model, function.name);
+    if (!method.empty() || !TakesNumber(function)) {
+        return method;
+    }
+    // Of two objects the language's own operators choose without any loss.
+    const bool isLargest = SameName(function.name, "Max");
+    if ((isLargest || SameName(function.name, "Min")) &&
+        !model.FindMethods(CompareOperator).empty()) {
+        return isLargest ? "; write If(a > b, a, b)" : "; write If(a < b, a, b)";
+    }
+    return NumberHint(model, functions);
+}
+
+std::string SharedMethodHint(const ClassModel& model, const std::vector<const Method*>& methods,
+                             std::size_t count) {
+    for (const auto* method : methods) {
+        const auto& parameters = method->signature.parameters;
+        if (parameters.size() > count && IsInstanceOf(parameters.front().type, model)) {
+            return "; write " + model.name() + "." + method->signature.name +
+                   ParametersOf(method->signature);
+        }
+    }
+    return {};
+}
+
+std::string ReceiverHint(const ClassModel& model, std::string_view name) {
+    const auto methods = model.FindMethods(name);
+    return "; write value." + std::string(name) +
+           (methods.empty() ? std::string() : ParametersOf(methods.front()->signature));
+}
+
+std::string TieHint(const ClassModel* model, const Candidates& candidates,
+                    const std::vector<Checked>& arguments) {
+    if (arguments.size() > 1) {
+        return "; assign the values to variables of the types that are meant first";
+    }
+    const bool takesObject =
+        model != nullptr && std::ranges::any_of(candidates, [model](const Signature* candidate) {
+            return !candidate->parameters.empty() &&
+                   IsInstanceOf(candidate->parameters.front().type, *model);
+        });
+    if (takesObject && !arguments.empty()) {
+        const auto& argument = arguments.front();
+        const bool isConstructed =
+            argument.type.kind != Kind::Instance && IsConstructedOf(*model, argument);
+        auto hint = isConstructed ? ConversionHint(argument, {Kind::Instance, model})
+                                  : FactoryHint(*model, argument.type);
+        if (!hint.empty()) {
+            return hint;
+        }
+    }
+    return "; assign the value to a variable of the type that is meant first";
 }
 
 std::string ParameterHint(const ClassModel& model, std::string_view method) {

@@ -103,6 +103,15 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
     {"Xor", TokenKind::Xor},
 });
 
+/// Names that the parser takes, but nothing can be declared as.
+constexpr auto HostWords = std::to_array<std::string_view>({
+    "AddHandler", "Assigns", "Boolean",    "Color",         "Currency", "Declare",  "Delegate",
+    "Double",     "GoTo",    "Implements", "Inherits",      "Int16",    "Int32",    "Int64",
+    "Int8",       "Integer", "Interface",  "Namespace",     "Object",   "Private",  "Property",
+    "Protected",  "Public",  "RaiseEvent", "RemoveHandler", "Shared",   "Single",   "String",
+    "Structure",  "UInt16",  "UInt32",     "UInt64",        "UInt8",    "UInteger", "WeakAddressOf",
+});
+
 constexpr auto Directives = std::to_array<Spelling>({
     {"#If", TokenKind::HashIf},
     {"#ElseIf", TokenKind::HashElseIf},
@@ -311,10 +320,20 @@ private:
         Add(TokenKind::Integer, size).integer = value;
     }
 
+    [[noreturn]] void FailAmpersand() const {
+        const char kind = FoldCase(Peek(1));
+        if ((kind == FoldCase('c') || kind == FoldCase('u')) && IsNamePart(Peek(2))) {
+            throw ProgramError(offset_, "literals that begin with " + Quoted(Rest().substr(0, 2)) +
+                                            " are not supported here");
+        }
+        throw ProgramError(offset_,
+                           R"("&" begins a number in the forms &h, &o and &b; "+" joins texts)");
+    }
+
     void ReadPrefixedInteger() {
         const auto base = BaseOfPrefix(Peek(1));
         if (!base) {
-            throw ProgramError(offset_, "\"&\" begins a number in the forms &h, &o and &b only");
+            FailAmpersand();
         }
         std::size_t size = 2;
         while (IsNamePart(Peek(size))) {
@@ -473,6 +492,12 @@ std::string Describe(const Token& token) {
 bool IsWord(const Token& token) {
     return !token.text.empty() && token.kind != TokenKind::Text &&
            token.kind != TokenKind::Mistake && IsNameStart(token.text.front());
+}
+
+void RequireNewName(std::string_view name, Position at) {
+    if (std::ranges::any_of(HostWords, [name](auto word) { return SameName(word, name); })) {
+        throw ProgramError(at, Quoted(name) + " is a reserved word and cannot be a name");
+    }
 }
 
 std::vector<Token> Tokenize(std::string_view text, Position start) {

@@ -127,6 +127,10 @@ std::string Describe(const Token& token);
 /// Whether a token has the shape of a name: a name or a reserved word.
 bool IsWord(const Token& token);
 
+/// Throws ProgramError at `at` for a name that the host's language has reserved: for one of its
+/// types, or for what there is not here.
+void RequireNewName(std::string_view name, Position at);
+
 /// The tokens of a text, the last one being EndOfText with an EndOfLine before it. `start` is the
 /// position of the text's first byte.
 std::vector<Token> Tokenize(std::string_view text, Position start = 0);

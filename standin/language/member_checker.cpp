@@ -4,9 +4,28 @@
 
 #include "standin/language/code_units.hpp"
 #include "standin/language/expression_checker.hpp"
+#include "standin/language/hints.hpp"
+#include "standin/language/unsupported.hpp"
 #include "standin/language/wrong_overloads.hpp"
 
 namespace standin::language {
+namespace {
+
+/// Throws where a shared method is called on the object that it takes as an argument.
+void RequireSharedCall(const ClassModel& model, const std::vector<const Method*>& methods,
+                       const std::vector<Checked>& arguments, Position at) {
+    const bool takesAsMany = std::ranges::any_of(methods, [&arguments](const Method* method) {
+        return method->signature.parameters.size() == arguments.size();
+    });
+    const auto hint =
+        takesAsMany ? std::string() : SharedMethodHint(model, methods, arguments.size());
+    if (!hint.empty()) {
+        throw ProgramError(at, Quoted(methods.front()->signature.name) +
+                                   " is a shared method that takes the object" + hint);
+    }
+}
+
+}  // namespace
 
 std::string ExpressionChecker::LabelOf(const ClassModel& model, const std::string& declaration) {
     return model.name() + "." + declaration;
@@ -107,6 +126,9 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
     }
     const auto shared = model.FindSharedMethods(name);
     if (!shared.empty()) {
+        if (receiver.value) {
+            RequireSharedCall(model, shared, arguments, at);
+        }
         return CallMethod(std::move(receiver), shared, true, std::move(arguments), at);
     }
     const bool isProperty =
@@ -118,7 +140,8 @@ Checked ExpressionChecker::CheckMemberCall(Receiver receiver, const std::string&
         throw ProgramError(at, Quoted(name) + " is a property and takes no arguments");
     }
     if (isProperty || !model.FindMethods(name).empty()) {
-        throw ProgramError(at, Quoted(name) + " needs an object of " + model.name());
+        throw ProgramError(
+            at, Quoted(name) + " needs an object of " + model.name() + ReceiverHint(model, name));
     }
     if (receiver.value) {
         if (auto result = TryExtension(*receiver.value, name, arguments, at)) {
@@ -136,6 +159,10 @@ Checked ExpressionChecker::CheckValueMember(Checked value, const std::string& na
     const Type type = value.type;
     if (auto result = TryExtension(value, name, arguments, at)) {
         return std::move(*result);
+    }
+    // A function of that name takes something else.
+    if (IsUnsupportedMember(NameOf(type), name)) {
+        FailWithoutValueMember(type, name, at);
     }
     arguments.insert(arguments.begin(), std::move(value));
     if (auto result = TryBuiltIn(name, arguments, at)) {

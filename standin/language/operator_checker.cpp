@@ -45,6 +45,48 @@ bool AreHeld(const Checked& left, const Checked& right) {
     return hasVariant && isHeld(left) && isHeld(right);
 }
 
+/// Whether the operands may be exchanged, or the language knows that they were.
+bool MayExchange(BinaryOperator operation) {
+    switch (operation) {
+        case BinaryOperator::Power:
+        case BinaryOperator::Divide:
+        case BinaryOperator::IntegerDivide:
+        case BinaryOperator::Modulo:
+        case BinaryOperator::Subtract:
+            return false;
+        default:
+            return true;
+    }
+}
+
+/// How one of two operands can become what the operator takes.
+std::string OperandHint(const OperatorRow& row, const Checked& left, const Checked& right) {
+    const bool isText = left.type.kind == Kind::Text || right.type.kind == Kind::Text;
+    const bool isNumber = IsNumber(left.type.kind) || IsNumber(right.type.kind);
+    if (isText && isNumber && row.operation == BinaryOperator::Add) {
+        return "; use Str to join texts, Val to add numbers";
+    }
+    const bool isLeft = left.type.kind == Kind::Instance;
+    const bool isRight = right.type.kind == Kind::Instance;
+    if (!isLeft && !isRight) {
+        return {};
+    }
+    const auto& model = isLeft ? *left.type.model : *right.type.model;
+    const auto ofRight = std::string(row.method) + std::string(RightSuffix);
+    if (!row.method.empty() && model.FindMethods(row.method).empty() &&
+        model.FindMethods(ofRight).empty()) {
+        return OperatorHint(model, row.method);
+    }
+    if (isLeft && isRight) {
+        return ClassesHint(left, right);
+    }
+    if (isLeft) {
+        return ConversionHint(right, left.type);
+    }
+    const auto text = MayExchange(row.operation) ? TextOffer::Allowed : TextOffer::Refused;
+    return ConversionHint(left, right.type, text);
+}
+
 /// Why an operator cannot stand between two operands.
 [[noreturn]] void FailOperator(BinaryOperator operation, const Checked& left, const Checked& right,
                                Position at) {
@@ -63,16 +105,7 @@ bool AreHeld(const Checked& left, const Checked& right) {
         }
         break;
     }
-    const bool isText = left.type.kind == Kind::Text || right.type.kind == Kind::Text;
-    const bool isNumber = IsNumber(left.type.kind) || IsNumber(right.type.kind);
-    if (isText && isNumber && operation == BinaryOperator::Add) {
-        message += "; use Str";
-    } else if (left.type.kind == Kind::Instance) {
-        message += ConversionHint(right, left.type);
-    } else if (right.type.kind == Kind::Instance) {
-        message += ConversionHint(left, right.type);
-    }
-    throw ProgramError(at, message);
+    throw ProgramError(at, message + OperandHint(row, left, right));
 }
 
 bool FitsIn(std::int64_t literal, Kind kind) {

@@ -83,6 +83,12 @@ std::string WantedType(const Parameter& parameter) {
     return (parameter.byRef ? "a variable of type " : "") + NameOf(parameter.type);
 }
 
+/// Whether the host has more in the class than there is here.
+bool IsPartOfHostClass(const ClassModel* model) {
+    return model != nullptr && model->origin() == ClassModel::Origin::Host &&
+           model->info().record == nullptr;
+}
+
 /// Why the only candidate does not take the arguments.
 [[noreturn]] void FailOnly(const std::string& name, const Signature& signature,
                            const std::vector<Checked>& arguments, Position at,
@@ -101,13 +107,15 @@ std::string WantedType(const Parameter& parameter) {
                                          : ConversionHint(arguments[i], parameters[i].type)));
         }
     }
-    throw ProgramError(at, Quoted(name) + " has " + std::to_string(arguments.size()) +
-                               (arguments.size() == 1 ? " argument, but " : " arguments, but ") +
-                               Quoted(signature.declaration) + " takes " +
-                               (arguments.size() > parameters.size()    ? "fewer"
-                                : arguments.size() == parameters.size() ? "others"
-                                                                        : "more") +
-                               (model == nullptr ? "" : ParameterHint(*model, name)));
+    throw ProgramError(at,
+                       Quoted(name) + " has " + std::to_string(arguments.size()) +
+                           (arguments.size() == 1 ? " argument, but " : " arguments, but ") +
+                           Quoted(signature.declaration) + " takes " +
+                           (arguments.size() > parameters.size()    ? "fewer"
+                            : arguments.size() == parameters.size() ? "others"
+                                                                    : "more") +
+                           (model == nullptr ? "" : ParameterHint(*model, name)) +
+                           (IsPartOfHostClass(model) ? "; nothing else is supported here" : ""));
 }
 
 }  // namespace
@@ -153,8 +161,8 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
             return CalledOverload(name, candidates, overload.best.front(), arguments, at);
         case Overload::Outcome::Tie:
             throw ProgramError(
-                at, Quoted(name) + " with " + TypesOf(arguments) +
-                        " fits several equally well: " + ListOf(candidates, overload.best));
+                at, Quoted(name) + " with " + TypesOf(arguments) + " fits several equally well: " +
+                        ListOf(candidates, overload.best) + TieHint(model, candidates, arguments));
         case Overload::Outcome::NoneFits:
             break;
     }
@@ -170,8 +178,10 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         all.push_back(i);
     }
-    throw ProgramError(at, Quoted(name) + " does not take " + TypesOf(arguments) +
-                               "; there is: " + ListOf(candidates, all));
+    throw ProgramError(at,
+                       Quoted(name) + " does not take " + TypesOf(arguments) +
+                           (IsPartOfHostClass(model) ? "; supported here is: " : "; there is: ") +
+                           ListOf(candidates, all));
 }
 
 /// The arguments from an index on as one array.

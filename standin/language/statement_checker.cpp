@@ -200,7 +200,7 @@ void StatementChecker::AddNode(code::Block& block, const syntax::CallStatement& 
 }
 
 void StatementChecker::AddNode(code::Block& block, const syntax::Print& print, Position at) {
-    auto text = print.value ? expressions_.CheckAsText(*print.value) : MakeDefault({Kind::Text});
+    auto text = expressions_.CheckAsText(*print.value);
     Append<code::Print>(block, at, std::move(text));
 }
 

@@ -350,7 +350,7 @@ syntax::Statement::Node StatementParser::ParseNode() {
             return syntax::Return{ParseOptionalExpression()};
         case TokenKind::Print:
             cursor_.Take();
-            return syntax::Print{ParseOptionalExpression()};
+            return syntax::Print{expressions_.ParseExpression()};
         case TokenKind::Redim:
             return ParseRedim();
         case TokenKind::Call:
@@ -381,6 +381,7 @@ syntax::Statement::Node StatementParser::ParseAssignmentOrCall() {
     }
     const auto start = cursor_.Mark();
     auto target = expressions_.ParsePostfix();
+    expressions_.RefuseStep();
     if (cursor_.TryTake(TokenKind::Equal)) {
         return syntax::Assignment{std::move(target), expressions_.ParseExpression()};
     }
@@ -451,7 +452,7 @@ void StatementParser::ParseDeclarators(std::vector<syntax::Declarator>& declarat
 }
 
 syntax::Declarator StatementParser::ParseDeclaredName() {
-    const auto name = cursor_.ExpectName();
+    const auto name = cursor_.ExpectNewName();
     syntax::Declarator declarator{name.text, name.at, {}, nullptr};
     if (cursor_.TryTake(TokenKind::OpenParenthesis)) {
         declarator.type.dimensions = 1;
@@ -484,7 +485,7 @@ void StatementParser::ParseDeclaredType(syntax::Declarator& declarator) {
 syntax::Const StatementParser::ParseConst() {
     cursor_.Take();
     syntax::Const constant;
-    constant.name = cursor_.ExpectName().text;
+    constant.name = cursor_.ExpectNewName().text;
     if (cursor_.TryTake(TokenKind::As)) {
         constant.type = expressions_.ParseTypeName();
     }

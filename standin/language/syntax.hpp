@@ -204,7 +204,6 @@ struct CallStatement {
     bool dropsResult = false;
 };
 struct Print {
-    /// Null prints an empty line.
     ExpressionPtr value;
 };
 struct If {

@@ -60,6 +60,12 @@ public:
     /// A name that must not be a reserved word.
     Token ExpectName() { return Expect(TokenKind::Name); }
 
+    /// The name of something that is declared: none that the host's language has reserved.
+    Token ExpectNewName() {
+        RequireNewName(Current().text, At());
+        return ExpectName();
+    }
+
     /// A name where reserved words are welcome: after a dot, in a plug-in's declaration.
     Token ExpectWord() {
         if (!IsWord(Current())) {

@@ -1,5 +1,6 @@
 // What the expression checker knows of the program's own modules, classes and routines.
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "standin/language/application.hpp"
@@ -12,6 +13,10 @@
 
 namespace standin::language {
 namespace {
+
+/// The words that alone, or before a value, are a statement: a misspelt one looks like a call.
+constexpr std::string_view StatementWords[] = {"Continue", "Exit",  "Print",
+                                               "Raise",    "Redim", "Return"};
 
 constexpr std::string_view ConstructorName = "Constructor";
 
@@ -245,6 +250,7 @@ void ExpressionChecker::FailWithoutName(const std::string& name, Position at) co
     if (IsUnsupported(name)) {
         throw ProgramError(at, Quoted(name) + " is not supported here");
     }
+    names.insert(names.end(), std::begin(StatementWords), std::end(StatementWords));
     throw ProgramError(at, "there is nothing named " + Quoted(name) + SuggestionFor(name, names));
 }
 

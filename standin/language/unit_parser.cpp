@@ -124,7 +124,7 @@ void UnitParser::ParseUnit(syntax::Program& program, const std::string& module) 
     syntax::Unit unit;
     unit.isClass = head.kind == TokenKind::Class;
     unit.module = module;
-    const auto name = cursor_.ExpectName();
+    const auto name = cursor_.ExpectNewName();
     unit.name = name.text;
     unit.at = name.at;
     cursor_.ExpectEndOfLine();
@@ -327,7 +327,7 @@ void UnitParser::AddConstant(syntax::Unit& unit, syntax::Constant constant) {
 
 void UnitParser::ParseEnumeration(syntax::Program& program, const std::string& module) {
     const auto at = cursor_.Take().at;
-    syntax::Enumeration enumeration{cursor_.ExpectName().text, at, {}, module};
+    syntax::Enumeration enumeration{cursor_.ExpectNewName().text, at, {}, module};
     if (cursor_.TryTake(TokenKind::As)) {
         statements_.expressions().ParseTypeName();
     }

@@ -55,12 +55,6 @@ EXPLAINED = [
         "saves a call.",
     ),
     Explained(
-        "return *this;",
-        "/*return *this;*/",
-        "A function that does not return what it promises does not compile in the builds that are "
-        "delivered: they take warnings for errors, unlike those for deliberate faults.",
-    ),
-    Explained(
         "while (getrandom(&value, sizeof value, 0) != static_cast<ssize_t>(sizeof value)) {",
         "while (getrandom(&value, sizeof value, (0+1)) != static_cast<ssize_t>(sizeof value)) {",
         "Nothing calls this function; it is there for the linker.",
@@ -75,5 +69,15 @@ EXPLAINED = [
         "if (factor != std::numeric_limits<std::int32_t>::min()) {",
         "if (factor > std::numeric_limits<std::int32_t>::min()) {",
         "No factor is less than the least one.",
+    ),
+    Explained(
+        "if (reason == ProcessAttach) {",
+        "if (reason < ProcessAttach) {",
+        "Windows alone calls this function, and what it does is to ask for no further calls.",
+    ),
+    Explained(
+        "bool EqualIgnoringCase(const char* left, const char* right) noexcept {",
+        "bool EqualIgnoringCase ( const char* right,const char* left) noexcept {",
+        "Equality does not depend on the order.",
     ),
 ]

@@ -79,7 +79,10 @@ TEST_CASE("methods of arrays") {
     CHECK(host.Run("Dim a() As String = Array(\"b\", \"C\", \"a\")\na.Sort\nPrint a(0) + a(1) + "
                    "a(2)\nPrint Str(a.IndexOf(\"c\"))") == "abC\n2\n");
     CHECK(host.Run("Dim a(1) As Sample\na.Sort") ==
-          "Unhandled UnsupportedOperationException: An array of Sample has no order. (line 2)\n");
+          "2:3: an array of Sample has no order of its own; write Sort(AddressOf Routine), with a "
+          "Function that takes two Sample and returns an Integer");
+    CHECK(host.Run("Dim a() As Variant\na.Sort")
+              .starts_with("2:3: an array of Variant has no order"));
     CHECK(host.Run("Dim a() As Integer\nCall a.Pop")
               .starts_with("Unhandled OutOfBoundsException: The index -1 is outside the array"));
     CHECK(host.Run(make + "a.AddAt(4, 1)")
@@ -104,7 +107,7 @@ TEST_CASE("mistakes with arrays are told") {
     CHECK(host.Run("Dim a() As Integer\nPrint a(1, 2)") == "2:7: an array takes one index");
     CHECK(host.Run("Dim a() As Integer = 5") == "1:22: expected Integer(), this is Integer");
     CHECK(host.Run("Dim a As Integer\nPrint a(1)") ==
-          "2:7: this is not something that takes arguments");
+          "2:7: \"a\" is a variable of type Integer here, and takes no arguments");
     CHECK(host.Run("Dim a As Integer\na(1) = 2") ==
           "2:1: this is not something that takes arguments");
     CHECK(host.Run("Dim a() As Integer\na.Count = 2") == "2:3: \"Count\" cannot be assigned to");
@@ -165,7 +168,8 @@ TEST_CASE("compound assignments") {
     CHECK(host.Run("Dim s As New Sample(3)\ns.Value += 4\nPrint Str(s.Value)\ns += 5\nPrint "
                    "Str(s.Value)") == "7\n12\n");
     CHECK(host.Run("Dim i As Integer\ni += \"x\"") ==
-          "2:3: \"+\" cannot stand between Integer and String; use Str");
+          "2:3: \"+\" cannot stand between Integer and String; use Str to join texts, Val to add "
+          "numbers");
     CHECK(host.Run("Const N = 1\nN += 1") == "2:1: a constant cannot be assigned to");
 }
 

@@ -72,7 +72,8 @@ TEST_CASE("numbers") {
     CHECK(MistakeIn("&hXY") == "0: \"&hXY\" is not a number");
     CHECK(MistakeIn("&b12") == "0: \"&b12\" is not a number");
     CHECK(MistakeIn("&h") == "0: \"&h\" is not a number");
-    CHECK(MistakeIn("&x1") == "0: \"&\" begins a number in the forms &h, &o and &b only");
+    CHECK(MistakeIn("&x1") ==
+          "0: \"&\" begins a number in the forms &h, &o and &b; \"+\" joins texts");
     CHECK(MistakeIn("12ab") == "2: a number is directly followed by \"a\"");
     CHECK(MistakeIn("1e") == "1: a number is directly followed by \"e\"");
 }

@@ -150,6 +150,23 @@ TEST_CASE("what the host has is refused by its name") {
           "2:3: \"Shuffle\" of Integer() is not supported here");
     CHECK(host.Run("Dim s As String\nPrint s.LeftBytes(2)") ==
           "2:9: \"LeftBytes\" of String is not supported here");
+    CHECK(host.Run("Dim e As UnsupportedFormatException") ==
+          "1:10: the type \"UnsupportedFormatException\" is not supported here");
+    CHECK(host.Run("Dim n As Integer = \"a\".Compare(\"b\", ComparisonOptions.CaseSensitive)") ==
+          "1:37: \"ComparisonOptions\" is not supported here");
+    CHECK(host.Run("Print Encodings.UTF8.Chr(937)") ==
+          "1:22: \"Chr\" of TextEncoding is not supported here");
+    CHECK(host.Run("Dim d As New DateTime(2020, 1, 1)") ==
+          "1:14: \"New DateTime\" has 3 arguments, but \"Constructor(secondsFrom1970 As Double)\" "
+          "takes fewer; nothing else is supported here");
+    CHECK(host.Run("Dim a() As Integer\nPrint Str(LBound(a))") ==
+          "2:11: \"LBound\" of Integer() is not supported here");
+    CHECK(host.Run("Print Str(&cFF0000)") ==
+          "1:11: literals that begin with \"&c\" are not supported here");
+    CHECK(host.Run("Sub T(Assigns x As Integer)\nEnd Sub") ==
+          "1:7: \"Assigns\" is not supported here");
+    CHECK(host.Run("Sub T(assigns As Integer)\nEnd Sub") ==
+          "1:7: \"assigns\" is a reserved word and cannot be a name");
     // A name of the program's own goes first.
     CHECK(host.Run("Function Random() As String\nReturn \"mine\"\nEnd Function\nPrint Random") ==
           "mine\n");
@@ -168,4 +185,64 @@ TEST_CASE("what to write where an object or a number stands in the other's place
           "2:20: expected Integer, this is Sample");
     CHECK(host.Run("Dim s As New Sample(1)\ns = s.Multiply(2)") ==
           "2:7: Sample has no member \"Multiply\"; write a * b");
+}
+
+TEST_CASE("what to write where an operator takes the object first") {
+    SampleHost host;
+    const std::string make = "Dim s As New Sample(1)\n";
+    // A text on the left of `-` would be subtracted from.
+    CHECK(host.Run(make + "s = 5 - s").ends_with("; write New Sample(5)"));
+    CHECK(host.Run(make + "s = 5 * s").ends_with("; write \"5\" or New Sample(5)"));
+    CHECK(host.Run("Print \"3\" + 1").ends_with("; use Str to join texts, Val to add numbers"));
+    // No text is a way to an operator that the class has not.
+    CHECK(host.Run(make + "s = s And 1") == "2:7: \"And\" cannot stand between Sample and Integer");
+}
+
+TEST_CASE("what to write where a member of objects is called on their class") {
+    SampleHost host;
+    CHECK(host.Run("Print Sample.Greet(\"a\")") ==
+          "1:14: \"Greet\" needs an object of Sample; write value.Greet(name, times, loud, factor, "
+          "end)");
+    CHECK(host.Run("Print Str(Sample.Value)") ==
+          "1:18: \"Value\" needs an object of Sample; write value.Value");
+    CHECK(host.Run("Dim s As New Sample(1)\nPrint Str(Max(s, s))") ==
+          "2:11: \"Max\" takes no Sample; write If(a > b, a, b)");
+    CHECK(host.Run("Dim l As Int64\nPrint Str(Sample.Twice(1.5))")
+              .ends_with("; assign the value to a variable of the type that is meant first"));
+}
+
+TEST_CASE("what is written otherwise in this language") {
+    SampleHost host;
+    CHECK(host.Run("Print \"a\" & \"b\"") ==
+          "1:11: \"&\" begins a number in the forms &h, &o and &b; \"+\" joins texts");
+    CHECK(host.Run("Dim i As Integer\ni++") == "2:2: there is no \"++\"; write a += 1");
+    CHECK(host.Run("Dim i As Integer\ni--") == "2:2: there is no \"--\"; write a -= 1");
+    CHECK(host.Run("Dim i As Integer = 5\nPrint Str(i - -i)") == "10\n");
+    CHECK(host.Run("prnt \"x\"") ==
+          "1:1: there is nothing named \"prnt\"; did you mean \"Print\"?");
+    CHECK(host.Run("Pritn \"x\"") ==
+          "1:1: there is nothing named \"Pritn\"; did you mean \"Print\"?");
+}
+
+TEST_CASE("a variable that hides a function is named") {
+    SampleHost host;
+    CHECK(host.Run("Dim hex As String\nPrint Hex(5)") ==
+          "2:7: \"Hex\" is a variable of type String here, and takes no arguments; rename it to "
+          "call the function of that name");
+    CHECK(host.Run("Dim n As Integer\nPrint Str(n(5))") ==
+          "2:11: \"n\" is a variable of type Integer here, and takes no arguments");
+}
+
+TEST_CASE("reserved words name nothing") {
+    SampleHost host;
+    const std::string refused = " is a reserved word and cannot be a name";
+    CHECK(host.Run("Dim double As Integer") == "1:5: \"double\"" + refused);
+    CHECK(host.Run("Dim a, object As Integer") == "1:8: \"object\"" + refused);
+    CHECK(host.Run("Const String = 5") == "1:7: \"String\"" + refused);
+    CHECK(host.Run("For object As Integer = 1 To 2\nNext") == "1:5: \"object\"" + refused);
+    CHECK(host.Run("Function Double(i As Integer) As Integer\nReturn i\nEnd Function") ==
+          "1:10: \"Double\"" + refused);
+    CHECK(host.Run("Sub T(currency As Integer)\nEnd Sub") == "1:7: \"currency\"" + refused);
+    CHECK(host.Run("Enum Color\nRed\nEnd Enum") == "1:6: \"Color\"" + refused);
+    CHECK(host.Run("Class Object\nEnd Class") == "1:7: \"Object\"" + refused);
 }

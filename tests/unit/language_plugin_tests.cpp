@@ -98,7 +98,8 @@ TEST_CASE("properties") {
           "2:9: cannot use \"Strange as Colour\": there is no type \"Colour\"");
     CHECK(host.Run("Dim s As New Sample\ns.Value = \"x\"") ==
           "2:11: expected Integer, this is String; use Val");
-    CHECK(host.Run("Print Sample.Value") == "1:14: \"Value\" needs an object of Sample");
+    CHECK(host.Run("Print Sample.Value") ==
+          "1:14: \"Value\" needs an object of Sample; write value.Value");
     CHECK(host.Run("Dim s As New Sample\nPrint s.Value(1)") ==
           "2:9: \"Value\" is a property and takes no arguments");
     CHECK(host.Run("Dim s As New Sample\nPrint s.Nobody") ==
@@ -156,7 +157,7 @@ TEST_CASE("overloads") {
     CHECK(host.Run("Dim u As UInt32\nPrint Sample.Which(u)") ==
           "2:14: \"Which\" with (" + PerWidth("UInteger", "UInt32") +
               ") fits several equally well: \"Which(value as Int64) as "
-              "Integer\", \"Which(value as Double) as Integer\"");
+              "Integer\", \"Which(value as Double) as Integer\"; write New Sample(...)");
     CHECK(host.Show("Sample.Which(True)")
               .starts_with("1:14: \"Which\" does not take (Boolean); there is: \"Which(value as "
                            "Int32) as Integer\", "));
@@ -164,7 +165,9 @@ TEST_CASE("overloads") {
     CHECK(host.Show("Sample.Pair(1.0, 2)") == "7");
     CHECK(host.Show("Sample.Pair(1, 2)") ==
           "1:14: \"Pair\" with (Integer, Integer) fits several equally well: \"Pair(a as Integer, "
-          "b as Double) as Integer\", \"Pair(a as Double, b as Integer) as Integer\"");
+          "b as Double) as Integer\", \"Pair(a as Double, b as Integer) as Integer\"; assign the "
+          "values to "
+          "variables of the types that are meant first");
     // Widening goes before Operator_Convert, and Operator_Convert before what loses something.
     CHECK(host.Show("Sample.Wide(1)") == "8");
     CHECK(host.Show("Sample.Wide(\"1\")") == "9");

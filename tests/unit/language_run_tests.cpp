@@ -110,7 +110,9 @@ TEST_CASE("comparisons") {
           "False\nTrue\nFalse\n");
     CHECK(host.Show("True < False") == "1:12: \"<\" cannot stand between Boolean and Boolean");
     CHECK(host.Show("1 = \"1\"") == "1:9: \"=\" cannot stand between Integer and String");
-    CHECK(host.Show("1 + \"1\"") == "1:9: \"+\" cannot stand between Integer and String; use Str");
+    CHECK(host.Show("1 + \"1\"") ==
+          "1:9: \"+\" cannot stand between Integer and String; use Str to join texts, Val to add "
+          "numbers");
 }
 
 TEST_CASE("And and Or leave out what cannot matter") {
@@ -260,7 +262,7 @@ TEST_CASE("routines") {
     CHECK(host.Run("Sub S(n As Integer)\nEnd Sub\nS(1, 2)") ==
           "3:1: \"S\" has 2 arguments, but \"S(n As Integer)\" takes fewer");
     CHECK(host.Run("Dim v As Integer\nPrint v(1)") ==
-          "2:7: this is not something that takes arguments");
+          "2:7: \"v\" is a variable of type Integer here, and takes no arguments");
 }
 
 TEST_CASE("endless recursion ends in an exception") {
@@ -354,7 +356,8 @@ TEST_CASE("text") {
     CHECK(host.Show("Val(\"-.5\")") == "-0.5");
     CHECK(host.Show("Val(Str(1 / 0))") == "inf");
     CHECK(host.Show("Str(True)") == "True");
-    CHECK(host.Run("Print") == "\n");
+    CHECK(host.Run("Print") == "1:6: expected an expression, found the end of the line");
+    CHECK(host.Run("Print \"\"") == "\n");
     CHECK(host.Show("Len(\"a\" + Chr(0) + \"b\")") == "3");
 }
 

@@ -17,7 +17,7 @@ numbers(1) = numbers(1) * "3"
 Print Total(numbers)
 Redim numbers(1)
 Print Total(numbers)
-Double(numbers)
+DoubleAll(numbers)
 Print Total(numbers)
 
 Dim mixed() As Variant = Array(1, "two", numbers(0), Nil)
@@ -56,7 +56,7 @@ Function Total(list() As BigNumberVQZ) As BigNumberVQZ
   Return sum
 End Function
 
-Sub Double(list() As BigNumberVQZ)
+Sub DoubleAll(list() As BigNumberVQZ)
   For i As Integer = 0 To list.LastIndex
     list(i) *= "2"
   Next

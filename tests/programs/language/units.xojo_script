@@ -19,7 +19,7 @@ Module Tools
     counter = counter + calls
   End Sub
 End Module
-Enum Color
+Enum Paint
   Red
   Green = 5
   Blue
@@ -56,8 +56,8 @@ Dim a As New Account(100)
 a.Pay(12.5)
 a.Pay 1, "x"
 Print Str(a.balance) + " " + Str(a.Lines) + " " + Str(a.grid(1, 2))
-Dim c As Color = Color.Blue
-Print Str(Integer(c)) + " " + If(c = Color.Blue, "blue", "no")
+Dim c As Paint = Paint.Blue
+Print Str(Integer(c)) + " " + If(c = Paint.Blue, "blue", "no")
 Dim m(2, 3) As Integer
 m(1, 2) = 5
 Redim m(3, 4)

@@ -1,0 +1,4 @@
+Dim a As BigNumberVQZ = "2"
+Dim b As BiggerNumberVQZ = "3"
+Print a * b
+Print b * a
