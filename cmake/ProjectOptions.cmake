@@ -21,8 +21,7 @@ target_compile_options(project_options INTERFACE
   -Woverloaded-virtual
   -Wundef
   -Wformat=2
-  -Werror=return-type
-  $<$<BOOL:${BIGNUMBERVQZ_WARNINGS_AS_ERRORS}>:-Werror>)
+  $<IF:$<BOOL:${BIGNUMBERVQZ_WARNINGS_AS_ERRORS}>,-Werror,-Werror=return-type>)
 
 # Clang is asked for everything it knows but what contradicts the language level, the style (default
 # labels, class templates deduced, tables made at the start) or the layout that the host prescribes.
