@@ -278,6 +278,14 @@ std::string TieHint(const ClassModel* model, const Candidates& candidates,
             return hint;
         }
     }
+    // Where Integer is an Int64, say, a variable of either type fits both.
+    const auto takeItsType = std::ranges::count_if(candidates, [&](const Signature* candidate) {
+        return !arguments.empty() && !candidate->parameters.empty() &&
+               candidate->parameters.front().type.kind == arguments.front().type.kind;
+    });
+    if (takeItsType > 1) {
+        return {};
+    }
     return "; assign the value to a variable of the type that is meant first";
 }
 
