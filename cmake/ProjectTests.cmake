@@ -21,7 +21,8 @@ set(test_time_limit 7200)
 function(add_project_test)
   cmake_parse_arguments(PARSE_ARGV 0 arg "ALONE" "NAME" "TARGETS;AREAS;COMMAND")
   string(REGEX REPLACE "^/" "" name "${BIGNUMBERVQZ_TEST_PREFIX}/${arg_NAME}")
-  add_test(NAME "${name}" COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+  add_test(NAME "${name}" COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+    COMMAND_EXPAND_LISTS)
   set_tests_properties("${name}" PROPERTIES
     TIMEOUT ${test_time_limit}
     RUN_SERIAL "${arg_ALONE}")
@@ -194,6 +195,11 @@ function(add_library_tests)
         COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/instruction_sets.py" "${CMAKE_NM}" ${set}
           "$<TARGET_OBJECTS:kernels_with_${set}>")
     endforeach()
+    if(NOT WIN32)
+      add_project_test(NAME library/kernels_called TARGETS plugin_objects kernels
+        COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tests/kernels_called.py" "${CMAKE_NM}"
+          "$<TARGET_OBJECTS:kernels>" -- "$<TARGET_OBJECTS:plugin_objects>")
+    endif()
   endif()
   # Of a library that is not delivered nobody needs the same bytes.
   if(NOT BIGNUMBERVQZ_PACKAGE_FOLDER)

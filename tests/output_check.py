@@ -2,10 +2,12 @@
 
 import difflib
 import os
+import pathlib
 import subprocess
 import sys
 
 ENCODING = {"encoding": "utf-8", "errors": "backslashreplace"}
+WINE = "wine"
 
 
 def run(command: list[str], settings: dict[str, str] | None = None) -> subprocess.CompletedProcess:
@@ -13,9 +15,24 @@ def run(command: list[str], settings: dict[str, str] | None = None) -> subproces
     as bytes."""
     environment = {name: value for name, value in os.environ.items() if name != "VQZDEBUG"}
     environment |= settings or {}
-    return subprocess.run(
-        command, stdin=subprocess.DEVNULL, capture_output=True, env=environment, check=False
-    )
+
+    def attempt() -> subprocess.CompletedProcess:
+        return subprocess.run(
+            command, stdin=subprocess.DEVNULL, capture_output=True, env=environment, check=False
+        )
+
+    result = attempt()
+    if was_not_started(command, result):
+        print("Wine ended before the program began; it is started once more", flush=True)
+        result = attempt()
+    return result
+
+
+def was_not_started(command: list[str], result: subprocess.CompletedProcess) -> bool:
+    """Whether Wine gave up before the program began: it exits with 1 then, with its own messages
+    turned off. (The stand-in says why whenever it ends with 1.)"""
+    through_wine = pathlib.Path(command[0]).name == WINE
+    return through_wine and (result.returncode, result.stdout, result.stderr) == (1, b"", b"")
 
 
 def difference(expected: bytes, actual: bytes) -> str:

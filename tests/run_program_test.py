@@ -115,5 +115,42 @@ class RunProgram(unittest.TestCase):
         self.assert_good({".xojo_script": "BigNumberVQZ", ".expected": "BigNumberVQZ", **files})
 
 
+class Wine(unittest.TestCase):
+    """A stand-in for Wine that gives up once, or each time, before the program begins."""
+
+    def outcome(self, times: int, message: str = "") -> subprocess.CompletedProcess:
+        with tempfile.TemporaryDirectory() as name:
+            folder = pathlib.Path(name)
+            wine = folder / "wine"
+            wine.write_text(f"#!{sys.executable}\n"
+                            "import os, sys\n"
+                            f"starts = len(os.listdir({name!r}))\n"
+                            f"open(os.path.join({name!r}, f'start {{starts}}'), 'x').close()\n"
+                            f"if starts < {times} + 3:\n"
+                            f"    sys.stderr.write({message!r})\n"
+                            "    sys.exit(1)\n"
+                            "print('a')\n", encoding="utf-8")
+            wine.chmod(0o755)
+            program = folder / "p.xojo_script"
+            program.write_text("", encoding="utf-8")
+            program.with_suffix(".expected").write_text("a\n", encoding="utf-8")
+            return subprocess.run([sys.executable, RUNNER, program, "--", wine],
+                                  capture_output=True, text=True, check=False)
+
+    def test_a_program_that_wine_did_not_begin_is_started_once_more(self):
+        result = self.outcome(1)
+        self.assertEqual(result.returncode, 0)
+        self.assertIn("started once more", result.stdout)
+        self.assertEqual((self.outcome(0).returncode, self.outcome(0).stdout), (0, ""))
+
+    def test_a_second_time_is_an_error(self):
+        self.assertIn("the status is 1", self.outcome(2).stdout)
+
+    def test_a_program_that_said_why_it_ended_is_not_started_again(self):
+        result = self.outcome(1, "Unhandled RuntimeException")
+        self.assertEqual(result.returncode, 1)
+        self.assertNotIn("started once more", result.stdout)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -63,7 +63,7 @@ WITH_SANITIZERS = Stage(
     SANITIZED,
 )
 # What is linked shows in the optimised library only.
-FROM_OUTSIDE = Stage((LIBRARY,), "library/(exports|imports|glibc)", preset=OPTIMISED)
+FROM_OUTSIDE = Stage((LIBRARY,), "library/(exports|imports|glibc|kernels_called)", preset=OPTIMISED)
 
 
 def programs(folders: str) -> Stage:

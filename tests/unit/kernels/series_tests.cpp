@@ -1,4 +1,5 @@
 // Named hard cases of the power series (series.cpp, series_tail.hpp).
+#include "number/kernels/vector_kernels.hpp"
 #include "tests/unit/kernels/cases.hpp"
 
 using namespace kernel_tests;
@@ -9,6 +10,32 @@ TEST_CASE("a logarithm of leading zero bits takes more terms than are added in f
         CAPTURE(top);
         Large::CheckLikePlain(Call::Ln, Large::Make(Large::Leading({top}), 1 - Large::Bits));
     }
+}
+
+TEST_CASE_TEMPLATE("terms that get small slowly are added in fixed point to the last", S, Small,
+                   Large) {
+    // Each term is 63/128 of the one before. The first one to add is 63/128 of 2^(top - 41), where
+    // 2^top is the sum; the last one is the first below 1/2, and changes nothing.
+    using namespace vqz::kernels;
+    constexpr Word lastIndex = S::Words == 8 ? 211 : 1963;
+    auto sum = S::Leading({Top});
+    const auto term = sum;
+    const auto multiplier = S::Leading({Word{63} << 26});
+    const TailStart start{.sum = sum.data(),
+                          .term = term.data(),
+                          .multiplier = multiplier.data(),
+                          .termShift = 41,
+                          .multiplierShift = 1,
+                          .subtract = false,
+                          .alternate = false,
+                          .wholeGroups = false,
+                          .next = 1,
+                          .ratio = [](Word) {
+                              return PreparedRatio({1, 1});
+                          }};
+    CHECK(vectorKernels->Of<S::Words>().addTail(sum.data(), start) == lastIndex);
+    CHECK(sum[S::Words - 1] == Top);
+    CHECK(sum[S::Words - 2] == (Word{63} << 22) / 65);
 }
 
 TEST_CASE_TEMPLATE("a series", S, Small, Large) {
