@@ -18,6 +18,7 @@ ENTRY = "REALPluginMain"
 # The newest version of glibc that a Linux library may need, for the sake of Ubuntu 22.04: how GCC 12
 # unwinds stacks comes with it.
 NEWEST_GLIBC = (2, 35)
+TELL_GLIBC = ("README.md", "packaging/README.txt", "help/guides/hosts.md", "CONTRIBUTING.md", "docs/ARCHITECTURE.md")
 MARKER = b"$$ Plugin version: 21.3 (2021) $$"
 
 
@@ -167,6 +168,9 @@ class LinuxLibrary(Library):
         expect(versions, "no symbol of the C library")
         newest = max(tuple(map(int, version.split("."))) for version in versions)
         expect(newest <= NEWEST_GLIBC, f"it needs glibc {newest}, later than {NEWEST_GLIBC}")
+        for document in TELL_GLIBC:
+            told = re.findall(r"glibc (\d+)\.(\d+)", (self.source / document).read_text("utf-8"))
+            expect_equal(f"glibc in {document}", {tuple(map(int, version)) for version in told}, {NEWEST_GLIBC})
 
     def check_format(self) -> None:
         """The library is a shared object for processes of its kind, without debug information."""

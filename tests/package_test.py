@@ -6,6 +6,7 @@ BUILDS has the build folders of the presets whose libraries the package holds.
 """
 
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -69,6 +70,11 @@ class PackageTest(unittest.TestCase):
             built = self.builds / target / pathlib.PurePath(name).name
             packed = self.archive.read(f"{PLUGIN}/Build Resources/{name}")
             self.assertTrue(packed == built.read_bytes(), f"{name} is not the library of {target}")
+
+    def test_readme_names_the_folders(self) -> None:
+        rows = re.findall(r"^\| \d\d-bit [^|]*\| ([^|]*) \|", (self.source / "README.md").read_text("utf-8"), re.M)
+        named = [folder for row in rows for folder in re.findall("`([^`]*)`", row)]
+        self.assertEqual(sorted(named), sorted(name.split("/")[0] for name in LIBRARIES))
 
     def test_help(self) -> None:
         self.assertTrue(self.archive.read(HELP).startswith(b"<!DOCTYPE html>"))
