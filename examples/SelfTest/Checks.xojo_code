@@ -48,9 +48,11 @@ Protected Module Checks
 
 	#tag Method, Flags = &h0
 		Sub CheckReal(name As String, got As Double, expected As Double)
+		  // Str shows too few digits to tell neighbours apart, so the difference stands behind them.
+		  Const Pattern = "-0.0###############e+000"
 		  CountCheck(name)
 		  If got <> expected Then
-		    Fail(name, Str(got) + " instead of " + Str(expected))
+		    Fail(name, Format(got, Pattern) + " instead of " + Format(expected, Pattern) + ", off by " + Format(got - expected, Pattern))
 		  End If
 		End Sub
 	#tag EndMethod
