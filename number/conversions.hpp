@@ -136,36 +136,47 @@ NamedRoutine NumberWithText() {
 // ---------------------------------------------------------------------------------------------
 // To host values
 
-/// Converts with the fraction cut off; false when the value does not fit. ttmath counts a negative
-/// value as fitting only when the result is negative too: -0.4, which would become 0, does not fit,
-/// and neither does any negative value where the type has no sign.
+/// What a conversion gives, and whether the number fits the type. Where it does not, the debug log
+/// shows the value, and nobody else looks at it.
+template <typename Host>
+struct Converted {
+    Host value;
+    bool fits;
+};
+
+/// Converts with the fraction cut off. ttmath counts a negative value as fitting only when the
+/// result is negative too: -0.4, which would become 0, does not fit, and neither does any negative
+/// value where the type has no sign.
 template <std::integral Host, typename Value>
-bool NumberTo(const Value& value, Host& result) {
+Converted<Host> NumberTo(const Value& value) {
     constexpr ttmath::uint Size = TTMATH_BITS(8 * sizeof(Host));
     std::conditional_t<std::signed_integral<Host>, ttmath::Int<Size>, ttmath::UInt<Size>> words;
     words.SetZero();
-    const bool fits = value.ToInt(words) == 0;
-    std::memcpy(&result, words.table, sizeof result);
-    return fits;
+    Converted<Host> converted{};
+    converted.fits = value.ToInt(words) == 0;
+    std::memcpy(&converted.value, words.table, sizeof converted.value);
+    return converted;
 }
 
-/// Converts to a Double, truncated to its precision; false when the value is too large or too small
-/// for one.
+/// Converts to a Double, truncated to its precision; numbers that are too large or too small for
+/// one do not fit.
 template <std::same_as<double> Host, typename Value>
-bool NumberTo(const Value& value, Host& result) {
-    return value.ToDouble(result) == 0;
+Converted<Host> NumberTo(const Value& value) {
+    Converted<Host> converted{};
+    converted.fits = value.ToDouble(converted.value) == 0;
+    return converted;
 }
 
 /// Getter of a property of type `Host`; 0 after a failure was raised.
 template <typename Value, FixedString LogName, FixedString FailureName, typename Host>
 NamedRoutine GetProperty() {
     return MakeRoutine<LogName, Failure::OneNumber, FailureName>([](Object self, Integer) -> Host {
-        Host result = 0;
-        if (!NumberTo<Host>(ReadNumber<Value>(self), result)) {
+        const auto converted = NumberTo<Host>(ReadNumber<Value>(self));
+        if (!converted.fits) {
             RaiseOverflowException<Value>(FailureName.text, self);
             return 0;
         }
-        return result;
+        return converted.value;
     });
 }
 
@@ -183,8 +194,7 @@ std::int64_t NumberToCurrency(Value value) {
         LogDouble("x", ToDouble(value));
     }
     const auto roundCarry = value.Round();
-    std::int64_t amount = 0;
-    const bool fits = NumberTo<std::int64_t>(value, amount);
+    const auto [amount, fits] = NumberTo<std::int64_t>(value);
     if (DebugEnabled) {
         LogUInt("v", roundCarry);
         LogDouble("x", ToDouble(value));
@@ -365,17 +375,17 @@ template <typename Value>
 Object VariantOf(Object self) {
     const Value& value = ReadNumber<Value>(self);
     if (value.IsInteger()) {
-        std::int32_t narrow = 0;
-        if (IsInRangeOf<std::int32_t>(value) && NumberTo<std::int32_t>(value, narrow)) {
-            return host::Int32ToVariant(narrow);
+        const auto narrow = NumberTo<std::int32_t>(value);
+        if (IsInRangeOf<std::int32_t>(value) && narrow.fits) {
+            return host::Int32ToVariant(narrow.value);
         }
-        std::int64_t wide = 0;
-        if (IsInRangeOf<std::int64_t>(value) && NumberTo<std::int64_t>(value, wide)) {
-            return host::Int64ToVariant(wide);
+        const auto wide = NumberTo<std::int64_t>(value);
+        if (IsInRangeOf<std::int64_t>(value) && wide.fits) {
+            return host::Int64ToVariant(wide.value);
         }
-        std::uint64_t unsignedWide = 0;
-        if (IsInRangeOfUInt64Variant(value) && NumberTo<std::uint64_t>(value, unsignedWide)) {
-            return host::UInt64ToVariant(unsignedWide);  // GCOVR_EXCL_LINE: zero is an Int32 above
+        const auto large = NumberTo<std::uint64_t>(value);
+        if (IsInRangeOfUInt64Variant(value) && large.fits) {
+            return host::UInt64ToVariant(large.value);  // GCOVR_EXCL_LINE: zero is an Int32 above
         }
     }
     const StringReference text(Run<"GetStringValue">(PlainText<Value>, self, "StringValue"));

@@ -5,13 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(_WIN32) && !defined(_WIN64)
-/// Calling convention of the callback that the system's loader calls.
-#define VQZ_LOADER_CALL __stdcall
-#else
-#define VQZ_LOADER_CALL
-#endif
-
 namespace vqz::platform {
 
 /// A zero-filled buffer of `byteCount` bytes, or null. Freed with `FreeBuffer`.
@@ -35,8 +28,5 @@ void SeedRuntimeRandom() noexcept;
 
 /// Whether two texts are equal without regard to ASCII letter case.
 bool EqualIgnoringCase(const char* left, const char* right) noexcept;
-
-/// Asks the loader not to call the library's load callback for threads.
-void DisableThreadCallbacks(void* module) noexcept;
 
 }  // namespace vqz::platform

@@ -48,10 +48,6 @@ bool EqualIgnoringCase(const char* left, const char* right) noexcept {
     return strcasecmp(left, right) == 0;
 }
 
-void DisableThreadCallbacks(void*) noexcept {
-    // A shared object has no such callback.
-}
-
 }  // namespace vqz::platform
 
 #endif

@@ -44,10 +44,15 @@ bool EqualIgnoringCase(const char* left, const char* right) noexcept {
     return _stricmp(left, right) == 0;
 }
 
-void DisableThreadCallbacks(void* module) noexcept {
-    DisableThreadLibraryCalls(static_cast<HMODULE>(module));
-}
-
 }  // namespace vqz::platform
+
+/// What the loader calls, with a reason: 1 when the library has been loaded. Asks not to be called
+/// for threads.
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        DisableThreadLibraryCalls(module);
+    }
+    return TRUE;
+}
 
 #endif

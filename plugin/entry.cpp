@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "number/value/number_value.hpp"
+#include "platform/platform.hpp"
 #include "plugin/bindings/host_functions.hpp"
 #include "plugin/bindings/startup_globals.hpp"
 #include "plugin/class_tables.hpp"
@@ -110,12 +111,4 @@ void REALPluginMain(host_interface::Resolver resolver) {
     LookUp<functions::RegisterPluginVersion>("RegisterPluginVersion")(
         static_cast<std::int32_t>(PluginInterfaceVersion));
     PluginStartup();
-}
-
-int VQZ_LOADER_CALL DllMain(void* module, std::uint32_t reason, void*) {
-    constexpr std::uint32_t ProcessAttach = 1;
-    if (reason == ProcessAttach) {
-        vqz::platform::DisableThreadCallbacks(module);
-    }
-    return 1;
 }

@@ -4,13 +4,9 @@
 #include <cstdint>
 
 #include "interface/host_interface.hpp"
-#include "platform/platform.hpp"
 
 /// The entry that the host calls once, right after loading the library.
 extern "C" void REALPluginMain(host_interface::Resolver resolver);
-
-/// The loader's callback: asks not to be called for threads, and always returns 1.
-extern "C" int VQZ_LOADER_CALL DllMain(void* module, std::uint32_t reason, void* reserved);
 
 namespace vqz {
 

@@ -31,13 +31,15 @@ struct NumberClass<BiggerNumberValue> {
     static host_interface::ClassDefinition Record;
 };
 
-/// A NaN with all other bits 0, the value that computations start from. (The build also makes
-/// ttmath clear new numbers, so that raw access never shows an uninitialised byte.)
+#if !defined(TTMATH_BIG_DEFAULT_CLEAR)
+#error Without this setting raw access would show uninitialised bytes of new numbers.
+#endif
+
+/// A NaN with all other bits 0, the value that computations start from. The build makes all new
+/// numbers so.
 template <typename Value>
 Value NanValue() {
-    Value value;
-    value.SetZeroNan();
-    return value;
+    return {};
 }
 
 /// The number 0.

@@ -3,20 +3,20 @@
 usage: scripts/python faults tests/faults/draw.py --seed N --count N FILE...
 
 Prints a JSON list of mutants, each with its file, the number of its line, the line and what takes its
-place. The same seed and the same files give the same list. A folder is drawn by the square root of its
-lines, so that small folders are not passed over; in it a line, and of that line a mutant. No line is
-drawn twice.
+place. A folder is drawn by the square root of its lines, so that small folders are not passed over; in it a
+line, and of that line a mutant. No line is drawn twice. Whether a line is drawn depends on the seed, its
+text and its file, hardly on other lines: after a change somewhere, nearly the same mutants are drawn.
 """
 
 import argparse
 import collections
 import contextlib
+import hashlib
 import io
 import json
 import math
 import os
 import pathlib
-import random
 import re
 
 from universalmutator import mutator
@@ -133,22 +133,30 @@ def mutants_by_line(name: str) -> dict[int, list[dict]]:
     return by_line
 
 
+def chance(seed: int, *place: object) -> float:
+    """A number from 0 on and below 1 that depends on the seed and the place alone."""
+    digest = hashlib.sha256(repr((seed, *place)).encode()).digest()
+    return int.from_bytes(digest[:6]) / 2**48
+
+
 def draw(names: list[str], seed: int, count: int) -> list[dict]:
-    lines = collections.defaultdict(list)
+    by_folder = collections.defaultdict(dict)
     for name in sorted(names):
-        lines[str(pathlib.PurePosixPath(name).parent)] += mutants_by_line(name).values()
-    folders = {folder: of_lines for folder, of_lines in lines.items() if of_lines}
-    weights = {folder: math.sqrt(len(of_lines)) for folder, of_lines in folders.items()}
-    source = random.Random(seed)
+        seen = collections.Counter()
+        for of_line in mutants_by_line(name).values():
+            text = of_line[0]["before"].strip()
+            by_folder[str(pathlib.PurePosixPath(name).parent)][name, text, seen[text]] = of_line
+            seen[text] += 1
+    # Each line waits for a time with an exponential distribution, and those that wait least are drawn.
     drawn = []
-    while folders and len(drawn) < count:
-        names_left = list(folders)
-        [folder] = source.choices(names_left, [weights[name] for name in names_left])
-        of_line = folders[folder].pop(source.randrange(len(folders[folder])))
-        drawn.append(source.choice(of_line))
-        if not folders[folder]:
-            del folders[folder]
-    return drawn
+    for lines in by_folder.values():
+        mean = math.sqrt(len(lines))
+        for place, of_line in lines.items():
+            time = -mean * math.log(1 - chance(seed, *place))
+            mutant = min(of_line, key=lambda one: chance(seed, *place, one["after"].strip()))
+            drawn.append((time, mutant))
+    drawn.sort(key=lambda one: one[0])
+    return [mutant for _, mutant in drawn[:count]]
 
 
 def main() -> None:

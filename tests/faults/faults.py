@@ -147,14 +147,14 @@ FAULTS = [
     *faults_in("plugin/members/constants.hpp", ("value.SetLn10()", "value.SetLn2()")),
     *faults_in(
         "number/conversions.hpp",
-        ("const bool fits = value.ToInt(words) == 0", "const bool fits = value.ToInt(words) <= 1"),
+        ("converted.fits = value.ToInt(words) == 0", "converted.fits = value.ToInt(words) <= 1"),
         ("const auto roundCarry = value.Round();", "const ttmath::uint roundCarry = 0;"),
         ("static_cast<double>(VariantToSingle(variant))", "VariantToDouble(variant)"),
         ("StoreNumberValue(self, ZeroValue<Value>());", ""),
         ("number.Div(CurrencyScale<Value>(), true)", "number.Div(CurrencyScale<Value>(), false)"),
         ("value.Mul(scale, true)", "value.Mul(scale, false)"),
-        ("return 0;\n        }\n        return result;",
-         "return result;\n        }\n        return result;"),
+        ("return 0;\n        }\n        return converted.value;",
+         "}\n        return converted.value;"),
         ("FailureName.text);\n        return 0;\n    }\n    return amount;",
          "FailureName.text);\n    }\n    return amount;"),
         ("NumberConstant<Value, std::numeric_limits<Host>::max()>", "NumberConstant<Value, std::numeric_limits<Host>::max() - 1>"),
@@ -177,7 +177,7 @@ FAULTS = [
     ),
     *faults_in(
         "number/value/number_value.hpp",
-        ("value.SetZeroNan();", "value.SetZero();"),
+        ("return {};", "return Value(0);"),
         ("number.FromUInt(negative ? 0 - bits : bits)", "number.FromUInt(bits)"),
     ),
     *faults_in(

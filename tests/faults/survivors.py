@@ -17,12 +17,6 @@ class Explained:
 
 EXPLAINED = [
     Explained(
-        "value.SetZeroNan();",
-        "/*value.SetZeroNan();*/",
-        "The build has ttmath make every new number a NaN whose other bits are 0; the line says what the "
-        "callers rely on.",
-    ),
-    Explained(
         "std::uint32_t value = 0;",
         "std::uint32_t value = 1;",
         "The system's random bytes replace it, and where there are none, it is not used.",
@@ -69,11 +63,6 @@ EXPLAINED = [
         "if (factor != std::numeric_limits<std::int32_t>::min()) {",
         "if (factor > std::numeric_limits<std::int32_t>::min()) {",
         "No factor is less than the least one.",
-    ),
-    Explained(
-        "if (reason == ProcessAttach) {",
-        "if (reason < ProcessAttach) {",
-        "Windows alone calls this function, and what it does is to ask for no further calls.",
     ),
     Explained(
         "bool EqualIgnoringCase(const char* left, const char* right) noexcept {",

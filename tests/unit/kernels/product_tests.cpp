@@ -1,8 +1,78 @@
 // Named hard cases of multiplication (multiply.hpp, mantissa_product.hpp, limb_multiplication.hpp).
+#include <vector>
+
+#include "number/kernels/factors.hpp"
 #include "number/kernels/limbs.hpp"
+#include "number/kernels/vector_kernels.hpp"
 #include "tests/unit/kernels/cases.hpp"
 
 using namespace kernel_tests;
+
+namespace {
+
+using vqz::kernels::vectorKernels;
+using vqz::kernels::VectorKernels;
+
+/// While it lives, multiplications of long mantissas note how many columns of the product they ask
+/// for.
+class NotedColumns {
+public:
+    NotedColumns() : saved_(vectorKernels), noting_(*saved_) {
+        noted.clear();
+        noting_.ofSizes[IndexOfLarge].multiply = [](const Word* leftEnd, int leftCount,
+                                                    const Word* rightEnd, int rightCount,
+                                                    int columns, Word* productEnd) {
+            noted.push_back(columns);
+            real->Of<Large::Words>().multiply(leftEnd, leftCount, rightEnd, rightCount, columns,
+                                              productEnd);
+        };
+        real = saved_;
+        vectorKernels = &noting_;
+    }
+    ~NotedColumns() { vectorKernels = saved_; }
+    NotedColumns(const NotedColumns&) = delete;
+    NotedColumns& operator=(const NotedColumns&) = delete;
+
+    static inline std::vector<int> noted;
+
+private:
+    static constexpr auto IndexOfLarge =
+        std::ranges::find(VectorKernels::Sizes, Large::Words) - VectorKernels::Sizes.begin();
+    static inline const VectorKernels* real = nullptr;
+    const VectorKernels* saved_;
+    VectorKernels noting_;
+};
+
+}  // namespace
+
+TEST_CASE("a product asks for no more columns than its mantissa needs") {
+    if (vectorKernels->Of<Large::Words>().multiply == nullptr) {
+        // Products of factors of two words go another way.
+        CHECK(vqz::kernels::AreFactorsWide);
+        return;
+    }
+    const NotedColumns columns;
+    const auto full = Large::Leading({0xF00F0FF1}, 0x12345679);
+    constexpr int leading = vqz::kernels::LimbCount(Large::Words + 1);
+    SUBCASE("the leading ones of two long factors") {
+        Large::CheckLikePlain(Call::Multiply, Large::Fraction(full), Large::Fraction(full));
+        CHECK(columns.noted == std::vector{leading});
+    }
+    SUBCASE("all of them where these leave the rounding open") {
+        const auto next = Large::Fraction(Large::Ending(Large::Leading({Top}), 1));
+        Large::CheckLikePlain(Call::Multiply, next, next);
+        CHECK(columns.noted.size() == 2);
+        CHECK(columns.noted.front() == leading);
+        CHECK(columns.noted.back() > leading);
+    }
+    SUBCASE("all of them at once where there are no more") {
+        auto half = full;
+        std::fill_n(half.begin(), Large::Words / 2, 0);
+        Large::CheckLikePlain(Call::Multiply, Large::Fraction(half), Large::Fraction(half));
+        CHECK(columns.noted == std::vector{2 * vqz::kernels::LimbCount(Large::Words / 2) - 1});
+        CHECK(columns.noted.front() < leading);
+    }
+}
 
 TEST_CASE_TEMPLATE("a product", S, Small, Large) {
     const auto allOnes = S::Leading({}, Ones);

@@ -249,9 +249,16 @@ TEST_CASE("Only a built application seeds the random generator, with the time") 
     }
 }
 
-TEST_CASE("The load callback answers 1 for every reason") {
-    for (const std::uint32_t reason : {0U, 1U, 2U, 3U, 4U, 0xFFFFFFFFU}) {
+#if defined(_WIN32)
+
+/// As the loader calls it.
+extern "C" int __stdcall DllMain(void* module, unsigned long reason, void* reserved);
+
+TEST_CASE("The load callback returns 1 for every reason") {
+    for (const unsigned long reason : {0UL, 1UL, 2UL, 3UL, 4UL, 0xFFFFFFFFUL}) {
         CAPTURE(reason);
         CHECK(DllMain(nullptr, reason, nullptr) == 1);
     }
 }
+
+#endif
