@@ -69,4 +69,15 @@ EXPLAINED = [
         "bool EqualIgnoringCase ( const char* right,const char* left) noexcept {",
         "Equality does not depend on the order.",
     ),
+    Explained(
+        "static Vector Add(Vector left, Vector right) { return _mm_add_epi64(left, right); }",
+        "static Vector Add(Vector left, Vector right) { return _mm_add_epi64 ( right,left); }",
+        "A sum does not depend on the order.",
+    ),
+    Explained(
+        "carry_ += odds_.Mul(odd_);",
+        "carry_ =+ odds_.Mul(odd_);",
+        "Nothing before it carries: the power's exponent falls by some bits with each term, and the integers "
+        "that are added stay below 2^24.",
+    ),
 ]
