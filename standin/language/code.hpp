@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -70,6 +71,21 @@ private:
 /// Statements that a program may take, each turn of a loop and each branch counted as one more.
 inline constexpr std::uint64_t UnlimitedSteps = std::numeric_limits<std::uint64_t>::max();
 
+/// How a program writes an expression, for messages about its value.
+struct Written {
+    /// A name, or several with dots between them; empty for what is longer.
+    std::string text = {};
+    /// Whether the program assigns anything to it; null where it is no variable that begins as Nil.
+    std::shared_ptr<bool> isAssigned = {};
+};
+
+/// Notes that something is assigned to a variable; the pointer may be null.
+inline void MarkAssigned(const std::shared_ptr<bool>& isAssigned) {
+    if (isAssigned != nullptr) {
+        *isAssigned = true;
+    }
+}
+
 /// What a running program needs around it.
 class Machine {
 public:
@@ -113,8 +129,8 @@ public:
     [[noreturn]] void Throw(Value exception) const;
     /// Throws a new exception of one of the host's classes.
     [[noreturn]] void Raise(std::string_view className, std::string_view message) const;
-    /// Raises NilObjectException unless there is an object.
-    void RequireObject(const Value& object) const;
+    /// Raises NilObjectException unless there is an object; the message says what is Nil.
+    void RequireObject(const Value& object, const Written& written = {}) const;
 
     /// A new object of a class, without a constructor run. Raises OutOfMemoryException.
     Value MakeObject(const ClassInfo& info) const;
@@ -171,6 +187,16 @@ public:
     virtual Value Evaluate(Frame& frame) const = 0;
     /// Where the value of a variable is kept; null for every other expression.
     virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }
+
+    /// How the program writes it, as far as that is known.
+    const Written& written() const { return written_; }
+    void SetText(std::string text) { written_.text = std::move(text); }
+    void SetAssigned(std::shared_ptr<bool> isAssigned) {
+        written_.isAssigned = std::move(isAssigned);
+    }
+
+private:
+    Written written_;
 };
 
 /// A node that does something.

@@ -59,7 +59,7 @@ Value ClassTest::Evaluate(Frame& frame) const {
 
 Value ClassCast::Evaluate(Frame& frame) const {
     auto value = value_->Evaluate(frame);
-    RequireObjectOf(value, info_, frame.machine);
+    RequireObjectOf(value, info_, frame.machine, hint_);
     return value;
 }
 
@@ -69,7 +69,7 @@ Value BuiltInCall::Evaluate(Frame& frame) const {
 
 Value HostMemberCall::Evaluate(Frame& frame) const {
     const auto values = EvaluateAll(arguments_, frame);
-    frame.machine.RequireObject(values.front());
+    frame.machine.RequireObject(values.front(), arguments_.front().value->written());
     return function_(values, frame.machine);
 }
 
@@ -89,7 +89,7 @@ Value RoutineCall::Evaluate(Frame& frame) const {
                                         : argument.value->Evaluate(frame));
     }
     if (isMethod_) {
-        frame.machine.RequireObject(values.front());
+        frame.machine.RequireObject(values.front(), arguments_.front().value->written());
     }
     return CallRoutine(routine_, std::move(values), frame);
 }

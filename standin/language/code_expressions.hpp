@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -194,12 +195,15 @@ private:
 /// An object as one of a more special class; raises IllegalCastException. Nil passes.
 class ClassCast final : public Expression {
 public:
-    ClassCast(ExpressionPtr value, const ClassInfo& info) : value_(std::move(value)), info_(info) {}
+    /// `hint` says what to write where the value is a Variant that holds none.
+    ClassCast(ExpressionPtr value, const ClassInfo& info, std::string hint = {})
+        : value_(std::move(value)), info_(info), hint_(std::move(hint)) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
     ExpressionPtr value_;
     const ClassInfo& info_;
+    std::string hint_;
 };
 
 /// A call of a function that is part of the language.

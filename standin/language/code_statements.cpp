@@ -154,7 +154,7 @@ Flow Return::Execute(Frame& frame) const {
 
 Flow Raise::Execute(Frame& frame) const {
     auto exception = exception_->Evaluate(frame);
-    frame.machine.RequireObject(exception);
+    frame.machine.RequireObject(exception, exception_->written());
     frame.machine.Throw(std::move(exception));
 }
 

@@ -10,8 +10,9 @@ namespace standin::language::code {
 namespace {
 
 /// The place of a field in an object, which the checker knows to have it.
-Value& FieldOf(const Value& object, std::size_t index, const Machine& machine) {
-    machine.RequireObject(object);
+Value& FieldOf(const Value& object, const Written& written, std::size_t index,
+               const Machine& machine) {
+    machine.RequireObject(object, written);
     return static_cast<Fields*>(machine.host().Held(object.object()))->values[index];
 }
 
@@ -19,13 +20,13 @@ Value& FieldOf(const Value& object, std::size_t index, const Machine& machine) {
 
 Value Field::Evaluate(Frame& frame) const {
     const auto object = object_->Evaluate(frame);
-    return FieldOf(object, index_, frame.machine);
+    return FieldOf(object, object_->written(), index_, frame.machine);
 }
 
 Value SetField::Evaluate(Frame& frame) const {
     const auto object = object_->Evaluate(frame);
     auto value = value_->Evaluate(frame);
-    std::swap(FieldOf(object, index_, frame.machine), value);
+    std::swap(FieldOf(object, object_->written(), index_, frame.machine), value);
     return {};
 }
 

@@ -149,7 +149,9 @@ Checked ConvertVariant(Checked value, Type to) {
                 false};
     }
     if (to.kind == Kind::Instance) {
-        return {std::make_unique<code::ClassCast>(std::move(value.code), to.model->info()),
+        auto hint = VariantHint(*to.model, value.code->written().text);
+        return {std::make_unique<code::ClassCast>(std::move(value.code), to.model->info(),
+                                                  std::move(hint)),
                 to,
                 at,
                 {},

@@ -6,6 +6,27 @@
 #include "standin/language/text.hpp"
 
 namespace standin::language {
+namespace {
+
+/// Longer chains of names are left out of messages.
+constexpr std::size_t LongestWrittenName = 60;
+
+/// A name, or several with dots between them, as they are written; empty for anything else.
+std::string WrittenName(const syntax::Expression& expression) {
+    if (const auto* name = std::get_if<syntax::Name>(&expression.node)) {
+        return name->name.size() > LongestWrittenName ? std::string() : name->name;
+    }
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    if (member == nullptr || member->name.size() > LongestWrittenName) {
+        return {};
+    }
+    const auto object = WrittenName(*member->object);
+    const bool isShown =
+        !object.empty() && object.size() + member->name.size() < LongestWrittenName;
+    return isShown ? object + "." + member->name : std::string();
+}
+
+}  // namespace
 
 Checked ExpressionChecker::MakeConstant(Value value, Type type, Position at) {
     return {std::make_unique<code::Constant>(std::move(value)), type, at, {}, false};
@@ -24,8 +45,10 @@ Checked ExpressionChecker::Check(const syntax::Expression& expression) {
 }
 
 Checked ExpressionChecker::CheckCall(const syntax::Expression& expression) {
-    return std::visit([&](const auto& node) { return CheckNode(node, expression.at); },
-                      expression.node);
+    auto checked = std::visit([&](const auto& node) { return CheckNode(node, expression.at); },
+                              expression.node);
+    checked.code->SetText(WrittenName(expression));
+    return checked;
 }
 
 code::ExpressionPtr ExpressionChecker::CheckAs(const syntax::Expression& expression, Type type) {
@@ -125,6 +148,7 @@ Checked ExpressionChecker::MakeVariable(const Variable& variable, Position at) {
             code = std::make_unique<code::Variable<Global>>(variable.slot);
             break;
     }
+    code->SetAssigned(variable.isAssigned);
     return {std::move(code), variable.type, at, {}, !variable.isConstant};
 }
 

@@ -57,10 +57,12 @@ const Method* FindFactory(const ClassModel& model, Type type) {
     return found == model.sharedMethods.end() ? nullptr : &*found;
 }
 
-std::string FactoryHint(const ClassModel& model, Type type) {
+/// `value` is the argument as it is written.
+std::string FactoryHint(const ClassModel& model, Type type, const std::string& value = "...") {
     const auto* factory = FindFactory(model, type);
-    return factory == nullptr ? std::string()
-                              : "; write " + model.name() + "." + factory->signature.name + "(...)";
+    return factory == nullptr
+               ? std::string()
+               : "; write " + model.name() + "." + factory->signature.name + "(" + value + ")";
 }
 
 /// A literal as it is written; empty for any other value.
@@ -172,6 +174,10 @@ std::string ConversionHint(const Checked& value, Type to, TextOffer text) {
         return ConstructionHint(value, to, text);
     }
     return from.kind == Kind::Instance ? PropertyHint(*from.model, to) : std::string();
+}
+
+std::string VariantHint(const ClassModel& model, const std::string& variant) {
+    return FactoryHint(model, {Kind::Variant}, variant.empty() ? "..." : variant);
 }
 
 std::string ClassesHint(const Checked& left, const Checked& right) {

@@ -22,6 +22,10 @@ enum class TextOffer : std::uint8_t { Allowed, Refused };
 /// How a value that does not convert by itself can become one of the type.
 std::string ConversionHint(const Checked& value, Type to, TextOffer text = TextOffer::Allowed);
 
+/// How what a Variant holds becomes an object of the class; `variant` is how it is written, or
+/// empty.
+std::string VariantHint(const ClassModel& model, const std::string& variant);
+
 /// How two objects become ones of one class. Which class loses nothing is not known here.
 std::string ClassesHint(const Checked& left, const Checked& right);
 

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "standin/language/code.hpp"
+#include "standin/language/names.hpp"
 #include "standin/runtime/memory_budget.hpp"
 
 namespace standin::language {
@@ -42,10 +43,16 @@ void Machine::Raise(std::string_view className, std::string_view message) const 
     Throw(std::move(exception));
 }
 
-void Machine::RequireObject(const Value& object) const {
-    if (object.object() == nullptr) {
+void Machine::RequireObject(const Value& object, const Written& written) const {
+    if (object.object() != nullptr) {
+        return;
+    }
+    if (written.text.empty()) {
         Raise("NilObjectException", "An object that is Nil was used.");
     }
+    const bool hasNoValue = written.isAssigned != nullptr && !*written.isAssigned;
+    Raise("NilObjectException",
+          Quoted(written.text) + " is Nil" + (hasNoValue ? "; missing New?" : "."));
 }
 
 Value Machine::MakeObject(const ClassInfo& info) const {

@@ -38,6 +38,14 @@ inline std::string Quoted(std::string_view text) {
     return '"' + std::string(text) + '"';
 }
 
+/// "a" or "an" before a name; the U of names such as UInt32 sounds like a consonant.
+inline std::string WithArticle(std::string_view name) {
+    constexpr std::string_view Vowels = "aeio";
+    const bool soundsLikeVowel =
+        !name.empty() && Vowels.find(FoldCase(name.front())) != std::string_view::npos;
+    return (soundsLikeVowel ? "an " : "a ") + std::string(name);
+}
+
 /// The base of a number whose prefix is `&` and this letter, such as &hFF.
 constexpr std::optional<int> BaseOfPrefix(char letter) {
     switch (FoldCase(letter)) {

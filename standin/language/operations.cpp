@@ -12,6 +12,7 @@
 #include "standin/language/names.hpp"
 #include "standin/language/text.hpp"
 #include "standin/language/unicode.hpp"
+#include "standin/language/variant_operations.hpp"
 
 namespace standin::language {
 namespace {
@@ -433,11 +434,19 @@ void RequireHeldValue(const Value& variant, std::string_view wanted, const Machi
     }
 }
 
-void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine) {
-    if (object.object() != nullptr && !IsObjectOf(object, info, machine)) {
-        machine.Raise("IllegalCastException", "A " + machine.host().ClassOf(object.object()).name +
-                                                  " is not a " + info.name + ".");
+void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine,
+                     std::string_view hint) {
+    if (object.object() == nullptr || IsObjectOf(object, info, machine)) {
+        return;
     }
+    const auto* actual = ClassOfObject(object, machine);
+    const auto what =
+        actual == nullptr
+            ? "This Variant holds " + WithArticle(NameOf({HeldKind(object, machine)})) + ", not "
+            : "A " + actual->name + " is not ";
+    machine.Raise("IllegalCastException",
+                  what + WithArticle(info.name) +
+                      (actual == nullptr ? std::string(hint) : std::string()) + ".");
 }
 
 UnaryFunction FindNegation(Kind kind) {

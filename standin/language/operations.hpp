@@ -37,8 +37,10 @@ void RequireHeldValue(const Value& variant, std::string_view wanted, const Machi
 /// Whether an object is one of that class. Nil is of no class, and a Variant that holds a value is
 /// no object to a program.
 bool IsObjectOf(const Value& object, const ClassInfo& info, const Machine& machine);
-/// Raises IllegalCastException for an object of another class. Nil passes.
-void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine);
+/// Raises IllegalCastException for an object of another class, and for a Variant that holds a
+/// value: that message ends with the hint. Nil passes.
+void RequireObjectOf(const Value& object, const ClassInfo& info, const Machine& machine,
+                     std::string_view hint = {});
 
 /// `-value`; null where the kind has none.
 UnaryFunction FindNegation(Kind kind);

@@ -213,7 +213,9 @@ std::vector<code::Argument> Fill(const Signature& signature, std::vector<Checked
         }
         auto argument = i < arguments.size() ? std::move(arguments[i])
                                              : defaults.CheckDefault(*parameter.defaultValue, at);
-        if (!parameter.byRef) {
+        if (parameter.byRef) {
+            MarkAssigned(argument.code->written().isAssigned);
+        } else {
             argument = ConvertTo(std::move(argument), parameter.type);
         }
         filled.push_back({std::move(argument.code), parameter.type.kind, parameter.byRef});

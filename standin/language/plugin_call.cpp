@@ -211,7 +211,7 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
     // a routine that drops the variable it got by reference drops the argument too.
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (arguments_[i].kind == Kind::Instance && IsWrongAbout("nil-argument")) {
-            frame.machine.RequireObject(arguments[i]);
+            frame.machine.RequireObject(arguments[i], arguments_[i].value->written());
         }
         const Value* storage = arguments_[i].byRef ? nullptr : arguments_[i].value->Storage(frame);
         if (storage != nullptr) {
@@ -315,9 +315,9 @@ Value InstanceCall::Evaluate(Frame& frame) const {
         if (receiver.object() == nullptr && IsWrongAbout("nil-receiver-of-setter")) {
             return {};
         }
-        frame.machine.RequireObject(receiver);
+        frame.machine.RequireObject(receiver, receiver_->written());
     } else if (IsWrongAbout("nil-receiver")) {
-        frame.machine.RequireObject(receiver);
+        frame.machine.RequireObject(receiver, receiver_->written());
     }
     auto* const self = receiver.object();
     return call_.Invoke(frame, std::move(arguments), &self);

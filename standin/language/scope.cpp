@@ -72,6 +72,10 @@ Variable Scope::Declare(const std::string& name, Type type, Position at, bool is
     return variable;
 }
 
+void Scope::BeginAsNil(const std::string& name) {
+    levels_.back().variables.find(name)->second.isAssigned = std::make_shared<bool>(false);
+}
+
 void Scope::DeclareParameter(const std::string& name, Type type, bool byRef, Position at) {
     Declare(name, type, at);
     if (byRef) {

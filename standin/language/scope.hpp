@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,8 @@ struct Variable {
     std::size_t slot = 0;
     code::VariableKind kind = code::VariableKind::Local;
     bool isConstant = false;
+    /// Whether the program assigns anything to it; null where it does not begin as Nil.
+    std::shared_ptr<bool> isAssigned = {};
 };
 
 /// The blocks around a place, from the routine's parameters to the innermost block. Variables of
@@ -38,6 +41,8 @@ public:
 
     /// Adds a variable to the innermost block. Throws ProgramError when the block has that name.
     Variable Declare(const std::string& name, Type type, Position at, bool isConstant = false);
+    /// From now on it counts whether anything is assigned to a variable of the innermost block.
+    void BeginAsNil(const std::string& name);
     /// Adds a variable that lives outside of the frame.
     void DeclareGlobal(const std::string& name, Type type, std::size_t slot, Position at);
     /// Adds a parameter; ByRef ones refer to the caller's variable.

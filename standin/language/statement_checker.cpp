@@ -128,6 +128,9 @@ void StatementChecker::Declare(code::Block& block, const syntax::Declarator& dec
     code::ExpressionPtr value;
     errors_.Try([&] { value = CheckInitialValue(declarator, type); });
     const auto variable = scope_.Declare(declarator.name, type, declarator.at);
+    if (type.kind == Kind::Instance && !declarator.initialiser) {
+        scope_.BeginAsNil(declarator.name);
+    }
     AppendAssign(block, at, variable, std::move(value));
 }
 
@@ -181,6 +184,7 @@ void StatementChecker::AddNode(code::Block& block, const syntax::Assignment& ass
     if (variable->isConstant) {
         throw ProgramError(at, "a constant cannot be assigned to");
     }
+    MarkAssigned(variable->isAssigned);
     AppendAssign(block, at, *variable, expressions_.CheckAs(*assignment.value, variable->type));
 }
 
@@ -359,6 +363,7 @@ code::ForEachParts StatementChecker::CheckElements(const syntax::ForEach& loop, 
     if (variable.isConstant) {
         throw ProgramError(at, "a constant cannot be assigned to");
     }
+    MarkAssigned(variable.isAssigned);
     const auto element = scope_.Declare(HiddenElement, array.type.ElementType(), at);
     code::ForEachParts parts;
     parts.array = std::move(array.code);

@@ -246,3 +246,41 @@ TEST_CASE("reserved words name nothing") {
     CHECK(host.Run("Enum Color\nRed\nEnd Enum") == "1:6: \"Color\"" + refused);
     CHECK(host.Run("Class Object\nEnd Class") == "1:7: \"Object\"" + refused);
 }
+
+TEST_CASE("an exception names what is Nil") {
+    SampleHost host;
+    const std::string link =
+        "Class Link\nNumber As Integer\nFollowing As Link\nSub Show()\nEnd Sub\nEnd Class\n"
+        "Function None() As Link\nReturn Nil\nEnd Function\n"
+        "Sub Fill(ByRef a As Link)\nEnd Sub\n";
+    const auto messageOf = [&](const std::string& code) {
+        const auto output = host.Run(link + code);
+        return output.substr(0, output.rfind(" (line"));
+    };
+    const std::string start = "Unhandled NilObjectException: ";
+    CHECK(messageOf("Dim a As Link\na.Number = 1") == start + "\"a\" is Nil; missing New?");
+    CHECK(messageOf("Dim a As Link\na.Show") == start + "\"a\" is Nil; missing New?");
+    CHECK(messageOf("Dim a As Link\nPrint Str(a.Number)") == start + "\"a\" is Nil; missing New?");
+    CHECK(messageOf("Sub S()\nDim a As Link\na.Show\nEnd Sub\nS") ==
+          start + "\"a\" is Nil; missing New?");
+    // Something is assigned somewhere, so New is not what is missing.
+    CHECK(messageOf("Dim a As Link = Nil\na.Show") == start + "\"a\" is Nil.");
+    CHECK(messageOf("Dim a As Link\na = None\na.Show") == start + "\"a\" is Nil.");
+    CHECK(messageOf("Dim a As Link\nFill(a)\na.Show") == start + "\"a\" is Nil.");
+    CHECK(messageOf("Dim a As Link\nDim all(0) As Link\nFor Each a In all\na.Show\nNext") ==
+          start + "\"a\" is Nil.");
+    CHECK(messageOf("Sub S(a As Link)\na.Show\nEnd Sub\nS(Nil)") == start + "\"a\" is Nil.");
+    CHECK(messageOf("Dim a As New Link\na.Following.Number = 1") ==
+          start + "\"a.Following\" is Nil.");
+    CHECK(messageOf("Dim a As New Link\na.Following.Following.Show") ==
+          start + "\"a.Following\" is Nil.");
+    CHECK(messageOf("None.Show") == start + "\"None\" is Nil.");
+    CHECK(messageOf("Dim d As Dictionary\nd.RemoveAll") == start + "\"d\" is Nil; missing New?");
+    CHECK(messageOf("Dim e As RuntimeException\nRaise e") == start + "\"e\" is Nil; missing New?");
+    // What is longer than names is not repeated.
+    CHECK(messageOf("Dim all(0) As Link\nall(0).Show") ==
+          start + "An object that is Nil was used.");
+    const std::string longName(61, 'a');
+    CHECK(messageOf("Dim " + longName + " As Link\n" + longName + ".Show") ==
+          start + "An object that is Nil was used.");
+}

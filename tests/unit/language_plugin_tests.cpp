@@ -272,7 +272,7 @@ TEST_CASE("Nil receivers read, but do not write") {
     CHECK(host.Run(make + "Print Str((s + s).Value)\nPrint Str((-s).Value)") == "-2\n1\n");
     CHECK(host.Run(make + "Print s.Greet(\"me\", 0)") == "!-1.500000\n");
     const std::string refused =
-        "Unhandled NilObjectException: An object that is Nil was used. "
+        "Unhandled NilObjectException: \"s\" is Nil; missing New? "
         "(line 2)\n";
     CHECK(host.Run(make + "s.Value = 1") == refused);
     CHECK(host.Run(make + "s.Cell(1) = 1") == refused);
@@ -300,7 +300,7 @@ TEST_CASE("references are given back when blocks end") {
 TEST_CASE("the host may lack classes") {
     SampleHost host({.missing = {"NilObjectException", "StackOverflowException"}});
     CHECK(host.Run("Dim s As Sample\ns.Value = 1") ==
-          "Unhandled RuntimeException: An object that is Nil was used. (line 2)\n");
+          "Unhandled RuntimeException: \"s\" is Nil; missing New? (line 2)\n");
 }
 
 TEST_CASE("the listing shows every member and marks what is missing") {

@@ -300,7 +300,7 @@ TEST_CASE("exceptions") {
                    "Catch e As SampleException\nPrint e.Message\nEnd Try") == "ab\n");
     CHECK(host.Run("Dim e As RuntimeException\nTry\nRaise e\nCatch n As NilObjectException\n"
                    "Print \"nil\"\nEnd Try\nPrint e.Message") ==
-          "nil\nUnhandled NilObjectException: An object that is Nil was used. (line 7)\n");
+          "nil\nUnhandled NilObjectException: \"e\" is Nil; missing New? (line 7)\n");
     CHECK(
         host.Run("Dim e As New RuntimeException\ne.Message = \"m\"\ne.ErrorNumber = 3\nRaise e") ==
         "Unhandled RuntimeException: m (line 4)\n");
