@@ -37,8 +37,10 @@ ExpressionChecker::Arguments ExpressionChecker::CheckArguments(
     return arguments;
 }
 
-void ExpressionChecker::RequireArray(const syntax::Call& call, Type type, Position at) const {
+void ExpressionChecker::RequireArray(const syntax::Call& call, const Variable& variable,
+                                     Position at) const {
     const auto* name = std::get_if<syntax::Name>(&call.callee->node);
+    const Type type = variable.type;
     if (type.kind == Kind::Array || name == nullptr) {
         return;
     }
@@ -47,10 +49,12 @@ void ExpressionChecker::RequireArray(const syntax::Call& call, Type type, Positi
         std::ranges::any_of(callables_.routines, [name](const auto& routine) {
             return SameName(routine.signature.name, name->name);
         });
-    throw ProgramError(at,
+    ProgramError error(at,
                        Quoted(name->name) + " is a variable of type " + NameOf(type) +
                            " here, and takes no arguments" +
                            (hidesFunction ? "; rename it to call the function of that name" : ""));
+    error.SetDeclaration(variable.declaredAt);
+    throw ProgramError(error);
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
@@ -58,7 +62,7 @@ Checked ExpressionChecker::CheckNode(const syntax::Call& call, Position at) {
         return CheckArrayCall(call, std::nullopt, at);
     }
     if (const auto variable = FindVariable(*call.callee)) {
-        RequireArray(call, variable->type, at);
+        RequireArray(call, *variable, at);
         return CheckElement(MakeVariable(*variable, at), CheckArguments(call.arguments), at);
     }
     if (const auto* member = std::get_if<syntax::Member>(&call.callee->node)) {

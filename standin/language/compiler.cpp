@@ -270,7 +270,10 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
                                    Quoted(field.declarator.name) + " is declared already");
             }
             const auto type = types_.Require(field.declarator.type, errors);
-            const Variable variable{type, globals_.size(), code::VariableKind::Global};
+            const Variable variable{.type = type,
+                                    .slot = globals_.size(),
+                                    .kind = code::VariableKind::Global,
+                                    .declaredAt = field.declarator.at};
             globals_.push_back(type);
             callables_.variables.push_back(
                 {field.declarator.name, variable, unit.name, seen(field.visibility)});
@@ -404,6 +407,13 @@ code::Block Compiler::CompileShown(const syntax::Expression& expression) {
             std::make_unique<code::Print>(expression.at, checker.CheckAsShown(expression)));
     }
     return block;
+}
+
+void Compiler::ForgetPlaces() {
+    scope_.ForgetPlaces();
+    for (auto& variable : callables_.variables) {
+        variable.variable.declaredAt.reset();
+    }
 }
 
 void Compiler::Restore(Declarations declarations) {

@@ -45,6 +45,8 @@ public:
     Declarations Remember() const { return {callables_, scope_}; }
     /// Forgets what was declared since, the types excepted: there may be objects of them.
     void Restore(Declarations declarations);
+    /// Another text follows, in which nothing is declared yet.
+    void ForgetPlaces();
     /// Forgets the types of a program that has errors.
     void ForgetTypes(std::size_t count) { types_.KeepFirst(count); }
     std::size_t typeCount() const { return types_.declaredCount(); }

@@ -133,7 +133,7 @@ private:
     static Checked MakeReal(const syntax::RealLiteral& literal, bool isNegative, Position at);
     Arguments CheckArguments(const syntax::Expressions& expressions);
     /// Throws where something is called that is a variable, but no array.
-    void RequireArray(const syntax::Call& call, Type type, Position at) const;
+    void RequireArray(const syntax::Call& call, const Variable& variable, Position at) const;
     /// `member` is what is wanted of it.
     Receiver CheckReceiver(const syntax::Expression& expression, const std::string& member);
     Checked CheckMember(Receiver receiver, const std::string& name, Position at);

@@ -56,20 +56,33 @@ std::vector<std::string_view> Scope::Names() const {
 }
 
 void Scope::DeclareGlobal(const std::string& name, Type type, std::size_t slot, Position at) {
-    const Variable variable{type, slot, code::VariableKind::Global};
+    const Variable variable{
+        .type = type, .slot = slot, .kind = code::VariableKind::Global, .declaredAt = at};
     if (!levels_.back().variables.emplace(name, variable).second) {
         throw ProgramError(at, Quoted(name) + " is declared already");
     }
 }
 
 Variable Scope::Declare(const std::string& name, Type type, Position at, bool isConstant) {
-    const Variable variable{type, nextSlot_, code::VariableKind::Local, isConstant};
+    const Variable variable{
+        .type = type, .slot = nextSlot_, .isConstant = isConstant, .declaredAt = at};
     if (!levels_.back().variables.emplace(name, variable).second) {
         throw ProgramError(at, Quoted(name) + " is declared already");
     }
     ++nextSlot_;
     slotCount_ = std::max(slotCount_, nextSlot_);
     return variable;
+}
+
+void Scope::ForgetPlaces() {
+    for (auto& level : levels_) {
+        for (auto& [name, variable] : level.variables) {
+            variable.declaredAt.reset();
+        }
+    }
+    for (auto& [name, variable] : shared_) {
+        variable.declaredAt.reset();
+    }
 }
 
 void Scope::BeginAsNil(const std::string& name) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,8 @@ struct Variable {
     bool isConstant = false;
     /// Whether the program assigns anything to it; null where it does not begin as Nil.
     std::shared_ptr<bool> isAssigned = {};
+    /// Where it is declared in the text that is compiled; nothing for one of an earlier text.
+    std::optional<Position> declaredAt = {};
 };
 
 /// The blocks around a place, from the routine's parameters to the innermost block. Variables of
@@ -47,6 +50,8 @@ public:
     void DeclareGlobal(const std::string& name, Type type, std::size_t slot, Position at);
     /// Adds a parameter; ByRef ones refer to the caller's variable.
     void DeclareParameter(const std::string& name, Type type, bool byRef, Position at);
+    /// Another text follows, in which no variable is declared yet.
+    void ForgetPlaces();
     /// How many blocks are around the place; `LeaveTo` ends those that are more.
     std::size_t depth() const { return levels_.size(); }
     void LeaveTo(std::size_t depth);

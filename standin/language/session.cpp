@@ -61,6 +61,7 @@ bool Session::Run(const Source& fragment) {
         (errors.IsUnfinished() || errors.First().position() >= fragment.text().size())) {
         return false;
     }
+    compiler_.ForgetPlaces();
     auto before = compiler_.Remember();
     const auto typesBefore = compiler_.typeCount();
     code::Block block;

@@ -153,8 +153,18 @@ std::string Source::DescribeOne(const ProgramError& error) const {
         }
     }
     return FileAt(error.position()).name + ":" + std::to_string(place.line) + ":" +
-           std::to_string(place.column) + ": error: " + error.what() + "\n  " + line + "\n  " +
-           caret + "^\n";
+           std::to_string(place.column) + ": error: " + error.what() + DescribeDeclaration(error) +
+           "\n  " + line + "\n  " + caret + "^\n";
+}
+
+std::string Source::DescribeDeclaration(const ProgramError& error) const {
+    const auto declaration = error.declaration();
+    if (!declaration) {
+        return {};
+    }
+    const auto& name = FileAt(*declaration).name;
+    return "; it is declared in line " + std::to_string(Locate(*declaration).line) +
+           (name == FileAt(error.position()).name ? "" : " of " + name);
 }
 
 }  // namespace standin::language

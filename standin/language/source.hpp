@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -29,8 +30,13 @@ public:
     const std::vector<ProgramError>& further() const;
     void SetFurther(std::vector<ProgramError> errors);
 
+    /// Where something that the message is about is declared; a report names the line.
+    std::optional<Position> declaration() const { return declaration_; }
+    void SetDeclaration(std::optional<Position> at) { declaration_ = at; }
+
 private:
     Position position_;
+    std::optional<Position> declaration_;
     std::shared_ptr<const std::vector<ProgramError>> further_;
 };
 
@@ -98,6 +104,9 @@ public:
 
 private:
     std::string DescribeOne(const ProgramError& error) const;
+    /// "; it is declared in line 3", with the file where that is another one; empty for an error
+    /// that is about no declaration.
+    std::string DescribeDeclaration(const ProgramError& error) const;
 
     std::string text_;
     std::vector<File> files_;

@@ -231,6 +231,25 @@ TEST_CASE("a variable that hides a function is named") {
           "call the function of that name");
     CHECK(host.Run("Dim n As Integer\nPrint Str(n(5))") ==
           "2:11: \"n\" is a variable of type Integer here, and takes no arguments");
+    const std::string hidden =
+        "error: \"Hex\" is a variable of type String here, and takes no arguments; rename it to "
+        "call the function of that name";
+    CHECK(MessagesOf(host, "\nDim hex As String\nPrint Hex(5)") ==
+          "3:7: " + hidden + "; it is declared in line 2");
+    CHECK(MessagesOf(host, "Sub S(hex As String)\nPrint Hex(5)\nEnd Sub") ==
+          "2:7: " + hidden + "; it is declared in line 1");
+    CHECK(MessagesOf(host, "Module M\nhex As String\nEnd Module\nSub S()\nPrint Hex(5)\nEnd Sub") ==
+          "5:7: " + hidden + "; it is declared in line 2");
+    // At the prompt the text with the declaration is gone.
+    standin::language::Session session(host.host(), host.types(), [](std::string_view) {});
+    session.Run({"input", "Dim hex As String"});
+    const standin::language::Source call("input", "Print Hex(5)");
+    try {
+        session.Run(call);
+        FAIL_CHECK("nothing was wrong");
+    } catch (const standin::language::ProgramError& error) {
+        CHECK(call.Describe(error) == "input:1:7: " + hidden + "\n  Print Hex(5)\n        ^\n");
+    }
 }
 
 TEST_CASE("reserved words name nothing") {
