@@ -43,6 +43,9 @@ syntax::Statement::Node StatementParser::ParseSingleLineIf(syntax::ExpressionPtr
 }
 
 void StatementParser::ExpectEnd(TokenKind what) {
+    if (!isClosed_) {
+        return;
+    }
     cursor_.Expect(TokenKind::End);
     if (cursor_.TryTake(what)) {
         return;
@@ -52,7 +55,8 @@ void StatementParser::ExpectEnd(TokenKind what) {
 }
 
 void StatementParser::ExpectBlockEnd(TokenKind what) {
-    if (cursor_.IsAt(TokenKind::End) && cursor_.Following().kind == TokenKind::EndOfLine) {
+    if (isClosed_ && cursor_.IsAt(TokenKind::End) &&
+        cursor_.Following().kind == TokenKind::EndOfLine) {
         cursor_.Take();
         return;
     }
@@ -60,7 +64,7 @@ void StatementParser::ExpectBlockEnd(TokenKind what) {
 }
 
 void StatementParser::ExpectLoopEnd(TokenKind what) {
-    if (cursor_.TryTake(what)) {
+    if (!isClosed_ || cursor_.TryTake(what)) {
         return;
     }
     errors_.Try([&] { cursor_.Expect(what); });
@@ -162,7 +166,7 @@ syntax::Statement::Node StatementParser::ParseForEach(Position at) {
 syntax::Block StatementParser::ParseForBody(const std::string& variable, Position at) {
     auto body = ParseBlock({TokenKind::Next}, TokenKind::For, at);
     ExpectLoopEnd(TokenKind::Next);
-    if (cursor_.IsAt(TokenKind::Name)) {
+    if (isClosed_ && cursor_.IsAt(TokenKind::Name)) {
         const auto name = cursor_.Take();
         if (!SameName(name.text, variable)) {
             throw ProgramError(name.at, "\"Next\" names " + Quoted(name.text) +
@@ -186,7 +190,9 @@ syntax::Statement::Node StatementParser::ParseDo() {
     loop.before = ParseLoopTest();
     loop.body = ParseBlock({TokenKind::Loop}, TokenKind::Do, at);
     ExpectLoopEnd(TokenKind::Loop);
-    loop.after = ParseLoopTest();
+    if (isClosed_) {
+        loop.after = ParseLoopTest();
+    }
     return loop;
 }
 
@@ -223,7 +229,7 @@ syntax::Statement::Node StatementParser::ParseTry() {
     if (hasFinally) {
         result.finally = ParseBlock({TokenKind::End}, TokenKind::Try, at);
     }
-    if (result.catches.empty() && !hasFinally) {
+    if (isClosed_ && result.catches.empty() && !hasFinally) {
         cursor_.Fail(R"("Catch" or "Finally")");
     }
     ExpectBlockEnd(TokenKind::Try);
@@ -267,11 +273,14 @@ syntax::Routine StatementParser::ParseRoutine() {
     cursor_.ExpectEndOfLine();
     const auto ends = {TokenKind::Exception, TokenKind::Finally, TokenKind::End};
     routine.body = ParseBlock(ends, head.kind, head.at);
-    if (!cursor_.IsAt(TokenKind::End)) {
+    if (isClosed_ && !cursor_.IsAt(TokenKind::End)) {
         GuardBody(routine, head);
     }
     ExpectEnd(head.kind);
-    cursor_.ExpectEndOfLine();
+    if (isClosed_) {
+        cursor_.ExpectEndOfLine();
+    }
+    isClosed_ = true;
     constants_ = outside;
     return routine;
 }

@@ -1,7 +1,6 @@
 #include "standin/language/errors.hpp"
 
 #include <algorithm>
-#include <cstddef>
 #include <utility>
 
 namespace standin::language {
@@ -26,9 +25,7 @@ void ErrorList::ThrowIfAny() const {
         return;
     }
     auto sorted = errors_;
-    const auto parsedEnd = sorted.begin() + static_cast<std::ptrdiff_t>(parsedCount_);
-    std::ranges::stable_sort(sorted.begin(), parsedEnd, {}, &ProgramError::position);
-    std::ranges::stable_sort(parsedEnd, sorted.end(), {}, &ProgramError::position);
+    std::ranges::stable_sort(sorted, {}, &ProgramError::position);
     auto first = sorted.front();
     sorted.erase(sorted.begin());
     first.SetFurther(std::move(sorted));

@@ -26,9 +26,6 @@ public:
     void Add(const ProgramError& error);
     /// Adds that the text ends inside a block.
     void AddUnclosed(const UnclosedError& error);
-    /// Puts the errors so far, those of the grammar, before all later ones: what cannot be parsed
-    /// may be the reason why names and types seem wrong.
-    void EndParsing() { parsedCount_ = errors_.size(); }
 
     /// Remembers a name whose declaration may have been lost to an error.
     void Doubt(const std::string& name) { doubtful_.insert(name); }
@@ -40,8 +37,7 @@ public:
     const ProgramError& First() const;
     /// Whether the only thing wrong is that the text ends inside a block.
     bool IsUnfinished() const { return isUnfinished_ && errors_.size() == 1; }
-    /// Throws the first error with all others as its further ones: those of the grammar in the
-    /// order of the text, then the others in that order.
+    /// Throws the first error in the order of the text, with all others as its further ones.
     void ThrowIfAny() const;
 
     /// Runs an action; a ProgramError that it throws is added. Tells whether it threw none.
@@ -63,7 +59,6 @@ public:
 
 private:
     std::vector<ProgramError> errors_;
-    std::size_t parsedCount_ = 0;
     bool isUnfinished_ = false;
     std::set<std::string, NameLess> doubtful_;
 };

@@ -35,7 +35,6 @@ syntax::Program ParseProgram(std::string_view text, Constants& constants, ErrorL
     syntax::Program program;
     UnitParser(text, 0, constants, errors).CollectConstants();
     UnitParser(text, 0, constants, errors).ParseScript(program);
-    errors.EndParsing();
     return program;
 }
 
@@ -52,7 +51,6 @@ syntax::Program ParseProject(const Source& source, Constants& constants, ErrorLi
     for (const auto& file : files) {
         UnitParser(textOf(file), file.start, constants, errors).ParseProjectFile(program, file);
     }
-    errors.EndParsing();
     return program;
 }
 

@@ -47,6 +47,8 @@ constexpr auto Openers = {TokenKind::If,       TokenKind::Select, TokenKind::For
                           TokenKind::While,    TokenKind::Do,     TokenKind::Try,
                           TokenKind::Function, TokenKind::Sub,    TokenKind::Class,
                           TokenKind::Module,   TokenKind::Enum};
+/// Words that begin the declaration of a variable or constant.
+constexpr auto Declarers = {TokenKind::Dim, TokenKind::Var, TokenKind::Static, TokenKind::Const};
 /// Words that begin what cannot stand among statements.
 constexpr auto UnitHeads = {TokenKind::Function, TokenKind::Sub, TokenKind::Class,
                             TokenKind::Module};
@@ -126,9 +128,12 @@ std::optional<syntax::Visibility> VisibilityOf(const Token& token) {
 
 void StatementParser::ParseInto(syntax::Block& block) {
     const auto start = cursor_.Mark();
+    isClosed_ = true;
     const bool isRight = errors_.Try([&] {
         auto statement = ParseUnended();
-        cursor_.ExpectEndOfLine();
+        if (isClosed_) {
+            cursor_.ExpectEndOfLine();
+        }
         block.push_back(std::move(statement));
     });
     if (!isRight) {
@@ -234,15 +239,29 @@ bool StatementParser::IsOutsideOfStatements(std::size_t line) const {
     return IsOneOf(HeadOf(line), UnitHeads) || cursor_.TokenAt(line).kind == TokenKind::HashTag;
 }
 
-void StatementParser::FailUnclosed(TokenKind opener, Position openerAt) {
-    const std::string message = "this " + Describe(opener) + " is not closed before ";
-    if (unclosedBefore_ == cursor_.Mark()) {
-        throw FollowingError(openerAt, message + "the end of a block around it");
+void StatementParser::LeaveUnclosed(TokenKind opener, Position openerAt) {
+    const auto mark = cursor_.Mark();
+    isClosed_ = false;
+    if (unclosedBefore_ == mark) {
+        return;
     }
-    unclosedBefore_ = cursor_.Mark();
-    const bool isEnd = cursor_.IsAt(TokenKind::End);
-    throw ProgramError(openerAt, message + (isEnd ? "\"End " + cursor_.Following().text + '"'
-                                                  : Describe(HeadOf(cursor_.Mark()))));
+    unclosedBefore_ = mark;
+    const std::string message = "this " + Describe(opener) + " is ";
+    if (cursor_.IsAt(TokenKind::EndOfText)) {
+        unclosedAtEnd_ = UnclosedError(openerAt, message + "never closed");
+        return;
+    }
+    const auto before = cursor_.IsAt(TokenKind::End) ? Quoted("End " + cursor_.Following().text)
+                                                     : Describe(HeadOf(mark));
+    errors_.Add(ProgramError(openerAt, message + "not closed before " + before));
+}
+
+void StatementParser::DoubtDeclarations(std::size_t start) {
+    for (auto line = start; line < cursor_.Mark(); line = cursor_.EndOfLine(line) + 2) {
+        if (IsOneOf(cursor_.TokenAt(line).kind, Declarers)) {
+            DoubtNames(line);
+        }
+    }
 }
 
 void StatementParser::SkipBlock() {
@@ -282,18 +301,21 @@ syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends,
                                           Position openerAt) {
     const NestingGuard guard(depth_, cursor_.At());
     const OpenBlock open(*this, opener);
+    const auto start = cursor_.Mark();
     syntax::Block block;
     for (SkipToCode(); !StopsBlock(ends, opener); SkipToCode()) {
-        if (cursor_.IsAt(TokenKind::EndOfText)) {
-            throw UnclosedError(openerAt, "this " + Describe(opener) + " is never closed");
-        }
         const auto line = cursor_.Mark();
         const bool endsOuter = !BelongsTo(line, opener) && EndsOpenBlock(line, open_.size() - 1);
-        if (endsOuter || IsOutsideOfStatements(line)) {
-            FailUnclosed(opener, openerAt);
+        if (endsOuter || IsOutsideOfStatements(line) || cursor_.IsAt(TokenKind::EndOfText)) {
+            // What stands behind the place where the end should be may declare variables for what
+            // follows.
+            DoubtDeclarations(start);
+            LeaveUnclosed(opener, openerAt);
+            return block;
         }
         ParseInto(block);
     }
+    isClosed_ = true;
     return block;
 }
 

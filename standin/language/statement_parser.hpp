@@ -46,6 +46,11 @@ public:
     void ExpectEnd(TokenKind what);
     /// The same for the end of a statement, where `End` alone will do.
     void ExpectBlockEnd(TokenKind what);
+    /// Adds that a block is not closed before the current line, once for all blocks that are not
+    /// closed before it. The next `ExpectEnd` expects nothing.
+    void LeaveUnclosed(TokenKind opener, Position openerAt);
+    /// The block that is open at the end of the text, which may be unfinished, if there is one.
+    const std::optional<UnclosedError>& unclosedAtEnd() const { return unclosedAtEnd_; }
     /// Adds an error for an `End` of something that is not open, and steps past its line.
     void RefuseEnd();
     /// After an error in what began with token `start`: goes behind the end of that, or to the line
@@ -73,15 +78,16 @@ public:
 private:
     using Node = syntax::Statement::Node;
 
-    /// Statements up to a word that ends the block, which is left for the caller. Throws where the
-    /// end is missing: where the end of a block around it stands, or the head of a routine.
+    /// Statements up to a word that ends the block, which is left for the caller. Leaves the block
+    /// unclosed where its end is missing: where the end of a block around it stands, the head of a
+    /// routine or the end of the text.
     syntax::Block ParseBlock(std::initializer_list<TokenKind> ends, TokenKind opener,
                              Position openerAt);
     /// Whether the block stops here: at one of its ends, or for a loop at that of any loop. An
     /// `End` that belongs to nothing is an error in a routine and stepped over.
     bool StopsBlock(std::initializer_list<TokenKind> ends, TokenKind opener);
-    /// Throws that a block is not closed; once for all blocks that are not closed before one place.
-    [[noreturn]] void FailUnclosed(TokenKind opener, Position openerAt);
+    /// Makes the names doubtful that the lines from `start` to the current one declare.
+    void DoubtDeclarations(std::size_t start);
     /// Whether the line that begins with a token ends a block of that kind, or begins another part
     /// of it.
     bool BelongsTo(std::size_t line, TokenKind opener) const;
@@ -153,6 +159,9 @@ private:
     std::vector<TokenKind> open_;
     /// The token before which a block was last found not to be closed.
     std::optional<std::size_t> unclosedBefore_;
+    std::optional<UnclosedError> unclosedAtEnd_;
+    /// Whether the block that was parsed last was closed.
+    bool isClosed_ = true;
 };
 
 /// Who sees what is declared behind a word such as `Private`; nothing for any other word.

@@ -42,6 +42,9 @@ void UnitParser::ParseScript(syntax::Program& program) {
              statements_.SkipToCode()) {
             ParseTopLevel(program);
         }
+        if (const auto& error = statements_.unclosedAtEnd()) {
+            throw UnclosedError(*error);
+        }
     } catch (const UnclosedError& error) {
         errors_.AddUnclosed(error);
     }
@@ -97,6 +100,9 @@ void UnitParser::ParseProjectFile(syntax::Program& program, const Source::File& 
                 unit = unit.value_or(program.units.size() - 1);
             });
         }
+        if (const auto& error = statements_.unclosedAtEnd()) {
+            throw UnclosedError(*error);
+        }
     } catch (const UnclosedError& error) {
         // What ends nowhere may have swallowed the rest because of another error.
         if (errors_.count() == errorsBefore) {
@@ -139,7 +145,8 @@ void UnitParser::ParseMembers(syntax::Unit& unit, const Token& head, syntax::Pro
     tagged_ = {};
     for (statements_.SkipToCode();; statements_.SkipToCode()) {
         if (cursor_.IsAt(TokenKind::EndOfText)) {
-            throw UnclosedError(head.at, "this " + Describe(head.kind) + " is never closed");
+            statements_.LeaveUnclosed(head.kind, head.at);
+            return;
         }
         const auto word = cursor_.Following().kind;
         const bool endsUnit = word == TokenKind::Class || word == TokenKind::Module ||

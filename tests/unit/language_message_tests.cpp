@@ -29,11 +29,11 @@ std::string MessagesOf(SampleHost& sample, const std::string& text) {
 
 }  // namespace
 
-TEST_CASE("errors of the grammar come first") {
+TEST_CASE("errors come in the order of the text") {
     SampleHost host;
     CHECK(MessagesOf(host, "Print missing\nIf 1 = 1 The\nPrint \"x\"\nEnd If\nPrint lost") ==
-          "2:10: error: expected \"Then\", found \"The\"; "
           "1:7: error: there is nothing named \"missing\"; "
+          "2:10: error: expected \"Then\", found \"The\"; "
           "5:7: error: there is nothing named \"lost\"");
 }
 
@@ -92,6 +92,42 @@ TEST_CASE("a wrong or a missing end is one error") {
                      "Function H() As Integer\nReturn F\nEnd Function\nEnd Class\n"
                      "Dim c As New C\nPrint Str(c.H + c.F)") ==
           "2:24: error: expected the name of a type, found \")\"");
+}
+
+TEST_CASE("what stands in and behind a block that is not closed is looked at") {
+    SampleHost host;
+    const std::string five = "error: \"Print\" takes a String, this is Integer; use Str";
+    const std::string routine = "Sub S()\nPrint 5\nEnd Sub";
+    CHECK(MessagesOf(host, "If True Then\nPrint lost\nElse\nPrint 5\n" + routine) ==
+          "1:1: error: this \"If\" is not closed before \"Sub\"; "
+          "2:7: error: there is nothing named \"lost\"; 4:7: " +
+              five + "; 6:7: " + five);
+    CHECK(MessagesOf(host, routine + "\nIf True Then\nPrint 5\nWhile True\nPrint 5") ==
+          "2:7: " + five + "; 5:7: " + five +
+              "; 6:1: error: this \"While\" is never closed; 7:7: " + five);
+    for (const std::string head :
+         {"For i As Integer = 1 To 3", "For Each s As String In a", "While True", "Do",
+          "Select Case 5\nCase 5", "Try", "Try\nCatch e As RuntimeException", "Try\nFinally"}) {
+        CAPTURE(head);
+        const auto code = "Sub A()\nDim a() As String\n" + head + "\nPrint 5\nEnd Sub\n" + routine;
+        const auto messages = MessagesOf(host, code);
+        CHECK(messages.starts_with("3:1: error: this \""));
+        // Two between the three errors, and two in them.
+        CHECK(std::ranges::count(messages, ';') == 4);
+        CHECK(messages.ends_with(
+            five + "; " + ((head.find('\n') != std::string::npos) ? "8:7: " : "7:7: ") + five));
+    }
+    // The loop is there, and so is what it declares.
+    CHECK(MessagesOf(host, "Sub A()\nFor i As Integer = 1 To 3\nPrint Str(i)\nExit For\nEnd Sub") ==
+          "2:1: error: this \"For\" is not closed before \"End Sub\"");
+    // A block that is never closed may have swallowed a declaration for what follows.
+    CHECK(MessagesOf(host, "If True Then\nDim a As Integer\n" + routine + "\nPrint Str(a)") ==
+          "1:1: error: this \"If\" is not closed before \"Sub\"; 4:7: " + five);
+    CHECK(MessagesOf(host, "Class C\nSub A()\nPrint 5\nEnd Class\nDim c As New C\nc.A\nc.B") ==
+          "2:1: error: this \"Sub\" is not closed before \"End Class\"; 3:7: " + five +
+              "; 7:3: error: C has no member \"B\"");
+    CHECK(MessagesOf(host, "Class C\nSub A()\nPrint 5\nEnd Sub") ==
+          "1:1: error: this \"Class\" is never closed; 3:7: " + five);
 }
 
 TEST_CASE("a class with an error is not blamed for what it lacks") {
