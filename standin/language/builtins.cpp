@@ -59,10 +59,10 @@ Value Digits(const Arguments& arguments, const Machine& machine) {
     return machine.MakeText(text);
 }
 
-/// A real number without its fraction.
-template <int Base>
+/// A number of another kind than the integers, without its fraction.
+template <Kind From, int Base>
 Value DigitsOfReal(const Arguments& arguments, const Machine& machine) {
-    const auto whole = FindConversion(Kind::Double, Kind::Int64)(arguments[0], machine);
+    const auto whole = FindConversion(From, Kind::Int64)(arguments[0], machine);
     return Digits<std::uint64_t, Base>({whole}, machine);
 }
 
@@ -266,19 +266,22 @@ constexpr auto Rows = std::to_array<BuiltInRow>({
     {"Hex(value As UInt32) As String", Digits<std::uint32_t, 16>},
     {"Hex(value As Int64) As String", Digits<std::uint64_t, 16>},
     {"Hex(value As UInt64) As String", Digits<std::uint64_t, 16>},
-    {"Hex(value As Double) As String", DigitsOfReal<16>},
+    {"Hex(value As Double) As String", DigitsOfReal<Kind::Double, 16>},
+    {"Hex(value As Currency) As String", DigitsOfReal<Kind::Currency, 16>},
     {"Hex(value As Variant) As String", DigitsOfVariant<16>},
     {"Oct(value As Int32) As String", Digits<std::uint32_t, 8>},
     {"Oct(value As UInt32) As String", Digits<std::uint32_t, 8>},
     {"Oct(value As Int64) As String", Digits<std::uint64_t, 8>},
     {"Oct(value As UInt64) As String", Digits<std::uint64_t, 8>},
-    {"Oct(value As Double) As String", DigitsOfReal<8>},
+    {"Oct(value As Double) As String", DigitsOfReal<Kind::Double, 8>},
+    {"Oct(value As Currency) As String", DigitsOfReal<Kind::Currency, 8>},
     {"Oct(value As Variant) As String", DigitsOfVariant<8>},
     {"Bin(value As Int32) As String", Digits<std::uint32_t, 2>},
     {"Bin(value As UInt32) As String", Digits<std::uint32_t, 2>},
     {"Bin(value As Int64) As String", Digits<std::uint64_t, 2>},
     {"Bin(value As UInt64) As String", Digits<std::uint64_t, 2>},
-    {"Bin(value As Double) As String", DigitsOfReal<2>},
+    {"Bin(value As Double) As String", DigitsOfReal<Kind::Double, 2>},
+    {"Bin(value As Currency) As String", DigitsOfReal<Kind::Currency, 2>},
     {"Bin(value As Variant) As String", DigitsOfVariant<2>},
     {"Len(text As String) As Integer", Length<Unit::Character>},
     {"LenB(text As String) As Integer", Length<Unit::Byte>},

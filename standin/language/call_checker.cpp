@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/language/dictionary.hpp"
 #include "standin/language/expression_checker.hpp"
 #include "standin/language/hints.hpp"
 #include "standin/runtime/wrong_facts.hpp"
@@ -151,6 +152,11 @@ Checked ExpressionChecker::CheckNode(const syntax::New& creation, Position at) {
     const auto type = RequireType(creation.type);
     if (type.kind != Kind::Instance) {
         throw ProgramError(at, NameOf(type) + " is not a class");
+    }
+    if (type.model->name() == DictionaryEntryClass) {
+        throw ProgramError(at, NameOf(type) +
+                                   " has no constructor; a For Each over a Dictionary makes "
+                                   "the entries, and New Pair(left, right) a pair");
     }
     return Construct(*type.model, CheckArguments(creation.arguments), at);
 }

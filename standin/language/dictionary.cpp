@@ -186,10 +186,6 @@ Value SideOfEntry(const Arguments& arguments, const Machine& machine) {
     return Side(arguments[0], machine);
 }
 
-Value MakeEntry(const Arguments& arguments, const Machine& machine) {
-    return MakePairOf(DictionaryEntryClass, arguments[0], arguments[1], machine);
-}
-
 constexpr auto Properties = std::to_array<HostMember>({
     {DictionaryEntryClass, "Key As Variant", SideOfEntry<LeftOf>, nullptr},
     {DictionaryEntryClass, "Value As Variant", SideOfEntry<RightOf>, nullptr},
@@ -211,7 +207,6 @@ constexpr auto Methods = std::to_array<HostMember>({
 
 constexpr auto Factories = std::to_array<HostMember>({
     {DictionaryClass, "Constructor(ParamArray entries As Pair)", MakeDictionary, nullptr},
-    {DictionaryEntryClass, "Constructor(key As Variant, value As Variant)", MakeEntry, nullptr},
 });
 
 }  // namespace

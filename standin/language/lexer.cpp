@@ -105,11 +105,13 @@ constexpr auto ReservedWords = std::to_array<Spelling>({
 
 /// Names that the parser takes, but nothing can be declared as.
 constexpr auto HostWords = std::to_array<std::string_view>({
-    "AddHandler", "Assigns", "Boolean",    "Color",         "Currency", "Declare",  "Delegate",
-    "Double",     "GoTo",    "Implements", "Inherits",      "Int16",    "Int32",    "Int64",
-    "Int8",       "Integer", "Interface",  "Namespace",     "Object",   "Private",  "Property",
-    "Protected",  "Public",  "RaiseEvent", "RemoveHandler", "Shared",   "Single",   "String",
-    "Structure",  "UInt16",  "UInt32",     "UInt64",        "UInt8",    "UInteger", "WeakAddressOf",
+    "AddHandler", "Assigns",       "Boolean",       "Color",      "Currency",  "Declare",
+    "Delegate",   "Double",        "GoTo",          "Implements", "Inherits",  "Int16",
+    "Int32",      "Int64",         "Int8",          "Integer",    "Interface", "Me",
+    "Namespace",  "Object",        "Private",       "Property",   "Protected", "Public",
+    "RaiseEvent", "RemoveHandler", "Self",          "Shared",     "Single",    "String",
+    "Structure",  "Super",         "UInt16",        "UInt32",     "UInt64",    "UInt8",
+    "UInteger",   "Variant",       "WeakAddressOf",
 });
 
 constexpr auto Directives = std::to_array<Spelling>({
@@ -330,9 +332,18 @@ private:
                            R"("&" begins a number in the forms &h, &o and &b; "+" joins texts)");
     }
 
+    /// Whether an `&` is meant to join what stands before it: behind a text, or directly behind the
+    /// end of any other value.
+    bool JoinsValue() const {
+        const auto kind = tokens_.empty() ? TokenKind::EndOfLine : tokens_.back().kind;
+        const bool endsValue = kind == TokenKind::Name || kind == TokenKind::CloseParenthesis ||
+                               kind == TokenKind::Integer || kind == TokenKind::Real;
+        return kind == TokenKind::Text || (endsValue && !IsBlank(text_[offset_ - 1]));
+    }
+
     void ReadPrefixedInteger() {
         const auto base = BaseOfPrefix(Peek(1));
-        if (!base) {
+        if (!base || JoinsValue()) {
             FailAmpersand();
         }
         std::size_t size = 2;

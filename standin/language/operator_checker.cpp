@@ -163,10 +163,10 @@ Checked ExpressionChecker::CheckNode(const syntax::Unary& unary, Position at) {
         isMinus && literal != nullptr) {
         return MakeReal(*literal, true, at);
     }
-    const bool isMinusVariant = isMinus && type.kind == Kind::Variant;
-    const auto function = isMinusVariant ? NegateVariant
-                          : isMinus      ? FindNegation(type.kind)
-                                         : FindComplement(type.kind);
+    const bool isVariant = type.kind == Kind::Variant;
+    const auto variantFunction = isMinus ? NegateVariant : ComplementVariant;
+    const auto plainFunction = isMinus ? FindNegation(type.kind) : FindComplement(type.kind);
+    const auto function = isVariant ? variantFunction : plainFunction;
     if (function == nullptr) {
         throw ProgramError(at, std::string(isMinus ? "\"-\"" : "\"Not\"") +
                                    " cannot stand before " + NameOf(type));

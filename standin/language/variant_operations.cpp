@@ -89,6 +89,16 @@ Value NegateVariant(const Value& value, const Machine& machine) {
                             machine);
 }
 
+Value ComplementVariant(const Value& value, const Machine& machine) {
+    const Kind kind = HeldKind(value, machine);
+    const auto function = FindComplement(kind);
+    if (function == nullptr) {
+        machine.Raise("TypeMismatchException", "\"Not\" cannot stand before a Variant that holds " +
+                                                   WithArticle(NameOf({kind})) + ".");
+    }
+    return FindBoxing(kind)(function(FindUnboxing(kind)(value, machine), machine), machine);
+}
+
 BinaryFunction FindVariantComparison(BinaryOperator operation) {
     switch (operation) {
         case BinaryOperator::Less:

@@ -14,6 +14,10 @@ BinaryFunction FindVariantOperation(syntax::BinaryOperator operation);
 /// `-value` of a Variant, by the same rules.
 Value NegateVariant(const Value& value, const Machine& machine);
 
+/// `Not value` of a Variant that holds a Boolean or an integer; Nil counts as 0. Raises
+/// TypeMismatchException for everything else.
+Value ComplementVariant(const Value& value, const Machine& machine);
+
 /// `<`, `<=`, `>` and `>=` between two Variants, as a Boolean. Raises TypeMismatchException for an
 /// object. Null for every other operator.
 BinaryFunction FindVariantComparison(syntax::BinaryOperator operation);

@@ -251,6 +251,18 @@ TEST_CASE("what is written otherwise in this language") {
     SampleHost host;
     CHECK(host.Run("Print \"a\" & \"b\"") ==
           "1:11: \"&\" begins a number in the forms &h, &o and &b; \"+\" joins texts");
+    const std::string joins =
+        ": \"&\" begins a number in the forms &h, &o and &b; \"+\" joins texts";
+    for (const std::string code : {"s = \"x\"&hex", "s = \"x\"&hF", "s = \"x\" &b1"}) {
+        CAPTURE(code);
+        const auto column = std::to_string(code.find('&') + 1);
+        CHECK(host.Run(code) == "1:" + column + joins);
+    }
+    CHECK(host.Run("s = name&base") == "1:9" + joins);
+    CHECK(host.Run("s = Str(1)&hF") == "1:11" + joins);
+    CHECK(host.Run("s = 5&o7") == "1:6" + joins);
+    CHECK(host.Run("Sub Show(a As Integer)\nPrint Str(a)\nEnd Sub\nShow &hF\nShow(&hF)\n"
+                   "Show 1+&hF\nIf 15=&hF Then Show 0-&b1") == "15\n15\n16\n-1\n");
     CHECK(host.Run("Dim i As Integer\ni++") == "2:2: there is no \"++\"; write a += 1");
     CHECK(host.Run("Dim i As Integer\ni--") == "2:2: there is no \"--\"; write a -= 1");
     CHECK(host.Run("Dim i As Integer = 5\nPrint Str(i - -i)") == "10\n");
@@ -292,6 +304,15 @@ TEST_CASE("reserved words name nothing") {
     SampleHost host;
     const std::string refused = " is a reserved word and cannot be a name";
     CHECK(host.Run("Dim double As Integer") == "1:5: \"double\"" + refused);
+    for (const std::string word : {"Me", "Self", "Super", "Variant"}) {
+        CAPTURE(word);
+        CHECK(host.Run("Dim " + word + " As Integer") == "1:5: \"" + word + "\"" + refused);
+        CHECK(host.Run("Sub S(" + word + " As Integer)\nEnd Sub") ==
+              "1:7: \"" + word + "\"" + refused);
+        CHECK(host.Run("Class C\n" + word + " As Integer\nEnd Class") ==
+              "2:1: \"" + word + "\"" + refused);
+    }
+    CHECK(host.Run("Dim byte, text As Integer = 5\nPrint Str(byte + text)") == "10\n");
     CHECK(host.Run("Dim a, object As Integer") == "1:8: \"object\"" + refused);
     CHECK(host.Run("Const String = 5") == "1:7: \"String\"" + refused);
     CHECK(host.Run("For object As Integer = 1 To 2\nNext") == "1:5: \"object\"" + refused);

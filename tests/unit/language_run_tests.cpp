@@ -348,6 +348,10 @@ TEST_CASE("text") {
     CHECK(host.Show("Hex(-1)") == PerWidth("FFFFFFFF", "FFFFFFFFFFFFFFFF"));
     CHECK(host.Show("Hex(4294967296)") == "100000000");
     CHECK(host.Show("Hex(15.7) + Oct(-0.5) + Bin(2.9)") == "F010");
+    CHECK(host.Run("Dim c As Currency = 15.75\nPrint Hex(c) + Oct(c) + Bin(c) + c.Hex\nc = -1.75\n"
+                   "Print Hex(c)\nDim s As Single = 15.75\nDim b As Byte = 15\n"
+                   "Print Hex(s) + Hex(b) + Oct(s) + Bin(b)") ==
+          "F171111F\nFFFFFFFFFFFFFFFF\nFF171111\n");
     CHECK(host.Show("Bin(5) + Oct(8)") == "10110");
     CHECK(host.Show("Val(\" 12.5e1x\")") == "125");
     CHECK(host.Show("Val(\"-&hFF\")") == "-255");

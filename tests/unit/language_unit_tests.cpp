@@ -151,7 +151,6 @@ TEST_CASE("Me is the object that Self is") {
                    "Function Same() As Boolean\nReturn Me Is Self\nEnd Function\nEnd Class\n"
                    "Dim c As New C(4)\nPrint Str(c.x) + Str(c.Same)") == "4True\n");
     CHECK(host.Run("Print Me.x").starts_with("1:7: there is nothing named \"Me\""));
-    CHECK(host.Run("Dim me As Integer = 3\nPrint Str(Me)") == "3\n");
 }
 
 TEST_CASE("memory blocks take text and both orders of bytes") {

@@ -125,8 +125,6 @@ TEST_CASE("what cannot be done with Variants is told") {
           "2:9: \"+\" cannot stand between Variant and Nil");
     CHECK(host.Run("Dim v As Variant = 1\nPrint v + New Date")
               .starts_with("2:9: \"+\" cannot stand between Variant and Date"));
-    CHECK(host.Run("Dim v As Variant = 1\nPrint Not v") ==
-          "2:7: \"Not\" cannot stand before Variant");
     CHECK(host.Run("Dim v As Variant\nPrint v = Encodings.UTF8") ==
           "2:9: \"=\" cannot stand between Variant and TextEncoding");
     CHECK(host.Run("Dim d As New Dictionary\nd.Value(1) = Array(1, 2)") ==
@@ -258,4 +256,34 @@ TEST_CASE("Variants are compared by what they hold") {
               "Dim a() As Variant = Array(1, \"x\", Nil)\nPrint Str(a.IndexOf(\"X\"))\n"
               "Print Str(a.IndexOf(Nil))\nPrint Str(a.IndexOf(1.0))\nPrint Str(a.IndexOf(True))") ==
           "1\n2\n0\n0\n");
+}
+
+TEST_CASE("Not before a Variant") {
+    SampleHost host;
+    CHECK(
+        host.Run("Dim v As Variant = True\nIf Not v Then\nPrint \"x\"\nElse\nPrint \"y\"\nEnd If\n"
+                 "v = Not v\nPrint v\nPrint Str(v.Type)\nv = Not v\nPrint v") ==
+        "y\nFalse\n11\nTrue\n");
+    CHECK(host.Run(
+              "Dim v As Variant = 5\nPrint Not v\nDim i As Int64 = 5000000000\nv = i\nPrint Not v\n"
+              "v = Nil\nPrint Not v") == "-6\n-5000000001\n-1\n");
+    const std::string refused =
+        "Unhandled TypeMismatchException: \"Not\" cannot stand before a Variant that holds a ";
+    CHECK(host.Run("Dim v As Variant = \"True\"\nPrint Not v") == refused + "String. (line 2)\n");
+    CHECK(host.Run("Dim v As Variant = 1.5\nPrint Not v") == refused + "Double. (line 2)\n");
+    CHECK(host.Run("Dim v As Variant = New Sample\nPrint Not v")
+              .starts_with("Unhandled TypeMismatchException: The Variant holds an object"));
+}
+
+TEST_CASE("the entries of a Dictionary are made by it alone") {
+    SampleHost host;
+    CHECK(host.Run("Dim e As DictionaryEntry = New DictionaryEntry(\"a\", 1)") ==
+          "1:32: DictionaryEntry has no constructor; a For Each over a Dictionary makes the "
+          "entries, and New Pair(left, right) a pair");
+    CHECK(host.Run("Dim e As New DictionaryEntry") ==
+          "1:14: DictionaryEntry has no constructor; a For Each over a Dictionary makes the "
+          "entries, and New Pair(left, right) a pair");
+    CHECK(
+        host.Run("For Each e As DictionaryEntry In New Dictionary(\"a\" : 1)\nPrint e.Key\nNext") ==
+        "a\n");
 }
