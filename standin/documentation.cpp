@@ -1,7 +1,7 @@
 #include "standin/documentation.hpp"
 
 #include <algorithm>
-#include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace standin {
@@ -79,6 +79,17 @@ bool HasItem(std::string_view list, std::string_view item) {
     return false;
 }
 
+/// Whether each word of a question begins a word of the text, in any letter case.
+bool HoldsAllWords(std::string_view text, std::string_view question) {
+    const auto there = WordsOf(text);
+    const auto words = WordsOf(question);
+    return !words.empty() && std::ranges::all_of(words, [&there](std::string_view word) {
+        return std::ranges::any_of(there, [word](std::string_view candidate) {
+            return language::SameName(candidate.substr(0, word.size()), word);
+        });
+    });
+}
+
 }  // namespace
 
 Documentation::Documentation(std::string_view text) {
@@ -109,30 +120,41 @@ std::string_view Documentation::Find(std::string_view name) const {
     return found == topics_.end() ? std::string_view() : found->second.text;
 }
 
-bool Documentation::Fits(const std::string& name, const Topic& topic, std::string_view question) {
-    if (HasItem(topic.otherWords, question)) {
-        return true;
+std::optional<Documentation::Match> Documentation::MatchOf(const std::string& name,
+                                                           const Topic& topic,
+                                                           std::string_view question) {
+    std::string searched = name + " " + topic.otherWords;
+    if (HasItem(topic.otherWords, question) || HoldsAllWords(searched, question)) {
+        return Match::Name;
     }
-    std::string all = name + " " + topic.otherWords;
-    if (topic.subject == Subject::Member) {
-        all.append(" ").append(topic.text);
+    if (topic.subject != Subject::Member) {
+        return std::nullopt;
     }
-    const auto there = WordsOf(all);
-    const auto words = WordsOf(question);
-    return !words.empty() && std::ranges::all_of(words, [&there](std::string_view word) {
-        return std::ranges::any_of(there, [word](std::string_view candidate) {
-            return language::SameName(candidate.substr(0, word.size()), word);
-        });
-    });
+    if (HoldsAllWords(searched.append(" ").append(Summary(topic.text)), question)) {
+        return Match::Summary;
+    }
+    const bool isInText = HoldsAllWords(searched.append(" ").append(topic.text), question);
+    return isInText ? std::optional(Match::Text) : std::nullopt;
 }
 
-std::string Documentation::Matching(std::string_view question, Subject subject) const {
-    std::string found;
+Documentation::Found Documentation::Matching(std::string_view question, Subject subject,
+                                             std::size_t limit) const {
+    std::vector<std::pair<Match, std::string>> matches;
     for (const auto& [name, topic] : topics_) {
-        if (topic.subject == subject && Fits(name, topic, question)) {
-            found += "  " + name + ": " + Summary(topic.text) + "\n";
+        const auto match = topic.subject == subject ? MatchOf(name, topic, question) : std::nullopt;
+        if (match) {
+            matches.emplace_back(*match, "  " + name + ": " + Summary(topic.text) + "\n");
         }
     }
+    if (matches.size() > limit) {
+        std::ranges::stable_sort(matches, {}, &std::pair<Match, std::string>::first);
+    }
+    Found found;
+    const auto shown = std::min(limit, matches.size());
+    for (std::size_t i = 0; i < shown; ++i) {
+        found.lines += matches[i].second;
+    }
+    found.more = matches.size() - shown;
     return found;
 }
 

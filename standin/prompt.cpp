@@ -1,7 +1,9 @@
 #include "standin/prompt.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <iostream>
+#include <limits>
 #include <string_view>
 
 #include "standin/documentation.hpp"
@@ -26,8 +28,8 @@ constexpr std::string_view HelpText =
   a.Multiply("2e30")
 If, For, Function and the like run when their End is there.
 ? NAME tells about a member, such as ? Sqrt, or shows a guide, such as ? Five traps; ? WORDS finds
-members, guides and recipes by what they are about, such as ? rounding. Ctrl-C stops what runs or
-what was typed; Quit or Ctrl-D ends.
+members, guides and recipes by what they are about, such as ? rounding, the best ten of each or
+? rounding all. Ctrl-C stops what runs or what was typed; Quit or Ctrl-D ends.
 )";
 
 std::string_view Trim(std::string_view text) {
@@ -49,6 +51,31 @@ Documentation ReadDocumentation(const std::optional<std::string>& file) {
     return Documentation(*text);
 }
 
+/// The best topics that are shown of a question, unless it ends with the word for all.
+constexpr std::size_t ShownTopics = 10;
+constexpr std::string_view AllWord = " all";
+
+/// Prints the members or guides that a question is about; returns whether there are any.
+bool Show(const Documentation& documentation, std::string_view question, Subject subject) {
+    const auto before =
+        question.substr(0, question.size() - std::min(question.size(), AllWord.size()));
+    const bool wantsAll = !before.empty() && SameName(question.substr(before.size()), AllWord);
+    const auto words = std::string(wantsAll ? Trim(before) : question);
+    const auto limit = wantsAll ? std::numeric_limits<std::size_t>::max() : ShownTopics;
+    const auto found = documentation.Matching(words, subject, limit);
+    if (found.lines.empty()) {
+        return false;
+    }
+    WriteOutput(
+        (subject == Subject::Member ? "Members that are about " : "Guides and recipes about ") +
+        language::Quoted(words) + ":\n" + found.lines);
+    if (found.more > 0) {
+        WriteOutput("  and " + std::to_string(found.more) + " more; ? " + words +
+                    " all shows them\n");
+    }
+    return true;
+}
+
 /// Prints help for a line that begins with a question mark, which is left out of `question`.
 void Answer(const Documentation& documentation, std::string_view question) {
     const auto words = Trim(question);
@@ -67,12 +94,9 @@ void Answer(const Documentation& documentation, std::string_view question) {
         return;
     }
     const auto similar = documentation.NamesWith(name);
-    const auto members = documentation.Matching(words, Subject::Member);
-    const auto guides = documentation.Matching(words, Subject::Guide);
-    const auto about = " about \"" + std::string(words) + "\":\n";
-    WriteOutput(members.empty() ? "" : "Members that are" + about + members);
-    WriteOutput(guides.empty() ? "" : "Guides and recipes" + about + guides);
-    if (!members.empty() || !guides.empty()) {
+    const bool showsMembers = Show(documentation, words, Subject::Member);
+    const bool showsGuides = Show(documentation, words, Subject::Guide);
+    if (showsMembers || showsGuides) {
         return;
     }
     WriteOutput("Nothing is known about \"" + std::string(name) + "\"" +
