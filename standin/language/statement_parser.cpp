@@ -256,8 +256,12 @@ void StatementParser::LeaveUnclosed(TokenKind opener, Position openerAt) {
     errors_.Add(ProgramError(openerAt, message + "not closed before " + before));
 }
 
-void StatementParser::DoubtDeclarations(std::size_t start) {
-    for (auto line = start; line < cursor_.Mark(); line = cursor_.EndOfLine(line) + 2) {
+void StatementParser::DoubtDeclarations(Position openerAt) {
+    auto opener = cursor_.Mark();
+    while (opener > 0 && cursor_.TokenAt(opener).at > openerAt) {
+        --opener;
+    }
+    for (auto line = opener; line < cursor_.Mark(); line = cursor_.EndOfLine(line) + 2) {
         if (IsOneOf(cursor_.TokenAt(line).kind, Declarers)) {
             DoubtNames(line);
         }
@@ -301,7 +305,6 @@ syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends,
                                           Position openerAt) {
     const NestingGuard guard(depth_, cursor_.At());
     const OpenBlock open(*this, opener);
-    const auto start = cursor_.Mark();
     syntax::Block block;
     for (SkipToCode(); !StopsBlock(ends, opener); SkipToCode()) {
         const auto line = cursor_.Mark();
@@ -309,7 +312,7 @@ syntax::Block StatementParser::ParseBlock(std::initializer_list<TokenKind> ends,
         if (endsOuter || IsOutsideOfStatements(line) || cursor_.IsAt(TokenKind::EndOfText)) {
             // What stands behind the place where the end should be may declare variables for what
             // follows.
-            DoubtDeclarations(start);
+            DoubtDeclarations(openerAt);
             LeaveUnclosed(opener, openerAt);
             return block;
         }

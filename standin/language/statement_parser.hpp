@@ -86,8 +86,8 @@ private:
     /// Whether the block stops here: at one of its ends, or for a loop at that of any loop. An
     /// `End` that belongs to nothing is an error in a routine and stepped over.
     bool StopsBlock(std::initializer_list<TokenKind> ends, TokenKind opener);
-    /// Makes the names doubtful that the lines from `start` to the current one declare.
-    void DoubtDeclarations(std::size_t start);
+    /// Makes the names doubtful that the lines from an opening word to the current one declare.
+    void DoubtDeclarations(Position openerAt);
     /// Whether the line that begins with a token ends a block of that kind, or begins another part
     /// of it.
     bool BelongsTo(std::size_t line, TokenKind opener) const;

@@ -123,6 +123,8 @@ TEST_CASE("what stands in and behind a block that is not closed is looked at") {
     // A block that is never closed may have swallowed a declaration for what follows.
     CHECK(MessagesOf(host, "If True Then\nDim a As Integer\n" + routine + "\nPrint Str(a)") ==
           "1:1: error: this \"If\" is not closed before \"Sub\"; 4:7: " + five);
+    CHECK(MessagesOf(host, "If True Then\nDim a As Integer\nElse\n" + routine + "\nPrint Str(a)") ==
+          "1:1: error: this \"If\" is not closed before \"Sub\"; 5:7: " + five);
     CHECK(MessagesOf(host, "Class C\nSub A()\nPrint 5\nEnd Class\nDim c As New C\nc.A\nc.B") ==
           "2:1: error: this \"Sub\" is not closed before \"End Class\"; 3:7: " + five +
               "; 7:3: error: C has no member \"B\"");
