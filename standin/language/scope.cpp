@@ -64,8 +64,7 @@ void Scope::DeclareGlobal(const std::string& name, Type type, std::size_t slot, 
 }
 
 Variable Scope::Declare(const std::string& name, Type type, Position at, bool isConstant) {
-    const Variable variable{
-        .type = type, .slot = nextSlot_, .isConstant = isConstant, .declaredAt = at};
+    Variable variable{.type = type, .slot = nextSlot_, .isConstant = isConstant, .declaredAt = at};
     if (!levels_.back().variables.emplace(name, variable).second) {
         throw ProgramError(at, Quoted(name) + " is declared already");
     }
