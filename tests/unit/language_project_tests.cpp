@@ -225,3 +225,15 @@ TEST_CASE("a project with a line too few or twice runs or names a place") {
         }
     }
 }
+
+TEST_CASE("the declaration of a variable that hides a function is named with its file") {
+    SampleHost host;
+    auto files = With(ModuleName, "\t#tag Property, Flags = &h21\n",
+                      "\t#tag Property, Flags = &h0\n\t\tHex As String\n\t#tag EndProperty\n"
+                      "\t#tag Property, Flags = &h21\n");
+    files[AppName] = With(AppName, "Words.Greeting", "Hex(5)").at(AppName);
+    CHECK(RunProject(host, ProjectName, files) ==
+          "App.xojo_code:6:11: error: \"Hex\" is a variable of type String here, and takes no "
+          "arguments; rename it to call the function of that name; it is declared in line 9 of "
+          "Words.xojo_code");
+}
