@@ -280,9 +280,8 @@ private:
 };
 
 /// x^3 / (2 * 3) + (1 * 3) x^5 / (2 * 4 * 5) + ..., which is added to x. `Halved` is the series
-/// with x in place of x^2, in which each further term is halved once more: x / (2 * 3) / 2 + (1 *
-/// 3) x^2 / (2 * 4 * 5) / 4 +
-/// ...
+/// with x in place of x^2, in which each further term is halved once more:
+/// x / (2 * 3) / 2 + (1 * 3) x^2 / (2 * 4 * 5) / 4 + ...
 template <typename Number, bool Halved>
 class ArcSineSeries {
 public:
@@ -326,13 +325,14 @@ public:
         if (Halved) {
             carry_ += power_.Mul(factor_);
         }
-        carry_ += odd_.Add(two_);
-        carry_ += even_.Add(two_);
-        carry_ += odds_.Mul(odd_);
-        carry_ += evens_.Mul(even_);
-        carry_ += denominator_.Add(two_);
+        // None of these carries: they are integers of some thousands, and products of as many.
+        odd_.Add(two_);
+        even_.Add(two_);
+        odds_.Mul(odd_);
+        evens_.Mul(even_);
+        denominator_.Add(two_);
         if (Halved) {
-            carry_ += halves_.Mul(two_);
+            halves_.Mul(two_);
         }
         return true;
     }

@@ -75,9 +75,14 @@ EXPLAINED = [
         "A sum does not depend on the order.",
     ),
     Explained(
-        "carry_ += odds_.Mul(odd_);",
-        "carry_ =+ odds_.Mul(odd_);",
-        "Nothing before it carries: the power's exponent falls by some bits with each term, and the integers "
-        "that are added stay below 2^24.",
+        "start + 1 + Count, sums);",
+        "start - 1 + Count, sums);",
+        "Columns are computed in steps of four at least, and those of a block that is two shorter take as many "
+        "steps.",
+    ),
+    Explained(
+        "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([](Object self, Object other) {",
+        "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([] (Object other,Object self) {",
+        "Whether two numbers are equal does not depend on the order.",
     ),
 ]

@@ -19,6 +19,8 @@ from typing import ClassVar
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PLAIN = "linux-x86-faults"
 OPTIMISED = "linux-x86"
+# Here a fault has to build, too, or it is none of the sources.
+OPTIMISED_64 = "linux-x86_64"
 SANITIZED = "linux-x86-sanitize"
 LIBRARY = "BigNumberVQZ"
 # A fault may send a test into a loop. A stage gets many times what it takes without one.
@@ -266,11 +268,14 @@ class Workshop:
         another one at all, and whether sanitized tests notice it."""
         if OPTIMISED not in self.sound_libraries:
             self.prepare(OPTIMISED)
+            self.prepare(OPTIMISED_64)
             self.prepare(SANITIZED, *WITH_SANITIZERS.targets)
             self.expect_sound(FROM_OUTSIDE, WITH_SANITIZERS)
         with self.fault_in(file, faulty):
             if self.make(OPTIMISED, LIBRARY) and self.has_same_code(OPTIMISED):
                 return Outcome(Verdict.SAME_CODE, "once it is optimised")
+            if not self.make(OPTIMISED_64, LIBRARY):
+                return Outcome(Verdict.NO_BUILD, "at 64 bits")
             return self.outcome_of([FROM_OUTSIDE, WITH_SANITIZERS])
 
     def outcome_of(self, stages: list[Stage]) -> Outcome:
