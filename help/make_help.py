@@ -70,15 +70,17 @@ def links_of(member: Member, labels: dict[str, Link], guides: list[markup.Guide]
     return [link for link in related if link.is_code], guides_of
 
 
-def other_words(anchor: str, data: PageData) -> list[str]:
-    """The line of members.txt with other words to find a block by, where there are any."""
-    return [f"? {', '.join(data.words[anchor])}"] if anchor in data.words else []
+def other_words(anchor: str, data: PageData, inner: list[str] = ()) -> list[str]:
+    """The line of members.txt with other words to find a block by, where there are any: those of the
+    data and those in its inside."""
+    words = [*data.words.get(anchor, []), *inner]
+    return [f"? {', '.join(words)}"] if words else []
 
 
 def guide_text(guide: markup.Guide, part: markup.Part, data: PageData) -> str:
     """The block of members.txt for a part of a guide."""
     place = part.title if part is guide.parts[0] else f"{guide.title}: {part.title}"
-    lines = [f"=== {part.title}", *other_words(part.anchor, data), place, ""]
+    lines = [f"=== {part.title}", *other_words(part.anchor, data, part.table_cells), place, ""]
     return "\n".join(lines) + "\n" + part.text + "\n"
 
 

@@ -115,6 +115,18 @@ class Part:
         # A colon leads to what stands below the paragraph.
         return re.sub(":$", ".", shown)
 
+    @property
+    def table_cells(self) -> list[str]:
+        """The cells of the tables as plain text, without the heads and without figures."""
+        cells = []
+        in_body = False
+        for before, token in zip(self.tokens, self.tokens[1:]):
+            in_body = token.type == "tbody_open" or (in_body and token.type != "tbody_close")
+            if in_body and before.type == "td_open" and token.type == "inline":
+                cell = "".join(child.content for child in token.children)
+                cells += [cell] if re.search(r"[a-z]{2}", cell) else []
+        return cells
+
     def mentions(self, name: str) -> bool:
         """Whether the text, apart from its programs, has this name between backticks."""
         word = re.compile(rf"\b{name}\b")

@@ -27,7 +27,7 @@ constexpr std::string_view HelpText =
   Dim a As BigNumberVQZ = "1.5"
   a.Multiply("2e30")
 If, For, Function and the like run when their End is there.
-? NAME tells about a member, such as ? Sqrt, or shows a guide, such as ? Five traps; ? WORDS finds
+? NAME tells about a member, such as ? Sqrt, or shows a guide, such as ? Six traps; ? WORDS finds
 members, guides and recipes by what they are about, such as ? rounding, the best ten of each or
 ? rounding all. Ctrl-C stops what runs or what was typed; Quit or Ctrl-D ends.
 )";

@@ -18,11 +18,17 @@ auto NumberConstants() {
             Constant<Value>([](auto& value) { value.SetMin(); }),
             {.section = Section::Constants,
              .summary = "The most negative finite number.",
+             .details = "Its text in base 10 cannot always be read again, like that of Max.",
              .example = R"(
 Print BigNumberVQZ.Min)"}},
         Row{Declaration<Value, "Max as $">,
             Constant<Value>([](auto& value) { value.SetMax(); }),
-            {.section = Section::Constants, .summary = "The largest finite number.", .example = R"(
+            {.section = Section::Constants,
+             .summary = "The largest finite number.",
+             .details =
+                 "Its text in base 10 is rounded. That of BigNumberVQZ is rounded up, beyond "
+                 "the range, and cannot be read again; the raw data keeps it.",
+             .example = R"(
 Print BigNumberVQZ.Max)"}},
         Row{Declaration<Value, "Zero as $">,
             Constant<Value>([](auto& value) { value.SetZero(); }),

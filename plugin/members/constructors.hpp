@@ -32,7 +32,10 @@ Print sum)"}},
             {.section = Section::Making,
              .summary = "Makes the number that a text in base 10 shows.",
              .details = "Reads as far as a number goes and takes a point or a comma for the "
-                        "decimal mark. A text without a number makes 0.",
+                        "decimal mark. A text without a number makes 0. A fraction is rounded as "
+                        "it is read, and an exponent multiplies what it has become: Round the "
+                        "number of 1.016e3 to get 1016. The message of a failure has nil for the "
+                        "number, which is not there yet.",
              .fails = "an exponent beyond the range",
              .example = R"(
 Dim price As New BigNumberVQZ("19.99")

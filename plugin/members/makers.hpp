@@ -96,8 +96,10 @@ Print BigNumberVQZ.NumberWithCurrency(value))"}},
             {.section = Section::Making,
              .summary = "The number that a text in base 10 shows.",
              .details = "Reads as far as a number goes and takes a point or a comma for the "
-                        "decimal mark. A text without a number gives 0. A failure is reported "
-                        "under the name Constructor.",
+                        "decimal mark. A text without a number gives 0. A fraction is rounded as "
+                        "it is read, and an exponent multiplies what it has become: Round the "
+                        "number of 1.016e3 to get 1016. A failure is reported under the name "
+                        "Constructor.",
              .fails = "an exponent beyond the range",
              .example = R"(
 Print BigNumberVQZ.NumberWithString("19,99 EUR"))",

@@ -83,8 +83,10 @@ Print BigNumberVQZ.Nan.Floor)"}},
                  "digits after the point, -1 for all of them; `TrimZeros` drops zeros at "
                  "their end. A number that is 0 is always written as 0, without places; one "
                  "that is rounded to 0 keeps its places and its sign, as in 0.00 and -0.00, or -0 "
-                 "with `TrimZeros`. `comma` gives the decimal mark by its first character. In "
-                 "base 10 the text is rounded to at most 77 significant digits "
+                 "with `TrimZeros`. Digits before an exponent that are rounded up to 10 stay "
+                 "10: 999.995 with `scientific` and two places is 10e+2. `comma` gives the "
+                 "decimal mark by its first byte, so it has to be an ASCII character. In base 10 "
+                 "the text is rounded to at most 77 significant digits "
                  "(BiggerNumberVQZ: 617); zeros stand in the places of an integer after them. "
                  "Base 16 shows all that the number holds. A failure is reported under the name "
                  "DoubleValue.",

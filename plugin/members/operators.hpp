@@ -34,7 +34,8 @@ auto NumberOperators() {
             {.section = Section::Operators,
              .summary = "Makes the number that a text in base 10 shows.",
              .details = "Works wherever a number is wanted and a text is given, also for arguments "
-                        "and beside operators.",
+                        "and beside operators. The message of a failure has nil for the number, "
+                        "which is not there yet.",
              .fails = "an exponent beyond the range",
              .example = R"(
 Dim price As BigNumberVQZ = "19.99"
@@ -100,6 +101,7 @@ Print "10" - BigNumberVQZ.Nan)"}},
             multiply,
             {.section = Section::Operators,
              .summary = "The product: Self * other.",
+             .details = "A power of 2 as a factor shifts the bits to the left, and loses none.",
              .fails = "results beyond the range, NaN and Nil",
              .example = R"(
 Dim a As BigNumberVQZ = "12.5"
@@ -146,7 +148,8 @@ Print "0" / a)"}},
             integerDivide,
             {.section = Section::Operators,
              .summary = "The integer part of Self / other, cut toward zero.",
-             .details = "A failure shows the quotient as it was left instead of the number.",
+             .details = "A power of 2 as a divisor shifts the bits of an integer to the right. A "
+                        "failure shows the quotient as it was left instead of the number.",
              .fails = "division by zero, for results beyond the range, NaN and Nil",
              .example = R"(
 Dim a As BigNumberVQZ = "-7"
@@ -229,7 +232,8 @@ Print "0" ^ BigNumberVQZ.Zero)"}},
             CompareTwoNumbers<Value, "Operator_Compare">(),
             {.section = Section::Operators,
              .summary = "-1, 0 or 1 when Self is less than, equal to or greater than other.",
-             .details = "The host calls it for =, <>, <, <=, > and >=. NaN and Nil compare as 0.",
+             .details = "The host calls it for =, <>, <, <=, > and >=. NaN and Nil compare as 0. "
+                        "The smaller of two numbers is `If(a < b, a, b)`.",
              .range = "-1, 0 or 1",
              .example = R"(
 Dim a As BigNumberVQZ = "12.5"

@@ -118,16 +118,18 @@ Print Str(debt.UInt64Value))"}},
             .setter = SetProperty<Value, "SetDoubleValue", double>(),
             .help = {.section = Section::HostValues,
                      .summary = "The number as a Double, cut to the precision of one.",
-                     .details = "Setting it takes the Double with all its bits, which is seldom "
-                                "the decimal number that the program shows. NaN and Nil give 0.",
+                     .details =
+                         "Bits beyond those of a Double are cut off, not rounded, so 0.1 "
+                         "does not give the Double 0.1. Setting it takes the Double with all "
+                         "its bits, which is seldom the decimal number that the program "
+                         "shows. NaN and Nil give 0.",
                      .range = "-1.7976931348623157e+308 to 1.7976931348623157e+308",
                      .fails = "numbers too large or too small for a Double, which give 0",
                      .example = R"(
-Dim third As BigNumberVQZ = "1"
-third = third / "3"
-Print Str(third.DoubleValue)
-third.DoubleValue = 0.1
-Print third)",
+Dim tenth As BigNumberVQZ = "0.1"
+Print Str(tenth.DoubleValue)
+tenth.DoubleValue = 0.1
+Print tenth)",
                      .failing = R"(
 Dim large As BigNumberVQZ = "1e400"
 Print Str(large.DoubleValue))"}},
@@ -143,7 +145,9 @@ Print Str(large.DoubleValue))"}},
                                 "places of an integer after the digits. NaN and Nil give NaN. "
                                 "Setting it reads as far as a number goes, takes a point or a "
                                 "comma for the decimal mark, and gives 0 where there is none; the "
-                                "old value is gone in any case.",
+                                "old value is gone in any case. Scientific text, whose fraction is "
+                                "rounded as it is read, can miss the integer that it was written "
+                                "for: Round it, or write the integer without an exponent.",
                      .fails = "a text, when it is set, whose exponent is beyond the range",
                      .example = R"(
 Dim price As New BigNumberVQZ
@@ -160,8 +164,10 @@ huge.StringValue = "1e99999999999999999999")"}},
             .setter = SetProperty<Value, "SetCurrencyValue", CurrencyAmount>(),
             .help = {.section = Section::HostValues,
                      .summary = "The number as a Currency, rounded to four decimal places.",
-                     .details = "Halves are rounded away from zero. NaN and Nil give 0. Setting "
-                                "it never fails.",
+                     .details = "Halves are rounded away from zero. But few halves are exact: "
+                                "the number of 2.00005 is less than that and gives 2, while "
+                                "GetStringValue, which rounds the decimal digits, writes 2.0001. "
+                                "NaN and Nil give 0. Setting it never fails.",
                      .range = "-922337203685477.5808 to 922337203685477.5807",
                      .fails = "amounts outside of that range, which give 0. But positive numbers "
                               "above about Max / 10,000 give 0 without an exception",

@@ -169,6 +169,26 @@ class ContentsTest(unittest.TestCase):
         self.assertIn("    Print ", gcd)
         self.assertIn("Prints:\n    ", gcd)
 
+    def test_the_prompt_finds_what_is_asked_for(self) -> None:
+        """In the whole text: names within tables, and words that the text does not use itself."""
+        topics = {
+            "ErrorNumber": "Errors", "NilObjectException": "Errors", "OutOfBoundsException": "Errors",
+            "conversion not supported": "Errors", "log2": "Log", "shift left": "Operator_Multiply",
+            "min of two": "Operator_Compare", "leading zeros": "Text in any base and format",
+            "mod inverse": "Integer power modulo n",
+            "convert between classes": "Converting between the classes",
+            "two classes": "Converting between the classes", "mix": "Converting between the classes",
+            "1e3": "Text with a point and an exponent"}
+        result = subprocess.run(
+            [*self.command, "-i", "--documentation", self.folder / "members.txt"],
+            input="".join(f"? {question}\n" for question in topics), capture_output=True, text=True,
+            check=True)
+        found = re.findall(r'^(Members|Guides)[^"]*"(.*)":\n((?:  .*\n)*)', result.stdout, re.MULTILINE)
+        for question, title in topics.items():
+            with self.subTest(question=question):
+                hits = [lines for _, asked, lines in found if asked == question]
+                self.assertIn(f"  {title}: ", "".join(hits))
+
     def test_links_lead_somewhere_in_the_page(self) -> None:
         self.assertEqual(len(self.page.anchors), len(set(self.page.anchors)))
         targets = {f"#{anchor}" for anchor in self.page.anchors}
@@ -198,8 +218,9 @@ class RecipesTest(unittest.TestCase):
         return html.unescape(re.search(r"<samp>(.*?)</samp>", recipe, re.DOTALL)[1]).splitlines()
 
     def test_integers(self) -> None:
-        self.assertEqual(self.printed("integer-power-modulo-n"),
-                         [str(pow(2, 1000000, 10**9 + 7)), str(pow(3, 2**128, 10**37 + 61))])
+        self.assertEqual(self.printed("integer-power-modulo-n"), [
+            str(pow(2, 1000000, 10**9 + 7)), str(pow(3, -1, 10**9 + 7)),
+            str(pow(3, 2**128, 10**37 + 61))])
         pair = (123456789012345678901234567890, 987654321098765432109876543210)
         self.assertEqual(self.printed("greatest-common-divisor"),
                          [str(math.gcd(*pair)), str(math.lcm(*pair))])
@@ -287,7 +308,27 @@ Next
         grouped = f"{decimal.Decimal('-1234567.5'):,.2f}"
         self.assertEqual(self.printed("digits-in-groups"), [
             grouped, grouped.translate(str.maketrans(",.", ".,")), f"{2**100:,}".replace(",", " "),
-            "0.00", "0.00"])
+            "0.00", "0.00", "NaN", "NaN"])
+
+    def test_groups_with_marks_of_any_length(self) -> None:
+        """GetStringValue takes one byte as its decimal mark; these have two bytes, or two characters."""
+        recipe = self.page.split('<h3 id="recipes-digits-in-groups">')[1]
+        code = re.sub("<[^>]*>", "", re.search(r"<code>(Func.*?|<.*?)</code></pre>", recipe, re.DOTALL)[1])
+        function = html.unescape(code).partition("End Function")[0] + "End Function\n"
+        calls = "".join(f'Print Grouped({value}, {places}, "{mark}", "{group}")\n' for
+                        value, places, mark, group in (('"-1234.5"', 3, "\u00b7", "\u2009"),
+                                                       ('"1234"', 0, ". ", ""), ('"0"', 1, "--", "")))
+        self.assertEqual(self.run_program(function + calls), ["-1\u2009234\u00b7500", "1234", "0--0"])
+
+    def test_converting_between_the_classes(self) -> None:
+        """Three times the third, which the division cuts, in 2048 bits; what is exact; a large number."""
+        third = fractions.Fraction(2**257 // 3, 2**257)
+        with decimal.localcontext() as context:
+            context.prec = 200
+            product = decimal.Decimal((third * 3).numerator) / (third * 3).denominator
+            shown = product.quantize(decimal.Decimal(10) ** -90, decimal.ROUND_HALF_UP)
+        self.assertEqual(self.printed("converting-between-the-classes"),
+                         [str(shown), "True", "False", "False", "True", "1e+5000"])
 
     def test_strict_reading(self) -> None:
         """Only what is a number in the format, and "12,34" in the one in which its comma is a mark."""
