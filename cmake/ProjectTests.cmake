@@ -260,7 +260,8 @@ function(add_help_tests)
       COMMAND Python3::Interpreter "${tests}/examples_test.py" ${standin_command})
     add_project_test(NAME help/texts
       COMMAND Python3::Interpreter "${tests}/texts_test.py" "${PROJECT_SOURCE_DIR}"
-        "${CMAKE_CXX_COMPILER}" -m32 -isystem "${TTMATH_INCLUDE_DIR}" -DTTMATH_NOASM)
+        "${CMAKE_CXX_COMPILER}" -m32 -isystem "${TTMATH_INCLUDE_DIR}" -DTTMATH_NOASM
+        -DTTMATH_BIG_DEFAULT_CLEAR)
   endif()
 endfunction()
 

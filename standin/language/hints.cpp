@@ -188,7 +188,7 @@ std::string ClassesHint(const Checked& left, const Checked& right) {
         !IsConstructedOf(*right.type.model, left)) {
         return hint;
     }
-    return hint + " or New " + NameOf(right.type) + "(...), of the class that loses nothing";
+    return hint + " or New " + NameOf(right.type) + "(...); either may round";
 }
 
 std::string MemberHint(const ClassModel& model, std::string_view name,

@@ -26,7 +26,8 @@ std::string ConversionHint(const Checked& value, Type to, TextOffer text = TextO
 /// empty.
 std::string VariantHint(const ClassModel& model, const std::string& variant);
 
-/// How two objects become ones of one class. Which class loses nothing is not known here.
+/// How two objects become ones of one class. Whether a constructor keeps all of the other class is
+/// not known here.
 std::string ClassesHint(const Checked& left, const Checked& right);
 
 /// What there is in place of a member that a class has not: an operator of that name, a property
