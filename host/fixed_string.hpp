@@ -40,7 +40,8 @@ struct Substituted {
                 *end++ = character;
             }
         }
-        return result;
+        // Nothing but the final NUL is left, or this is no constant and does not compile.
+        return end + 1 == result.data() + Size ? result : throw "the size is another";
     }();
 
     static constexpr const char* Text = Characters.data();

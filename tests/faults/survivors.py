@@ -85,4 +85,9 @@ EXPLAINED = [
         "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([] (Object other,Object self) {",
         "Whether two numbers are equal does not depend on the order.",
     ),
+    Explained(
+        "static Vector Add(Vector left, Vector right) { return _mm256_add_epi64(left, right); }",
+        "static Vector Add ( Vector right,Vector left) { return _mm256_add_epi64(left, right); }",
+        "A sum does not depend on the order.",
+    ),
 ]

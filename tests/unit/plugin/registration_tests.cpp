@@ -219,6 +219,19 @@ TEST_CASE("A table that is missing, or whose count is below 1, keeps its flag wo
     CHECK(tables.properties[0].flags == 0x308);
 }
 
+TEST_CASE("Registration rewrites the flag words before the host sees them") {
+    DirectHost host(NewestHost);
+    host.RegisterClasses();
+    SampleTables tables;
+    tables.methods[0].flags = 0x40000;
+    ClassDefinition record = tables.Record();
+    record.flags = 0x40002;
+    vqz::RegisterClassDefinition(record);
+    CHECK(record.flags == 0x6);
+    REQUIRE(host.FindClass("Sample") != nullptr);
+    CHECK(tables.methods[0].flags == 0x4);
+}
+
 TEST_CASE("Instance data is registered in multiples of 16 bytes") {
     struct Row {
         std::uint32_t before;
