@@ -65,10 +65,10 @@ class Mutant:
 
     def reason_to_survive(self) -> str | None:
         """Why no test can notice it, if that is known."""
-        above = "".join(self.sound_lines()[: self.line - 1][-1:]).strip()
+        above = [line.strip() for line in self.sound_lines()[: self.line - 1]]
         for known in EXPLAINED:
             is_same = (known.before, known.after) == (self.before.strip(), self.after.strip())
-            if is_same and known.above in (None, above):
+            if is_same and above[len(above) - len(known.above) :] == list(known.above):
                 return known.reason
         return None
 

@@ -6,13 +6,13 @@ import dataclasses
 @dataclasses.dataclass(frozen=True)
 class Explained:
     """A line of a source file and what a mutant makes of it, both without the blanks around them,
-    and why no test can distinguish them. Where the same line stands elsewhere, too, the one above it says
+    and why no test can distinguish them. Where the same line stands elsewhere, too, those above it say
     which is meant."""
 
     before: str
     after: str
     reason: str
-    above: str | None = None
+    above: tuple[str, ...] = ()
 
 
 EXPLAINED = [
@@ -57,7 +57,7 @@ EXPLAINED = [
         "Reset();",
         "/*Reset();*/",
         "The destructor's last step; nobody may look at the text after it.",
-        above="}",
+        above=("}",),
     ),
     Explained(
         "if (factor != std::numeric_limits<std::int32_t>::min()) {",
@@ -89,5 +89,11 @@ EXPLAINED = [
         "static Vector Add(Vector left, Vector right) { return _mm256_add_epi64(left, right); }",
         "static Vector Add ( Vector right,Vector left) { return _mm256_add_epi64(left, right); }",
         "A sum does not depend on the order.",
+    ),
+    Explained(
+        "return {};",
+        "/*return {};*/",
+        "There is no string then, and the host converts none into none; the line saves the call.",
+        above=('LogMessage("Out of memory in REALBuildUnicodeStringUTF16.");', "}"),
     ),
 ]
