@@ -120,13 +120,13 @@ StringReference REALBuildUnicodeStringUTF16(const void* units, std::int64_t byte
     const StringReference wide =
         BuildAsGiven(static_cast<const char*>(units), static_cast<std::int32_t>(byteCount),
                      HostTextEncoding::Utf16);
-    if (!wide && HostVersion < FirstVersionBuildingWithEncoding) {
-        if (DebugEnabled) {
-            LogMessage("Out of memory in REALBuildUnicodeStringUTF16.");
-        }
-        return {};
+    if (wide || HostVersion >= FirstVersionBuildingWithEncoding) {
+        return ConvertedToUtf8(wide);
     }
-    return ConvertedToUtf8(wide);
+    if (DebugEnabled) {
+        LogMessage("Out of memory in REALBuildUnicodeStringUTF16.");
+    }
+    return {};
 }
 
 StringReference BuildFromBytes(const void* data, std::int64_t byteCount,

@@ -37,15 +37,16 @@ inline void ColumnStepSums(const Limb* left, int leftCount, const Limb* right, i
     }
 }
 
-/// sums[k - first] = sum of left[i * Stride] * right[k - i] over all i, for each column k from
-/// `first` to before `last`; up to ColumnStep - 1 sums more are written. At most 2^8 products fall
-/// in a column. `right` has LimbPadding zero limbs below and above its own. Steps are of four
-/// vectors, which share each broadcast limb, and at the end of two.
+/// sums[k - first] = sum of left[i * Stride] * right[k - i] over all i, for `count` columns k from
+/// `first` on; up to ColumnStep - 1 sums more are written. At most 2^8 products fall in a column.
+/// `right` has LimbPadding zero limbs below and above its own. Steps are of four vectors, which
+/// share each broadcast limb, and at the end of two.
 template <VectorLanes Lanes, int Stride = 1>
 inline void ColumnSums(const Limb* left, int leftCount, const Limb* right, int rightCount,
-                       int first, int last, DoubleWord* sums) {
+                       int first, int count, DoubleWord* sums) {
     constexpr int Step = 4 * Lanes::Count;
     static_assert(Step <= ColumnStep);
+    const int last = first + count;
     int k = first;
     for (; k + Step / 2 < last; k += Step) {
         ColumnStepSums<Lanes, Stride, 4>(left, leftCount, right, rightCount, k, sums + (k - first));

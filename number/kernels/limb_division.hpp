@@ -165,8 +165,7 @@ private:
         if (start == 0) {
             std::fill_n(sums, Block, 0);
         } else {
-            ColumnSums<Lanes>(digits, start, factor.data(), factor.count(), start + 1,
-                              start + 1 + Count, sums);
+            ColumnSums<Lanes>(digits, start, factor.data(), factor.count(), start + 1, Count, sums);
         }
         const Vector inverses = Pair::Both(inverse);
         Vector columns[Block];

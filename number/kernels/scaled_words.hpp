@@ -85,14 +85,14 @@ Word Finish(ttmath::Big<E, W>& number, const ScaledWords<W>& result, bool round,
                     (result.tail == Tail::Half && number.mantissa.IsTheLowestBitSet());
     if (round && up && number.mantissa.AddOne() != 0) {
         number.mantissa.table[W - 1] = TopBit;
-        carry += number.exponent.AddOne();
+        carry |= number.exponent.AddOne();
     }
     if (negative) {
         number.SetSign();
     } else {
         number.Abs();
     }
-    carry += number.Standardizing();
+    carry |= number.Standardizing();
     return number.CheckCarry(carry);
 }
 

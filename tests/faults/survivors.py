@@ -75,12 +75,6 @@ EXPLAINED = [
         "A sum does not depend on the order.",
     ),
     Explained(
-        "start + 1 + Count, sums);",
-        "start - 1 + Count, sums);",
-        "Columns are computed in steps of four at least, and those of a block that is two shorter take as many "
-        "steps.",
-    ),
-    Explained(
         "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([](Object self, Object other) {",
         "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([] (Object other,Object self) {",
         "Whether two numbers are equal does not depend on the order.",
@@ -91,9 +85,13 @@ EXPLAINED = [
         "A sum does not depend on the order.",
     ),
     Explained(
-        "return {};",
-        "/*return {};*/",
-        "There is no string then, and the host converts none into none; the line saves the call.",
-        above=('LogMessage("Out of memory in REALBuildUnicodeStringUTF16.");', "}"),
+        "static Vector And(Vector left, Vector right) { return _mm256_and_si256(left, right); }",
+        "static Vector And(Vector left, Vector right) { return _mm256_and_si256 ( right,left); }",
+        "A bitwise product does not depend on the order.",
+    ),
+    Explained(
+        "exponent > PlainExponentLimit) {",
+        "exponent >= PlainExponentLimit) {",
+        "The limit itself may be plain or not: both ways give the same number.",
     ),
 ]

@@ -38,6 +38,33 @@ TEST_CASE_TEMPLATE("terms that get small slowly are added in fixed point to the 
     CHECK(sum[S::Words - 2] == (Word{63} << 22) / 65);
 }
 
+TEST_CASE_TEMPLATE("a term that is far too small for the sum's last bit ends a series", S, Small,
+                   Large) {
+    using namespace vqz::kernels;
+    const auto full = S::Leading({}, Ones);
+    for (const int termShift : {41, S::Bits - 57, S::Bits - 29, S::Bits - 28, S::Bits - 1}) {
+        for (const int multiplierShift : {S::Bits - termShift + 1, S::Bits - 1}) {
+            CAPTURE(termShift);
+            CAPTURE(multiplierShift);
+            auto sum = S::Leading({Top});
+            const TailStart start{.sum = sum.data(),
+                                  .term = full.data(),
+                                  .multiplier = full.data(),
+                                  .termShift = termShift,
+                                  .multiplierShift = multiplierShift,
+                                  .subtract = false,
+                                  .alternate = false,
+                                  .wholeGroups = false,
+                                  .next = 1,
+                                  .ratio = [](Word) {
+                                      return PreparedRatio({1, 1});
+                                  }};
+            CHECK(vectorKernels->Of<S::Words>().addTail(sum.data(), start) == 1);
+            CHECK(sum == S::Leading({Top}));
+        }
+    }
+}
+
 TEST_CASE_TEMPLATE("a series", S, Small, Large) {
     const auto calls = {Call::Exp, Call::Ln, Call::Sin, Call::ATan, Call::ASin};
     SUBCASE("of an argument next to 0, which has one term") {
