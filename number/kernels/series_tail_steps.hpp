@@ -148,16 +148,18 @@ private:
         Vector denominators[FactorVectors];
         Vector reciprocals[FactorVectors];
         for (int v = 0; v < FactorVectors; ++v) {
-            Limb lanes[3][Lanes::Count];
+            Limb numerator[Lanes::Count];
+            Limb denominator[Lanes::Count];
+            Limb reciprocal[Lanes::Count];
             for (int lane = 0; lane < Lanes::Count; ++lane, ++first) {
                 const PreparedRatio ratio = start_.ratio(first);
-                lanes[0][lane] = ratio.numerator;
-                lanes[1][lane] = ratio.denominator;
-                lanes[2][lane] = ratio.reciprocal;
+                numerator[lane] = ratio.numerator;
+                denominator[lane] = ratio.denominator;
+                reciprocal[lane] = ratio.reciprocal;
             }
-            numerators[v] = Lanes::Load(lanes[0]);
-            denominators[v] = Lanes::Load(lanes[1]);
-            reciprocals[v] = Lanes::Load(lanes[2]);
+            numerators[v] = Lanes::Load(numerator);
+            denominators[v] = Lanes::Load(denominator);
+            reciprocals[v] = Lanes::Load(reciprocal);
         }
         Vector rests[FactorVectors] = {};
         Limb* factor = factors_ + firstFactor_ * FactorCount;
