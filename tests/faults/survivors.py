@@ -94,4 +94,10 @@ EXPLAINED = [
         "exponent >= PlainExponentLimit) {",
         "The limit itself may be plain or not: both ways give the same number.",
     ),
+    Explained(
+        "if (columns > 0) {",
+        "if (columns != 0) {",
+        "For fewer than no columns nothing is computed either way; then zeros are written, also over limbs that "
+        "are 0 already.",
+    ),
 ]

@@ -43,7 +43,7 @@ TEST_CASE_TEMPLATE("a term that is far too small for the sum's last bit ends a s
     using namespace vqz::kernels;
     const auto full = S::Leading({}, Ones);
     for (const int termShift : {41, S::Bits - 57, S::Bits - 29, S::Bits - 28, S::Bits - 1}) {
-        for (const int multiplierShift : {S::Bits - termShift + 1, S::Bits - 1}) {
+        for (const int multiplierShift : {S::Bits - termShift + 2, S::Bits - 1}) {
             CAPTURE(termShift);
             CAPTURE(multiplierShift);
             auto sum = S::Leading({Top});
