@@ -139,6 +139,12 @@ const Property* ClassModel::FindSharedProperty(std::string_view name) const {
         this, [name](const ClassModel& model) { return Named(model.sharedProperties, name); });
 }
 
+const syntax::Enumeration::Item* ClassModel::FindItem(std::string_view name) const {
+    const auto found =
+        std::ranges::find_if(items, [name](const auto& item) { return SameName(item.name, name); });
+    return found == items.end() ? nullptr : &*found;
+}
+
 TypeTable::TypeTable(const Host& host) : constants_(HostConstants(host)) {
     for (const auto name : HostClassNames) {
         if (const auto* info = host.FindClass(name)) {

@@ -27,7 +27,8 @@ struct Parameter {
     std::string name;
     Type type;
     bool byRef = false;
-    /// The literal that fills a missing argument; null when the argument must be given.
+    /// The literal that fills a missing argument, for an `Enum` the number of the value; null when
+    /// the argument must be given.
     std::shared_ptr<const syntax::Expression> defaultValue;
     /// Whether a missing argument is the default of the type.
     bool isOptional = false;
@@ -107,6 +108,8 @@ public:
     std::vector<const Method*> FindSharedMethods(std::string_view name) const;
     const Property* FindProperty(std::string_view name) const;
     const Property* FindSharedProperty(std::string_view name) const;
+    /// The value of an `Enum` that bears a name; null when there is none.
+    const syntax::Enumeration::Item* FindItem(std::string_view name) const;
 
     std::vector<Method> methods;
     std::vector<Method> sharedMethods;

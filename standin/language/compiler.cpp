@@ -15,9 +15,9 @@ namespace {
 /// No program can write this name.
 constexpr auto InitialiserName = "(fields)";
 
-/// The head of a routine with the names of its types resolved. The routine keeps the names, which
-/// its body needs; only the defaults move.
-Signature Resolve(syntax::Signature& syntax, const TypeTable& types, const ErrorList& errors) {
+/// The head of a routine with the names of its types resolved, but not its defaults. The routine
+/// keeps the names, which its body needs; only the defaults move.
+Signature ResolveTypes(syntax::Signature& syntax, const TypeTable& types, const ErrorList& errors) {
     syntax::Signature head{syntax.name, syntax.at, {}, syntax.result};
     std::string declaration;
     const auto brackets = [](const syntax::TypeName& type) {
@@ -39,6 +39,14 @@ Signature Resolve(syntax::Signature& syntax, const TypeTable& types, const Error
         declaration += " As " + syntax.result->name + brackets(*syntax.result);
     }
     return types.Resolve(std::move(head), std::move(declaration), errors);
+}
+
+/// Throws where a method of a class would extend a type.
+void RefuseExtension(const syntax::Signature& signature) {
+    const auto& parameters = signature.parameters;
+    if (!parameters.empty() && parameters.front().isExtended) {
+        throw ProgramError(parameters.front().at, "\"Extends\" stands in a module, not in a class");
+    }
 }
 
 bool HaveSameHead(const Signature& left, const Signature& right) {
@@ -139,17 +147,19 @@ code::Block Compiler::CompileAll(syntax::Program& program, ErrorList& errors,
     pending_.clear();
     starts_.clear();
     DeclareTypes(program, errors);
+    DeclareConstants(program, errors);
     for (auto& unit : program.units) {
-        DeclareUnit(unit, errors);
+        if (unit.isClass) {
+            DeclareClass(unit, errors);
+        } else {
+            DeclareModule(unit, errors);
+        }
     }
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : program.routines) {
         if (!errors.Try([&] { DeclareRoutine(routine, {}, siblings, errors); })) {
             errors.Doubt(routine.signature.name);
         }
-    }
-    for (const auto& pending : pending_) {
-        CheckDefaults(pending.signature, errors);
     }
     code::Block block;
     for (const auto& [surroundings, statements] : starts_) {
@@ -193,14 +203,19 @@ code::Routine& Compiler::NewRoutine() {
     return *routines_.emplace_back(std::make_unique<code::Routine>());
 }
 
-void Compiler::CheckDefaults(const Signature& signature, ErrorList& errors) const {
+Signature Compiler::Resolve(syntax::Signature& syntax, const Surroundings& surroundings,
+                            ErrorList& errors) const {
+    auto signature = ResolveTypes(syntax, types_, errors);
     const Scope nothing;
-    ExpressionChecker checker(types_, callables_, nothing, errors);
-    for (const auto& parameter : signature.parameters) {
-        if (parameter.defaultValue) {
-            errors.Try([&] { checker.CheckAs(*parameter.defaultValue, parameter.type); });
+    ExpressionChecker checker(types_, callables_, nothing, errors, surroundings);
+    for (auto& parameter : signature.parameters) {
+        auto& value = parameter.defaultValue;
+        if (value && !errors.Try([&] { value = checker.ResolveDefault(value, parameter.type); })) {
+            value = nullptr;
+            parameter.isOptional = true;
         }
     }
+    return signature;
 }
 
 void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
@@ -229,26 +244,38 @@ void Compiler::DeclareTypes(syntax::Program& program, ErrorList& errors) {
     }
 }
 
-void Compiler::DeclareUnit(syntax::Unit& unit, ErrorList& errors) {
-    for (const auto& constant : unit.constants) {
-        errors.Try([&] {
-            const auto isSame = [&](const UnitConstant& other) {
-                return SameName(other.name, constant.name) && SameName(other.unit, unit.name);
-            };
-            if (std::ranges::any_of(callables_.constants, isSame)) {
-                throw ProgramError(constant.at, Quoted(constant.name) + " is declared already");
-            }
-            const bool isHidden = unit.isClass && constant.visibility == syntax::Visibility::Global;
-            callables_.constants.push_back(
-                {constant.name, constant.value, unit.name,
-                 isHidden ? syntax::Visibility::Qualified : constant.visibility});
-        });
+void Compiler::DeclareConstants(const syntax::Program& program, ErrorList& errors) {
+    for (const auto& unit : program.units) {
+        for (const auto& constant : unit.constants) {
+            errors.Try([&] { DeclareConstant(unit, constant); });
+        }
     }
-    if (unit.isClass) {
-        DeclareClass(unit, errors);
-    } else {
-        DeclareModule(unit, errors);
+    const Scope nothing;
+    const ExpressionChecker checker(types_, callables_, nothing, errors);
+    const auto find = [&checker](std::string_view name) { return checker.FindConstant(name); };
+    for (const auto& statement : program.main) {
+        const auto* constant = std::get_if<syntax::Const>(&statement->node);
+        // What is wrong with it is told where it stands.
+        ErrorList ignored;
+        if (constant != nullptr) {
+            ignored.Try([&] {
+                callables_.mainConstants.Set(constant->name, Evaluate(*constant->value, find));
+            });
+        }
     }
+}
+
+void Compiler::DeclareConstant(const syntax::Unit& unit, const syntax::Constant& constant) {
+    const auto isSame = [&](const UnitConstant& other) {
+        return SameName(other.name, constant.name) && SameName(other.unit, unit.name);
+    };
+    if (std::ranges::any_of(callables_.constants, isSame)) {
+        throw ProgramError(constant.at, Quoted(constant.name) + " is declared already");
+    }
+    const bool isHidden = unit.isClass && constant.visibility == syntax::Visibility::Global;
+    callables_.constants.push_back(
+        {constant.name, constant.value, unit.name,
+         isHidden ? syntax::Visibility::Qualified : constant.visibility});
 }
 
 void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
@@ -287,16 +314,22 @@ void Compiler::DeclareModule(syntax::Unit& unit, ErrorList& errors) {
     std::vector<DeclaredRoutine> siblings;
     for (auto& routine : unit.routines) {
         routine.visibility = seen(routine.visibility);
-        if (!errors.Try([&] { DeclareRoutine(routine, unit.name, siblings, errors); })) {
+        const bool isRight = errors.Try([&] {
+            if (unit.isApplication) {
+                RefuseExtension(routine.signature);
+            }
+            DeclareRoutine(routine, unit.name, siblings, errors);
+        });
+        if (!isRight) {
             errors.Doubt(routine.signature.name);
         }
     }
 }
 
 void Compiler::DeclareRoutine(syntax::Routine& routine, const std::string& unit,
-                              std::vector<DeclaredRoutine>& siblings, const ErrorList& errors) {
+                              std::vector<DeclaredRoutine>& siblings, ErrorList& errors) {
     auto& code = NewRoutine();
-    const DeclaredRoutine declared{Resolve(routine.signature, types_, errors), &code, unit,
+    const DeclaredRoutine declared{Resolve(routine.signature, {unit, nullptr}, errors), &code, unit,
                                    routine.visibility};
     const auto isSame = [&](const DeclaredRoutine& other) { return AreSame(other, declared); };
     if (std::ranges::any_of(siblings, isSame)) {
@@ -358,17 +391,18 @@ void Compiler::DeclareClass(syntax::Unit& unit, ErrorList& errors) {
     }
 }
 
-void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine, const ErrorList& errors) {
+void Compiler::DeclareMethod(ClassModel& model, syntax::Routine& routine, ErrorList& errors) {
     const auto& name = routine.signature.name;
     const Position at = routine.signature.at;
     constexpr std::string_view Operator = "Operator_";
     if (SameName(std::string_view(name).substr(0, Operator.size()), Operator)) {
         throw ProgramError(at, "Operators of classes are not supported here");
     }
+    RefuseExtension(routine.signature);
     if (SameName(name, "Destructor")) {
         throw ProgramError(at, "Destructors are not supported here");
     }
-    auto signature = Resolve(routine.signature, types_, errors);
+    auto signature = Resolve(routine.signature, {model.name(), &model}, errors);
     for (const auto& method : model.methods) {
         if (HaveSameHead(method.signature, signature)) {
             throw ProgramError(at, Quoted(name) + " is declared already");

@@ -69,15 +69,20 @@ private:
     };
 
     void DeclareTypes(syntax::Program& program, ErrorList& errors);
-    void DeclareUnit(syntax::Unit& unit, ErrorList& errors);
+    /// The constants of the modules and classes, and those of the main program.
+    void DeclareConstants(const syntax::Program& program, ErrorList& errors);
+    void DeclareConstant(const syntax::Unit& unit, const syntax::Constant& constant);
     void DeclareModule(syntax::Unit& unit, ErrorList& errors);
     void DeclareClass(syntax::Unit& unit, ErrorList& errors);
-    void DeclareMethod(ClassModel& model, syntax::Routine& routine, const ErrorList& errors);
+    void DeclareMethod(ClassModel& model, syntax::Routine& routine, ErrorList& errors);
     /// Throws when one of the siblings, those of the same text and module, is the same.
     void DeclareRoutine(syntax::Routine& routine, const std::string& unit,
-                        std::vector<DeclaredRoutine>& siblings, const ErrorList& errors);
+                        std::vector<DeclaredRoutine>& siblings, ErrorList& errors);
     code::Routine& NewRoutine();
-    void CheckDefaults(const Signature& signature, ErrorList& errors) const;
+    /// The head of a routine with its types and defaults resolved. A default with an error becomes
+    /// that of its type.
+    Signature Resolve(syntax::Signature& syntax, const Surroundings& surroundings,
+                      ErrorList& errors) const;
     /// Statements of the main frame.
     code::Block CompileStatements(const syntax::Block& statements, ErrorList& errors,
                                   std::optional<Type> result, const Surroundings& surroundings);

@@ -65,6 +65,10 @@ std::optional<ConstantValue> WholeNumber(BinaryOperator operation, std::int64_t 
         overflows = __builtin_sub_overflow(left, right, &result);
     } else if (operation == BinaryOperator::Multiply) {
         overflows = __builtin_mul_overflow(left, right, &result);
+    } else if (right > 0 && operation == BinaryOperator::IntegerDivide) {
+        return left / right;
+    } else if (right > 0 && operation == BinaryOperator::Modulo) {
+        return left % right;
     }
     return overflows ? std::nullopt : std::optional<ConstantValue>(result);
 }
@@ -126,7 +130,7 @@ std::optional<ConstantValue> Apply(BinaryOperator operation, const ConstantValue
 
 class Evaluator {
 public:
-    Evaluator(const Constants& constants, Position at) : constants_(constants), at_(at) {}
+    Evaluator(const ConstantSearch& find, Position at) : find_(find), at_(at) {}
 
     ConstantValue operator()(const syntax::BooleanLiteral& literal) const { return literal.value; }
     ConstantValue operator()(const syntax::TextLiteral& literal) const { return literal.value; }
@@ -138,14 +142,13 @@ public:
     }
     ConstantValue operator()(const syntax::Name& name) const { return Named(name.name); }
     ConstantValue operator()(const syntax::Member& member) const {
-        const auto* module = std::get_if<syntax::Name>(&member.object->node);
-        if (module == nullptr) {
+        if (!IsDottedName(*member.object)) {
             Fail(at_);
         }
-        return Named(module->name + "." + member.name);
+        return Named(DottedName(*member.object) + "." + member.name);
     }
     ConstantValue operator()(const syntax::Unary& unary) const {
-        auto operand = Evaluate(*unary.operand, constants_);
+        auto operand = Evaluate(*unary.operand, find_);
         const auto* flag = std::get_if<bool>(&operand);
         if (unary.operation == UnaryOperator::Not) {
             return flag == nullptr ? throw ProgramError(at_, "\"Not\" takes a Boolean here")
@@ -162,8 +165,8 @@ public:
         return std::holds_alternative<std::int64_t>(operand) && negated ? *negated : Real(-*number);
     }
     ConstantValue operator()(const syntax::Binary& binary) const {
-        auto result = Apply(binary.operation, Evaluate(*binary.left, constants_),
-                            Evaluate(*binary.right, constants_));
+        auto result =
+            Apply(binary.operation, Evaluate(*binary.left, find_), Evaluate(*binary.right, find_));
         if (!result) {
             throw ProgramError(at_, "this cannot be computed of constants");
         }
@@ -176,14 +179,14 @@ public:
 
 private:
     ConstantValue Named(const std::string& name) const {
-        const auto* value = constants_.Find(name);
+        const auto* value = find_(name);
         if (value == nullptr) {
             throw ProgramError(at_, "there is no constant " + Quoted(name));
         }
         return *value;
     }
 
-    const Constants& constants_;
+    const ConstantSearch& find_;
     Position at_;
 };
 
@@ -225,8 +228,13 @@ Constants HostConstants(const Host& host) {
     return constants;
 }
 
+ConstantValue Evaluate(const syntax::Expression& expression, const ConstantSearch& find) {
+    return std::visit(Evaluator(find, expression.at), expression.node);
+}
+
 ConstantValue Evaluate(const syntax::Expression& expression, const Constants& constants) {
-    return std::visit(Evaluator(constants, expression.at), expression.node);
+    return Evaluate(expression,
+                    [&constants](std::string_view name) { return constants.Find(name); });
 }
 
 bool IsTrue(const syntax::Expression& condition, const Constants& constants) {
@@ -236,6 +244,36 @@ bool IsTrue(const syntax::Expression& condition, const Constants& constants) {
         throw ProgramError(condition.at, "a condition is a Boolean");
     }
     return *flag;
+}
+
+bool IsDottedName(const syntax::Expression& expression) {
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    return member != nullptr ? IsDottedName(*member->object)
+                             : std::holds_alternative<syntax::Name>(expression.node);
+}
+
+std::string DottedName(const syntax::Expression& expression) {
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    return member != nullptr ? DottedName(*member->object) + "." + member->name
+                             : std::get<syntax::Name>(expression.node).name;
+}
+
+bool IsLiteral(const syntax::Expression& expression) {
+    if (const auto* unary = std::get_if<syntax::Unary>(&expression.node)) {
+        const auto& operand = unary->operand->node;
+        return unary->operation != UnaryOperator::Not &&
+               (std::holds_alternative<syntax::IntegerLiteral>(operand) ||
+                std::holds_alternative<syntax::RealLiteral>(operand));
+    }
+    return std::holds_alternative<syntax::IntegerLiteral>(expression.node) ||
+           std::holds_alternative<syntax::RealLiteral>(expression.node) ||
+           std::holds_alternative<syntax::TextLiteral>(expression.node) ||
+           std::holds_alternative<syntax::BooleanLiteral>(expression.node) ||
+           std::holds_alternative<syntax::NilLiteral>(expression.node);
+}
+
+void FailWithoutDefault(Position at) {
+    throw ProgramError(at, "a default is a literal, a constant or a value of an \"Enum\"");
 }
 
 syntax::ExpressionPtr LiteralOf(const ConstantValue& value, Position at) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -41,11 +42,25 @@ private:
 /// What the host tells of itself: `XojoVersion`, `TargetWindows` and the like.
 Constants HostConstants(const Host& host);
 
+/// Returns the constant of a name, maybe with a module's before it; null when there is none.
+using ConstantSearch = std::function<const syntax::ConstantValue*(std::string_view name)>;
+
 /// The value of an expression of constants and literals. Throws ProgramError for any other.
+syntax::ConstantValue Evaluate(const syntax::Expression& expression, const ConstantSearch& find);
 syntax::ConstantValue Evaluate(const syntax::Expression& expression, const Constants& constants);
 
 /// Whether a condition of constants holds. Throws ProgramError when it is no Boolean.
 bool IsTrue(const syntax::Expression& condition, const Constants& constants);
+
+/// Whether it is a name, or several with dots between.
+bool IsDottedName(const syntax::Expression& expression);
+/// The same as it is written.
+std::string DottedName(const syntax::Expression& expression);
+/// Whether it is a literal, or a number with a sign.
+bool IsLiteral(const syntax::Expression& expression);
+
+/// Throws ProgramError: a parameter's default can be nothing like this.
+[[noreturn]] void FailWithoutDefault(Position at);
 
 /// The value as the literal that it is.
 syntax::ExpressionPtr LiteralOf(const syntax::ConstantValue& value, Position at);

@@ -82,10 +82,83 @@ code::ExpressionPtr ExpressionChecker::CheckAsShown(const syntax::Expression& ex
     return std::make_unique<code::BuiltInCall>(function, std::move(arguments));
 }
 
-Checked ExpressionChecker::CheckDefault(const syntax::Expression& literal, Position at) {
-    auto checked = Check(literal);
+Checked ExpressionChecker::CheckDefault(const Parameter& parameter, Position at) {
+    auto checked = Check(*parameter.defaultValue);
+    if (parameter.type.kind == Kind::Enumeration) {
+        checked = CastTo(std::move(checked), parameter.type, at);
+    }
     checked.at = at;
     return checked;
+}
+
+std::shared_ptr<const syntax::Expression> ExpressionChecker::ResolveDefault(
+    std::shared_ptr<const syntax::Expression> written, Type type) {
+    const Position at = written->at;
+    if (type.kind == Kind::Instance && !std::holds_alternative<syntax::NilLiteral>(written->node)) {
+        throw ProgramError(at, "the default of an object can only be Nil");
+    }
+    if (const auto item = FindItem(*written, type)) {
+        return LiteralOf(*item, at);
+    }
+    if (!IsLiteral(*written)) {
+        const auto find = [this](std::string_view name) { return FindConstant(name); };
+        written = LiteralOf(Evaluate(*written, find), at);
+    }
+    CheckAs(*written, type);
+    return written;
+}
+
+std::optional<std::int64_t> ExpressionChecker::FindItem(const syntax::Expression& expression,
+                                                        Type type) {
+    const auto* member = std::get_if<syntax::Member>(&expression.node);
+    if (member == nullptr || FindConstant(DottedName(expression)) != nullptr) {
+        return std::nullopt;
+    }
+    const auto* model = CheckReceiver(*member->object, member->name).model;
+    if (model == nullptr || model->origin() != ClassModel::Origin::Enumeration) {
+        FailWithoutDefault(expression.at);
+    }
+    const auto* item = model->FindItem(member->name);
+    if (item == nullptr) {
+        FailWithoutMember(*model, member->name, expression.at);
+    }
+    if (type.model != model) {
+        throw ProgramError(expression.at,
+                           "expected " + NameOf(type) + ", this is " + model->name());
+    }
+    return item->value;
+}
+
+void ExpressionChecker::RequireConstant(const syntax::Expression& expression) const {
+    if (const auto* unary = std::get_if<syntax::Unary>(&expression.node)) {
+        return RequireConstant(*unary->operand);
+    }
+    if (const auto* binary = std::get_if<syntax::Binary>(&expression.node)) {
+        RequireConstant(*binary->left);
+        return RequireConstant(*binary->right);
+    }
+    const auto* name = std::get_if<syntax::Name>(&expression.node);
+    const auto* variable = name == nullptr ? nullptr : FindLocal(name->name);
+    const bool isConstant =
+        variable != nullptr
+            ? variable->isConstant
+            : IsDottedName(expression) && FindConstant(DottedName(expression)) != nullptr;
+    if (!isConstant && !IsLiteral(expression)) {
+        throw ProgramError(expression.at,
+                           "the value of a constant consists of literals and constants");
+    }
+}
+
+const syntax::ConstantValue* ExpressionChecker::FindConstant(std::string_view name) const {
+    const auto dot = name.rfind('.');
+    const bool isQualified = dot != std::string_view::npos;
+    const auto unit = isQualified ? std::optional(name.substr(0, dot)) : std::nullopt;
+    if (const auto* constant =
+            FindDeclared(callables_.constants, isQualified ? name.substr(dot + 1) : name, unit)) {
+        return &constant->value;
+    }
+    const auto* ofMain = callables_.mainConstants.Find(name);
+    return ofMain == nullptr ? types_.constants().Find(name) : ofMain;
 }
 
 Checked ExpressionChecker::CheckNode(const syntax::IntegerLiteral& literal, Position at) {

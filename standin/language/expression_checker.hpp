@@ -51,6 +51,8 @@ struct Callables {
     std::vector<DeclaredRoutine> routines = {};
     std::vector<UnitVariable> variables = {};
     std::vector<UnitConstant> constants = {};
+    /// The constants of the main program. Code sees them as variables of its scope.
+    Constants mainConstants = Constants();
     /// The names of the modules and classes.
     std::set<std::string, NameLess> units = {};
     /// The name of the class that is the application; empty in a script.
@@ -98,7 +100,15 @@ public:
     /// A binary operator on operands that are checked already.
     Checked Apply(syntax::BinaryOperator operation, Checked left, Checked right, Position at);
 
-    Checked CheckDefault(const syntax::Expression& literal, Position at) override;
+    /// Throws ProgramError unless an expression that is right consists of literals and constants.
+    void RequireConstant(const syntax::Expression& expression) const;
+    /// The constant of a module, of the main program or of the host that bears a name, which may
+    /// have a module's before it.
+    const syntax::ConstantValue* FindConstant(std::string_view name) const;
+    Checked CheckDefault(const Parameter& parameter, Position at) override;
+    /// A default as it was written, as the literal that it means for a parameter of that type.
+    std::shared_ptr<const syntax::Expression> ResolveDefault(
+        std::shared_ptr<const syntax::Expression> written, Type type);
 
 private:
     using Arguments = std::vector<Checked>;
@@ -231,6 +241,9 @@ private:
     std::optional<Checked> TryUnitValue(const std::string& unit, const std::string& name,
                                         Position at);
     Checked CheckConstant(const syntax::ConstantValue& value, Position at);
+    /// The number of the value of an `Enum` that a default of that type names; nothing for a
+    /// literal or constant.
+    std::optional<std::int64_t> FindItem(const syntax::Expression& expression, Type type);
     /// The call of a routine of the program; nothing when none of that name is seen.
     std::optional<Checked> TryRoutine(const std::string& name, std::optional<std::string> unit,
                                       Arguments& arguments, Position at);

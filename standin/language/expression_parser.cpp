@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "standin/language/constants.hpp"
 #include "standin/language/names.hpp"
 
 namespace standin::language {
@@ -106,21 +107,6 @@ void RequirePlace(const std::vector<syntax::Parameter>& parameters) {
     if (last.isParamArray && (last.byRef || last.defaultValue || last.isOptional)) {
         throw ProgramError(last.at, "a \"ParamArray\" is nothing else");
     }
-}
-
-/// A literal, or a number with a sign.
-bool IsLiteral(const syntax::Expression& expression) {
-    if (const auto* unary = std::get_if<syntax::Unary>(&expression.node)) {
-        const auto& operand = unary->operand->node;
-        return unary->operation != UnaryOperator::Not &&
-               (std::holds_alternative<syntax::IntegerLiteral>(operand) ||
-                std::holds_alternative<syntax::RealLiteral>(operand));
-    }
-    return std::holds_alternative<syntax::IntegerLiteral>(expression.node) ||
-           std::holds_alternative<syntax::RealLiteral>(expression.node) ||
-           std::holds_alternative<syntax::TextLiteral>(expression.node) ||
-           std::holds_alternative<syntax::BooleanLiteral>(expression.node) ||
-           std::holds_alternative<syntax::NilLiteral>(expression.node);
 }
 
 }  // namespace
@@ -399,8 +385,13 @@ syntax::Parameter ExpressionParser::ParseParameter() {
     parameter.type.dimensions = parameter.isParamArray ? 1 : dimensions;
     if (cursor_.TryTake(TokenKind::Equal)) {
         parameter.defaultValue = ParseExpression();
-        if (!IsLiteral(*parameter.defaultValue)) {
-            throw ProgramError(parameter.defaultValue->at, "a default is a literal");
+        const auto& value = *parameter.defaultValue;
+        const auto* sign = std::get_if<syntax::Unary>(&value.node);
+        const bool isNamed =
+            sign == nullptr ? IsDottedName(value)
+                            : sign->operation != UnaryOperator::Not && IsDottedName(*sign->operand);
+        if (!IsLiteral(value) && !isNamed) {
+            FailWithoutDefault(value.at);
         }
     }
     return parameter;

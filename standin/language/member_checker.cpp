@@ -88,10 +88,7 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
 /// A name after a dot without arguments: a property first, else a method.
 Checked ExpressionChecker::CheckMember(Receiver receiver, const std::string& name, Position at) {
     if (receiver.model != nullptr && !receiver.value) {
-        const auto& items = receiver.model->items;
-        const auto item = std::ranges::find_if(
-            items, [&name](const auto& candidate) { return SameName(candidate.name, name); });
-        if (item != items.end()) {
+        if (const auto* item = receiver.model->FindItem(name)) {
             return MakeConstant(Value::Of(item->value), {Kind::Enumeration, receiver.model}, at);
         }
     }

@@ -211,8 +211,8 @@ std::vector<code::Argument> Fill(const Signature& signature, std::vector<Checked
                 {std::make_unique<code::DefaultValue>(parameter.type), parameter.type.kind, false});
             continue;
         }
-        auto argument = i < arguments.size() ? std::move(arguments[i])
-                                             : defaults.CheckDefault(*parameter.defaultValue, at);
+        auto argument =
+            i < arguments.size() ? std::move(arguments[i]) : defaults.CheckDefault(parameter, at);
         if (parameter.byRef) {
             MarkAssigned(argument.code->written().isAssigned);
         } else {

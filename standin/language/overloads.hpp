@@ -36,12 +36,13 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
                             const std::vector<Checked>& arguments, Position at,
                             const ClassModel* model = nullptr);
 
-/// Turns literals that stand as defaults into checked expressions.
+/// Turns the defaults of parameters into checked expressions.
 class DefaultSource {
 public:
     virtual ~DefaultSource() = default;
-    /// `at` is the call; the literal's own place is in another text.
-    virtual Checked CheckDefault(const syntax::Expression& literal, Position at) = 0;
+    /// The default of a parameter that has one. `at` is the call; the default's own place is in
+    /// another text.
+    virtual Checked CheckDefault(const Parameter& parameter, Position at) = 0;
 };
 
 /// The arguments as the parameters want them, missing ones filled from their defaults.

@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "standin/language/constants.hpp"
 #include "standin/language/expression_parser.hpp"
 #include "standin/language/unit_parser.hpp"
 
@@ -59,7 +60,14 @@ syntax::ExpressionPtr ParseExpression(std::string_view text) {
 }
 
 syntax::Signature ParseDeclaration(std::string_view text) {
-    return ParseWhole(text, [](ExpressionParser& parser) { return parser.ParseSignature(); });
+    auto signature =
+        ParseWhole(text, [](ExpressionParser& parser) { return parser.ParseSignature(); });
+    for (const auto& parameter : signature.parameters) {
+        if (parameter.defaultValue && !IsLiteral(*parameter.defaultValue)) {
+            throw ProgramError(parameter.defaultValue->at, "a default is a literal");
+        }
+    }
+    return signature;
 }
 
 syntax::TypeName ParseTypeName(std::string_view text) {

@@ -162,9 +162,13 @@ code::ExpressionPtr StatementChecker::CheckInitialValue(const syntax::Declarator
 void StatementChecker::AddNode(code::Block& block, const syntax::Const& constant, Position at) {
     const auto declare = [&] {
         auto value = expressions_.Check(*constant.value);
-        if (constant.type) {
-            value = ConvertTo(std::move(value), expressions_.RequireType(*constant.type));
+        expressions_.RequireConstant(*constant.value);
+        const auto type = constant.type ? expressions_.RequireType(*constant.type) : value.type;
+        if (!IsNumber(type.kind) && type.kind != Kind::Boolean && type.kind != Kind::Text) {
+            throw ProgramError(at, "a constant is a number, a Boolean or a String, this is " +
+                                       language::NameOf(type));
         }
+        value = ConvertTo(std::move(value), type);
         const auto variable = scope_.Declare(constant.name, value.type, at, true);
         AppendAssign(block, at, variable, std::move(value.code));
     };

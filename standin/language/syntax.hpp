@@ -133,7 +133,7 @@ struct Parameter {
     Position at = 0;
     TypeName type;
     bool byRef = false;
-    /// A literal; null when there is none.
+    /// A literal or a name, either of them maybe with a sign; null when there is none.
     ExpressionPtr defaultValue;
     /// Whether the argument may be left out without a default: it is then its type's own.
     bool isOptional = false;

@@ -362,6 +362,10 @@ void UnitParser::ParseEnumerationItems(syntax::Enumeration& enumeration, TokenKi
             next = *number;
         }
         cursor_.ExpectEndOfLine();
+        const auto isSame = [&name](const auto& item) { return SameName(item.name, name.text); };
+        if (std::ranges::any_of(enumeration.items, isSame)) {
+            errors_.Add(ProgramError(name.at, Quoted(name.text) + " is declared already"));
+        }
         enumeration.items.push_back({name.text, name.at, next});
         next = static_cast<std::int64_t>(static_cast<std::uint64_t>(next) + 1);
     }

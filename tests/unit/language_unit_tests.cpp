@@ -85,6 +85,64 @@ TEST_CASE("parameters of every sort") {
           "1True\n2xTrue\n");
 }
 
+TEST_CASE("defaults are literals, constants and values of enumerations") {
+    SampleHost host;
+    const std::string shared =
+        "Enum E\nA\nB = -7\nEnd Enum\n"
+        "Module M\nPrivate Const kHidden = 5\nConst kText = N.kText\nEnum Inner\nX\nY\nEnd Enum\n"
+        "Function G(n As Integer = kHidden, i As Inner = M.Inner.Y, x As Inner = Inner.X) As "
+        "String\n"
+        "Return Str(n) + Str(Integer(i)) + Str(Integer(x))\nEnd Function\nEnd Module\n"
+        "Module N\nConst kText = \"n\"\nEnd Module\n"
+        "Class C\nConst kC = 3\nFunction H(n As Integer = kC, s As String = M.kText) As String\n"
+        "Return Str(n) + s\nEnd Function\nEnd Class\n"
+        "Const kTwo = 2\nConst kNine = kTwo * 3 + 7 Mod 4\n"
+        "Function P(a As Integer = kNine, b As Integer = -kTwo, c As Double = -1.5,"
+        " d As Boolean = TargetConsole, e As E = E.B, s As Sample = Nil) As String\n"
+        "Return Str(a) + Str(b) + Str(c) + Str(d) + Str(Integer(e)) + Str(s Is Nil)\nEnd "
+        "Function\n";
+    // What the caller declares does not matter.
+    CHECK(host.Run(shared +
+                   "Const kHidden = \"mine\"\nDim c As New C\nPrint G\nPrint c.H\nPrint P") ==
+          "510\n3n\n9-2-1.5True-7True\n");
+    const auto fails = [&host](const std::string& parameter) {
+        return host.Run(
+            "Const kNine = 9\nDim v As Integer = 5\nEnum E\nA\nEnd Enum\nEnum O\nA\n"
+            "End Enum\nSub F(p As " +
+            parameter + ")\nEnd Sub\nF");
+    };
+    CHECK(fails("Integer = v") == "9:22: there is no constant \"v\"");
+    CHECK(fails("Integer = Sqrt(2)") ==
+          "9:22: a default is a literal, a constant or a value of an \"Enum\"");
+    CHECK(fails("Integer = Sample.Zero").find("a default is a literal, a constant or") !=
+          std::string::npos);
+    CHECK(fails("E = 0") == "9:16: expected E, this is Integer");
+    CHECK(fails("E = O.A") == "9:18: expected E, this is O");
+    CHECK(fails("E = E.C").find("E has no member \"C\"") != std::string::npos);
+    CHECK(fails("Integer = E.A") == "9:24: expected Integer, this is E");
+    CHECK(fails("Boolean = kNine") == "9:22: expected Boolean, this is Integer");
+    CHECK(fails("Sample = 5") == "9:21: the default of an object can only be Nil");
+}
+
+TEST_CASE("constants are made of literals and constants") {
+    SampleHost host;
+    CHECK(host.Run("Const kA As Double = -2.5\nSub F()\nConst kB = kA * M.kC\nPrint Str(kB)\n"
+                   "End Sub\nModule M\nConst kC = 4\nEnd Module\nF") == "-10\n");
+    constexpr auto Impure = "the value of a constant consists of literals and constants";
+    CHECK(host.Run("Const k = Sqrt(2)") == std::string("1:11: ") + Impure);
+    CHECK(host.Run("Dim n As Integer = 3\nConst k = n * 2") == std::string("2:11: ") + Impure);
+    CHECK(host.Run("Sub F()\nConst k = Rnd\nEnd Sub") == std::string("2:11: ") + Impure);
+    CHECK(host.Run("Const k As Sample = 5") ==
+          "1:1: a constant is a number, a Boolean or a String, this is Sample");
+    CHECK(host.Run("Const k = Nil").find("this is Nil") != std::string::npos);
+    CHECK(host.Run("Enum E\nA\nB\na = 5\nEnd Enum") == "4:1: \"a\" is declared already");
+    constexpr auto Extension =
+        "Function T(Extends n As Integer) As Integer\nReturn n\nEnd Function\n";
+    CHECK(host.Run(std::string("Class C\n") + Extension + "End Class") ==
+          "2:20: \"Extends\" stands in a module, not in a class");
+    CHECK(host.Run(std::string("Module M\n") + Extension + "End Module\nPrint Str(5.T)") == "5\n");
+}
+
 TEST_CASE("arrays of several dimensions, and a routine that sorts") {
     SampleHost host;
     CHECK(host.Run("Dim a(1, 2) As Integer\na(1, 2) = 5\na(0, 1) = 3\nRedim a(2, 4)\n"
