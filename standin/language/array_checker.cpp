@@ -140,26 +140,55 @@ std::optional<Checked> ExpressionChecker::TrySortBy(Checked& array, const std::s
         !SameName(name, "Sort")) {
         return std::nullopt;
     }
-    const auto element = array.type.ElementType();
-    const auto compares = [&](const DeclaredRoutine& routine) {
-        const auto& signature = routine.signature;
-        return SameName(signature.name, address->name) && IsVisible(routine, false) &&
-               signature.result == Type{IntegerKind} && signature.parameters.size() == 2 &&
-               std::ranges::all_of(signature.parameters, [element](const Parameter& parameter) {
-                   return parameter.type == element && !parameter.byRef;
-               });
-    };
-    const auto found = std::ranges::find_if(callables_.routines, compares);
-    if (found == callables_.routines.end()) {
-        throw ProgramError(arguments.front()->at, "there is no Function " + Quoted(address->name) +
-                                                      " that takes two " + NameOf(element) +
-                                                      " and returns an Integer");
-    }
-    return Checked{std::make_unique<code::SortBy>(std::move(array.code), *found->code),
+    auto comparison =
+        FindComparison(*address->routine, array.type.ElementType(), arguments.front()->at);
+    return Checked{std::make_unique<code::SortBy>(std::move(array.code), *comparison.routine,
+                                                  std::move(comparison.object)),
                    {Kind::None},
                    at,
                    {},
                    false};
+}
+
+ExpressionChecker::Comparison ExpressionChecker::FindComparison(const syntax::Expression& routine,
+                                                                Type element, Position at) {
+    const auto* name = std::get_if<syntax::Name>(&routine.node);
+    const auto* member = std::get_if<syntax::Member>(&routine.node);
+    if (name == nullptr && member == nullptr) {
+        throw ProgramError(at, "\"AddressOf\" takes the name of a routine alone");
+    }
+    const auto& wanted = name != nullptr ? name->name : member->name;
+    const auto compares = [element](const Signature& signature) {
+        return signature.result == Type{IntegerKind} && signature.parameters.size() == 2 &&
+               std::ranges::all_of(signature.parameters, [element](const Parameter& parameter) {
+                   return parameter.type == element && !parameter.byRef;
+               });
+    };
+    const auto* unit = member == nullptr ? nullptr : FindUnit(*member->object);
+    const bool isOwn = member == nullptr && IsOwnMember(wanted);
+    for (const auto& declared : callables_.routines) {
+        const bool isThere =
+            unit == nullptr ? member == nullptr && !isOwn : SameName(declared.unit, *unit);
+        if (isThere && SameName(declared.signature.name, wanted) && compares(declared.signature) &&
+            IsVisible(declared, unit != nullptr)) {
+            return {declared.code, nullptr};
+        }
+    }
+    const bool isOfObject = member != nullptr && (unit == nullptr || FindVariable(*member->object));
+    if (isOwn || isOfObject) {
+        auto receiver = isOwn ? OwnReceiver(at) : CheckReceiver(*member->object, wanted);
+        const auto methods = receiver.model == nullptr || !receiver.value
+                                 ? std::vector<const Method*>()
+                                 : receiver.model->FindMethods(wanted);
+        for (const auto* method : methods) {
+            if (method->routine != nullptr && compares(method->signature)) {
+                RequireAccess(method->isPrivate, *receiver.model, wanted, at);
+                return {method->routine, std::move(receiver.value->code)};
+            }
+        }
+    }
+    throw ProgramError(at, "there is no Function " + Quoted(wanted) + " that takes two " +
+                               NameOf(element) + " and returns an Integer");
 }
 
 bool ExpressionChecker::IsArrayFunction(const syntax::Call& call) const {

@@ -56,8 +56,18 @@ Value SortBy::Evaluate(Frame& frame) const {
     const auto& given = RequireArray(array, frame.machine).items;
     std::vector<Value> items(given.begin(), given.end());
     std::vector<Value> merged(items.size());
+    Value object;
+    if (object_) {
+        object = object_->Evaluate(frame);
+        frame.machine.RequireObject(object, object_->written());
+    }
     const auto goesFirst = [&](const Value& left, const Value& right) {
-        return CallRoutine(comparison_, {left, right}, frame).Get<std::int64_t>() <= 0;
+        std::vector<Value> arguments;
+        if (object_) {
+            arguments.push_back(object);
+        }
+        arguments.insert(arguments.end(), {left, right});
+        return CallRoutine(comparison_, std::move(arguments), frame).Get<std::int64_t>() <= 0;
     };
     for (std::size_t run = 1; run < items.size(); run *= 2) {
         for (std::size_t start = 0; start < items.size(); start += 2 * run) {

@@ -37,13 +37,15 @@ private:
 /// greater than 0 as the first one is.
 class SortBy final : public Expression {
 public:
-    SortBy(ExpressionPtr array, const Routine& comparison)
-        : array_(std::move(array)), comparison_(comparison) {}
+    /// The comparison is a method of `object`, unless that is null.
+    SortBy(ExpressionPtr array, const Routine& comparison, ExpressionPtr object)
+        : array_(std::move(array)), comparison_(comparison), object_(std::move(object)) {}
     Value Evaluate(Frame& frame) const override;
 
 private:
     ExpressionPtr array_;
     const Routine& comparison_;
+    ExpressionPtr object_;
 };
 
 /// A new array of values.

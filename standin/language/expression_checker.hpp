@@ -189,6 +189,14 @@ private:
     /// `array.Sort(AddressOf Routine)`, if it is that; the array is moved from then.
     std::optional<Checked> TrySortBy(Checked& array, const std::string& name,
                                      const syntax::Expressions& arguments, Position at);
+    /// A routine that orders two elements of an array.
+    struct Comparison {
+        const code::Routine* routine;
+        /// The object that it is a method of; null where it is none.
+        code::ExpressionPtr object;
+    };
+    /// The one that is named behind "AddressOf", which stands at `at`.
+    Comparison FindComparison(const syntax::Expression& routine, Type element, Position at);
     /// A method of an array, both moved from when it is there.
     std::optional<Checked> TryArrayMember(Checked& array, const std::string& name,
                                           Arguments& arguments, Position at);

@@ -234,8 +234,7 @@ ExpressionPtr ExpressionParser::ParsePrimary() {
         case TokenKind::CType:
             return ParseCast();
         case TokenKind::AddressOf:
-            cursor_.Take();
-            return Make(at, 0, syntax::AddressOf{cursor_.ExpectName().text});
+            return ParseAddress();
         case TokenKind::If:
             return ParseConditional();
         case TokenKind::OpenParenthesis:
@@ -275,6 +274,16 @@ ExpressionPtr ExpressionParser::ParseCast() {
     cursor_.Expect(TokenKind::CloseParenthesis);
     const auto height = HeightOf(value);
     return Make(at, height, syntax::Cast{std::move(value), std::move(type)});
+}
+
+ExpressionPtr ExpressionParser::ParseAddress() {
+    const Position at = cursor_.Expect(TokenKind::AddressOf).at;
+    if (!cursor_.IsAt(TokenKind::Name)) {
+        cursor_.Fail("the name of a routine");
+    }
+    auto routine = ParsePostfix();
+    const auto height = HeightOf(routine);
+    return Make(at, height, syntax::AddressOf{std::move(routine)});
 }
 
 ExpressionPtr ExpressionParser::ParseConditional() {

@@ -60,6 +60,7 @@ private:
     syntax::ExpressionPtr ParseRealLiteral();
     syntax::ExpressionPtr ParseParenthesis();
     syntax::ExpressionPtr ParseCast();
+    syntax::ExpressionPtr ParseAddress();
     syntax::ExpressionPtr ParseConditional();
     syntax::ExpressionPtr ParseClassTest(syntax::ExpressionPtr value);
     syntax::Parameter ParseParameter();

@@ -101,9 +101,9 @@ struct Conditional {
     ExpressionPtr value;
     ExpressionPtr otherwise;
 };
-/// `AddressOf Routine`.
+/// `AddressOf Routine`, also of a module or an object: `AddressOf M.Routine`.
 struct AddressOf {
-    std::string name;
+    ExpressionPtr routine;
 };
 struct Unary {
     UnaryOperator operation;

@@ -104,9 +104,13 @@ Value InStrFrom(const Arguments& arguments, const Machine& machine) {
 }
 
 Value IndexOf(const Arguments& arguments, const Machine& machine) {
-    const auto before = std::max<Integer>(arguments[2].Get<Integer>(), 0);
+    return Value::Of(NumberOf(Utf8Of(arguments[0], machine), Utf8Of(arguments[1], machine), 1) - 1);
+}
+
+Value IndexOfFrom(const Arguments& arguments, const Machine& machine) {
+    const auto before = std::max<Integer>(arguments[1].Get<Integer>(), 0);
     const Integer first = std::min(before, std::numeric_limits<Integer>::max() - 1) + 1;
-    return Value::Of(NumberOf(Utf8Of(arguments[0], machine), Utf8Of(arguments[1], machine), first) -
+    return Value::Of(NumberOf(Utf8Of(arguments[0], machine), Utf8Of(arguments[2], machine), first) -
                      1);
 }
 
@@ -327,7 +331,8 @@ constexpr auto Functions = std::to_array<BuiltInRow>({
     {"RTrim(text As String) As String", TrimText<WithoutTrailingBlanks>},
     {"InStr(text As String, find As String) As Integer", InStr},
     {"InStr(start As Integer, text As String, find As String) As Integer", InStrFrom},
-    {"IndexOf(text As String, find As String, start As Integer = 0) As Integer", IndexOf},
+    {"IndexOf(text As String, find As String) As Integer", IndexOf},
+    {"IndexOf(text As String, start As Integer, find As String) As Integer", IndexOfFrom},
     {"Contains(text As String, find As String) As Boolean", Contains},
     {"BeginsWith(text As String, find As String) As Boolean", BeginsWith},
     {"EndsWith(text As String, find As String) As Boolean", EndsWith},

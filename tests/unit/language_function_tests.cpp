@@ -34,9 +34,12 @@ TEST_CASE("searching text") {
     CHECK(host.Show("InStr(\"abc\", \"\")") == "1");
     CHECK(host.Show("InStr(\"\", \"a\")") == "0");
     CHECK(host.Show("\"Hello\".IndexOf(\"l\")") == "2");
-    CHECK(host.Show("\"Hello\".IndexOf(\"l\", 3)") == "3");
+    CHECK(host.Show("\"Hello\".IndexOf(3, \"l\")") == "3");
     CHECK(host.Show("\"Hello\".IndexOf(\"x\")") == "-1");
-    CHECK(host.Show("\"Hello\".IndexOf(\"l\", 2147483647)") == "-1");
+    CHECK(host.Show("\"Hello\".IndexOf(2147483647, \"l\")") == "-1");
+    CHECK(
+        host.Show("\"Hello\".IndexOf(\"l\", 3)").find("does not take (String, String, Integer)") !=
+        std::string::npos);
     CHECK(host.Show("\"Hello\".Contains(\"ELL\")") == "True");
     CHECK(host.Show("\"Hello\".BeginsWith(\"he\")") == "True");
     CHECK(host.Show("\"Hello\".BeginsWith(\"lo\")") == "False");

@@ -160,6 +160,41 @@ TEST_CASE("arrays of several dimensions, and a routine that sorts") {
               .starts_with("2:8: there is no Function \"Nothing\""));
 }
 
+TEST_CASE("an array is sorted by a routine of a module or a method of an object") {
+    SampleHost host;
+    constexpr auto Head = "Function Cmp(a As Integer, b As Integer) As Integer\nReturn ";
+    const auto text = [&](const std::string& sort) {
+        return "Module M\nDim other As Order\n" + std::string(Head) +
+               "a - b\nEnd Function\nPrivate " +
+               "Function Inner(a As Integer, b As Integer) As Integer\nReturn a - b\nEnd "
+               "Function\n" +
+               "Sub Go(v() As Integer)\nv.Sort(AddressOf Inner)\nEnd Sub\nEnd Module\n" +
+               "Class Order\nDim factor As Integer = -1\n" + Head +
+               "(a - b) * factor\nEnd Function\nSub Go(v() As Integer)\nv.Sort(AddressOf Cmp)\n" +
+               "End Sub\nSub Again(v() As Integer)\nv.Sort(AddressOf Self.Cmp)\nEnd Sub\n" +
+               "Private Function P(a As Integer, b As Integer) As Integer\nEnd Function\nEnd "
+               "Class\n" +
+               "Dim v() As Integer = Array(2, 3, 1)\nDim o As New Order\n" + sort +
+               "\nPrint Str(v(0)) + Str(v(1)) + Str(v(2))";
+    };
+    for (const auto* sort : {"v.Sort(AddressOf M.Cmp)", "M.Go(v)", "v.Sort(AddressOf Cmp)",
+                             "M.other = o\no.factor = 1\nv.Sort(AddressOf M.other.Cmp)"}) {
+        CHECK_MESSAGE(host.Run(text(sort)) == "123\n", sort);
+    }
+    for (const auto* sort : {"o.Go(v)", "o.Again(v)", "v.Sort(AddressOf o.Cmp)"}) {
+        CHECK_MESSAGE(host.Run(text(sort)) == "321\n", sort);
+    }
+    CHECK(host.Run(text("o = Nil\nv.Sort(AddressOf o.Cmp)")).starts_with("Unhandled NilObject"));
+    CHECK(host.Run(text("v.Sort(AddressOf M.Inner)")).find("there is no Function \"Inner\"") !=
+          std::string::npos);
+    CHECK(host.Run(text("v.Sort(AddressOf o.P)")).find("\"P\" of Order is not seen here") !=
+          std::string::npos);
+    CHECK(host.Run(text("v.Sort(AddressOf o.Go)")).find("there is no Function \"Go\" that takes") !=
+          std::string::npos);
+    CHECK(host.Run(text("v.Sort(AddressOf Cmp(1, 2))")).find("takes the name of a routine alone") !=
+          std::string::npos);
+}
+
 TEST_CASE("small integers wrap at their width and are computed with as Int32") {
     SampleHost host;
     CHECK(
