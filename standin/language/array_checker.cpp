@@ -69,7 +69,7 @@ Checked ExpressionChecker::CheckElement(Checked array, Arguments indices, Positi
             type,
             at,
             {},
-            false};
+            true};
 }
 
 std::vector<code::ExpressionPtr> ExpressionChecker::CheckIndices(const Checked& array,

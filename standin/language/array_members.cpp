@@ -148,6 +148,18 @@ Array& RequireArray(const Value& value, const Machine& machine) {
     return *value.array();
 }
 
+Value* FindElement(Array& array, const std::vector<std::int64_t>& indices) {
+    std::size_t offset = 0;
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        const auto last = array.lastIndices.empty() ? LastIndexOf(array) : array.lastIndices[i];
+        if (indices[i] < 0 || indices[i] > last) {
+            return nullptr;
+        }
+        offset = offset * static_cast<std::size_t>(last + 1) + static_cast<std::size_t>(indices[i]);
+    }
+    return &array.items[offset];
+}
+
 Value& RequireElement(Array& array, std::int64_t index, const Machine& machine) {
     if (index < 0 || index > LastIndexOf(array)) {
         machine.Raise("OutOfBoundsException",
@@ -159,7 +171,6 @@ Value& RequireElement(Array& array, std::int64_t index, const Machine& machine) 
 
 Value& RequireElement(Array& array, const std::vector<std::int64_t>& indices,
                       const Machine& machine) {
-    std::size_t offset = 0;
     for (std::size_t i = 0; i < indices.size(); ++i) {
         if (indices[i] < 0 || indices[i] > array.lastIndices[i]) {
             machine.Raise("OutOfBoundsException",
@@ -168,10 +179,8 @@ Value& RequireElement(Array& array, const std::vector<std::int64_t>& indices,
                               " is outside the array, whose last index is " +
                               std::to_string(array.lastIndices[i]) + ".");
         }
-        offset = offset * static_cast<std::size_t>(array.lastIndices[i] + 1) +
-                 static_cast<std::size_t>(indices[i]);
     }
-    return array.items[offset];
+    return *FindElement(array, indices);
 }
 
 void Resize(Array& array, const std::vector<std::int64_t>& lastIndices, const Machine& machine) {

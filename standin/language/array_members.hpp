@@ -26,6 +26,8 @@ std::span<const ArrayMember> ArrayMembers();
 
 /// The array in a value. Raises NilObjectException for a variable whose declaration has not run.
 Array& RequireArray(const Value& value, const Machine& machine);
+/// The element with these indices, one for each dimension; null where there is none.
+Value* FindElement(Array& array, const std::vector<std::int64_t>& indices);
 /// The element with that index. Raises OutOfBoundsException where there is none.
 Value& RequireElement(Array& array, std::int64_t index, const Machine& machine);
 /// The same of an array of several dimensions.

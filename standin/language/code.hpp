@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "standin/language/native_data.hpp"
+#include "standin/language/references.hpp"
 #include "standin/language/source.hpp"
 #include "standin/language/value.hpp"
 #include "standin/runtime/host.hpp"
@@ -187,6 +188,9 @@ public:
     virtual Value Evaluate(Frame& frame) const = 0;
     /// Where the value of a variable is kept; null for every other expression.
     virtual Value* Storage(Frame& /*frame*/) const { return nullptr; }
+    /// The place of what can be passed by reference; `references` keeps it. Null for every other
+    /// expression.
+    virtual Value* Place(Frame& frame, References& /*references*/) const { return Storage(frame); }
 
     /// How the program writes it, as far as that is known.
     const Written& written() const { return written_; }

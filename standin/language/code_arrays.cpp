@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "standin/language/array_members.hpp"
 #include "standin/language/code_expressions.hpp"
@@ -99,6 +100,18 @@ Value ArrayOfValues::Evaluate(Frame& frame) const {
 Value Element::Evaluate(Frame& frame) const {
     const auto value = array_->Evaluate(frame);
     return RequireElementAt(value, indices_, frame);
+}
+
+Value* Element::Place(Frame& frame, References& references) const {
+    const auto value = array_->Evaluate(frame);
+    auto& array = RequireArray(value, frame.machine);
+    auto indices = EvaluateIndices(indices_, frame);
+    if (indices.size() == 1) {
+        RequireElement(array, indices.front(), frame.machine);
+    } else {
+        RequireElement(array, indices, frame.machine);
+    }
+    return &references.Borrow(value, std::move(indices));
 }
 
 Value SetElement::Evaluate(Frame& frame) const {

@@ -67,6 +67,7 @@ public:
     Element(ExpressionPtr array, std::vector<ExpressionPtr> indices)
         : array_(std::move(array)), indices_(std::move(indices)) {}
     Value Evaluate(Frame& frame) const override;
+    Value* Place(Frame& frame, References& references) const override;
 
 private:
     ExpressionPtr array_;

@@ -82,16 +82,23 @@ Value NewHostObject::Evaluate(Frame& frame) const {
 }
 
 Value RoutineCall::Evaluate(Frame& frame) const {
+    References references;
     std::vector<Value> values;
-    values.reserve(arguments_.size());
-    for (const auto& argument : arguments_) {
-        values.push_back(argument.byRef ? Value::ReferenceTo(*argument.value->Storage(frame))
-                                        : argument.value->Evaluate(frame));
-    }
+    AppendValues(values, arguments_, frame, references);
     if (isMethod_) {
         frame.machine.RequireObject(values.front(), arguments_.front().value->written());
     }
     return CallRoutine(routine_, std::move(values), frame);
+}
+
+void AppendValues(std::vector<Value>& values, const std::vector<Argument>& arguments, Frame& frame,
+                  References& references) {
+    values.reserve(values.size() + arguments.size());
+    for (const auto& argument : arguments) {
+        values.push_back(argument.byRef
+                             ? Value::ReferenceTo(*argument.value->Place(frame, references))
+                             : argument.value->Evaluate(frame));
+    }
 }
 
 Value CallRoutine(const Routine& routine, std::vector<Value> arguments, Frame& caller) {

@@ -259,6 +259,11 @@ private:
     bool isMethod_;
 };
 
+/// Appends the values of the arguments of a routine, from left to right. ByRef ones refer to their
+/// places for as long as `references` lives.
+void AppendValues(std::vector<Value>& values, const std::vector<Argument>& arguments, Frame& frame,
+                  References& references);
+
 /// Runs a routine with values in its first slots.
 Value CallRoutine(const Routine& routine, std::vector<Value> arguments, Frame& caller);
 

@@ -23,6 +23,13 @@ Value Field::Evaluate(Frame& frame) const {
     return FieldOf(object, object_->written(), index_, frame.machine);
 }
 
+Value* Field::Place(Frame& frame, References& references) const {
+    auto object = object_->Evaluate(frame);
+    auto& place = FieldOf(object, object_->written(), index_, frame.machine);
+    references.Keep(std::move(object));
+    return &place;
+}
+
 Value SetField::Evaluate(Frame& frame) const {
     const auto object = object_->Evaluate(frame);
     auto value = value_->Evaluate(frame);
@@ -31,11 +38,9 @@ Value SetField::Evaluate(Frame& frame) const {
 }
 
 Value NewProgramObject::Evaluate(Frame& frame) const {
+    References references;
     std::vector<Value> arguments(1);
-    for (const auto& argument : arguments_) {
-        arguments.push_back(argument.byRef ? Value::ReferenceTo(*argument.value->Storage(frame))
-                                           : argument.value->Evaluate(frame));
-    }
+    AppendValues(arguments, arguments_, frame, references);
     Fields::Values values;
     values.reserve(fields_.size());
     for (const auto& field : fields_) {

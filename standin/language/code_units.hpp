@@ -15,6 +15,7 @@ class Field final : public Expression {
 public:
     Field(ExpressionPtr object, std::size_t index) : object_(std::move(object)), index_(index) {}
     Value Evaluate(Frame& frame) const override;
+    Value* Place(Frame& frame, References& references) const override;
 
 private:
     ExpressionPtr object_;

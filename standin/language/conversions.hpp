@@ -19,7 +19,7 @@ struct Checked {
     Position at = 0;
     /// The value of an integer literal, sign included.
     std::optional<std::int64_t> literal;
-    /// Whether it is a variable that may change, and so can be passed by reference.
+    /// Whether it is a variable, a field or an element, and so can be passed by reference.
     bool isVariable = false;
     /// The value of a literal with a decimal point, where it is an amount of money exactly.
     std::optional<CurrencyAmount> amount = {};
@@ -41,7 +41,8 @@ enum class Fit : std::uint8_t {
 
 /// How well a value fits a type.
 Fit FitOf(const Checked& value, Type to);
-/// How well an argument fits a parameter; by reference only a variable of that very type does.
+/// How well an argument fits a parameter; by reference only a variable, field or
+/// element of that very type does.
 Fit FitOf(const Checked& argument, const Parameter& parameter);
 
 /// The value as one of the other type. Throws ProgramError where there is no way, with a hint

@@ -178,7 +178,7 @@ Checked ExpressionChecker::ReadProperty(Receiver receiver, const Property& prope
                 property.type,
                 at,
                 {},
-                false};
+                true};
     }
     if (property.host.function != nullptr) {
         return {MakeHostCall(property.host.function, std::move(receiver), {}),

@@ -83,6 +83,12 @@ std::string WantedType(const Parameter& parameter) {
     return (parameter.byRef ? "a variable of type " : "") + NameOf(parameter.type);
 }
 
+/// What can be done where a value of the right type cannot be passed by reference.
+std::string ReferenceHint(const Checked& argument, const Parameter& parameter) {
+    const bool isRightType = argument.type == parameter.type && !argument.isVariable;
+    return isRightType ? "; put it into a variable first" : "";
+}
+
 /// Whether the host has more in the class than there is here.
 bool IsPartOfHostClass(const ClassModel* model) {
     return model != nullptr && model->origin() == ClassModel::Origin::Host &&
@@ -103,7 +109,7 @@ bool IsPartOfHostClass(const ClassModel* model) {
                     Quoted(parameters[i].name) + ", this is " +
                     (arguments[i].isVariable ? "" : "a value of type ") +
                     NameOf(arguments[i].type) +
-                    (parameters[i].byRef ? std::string()
+                    (parameters[i].byRef ? ReferenceHint(arguments[i], parameters[i])
                                          : ConversionHint(arguments[i], parameters[i].type)));
         }
     }

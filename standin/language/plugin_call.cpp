@@ -227,11 +227,13 @@ Value PluginCall::Invoke(Frame& frame, std::vector<Value> arguments, const Objec
     }
     ReturnValue returned;
     {
+        References references;
         ByRefCells cells;
         for (std::size_t i = 0; i < arguments.size(); ++i) {
             const auto& argument = arguments_[i];
             if (argument.byRef) {
-                passed.Add(cells.AddressFor(*argument.value->Storage(frame), argument.kind));
+                auto& place = *argument.value->Place(frame, references);
+                passed.Add(cells.AddressFor(place, argument.kind));
             } else {
                 Append(passed, arguments[i], argument.kind);
             }

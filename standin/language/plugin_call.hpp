@@ -28,7 +28,8 @@ private:
 
 namespace code {
 
-/// One argument of a call: an expression, or a variable to be passed by reference.
+/// One argument of a call: an expression, or a variable, field or element to be passed by
+/// reference.
 struct Argument {
     ExpressionPtr value;
     Kind kind = Kind::None;

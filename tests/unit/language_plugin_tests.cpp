@@ -55,12 +55,17 @@ TEST_CASE("variables are changed by reference") {
           "b\ndropped\n");
     CHECK(host.Run("Dim x As New Sample\nPrint x.Swap(\"a\", \"b\")") ==
           "2:19: \"Swap(text as String, byref variable as String) as String\" expects a variable "
-          "of type String for \"variable\", this is a value of type String");
+          "of type String for \"variable\", this is a value of type String; put it into a variable "
+          "first");
     CHECK(host.Run("Const c = \"b\"\nDim x As New Sample\nPrint x.Swap(\"a\", c)")
               .starts_with("3:19: "));
     CHECK(host.Run("Dim x As New Sample, i As Int64\nPrint x.Swap(\"a\", i)")
               .ends_with(PerWidth("for \"variable\", this is Int64",
                                   "for \"variable\", this is Integer")));
+    // Fields and elements as well.
+    CHECK(host.Run("Class C\nDim t As String = \"f\"\nEnd Class\nDim x As New Sample, c As New C\n"
+                   "Dim a() As String = Array(\"0\", \"1\")\nPrint x.Swap(\"new\", c.t) + c.t\n"
+                   "Print x.Swap(\"new\", a(1)) + a(1) + a(0)") == "newdropped\nnewdropped0\n");
 }
 
 TEST_CASE("an argument has no reference but the variable's own") {

@@ -258,7 +258,7 @@ TEST_CASE("routines") {
     CHECK(host.Run("Sub S\nEnd Sub\nSub s()\nEnd Sub") == "3:5: \"s\" is declared already");
     CHECK(host.Run("Sub S(ByRef n As Integer)\nEnd Sub\nS(1)") ==
           "3:3: \"S(ByRef n As Integer)\" expects a variable of type Integer for \"n\", this is a "
-          "value of type Integer");
+          "value of type Integer; put it into a variable first");
     CHECK(host.Run("Sub S(n As Integer)\nEnd Sub\nS(1, 2)") ==
           "3:1: \"S\" has 2 arguments, but \"S(n As Integer)\" takes fewer");
     CHECK(host.Run("Dim v As Integer\nPrint v(1)") ==

@@ -160,6 +160,43 @@ TEST_CASE("arrays of several dimensions, and a routine that sorts") {
               .starts_with("2:8: there is no Function \"Nothing\""));
 }
 
+TEST_CASE("fields and elements are passed by reference") {
+    SampleHost host;
+    constexpr auto Shared =
+        "Class C\nDim n As Integer\nDim list() As Integer\nPrivate hidden As Integer\nDim c As C\n"
+        "Sub Own()\nInc(n)\nInc(Self.n)\nInc(hidden)\nn = n + hidden * 100\nEnd Sub\n"
+        "Sub Constructor()\nEnd Sub\nSub Constructor(ByRef n As Integer)\nn = -1\nEnd Sub\nEnd "
+        "Class\n"
+        "Sub Inc(ByRef n As Integer)\nn = n + 1\nEnd Sub\n"
+        "Sub Both(ByRef a As Integer, ByRef b As Integer)\na = a + 1\nb = b + 10\nEnd Sub\n"
+        "Sub Fail(ByRef n As Integer)\nn = 7\nRaise New RuntimeException\nEnd Sub\n"
+        "Dim a(1) As Integer, m(1, 2) As Integer, o As New C\n";
+    const auto run = [&](const std::string& text) { return host.Run(Shared + text); };
+    CHECK(run("o.Own\nInc(o.n)\nPrint Str(o.n)") == "103\n");
+    CHECK(
+        run("Inc(a(1))\nInc(a(1))\nInc(m(1, 2))\nPrint Str(a(1)) + Str(m(1, 2)) + Str(m(0, 0))") ==
+        "210\n");
+    CHECK(run("o.list.Append(5)\nInc(o.list(0))\nPrint Str(o.list(0))") == "6\n");
+    CHECK(run("Both(a(0), a(0))\nBoth(o.n, o.n)\nPrint Str(a(0)) + \" \" + Str(o.n)") == "11 11\n");
+    CHECK(run("o = New C(a(0))\nPrint Str(a(0))") == "-1\n");
+    // What was assigned before an exception stays.
+    CHECK(run("Try\nFail(a(0))\nCatch\nEnd Try\nTry\nFail(o.n)\nCatch\nEnd Try\n"
+              "Print Str(a(0)) + Str(o.n)") == "77\n");
+    // The object and the array live as long as the call; an element may be gone at its end.
+    CHECK(run("Dim s() As String = Array(\"x\", \"y\")\nSub Drop(ByRef t As String)\ns.RemoveAll\n"
+              "t = t + \"!\"\nPrint t\nEnd Sub\nDrop(s(1))\nPrint Str(s.Count)\n"
+              "Sub Part(ByRef c As C)\no = Nil\nc = New C\nPrint Str(c.n)\nEnd Sub\nPart(o.c)\n"
+              "Print Str(o Is Nil)") == "y!\n0\n0\nTrue\n");
+    CHECK(run("Inc(a(2))").starts_with("Unhandled OutOfBoundsException"));
+    CHECK(run("Inc(m(0, 3))").starts_with("Unhandled OutOfBoundsException"));
+    CHECK(run("o = Nil\nInc(o.n)").starts_with("Unhandled NilObjectException"));
+    CHECK(run("Inc(o.hidden)").find("is not seen here") != std::string::npos);
+    CHECK(
+        run("Inc(5)").find("expects a variable of type Integer for \"n\", this is a value of type "
+                           "Integer; put it into a variable first") != std::string::npos);
+    CHECK(run("Dim s As Single\nInc(s)").ends_with("for \"n\", this is Single"));
+}
+
 TEST_CASE("an array is sorted by a routine of a module or a method of an object") {
     SampleHost host;
     constexpr auto Head = "Function Cmp(a As Integer, b As Integer) As Integer\nReturn ";
