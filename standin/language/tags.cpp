@@ -223,7 +223,26 @@ std::optional<std::uint64_t> Tag::Number(std::string_view key) const {
     return result.ec == std::errc{} ? std::optional(number) : std::nullopt;
 }
 
-syntax::Constant Tag::ReadConstant() const {
+std::optional<std::string> Tag::ReadInstance() const {
+    constexpr std::string_view Beginning = "\\\"";
+    const auto language = Text("Language").value_or("Default");
+    if (!SameName(language, "Default")) {
+        throw ProgramError(at_, "Values of constants for one language, here " + Quoted(language) +
+                                    ", are not supported here");
+    }
+    const auto first = text_.find(Beginning);
+    if (!Text("Platform") || !Text("Definition") || first == std::string_view::npos ||
+        text_.size() < first + Beginning.size() + 1 || !text_.ends_with('"')) {
+        throw ProgramError(at_, "this tag has no platform with a definition");
+    }
+    if (!SameName(*Text("Platform"), IsWindows ? "Windows" : "Linux")) {
+        return std::nullopt;
+    }
+    const auto start = first + Beginning.size();
+    return Unescaped(text_.substr(start, text_.size() - 1 - start));
+}
+
+syntax::Constant Tag::ReadConstant(std::span<const Tag> instances) const {
     constexpr std::string_view Beginning = "Default = \\\"";
     constexpr std::string_view Ending = "\", Scope";
     const auto name = Text("Name");
@@ -235,6 +254,9 @@ syntax::Constant Tag::ReadConstant() const {
     }
     const auto start = first + Beginning.size();
     auto value = Unescaped(text_.substr(start, last - start));
+    for (const auto& instance : instances) {
+        value = instance.ReadInstance().value_or(value);
+    }
     const auto scope = Text("Scope").value_or("");
     syntax::Constant constant{std::string(*name), at_, value, syntax::Visibility::Global};
     if (SameName(scope, "Private")) {

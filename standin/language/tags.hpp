@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,10 +31,14 @@ public:
     std::optional<std::string_view> Text(std::string_view key) const;
     /// The same of one that is written as `&h21` or `33`. None when it is no number.
     std::optional<std::uint64_t> Number(std::string_view key) const;
-    /// What a tag `Constant` declares. Throws ProgramError for one that is broken.
-    syntax::Constant ReadConstant() const;
+    /// What a tag `Constant` declares, of whose values that for the platform counts, if one of the
+    /// tags `Instance` in it has one. Throws ProgramError for a tag that is broken.
+    syntax::Constant ReadConstant(std::span<const Tag> instances) const;
 
 private:
+    /// The value of an `Instance` for this platform; nothing for another platform.
+    std::optional<std::string> ReadInstance() const;
+
     std::string_view text_;
     Position at_;
 };

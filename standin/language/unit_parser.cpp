@@ -274,10 +274,9 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
                                                          : Visibility::Global;
     }
     if (tag.Is("Constant")) {
-        if (!errors_.Try([&] { AddConstant(unit, tag.ReadConstant()); })) {
+        if (!errors_.Try([&] { AddConstant(unit, ReadConstant()); })) {
             errors_.Doubt(std::string(tag.Text("Name").value_or("")));
         }
-        cursor_.SkipLine();
         return;
     }
     cursor_.SkipLine();
@@ -291,6 +290,21 @@ void UnitParser::ParseTag(syntax::Unit& unit, syntax::Program& program) {
         ParseEnumerationItems(enumeration, TokenKind::HashTag);
         program.enumerations.push_back(std::move(enumeration));
     }
+}
+
+syntax::Constant UnitParser::ReadConstant() {
+    const auto token = cursor_.Current();
+    std::vector<Token> lines;
+    const auto next = [this] {
+        cursor_.SkipLine();
+        cursor_.SkipEmptyLines();
+    };
+    for (next(); cursor_.IsAt(TokenKind::HashTag) && Tag(cursor_.Current()).Is("Instance");
+         next()) {
+        lines.push_back(cursor_.Current());
+    }
+    const std::vector<Tag> instances(lines.begin(), lines.end());
+    return Tag(token).ReadConstant(instances);
 }
 
 void UnitParser::SkipTag(const Tag& tag) {
@@ -390,7 +404,7 @@ void UnitParser::CollectConstants() {
                 const auto parsed = statements_.ParseConst();
                 constant = {parsed.name, 0, Evaluate(*parsed.value, statements_.constants()), {}};
             } else if (kind == TokenKind::HashTag && Tag(cursor_.Current()).Is("Constant")) {
-                constant = Tag(cursor_.Current()).ReadConstant();
+                constant = ReadConstant();
             }
             if (constant) {
                 constants_.Set(constant->name, constant->value);

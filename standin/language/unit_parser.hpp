@@ -44,6 +44,8 @@ private:
     void ParseMember(syntax::Unit& unit, syntax::Program& program);
     /// `#tag ...` with what it says of the member that follows.
     void ParseTag(syntax::Unit& unit, syntax::Program& program);
+    /// The constant of a tag, and steps past the line of the tag and those of its instances.
+    syntax::Constant ReadConstant();
     /// Steps past all that a tag stands around, and its end.
     void SkipTag(const Tag& tag);
     /// Steps past `Property`, with which the host's scripts begin computed properties only.

@@ -237,3 +237,30 @@ TEST_CASE("the declaration of a variable that hides a function is named with its
           "arguments; rename it to call the function of that name; it is declared in line 9 of "
           "Words.xojo_code");
 }
+
+TEST_CASE("a constant has the value for the platform") {
+    SampleHost host;
+    const auto with = [&](const std::string& instances) {
+        return Run(host,
+                   With(ModuleName, "\t#tag EndConstant\n", instances + "\t#tag EndConstant\n"));
+    };
+    const std::string here = standin::language::IsWindows ? "Windows" : "Linux";
+    const std::string elsewhere = standin::language::IsWindows ? "Linux" : "Windows";
+    const auto instance = [](const std::string& platform, const std::string& value,
+                             const std::string& language = "Default") {
+        return "\t\t#Tag Instance, Platform = " + platform + ", Language = " + language +
+               ", Definition  = \\\"" + value + "\"\n";
+    };
+    CHECK(with(instance(here, "here\\x2C you") + instance(elsewhere, "there")) == "here, you!\n3");
+    CHECK(with(instance(elsewhere, "there") + "\n") == Output);
+    CHECK(with(instance(here, "hier", "de"))
+              .find("Values of constants for one language, here \"de\"") != std::string::npos);
+    CHECK(with("\t\t#Tag Instance, Platform = " + here + "\n")
+              .find("this tag has no platform with a definition") != std::string::npos);
+    // Also where #If asks.
+    auto files = With(ModuleName, "Return kHello + mSign",
+                      "#If kHello = \"here\"\n\t\t  Return \"seen\"\n#EndIf\n");
+    auto& module = files.at(ModuleName);
+    module.insert(module.find("\t#tag EndConstant"), instance(here, "here"));
+    CHECK(Run(host, files) == "seen\n3");
+}
