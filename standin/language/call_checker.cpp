@@ -138,6 +138,9 @@ std::optional<Checked> ExpressionChecker::TryBuiltIn(const std::string& name, Ar
         return std::nullopt;
     }
     RefuseObject(name, candidates, arguments, at);
+    if (arguments.size() > 1 && SameName(name, "MsgBox")) {
+        throw ProgramError(at, "buttons and a title of \"MsgBox\" are not supported here");
+    }
     const auto index = RequireOverload(name, candidates, arguments, at);
     const auto& signature = *candidates[index];
     return Checked{std::make_unique<code::BuiltInCall>(

@@ -3,6 +3,7 @@
 #include <limits>
 #include <utility>
 
+#include "standin/language/hints.hpp"
 #include "standin/language/text.hpp"
 
 namespace standin::language {
@@ -63,7 +64,10 @@ code::ExpressionPtr ExpressionChecker::CheckAsText(const syntax::Expression& exp
     auto value = Check(expression);
     if (FitOf(value, {Kind::Text}) == Fit::None) {
         throw ProgramError(value.at, "\"Print\" takes a String, this is " + NameOf(value.type) +
-                                         (FindTextFunction(value.type.kind) ? "; use Str" : ""));
+                                         (FindTextFunction(value.type.kind) ? "; use Str"
+                                          : value.type.kind == Kind::Enumeration
+                                              ? ConversionHint(value, {Kind::Text})
+                                              : ""));
     }
     return ConvertTo(std::move(value), {Kind::Text}).code;
 }

@@ -142,6 +142,8 @@ private:
     static Checked MakeInteger(std::uint64_t magnitude, bool isNegative, Position at);
     static Checked MakeReal(const syntax::RealLiteral& literal, bool isNegative, Position at);
     Arguments CheckArguments(const syntax::Expressions& expressions);
+    /// Throws where something is assigned to that is a routine of the program.
+    void RefuseRoutine(const std::string& name, Position at) const;
     /// Throws where something is called that is a variable, but no array.
     void RequireArray(const syntax::Call& call, const Variable& variable, Position at) const;
     /// `member` is what is wanted of it.

@@ -1,6 +1,7 @@
 #include "standin/language/hints.hpp"
 
 #include <algorithm>
+#include <ranges>
 
 #include "standin/language/names.hpp"
 #include "standin/language/operators.hpp"
@@ -167,6 +168,12 @@ std::string ConversionHint(const Checked& value, Type to, TextOffer text) {
     if (from == to) {
         return {};
     }
+    if (from.kind == Kind::Enumeration && (IsNumber(to.kind) || to.kind == Kind::Text)) {
+        return to.kind == Kind::Text ? "; write Str(Integer(...))" : "; write Integer(...)";
+    }
+    if (IsNumber(from.kind) && to.kind == Kind::Enumeration) {
+        return "; write " + NameOf(to) + "(...)";
+    }
     if (from.kind == Kind::Instance && to.kind == Kind::Instance && to.model->IsA(*from.model)) {
         return "; use CType";
     }
@@ -253,6 +260,25 @@ std::string SharedMethodHint(const ClassModel& model, const std::vector<const Me
         if (parameters.size() > count && IsInstanceOf(parameters.front().type, model)) {
             return "; write " + model.name() + "." + method->signature.name +
                    ParametersOf(method->signature);
+        }
+    }
+    return {};
+}
+
+std::string AssignmentHint(const ClassModel& model, const std::vector<Checked>& arguments) {
+    for (const auto& method : model.methods) {
+        const auto& signature = method.signature;
+        const auto& parameters = signature.parameters;
+        const bool takesThem =
+            method.setter != nullptr && parameters.size() + 1 == arguments.size() &&
+            signature.result == arguments.front().type &&
+            std::ranges::equal(parameters, arguments | std::views::drop(1),
+                               [](const Parameter& parameter, const Checked& argument) {
+                                   return FitOf(argument, parameter) != Fit::None;
+                               });
+        if (takesThem) {
+            return "; write value." + signature.name + ParametersOf(signature) +
+                   " = ..., with a new object as value";
         }
     }
     return {};

@@ -51,6 +51,10 @@ std::string FunctionHint(const ClassModel& model, const Candidates& functions);
 std::string SharedMethodHint(const ClassModel& model, const std::vector<const Method*>& methods,
                              std::size_t count);
 
+/// The method of a new object to which the first argument of a constructor that there is not can be
+/// assigned, the others being the method's.
+std::string AssignmentHint(const ClassModel& model, const std::vector<Checked>& arguments);
+
 /// How a member of objects is written that was called on their class.
 std::string ReceiverHint(const ClassModel& model, std::string_view name);
 

@@ -144,6 +144,8 @@ constexpr bool IsBlank(char character) {
     return character == ' ' || character == '\t';
 }
 
+constexpr char CommentQuote = '\'';
+
 class Lexer {
 public:
     Lexer(std::string_view text, Position start) : text_(text), start_(start) {}
@@ -158,7 +160,7 @@ public:
                 AddMistake(error);
             }
         }
-        Add(TokenKind::EndOfLine, 0);
+        AddEndOfLine(0);
         Add(TokenKind::EndOfText, 0);
         return std::move(tokens_);
     }
@@ -176,6 +178,14 @@ private:
         return tokens_.back();
     }
 
+    /// The token knows whether a comment that looks like a text stood before it.
+    void AddEndOfLine(std::size_t size) {
+        auto& end = Add(TokenKind::EndOfLine, size);
+        if (std::exchange(isBehindQuote_, false)) {
+            end.text = CommentQuote;
+        }
+    }
+
     /// The rest of the line becomes one token.
     void AddMistake(const ProgramError& error) {
         tokens_.push_back({TokenKind::Mistake, start_ + error.position(), error.what(), 0, 0.0});
@@ -189,6 +199,7 @@ private:
                 ++offset_;
             }
             if (AtComment()) {
+                isBehindQuote_ = Peek() == CommentQuote;
                 SkipLine();
             } else if (!SkipContinuation()) {
                 return offset_ < text_.size();
@@ -197,7 +208,7 @@ private:
     }
 
     bool AtComment() const {
-        if (Peek() == '\'' || Rest().starts_with("//")) {
+        if (Peek() == CommentQuote || Rest().starts_with("//")) {
             return true;
         }
         constexpr std::string_view Remark = "rem";
@@ -236,7 +247,7 @@ private:
     void Next() {
         const char first = Peek();
         if (const std::size_t size = LineEndSize(); size > 0) {
-            Add(TokenKind::EndOfLine, size);
+            AddEndOfLine(size);
         } else if (IsNameStart(first)) {
             ReadWord();
         } else if (IsDigit(first) || (first == '.' && IsDigit(Peek(1)))) {
@@ -448,6 +459,7 @@ private:
     std::string_view text_;
     Position start_;
     std::size_t offset_ = 0;
+    bool isBehindQuote_ = false;
     std::vector<Token> tokens_;
 };
 
@@ -489,8 +501,11 @@ std::string Describe(TokenKind kind) {
 
 std::string Describe(const Token& token) {
     switch (token.kind) {
-        case TokenKind::EndOfText:
         case TokenKind::EndOfLine:
+            return token.text.starts_with(CommentQuote)
+                       ? "a comment; a text stands between double quotes"
+                       : Describe(token.kind);
+        case TokenKind::EndOfText:
         case TokenKind::Text:
         case TokenKind::HashPragma:
         case TokenKind::HashTag:

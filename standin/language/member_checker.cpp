@@ -72,6 +72,10 @@ ExpressionChecker::Receiver ExpressionChecker::CheckReceiver(const syntax::Expre
         if (callables_.units.contains(name->name)) {
             FailWithoutUnitMember(name->name, member, expression.at);
         }
+        if (types_.Find(name->name) && IsUnsupportedMember(name->name, member)) {
+            throw ProgramError(expression.at,
+                               Quoted(name->name + "." + member) + " is not supported here");
+        }
     }
     if (const auto* model = FindQualifiedType(expression)) {
         return {std::nullopt, model};

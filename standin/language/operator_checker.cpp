@@ -69,7 +69,11 @@ std::string OperandHint(const OperatorRow& row, const Checked& left, const Check
     const bool isLeft = left.type.kind == Kind::Instance;
     const bool isRight = right.type.kind == Kind::Instance;
     if (!isLeft && !isRight) {
-        return {};
+        const bool isOfEnum = left.type.kind == Kind::Enumeration;
+        const auto& value = isOfEnum ? left : right;
+        return value.type.kind == Kind::Enumeration
+                   ? ConversionHint(value, isOfEnum ? right.type : left.type)
+                   : std::string();
     }
     const auto& model = isLeft ? *left.type.model : *right.type.model;
     const auto ofRight = std::string(row.method) + std::string(RightSuffix);

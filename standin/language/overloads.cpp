@@ -95,6 +95,19 @@ bool IsPartOfHostClass(const ClassModel* model) {
            model->info().record == nullptr;
 }
 
+/// How an argument of an `Enum` becomes the number that one of the candidates takes in its place.
+std::string NumberHint(const Candidates& candidates, const std::vector<Checked>& arguments) {
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const bool takesNumber = std::ranges::any_of(candidates, [i](const Signature* candidate) {
+            return i < candidate->parameters.size() && IsNumber(candidate->parameters[i].type.kind);
+        });
+        if (takesNumber && arguments[i].type.kind == Kind::Enumeration) {
+            return ConversionHint(arguments[i], {IntegerKind});
+        }
+    }
+    return {};
+}
+
 /// Why the only candidate does not take the arguments.
 [[noreturn]] void FailOnly(const std::string& name, const Signature& signature,
                            const std::vector<Checked>& arguments, Position at,
@@ -180,14 +193,18 @@ std::size_t RequireOverload(const std::string& name, const Candidates& candidate
     if (candidates.size() == 1) {
         FailOnly(name, *candidates.front(), arguments, at, model);
     }
+    if (const auto hint = NumberHint(candidates, arguments); !hint.empty()) {
+        throw ProgramError(at, Quoted(name) + " does not take " + TypesOf(arguments) + hint);
+    }
+    const bool isNew = model != nullptr && SameName(candidates.front()->name, "Constructor");
     std::vector<std::size_t> all;
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         all.push_back(i);
     }
-    throw ProgramError(at,
-                       Quoted(name) + " does not take " + TypesOf(arguments) +
-                           (IsPartOfHostClass(model) ? "; supported here is: " : "; there is: ") +
-                           ListOf(candidates, all));
+    throw ProgramError(
+        at, Quoted(name) + " does not take " + TypesOf(arguments) +
+                (IsPartOfHostClass(model) ? "; supported here is: " : "; there is: ") +
+                ListOf(candidates, all) + (isNew ? AssignmentHint(*model, arguments) : ""));
 }
 
 /// The arguments from an index on as one array.

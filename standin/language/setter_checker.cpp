@@ -1,4 +1,5 @@
 // The setters of the expression checker: what assigns to a property, an element or a method.
+#include <algorithm>
 #include <utility>
 
 #include "standin/language/code_units.hpp"
@@ -6,6 +7,21 @@
 #include "standin/runtime/wrong_facts.hpp"
 
 namespace standin::language {
+namespace {
+
+constexpr auto ReturnHint = "; \"Return\" tells what a Function returns";
+
+}  // namespace
+
+void ExpressionChecker::RefuseRoutine(const std::string& name, Position at) const {
+    const bool isRoutine =
+        std::ranges::any_of(callables_.routines, [this, &name](const DeclaredRoutine& routine) {
+            return SameName(routine.signature.name, name) && IsVisible(routine, false);
+        });
+    if (isRoutine) {
+        throw ProgramError(at, Quoted(name) + " cannot be assigned to" + ReturnHint);
+    }
+}
 
 code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& target,
                                                    const syntax::Expression& value) {
@@ -21,6 +37,7 @@ code::ExpressionPtr ExpressionChecker::CheckSetter(const syntax::Expression& tar
     const bool isOwn = ownName != nullptr && IsOwnMember(ownName->name);
     if (member == nullptr && !isOwn) {
         if (ownName != nullptr) {
+            RefuseRoutine(ownName->name, target.at);
             // The mistake in the name tells more.
             CheckNode(*ownName, at);
         }
@@ -98,7 +115,8 @@ code::ExpressionPtr ExpressionChecker::CallMethodSetter(Receiver receiver,
     const bool isRefused =
         method.setter != nullptr && IsWrongAbout("compiles-assignment-to-method");
     if (isRefused || (method.setter == nullptr && method.host.setter == nullptr && isReadable)) {
-        throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to");
+        throw ProgramError(at, Quoted(signature.declaration) + " cannot be assigned to" +
+                                   (method.routine == nullptr ? "" : ReturnHint));
     }
     auto filled = Fill(signature, std::move(arguments), at, *this);
     auto converted = ConvertTo(std::move(value), signature.result);

@@ -360,8 +360,7 @@ syntax::Statement::Node StatementParser::ParseNode() {
         case TokenKind::Do:
             return ParseDo();
         case TokenKind::Exit:
-            cursor_.Take();
-            return syntax::Exit{ParseLoopTarget()};
+            return ParseExit();
         case TokenKind::Continue:
             cursor_.Take();
             return syntax::Continue{ParseLoopTarget()};
@@ -505,6 +504,15 @@ void StatementParser::ParseDeclaredType(syntax::Declarator& declarator) {
     if (declarator.lastIndices.empty() && cursor_.TryTake(TokenKind::Equal)) {
         declarator.initialiser = expressions_.ParseExpression();
     }
+}
+
+syntax::Statement::Node StatementParser::ParseExit() {
+    cursor_.Take();
+    if (IsOneOf(cursor_.Kind(), RoutineHeads)) {
+        throw ProgramError(cursor_.At(), "there is no " + Quoted("Exit " + cursor_.Current().text) +
+                                             "; write Return");
+    }
+    return syntax::Exit{ParseLoopTarget()};
 }
 
 syntax::Const StatementParser::ParseConst() {

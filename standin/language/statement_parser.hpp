@@ -127,6 +127,7 @@ private:
     Node ParseWhile();
     Node ParseDo();
     syntax::Do::Test ParseLoopTest();
+    Node ParseExit();
     syntax::LoopTarget ParseLoopTarget();
     Node ParseTry();
     /// The handlers of an exception, each up to one of the ends.

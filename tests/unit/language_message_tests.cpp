@@ -370,3 +370,47 @@ TEST_CASE("an exception names what is Nil") {
     CHECK(messageOf("Dim " + longName + " As Link\n" + longName + ".Show") ==
           start + "An object that is Nil was used.");
 }
+
+TEST_CASE("values of enumerations and numbers name how one becomes the other") {
+    SampleHost host;
+    const auto fails = [&host](const std::string& line) {
+        return host.Run("Enum E\nA\nEnd Enum\n" + line);
+    };
+    CHECK(fails("Print Str(E.A)") == "4:7: \"Str\" does not take (E); write Integer(...)");
+    CHECK(fails("Print E.A") ==
+          "4:9: \"Print\" takes a String, this is E; write Str(Integer(...))");
+    CHECK(fails("Dim i As Integer = E.A") ==
+          "4:22: expected Integer, this is E; write Integer(...)");
+    CHECK(fails("Dim x As E = 0") == "4:14: expected E, this is Integer; write E(...)");
+    CHECK(fails("Print Str(E.A = 0)") ==
+          "4:15: \"=\" cannot stand between E and Integer; write Integer(...)");
+    CHECK(fails("Print Str(0 = E.A)") ==
+          "4:13: \"=\" cannot stand between Integer and E; write Integer(...)");
+}
+
+TEST_CASE("what other languages have names what is written here") {
+    SampleHost host;
+    CHECK(host.Run("Sub S()\nExit Sub\nEnd Sub") == "2:6: there is no \"Exit Sub\"; write Return");
+    CHECK(host.Run("Function F() As Integer\nIf True Then Exit Function\nReturn 1\nEnd Function") ==
+          "2:19: there is no \"Exit Function\"; write Return");
+    constexpr auto Refused =
+        "\"F\" cannot be assigned to; \"Return\" tells what a Function returns";
+    CHECK(host.Run("Function F() As Integer\nF = 5\nEnd Function") ==
+          std::string("2:1: ") + Refused);
+    CHECK(host.Run("Class C\nFunction F() As Integer\nF = 5\nEnd Function\nEnd Class")
+              .ends_with("\"Return\" tells what a Function returns"));
+    CHECK(host.Run("Print 'x'") ==
+          "1:10: expected an expression, found a comment; a text stands between double quotes");
+    CHECK(host.Run("Print // x") == "1:11: expected an expression, found the end of the line");
+}
+
+TEST_CASE("what the host has beside is refused by its name") {
+    SampleHost host;
+    CHECK(host.Run("Print Str(Boolean.FromString(\"x\"))") ==
+          "1:11: \"Boolean.FromString\" is not supported here");
+    CHECK(host.Run("Print Str(Currency.FromString(\"x\"))") ==
+          "1:11: \"Currency.FromString\" is not supported here");
+    CHECK(host.Run("MsgBox \"x\", 1") ==
+          "1:1: buttons and a title of \"MsgBox\" are not supported here");
+    CHECK(host.Run("Print String.ChrByte(65) + Str(\"B\".AscByte)") == "A66\n");
+}

@@ -116,7 +116,7 @@ TEST_CASE("defaults are literals, constants and values of enumerations") {
           "9:22: a default is a literal, a constant or a value of an \"Enum\"");
     CHECK(fails("Integer = Sample.Zero").find("a default is a literal, a constant or") !=
           std::string::npos);
-    CHECK(fails("E = 0") == "9:16: expected E, this is Integer");
+    CHECK(fails("E = 0") == "9:16: expected E, this is Integer; write E(...)");
     CHECK(fails("E = O.A") == "9:18: expected E, this is O");
     CHECK(fails("E = E.C").find("E has no member \"C\"") != std::string::npos);
     CHECK(fails("Integer = E.A") == "9:24: expected Integer, this is E");
