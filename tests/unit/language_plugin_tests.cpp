@@ -325,3 +325,10 @@ TEST_CASE("the listing shows every member and marks what is missing") {
     CHECK(contains("Shared Method AUInt64 as UInt64"));
     CHECK(list.ends_with("Class SampleException, inherits RuntimeException\n"));
 }
+
+TEST_CASE("a constructor that there is not is named with the assignment that takes the same") {
+    SampleHost host;
+    CHECK(host.Run("Dim x As New Sample(7, 1)")
+              .ends_with("; write value.Cell(index) = ..., with a new object as value"));
+    CHECK(host.Run("Dim x As New Sample(\"7\", 1)").ends_with("\"Constructor(other as Sample)\""));
+}
