@@ -1,7 +1,6 @@
 #include "standin/language/hints.hpp"
 
 #include <algorithm>
-#include <ranges>
 
 #include "standin/language/names.hpp"
 #include "standin/language/operators.hpp"
@@ -272,10 +271,10 @@ std::string AssignmentHint(const ClassModel& model, const std::vector<Checked>& 
         const bool takesThem =
             method.setter != nullptr && parameters.size() + 1 == arguments.size() &&
             signature.result == arguments.front().type &&
-            std::ranges::equal(parameters, arguments | std::views::drop(1),
-                               [](const Parameter& parameter, const Checked& argument) {
-                                   return FitOf(argument, parameter) != Fit::None;
-                               });
+            std::equal(parameters.begin(), parameters.end(), arguments.begin() + 1,
+                       [](const Parameter& parameter, const Checked& argument) {
+                           return FitOf(argument, parameter) != Fit::None;
+                       });
         if (takesThem) {
             return "; write value." + signature.name + ParametersOf(signature) +
                    " = ..., with a new object as value";

@@ -23,7 +23,8 @@ Value& References::Borrow(const Value& array, std::vector<std::int64_t> indices)
         return found->copy;
     }
     const auto& element = *FindElement(*array.array(), indices);
-    return elements_.emplace_back(array, std::move(indices), element).copy;
+    elements_.push_back({array, std::move(indices), element});
+    return elements_.back().copy;
 }
 
 }  // namespace standin::language

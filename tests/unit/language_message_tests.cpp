@@ -393,8 +393,7 @@ TEST_CASE("what other languages have names what is written here") {
     CHECK(host.Run("Sub S()\nExit Sub\nEnd Sub") == "2:6: there is no \"Exit Sub\"; write Return");
     CHECK(host.Run("Function F() As Integer\nIf True Then Exit Function\nReturn 1\nEnd Function") ==
           "2:19: there is no \"Exit Function\"; write Return");
-    constexpr auto Refused =
-        "\"F\" cannot be assigned to; \"Return\" tells what a Function returns";
+    constexpr auto Refused = R"("F" cannot be assigned to; "Return" tells what a Function returns)";
     CHECK(host.Run("Function F() As Integer\nF = 5\nEnd Function") ==
           std::string("2:1: ") + Refused);
     CHECK(host.Run("Class C\nFunction F() As Integer\nF = 5\nEnd Function\nEnd Class")

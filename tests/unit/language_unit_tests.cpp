@@ -199,14 +199,14 @@ TEST_CASE("fields and elements are passed by reference") {
 
 TEST_CASE("an array is sorted by a routine of a module or a method of an object") {
     SampleHost host;
-    constexpr auto Head = "Function Cmp(a As Integer, b As Integer) As Integer\nReturn ";
+    constexpr auto Comparison = "Function Cmp(a As Integer, b As Integer) As Integer\nReturn ";
     const auto text = [&](const std::string& sort) {
-        return "Module M\nDim other As Order\n" + std::string(Head) +
+        return "Module M\nDim other As Order\n" + std::string(Comparison) +
                "a - b\nEnd Function\nPrivate " +
                "Function Inner(a As Integer, b As Integer) As Integer\nReturn a - b\nEnd "
                "Function\n" +
                "Sub Go(v() As Integer)\nv.Sort(AddressOf Inner)\nEnd Sub\nEnd Module\n" +
-               "Class Order\nDim factor As Integer = -1\n" + Head +
+               "Class Order\nDim factor As Integer = -1\n" + Comparison +
                "(a - b) * factor\nEnd Function\nSub Go(v() As Integer)\nv.Sort(AddressOf Cmp)\n" +
                "End Sub\nSub Again(v() As Integer)\nv.Sort(AddressOf Self.Cmp)\nEnd Sub\n" +
                "Private Function P(a As Integer, b As Integer) As Integer\nEnd Function\nEnd "
