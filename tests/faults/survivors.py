@@ -76,7 +76,7 @@ EXPLAINED = [
     ),
     Explained(
         "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([](Object self, Object other) {",
-        "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([] (Object other,Object self) {",
+        "return MakeUnguardedRoutine<Unguarded::NothingThrows, LogName>([] ( Object other,Object self) {",
         "Whether two numbers are equal does not depend on the order.",
     ),
     Explained(
