@@ -40,9 +40,10 @@ struct Substituted {
                 *end++ = character;
             }
         }
-        // Nothing but the final NUL is left, or this is no constant and does not compile.
-        return end + 1 == result.data() + Size ? result : throw "the size is another";
+        return result;
     }();
+    // The text fills the array up to the final NUL.
+    static_assert(std::string_view(Characters.data()).size() + 1 == Size);
 
     static constexpr const char* Text = Characters.data();
 };

@@ -23,7 +23,8 @@ def symbols(nm: str, option: str, objects: list[str]) -> set[tuple[str, str]]:
     """Mangled names of external symbols, each with the letter of its kind."""
     command = [nm, "--extern-only", option, "--format=posix", *objects]
     lines = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout.splitlines()
-    fields = [line.split() for line in lines if not line.endswith(":")]
+    # Some tools put the name of each object and a blank line before its symbols.
+    fields = [line.split() for line in lines if line and not line.endswith(":")]
     return {(name, kind) for name, kind, *_ in fields}
 
 
