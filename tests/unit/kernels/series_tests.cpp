@@ -4,6 +4,28 @@
 
 using namespace kernel_tests;
 
+namespace {
+
+/// A series of which each term is the one before times the multiplier, and is added.
+template <typename S>
+vqz::kernels::TailStart Growing(const typename S::Mantissa& sum, const typename S::Mantissa& term,
+                                const typename S::Mantissa& multiplier, int termShift,
+                                int multiplierShift) {
+    const auto ratio = [](Word) { return vqz::kernels::PreparedRatio({1, 1}); };
+    return {.sum = sum.data(),
+            .term = term.data(),
+            .multiplier = multiplier.data(),
+            .termShift = termShift,
+            .multiplierShift = multiplierShift,
+            .subtract = false,
+            .alternate = false,
+            .wholeGroups = false,
+            .next = 1,
+            .ratio = ratio};
+}
+
+}  // namespace
+
 TEST_CASE("a logarithm of leading zero bits takes more terms than are added in fixed point") {
     // The series' argument is near 1 then, and its terms get small slowly: 2000 are not enough.
     for (const Word top : {Word{0x15F619A0}, Word{0x15F719A0}, Word{0x15F819A0}}) {
@@ -21,18 +43,7 @@ TEST_CASE_TEMPLATE("terms that get small slowly are added in fixed point to the 
     auto sum = S::Leading({Top});
     const auto term = sum;
     const auto multiplier = S::Leading({Word{63} << 26});
-    const TailStart start{.sum = sum.data(),
-                          .term = term.data(),
-                          .multiplier = multiplier.data(),
-                          .termShift = 41,
-                          .multiplierShift = 1,
-                          .subtract = false,
-                          .alternate = false,
-                          .wholeGroups = false,
-                          .next = 1,
-                          .ratio = [](Word) {
-                              return PreparedRatio({1, 1});
-                          }};
+    const auto start = Growing<S>(sum, term, multiplier, 41, 1);
     CHECK(vectorKernels->Of<S::Words>().addTail(sum.data(), start) == lastIndex);
     CHECK(sum[S::Words - 1] == Top);
     CHECK(sum[S::Words - 2] == (Word{63} << 22) / 65);
@@ -47,18 +58,7 @@ TEST_CASE_TEMPLATE("a term that is far too small for the sum's last bit ends a s
             CAPTURE(termShift);
             CAPTURE(multiplierShift);
             auto sum = S::Leading({Top});
-            const TailStart start{.sum = sum.data(),
-                                  .term = full.data(),
-                                  .multiplier = full.data(),
-                                  .termShift = termShift,
-                                  .multiplierShift = multiplierShift,
-                                  .subtract = false,
-                                  .alternate = false,
-                                  .wholeGroups = false,
-                                  .next = 1,
-                                  .ratio = [](Word) {
-                                      return PreparedRatio({1, 1});
-                                  }};
+            const auto start = Growing<S>(sum, full, full, termShift, multiplierShift);
             CHECK(vectorKernels->Of<S::Words>().addTail(sum.data(), start) == 1);
             CHECK(sum == S::Leading({Top}));
         }
