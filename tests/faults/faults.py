@@ -245,7 +245,7 @@ FAULTS = [
     ),
     *faults_in(
         "number/kernels/divide.hpp",
-        ("IsDecided(words_[Slack - 1], 2 * Unit)", "IsDecided(words_[Slack - 1], 0)"),
+        ("IsDecided(words_[Slack - 1], 2 * Unit)", "IsDecided(words_[Slack - 1], 0 * Unit)"),
         ("if (above != 0 ||", "if (above > 1 ||"),
         ("if (++words_[i] != 0)", "if (++words_[i] != 1)"),
     ),
