@@ -30,7 +30,8 @@ def run(command: list[str], settings: dict[str, str] | None = None) -> subproces
 
 def was_not_started(command: list[str], result: subprocess.CompletedProcess) -> bool:
     """Whether Wine gave up before the program began: it exits with 1 then, with its own messages
-    turned off. (The stand-in says why whenever it ends with 1.)"""
+    turned off. Of the stand-in's own ends only that of a program that returns 1 and prints nothing
+    looks the same, and a second start of it shows the same again."""
     through_wine = pathlib.Path(command[0]).name == WINE
     return through_wine and (result.returncode, result.stdout, result.stderr) == (1, b"", b"")
 
